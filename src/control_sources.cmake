@@ -1,0 +1,3 @@
+set(PANELKIT_CONTROL_SOURCES
+  toolkit/library.cpp
+)

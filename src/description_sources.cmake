@@ -1,0 +1,3 @@
+set(PANELKIT_DESCRIPTION_SOURCES
+  baselib/base.cpp
+)
