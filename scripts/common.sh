@@ -1,45 +1,111 @@
-# Sourced by the other scripts: packages, builds, and the private display and Wine session of this checkout.
+# Sourced by the other scripts: packages, builds, and the Wine prefix and displays of this checkout.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+export CCACHE_BASEDIR="$root"
+wine64=/usr/lib/wine/wine64
+wineserver=/usr/lib/wine/wineserver
 
 packages=(
   cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev ccache
-  wine wine64 xvfb xauth fonts-wqy-zenhei imagemagick
+  wine wine64 xvfb fonts-wqy-zenhei
 )
 
+say() { echo "$*" >&2; }
+
 as_root() {
-  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    say "installing packages needs root: run this as root, or install sudo"
+    return 1
+  fi
 }
 
 install_missing() { # packages...
-  local package missing=()
+  local package state missing=()
+  # One query for all: a warm start must cost next to nothing.
+  state=$(dpkg-query -W -f='${Package} ${Status}\n' "$@" 2>/dev/null || true)
   for package in "$@"; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    grep -q "^$package install ok installed" <<<"$state" || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return 0
-  echo "installing: ${missing[*]}" >&2
-  as_root apt-get update -qq >&2
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+  say "installing: ${missing[*]}"
+  as_root apt-get -qq -o DPkg::Lock::Timeout=300 update >&2 </dev/null
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -y -qq -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 \
+    install --no-install-recommends "${missing[@]}" >"${TMPDIR:-/tmp}/panelkit-apt.$$" 2>&1 </dev/null || {
+    cat "${TMPDIR:-/tmp}/panelkit-apt.$$" >&2
+    say "installing failed (output above)"
+    return 1
+  }
+  rm -f "${TMPDIR:-/tmp}/panelkit-apt.$$"
 }
 
-build() { # preset
-  local log="$root/build/$1.log"
+build() { # preset [target...]
+  local preset=$1 log="$root/build/$1.log" cache="$root/build/$1/CMakeCache.txt"
+  shift
   mkdir -p "$root/build"
-  (cd "$root" && { [ -f "build/$1/build.ninja" ] || cmake --preset "$1"; } && cmake --build --preset "$1") >"$log" 2>&1 || {
-    cat "$log" >&2
-    echo "the $1 build failed (log above)" >&2
+  (
+    cd "$root"
+    if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ]; then
+      cmake --preset "$preset"
+      touch "$cache"
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+  ) >"$log" 2>&1 </dev/null || {
+    # The errors alone when ninja marks them; everything otherwise.
+    if grep -q '^FAILED: ' "$log"; then sed -n '/^FAILED: /,$p' "$log" >&2; else cat "$log" >&2; fi
+    say "the $preset build failed (whole log: build/$preset.log)"
     return 1
   }
 }
 
-# A display of our own: tests press keys and move the mouse, which must never reach somebody's desktop.
+# Sets display_pid and DISPLAY: a display of our own, whose number the server itself chooses.
 start_display() {
   local pipe number
-  pipe=$(mktemp -u)
+  pipe=$(mktemp -u "${TMPDIR:-/tmp}/panelkit-display.XXXXXX")
   mkfifo "$pipe"
-  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$pipe" >/dev/null 2>&1 &
-  display_pid=$!
-  read -r -t 30 number <"$pipe" || { echo "Xvfb did not start" >&2; return 1; }
+  exec 8<>"$pipe"
   rm -f "$pipe"
+  # -noreset keeps the server alive when its last program leaves; setsid keeps Ctrl-C from it, as we stop it.
+  setsid Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>&8 8<&- >/dev/null 2>&1 </dev/null &
+  display_pid=$!
+  read -r -t 60 number <&8 || number=
+  exec 8<&-
+  [ -n "$number" ] || { say "Xvfb did not start"; return 1; }
   export DISPLAY=":$number"
+  unset XAUTHORITY WAYLAND_DISPLAY
+}
+
+wine_environment() { # prefix
+  export WINEPREFIX=$1 WINEDEBUG="${WINEDEBUG:--all}" WINEARCH=win64
+  # No downloads of runtimes that nobody here needs, no entries in the user's menus.
+  export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+}
+
+# Makes build/wine once. Now and then a first start of Wine hangs: then it says so and begins anew, once.
+make_prefix() {
+  local prefix="$root/build/wine" attempt
+  [ -f "$prefix/.ready" ] && return 0
+  mkdir -p "$root/build"
+  (
+    flock 7
+    [ -f "$prefix/.ready" ] && exit 0
+    wine_environment "$prefix"
+    unset DISPLAY
+    export LC_ALL=C.UTF-8
+    for attempt in 1 2; do
+      mkdir -p "$prefix"
+      if timeout -k 5 150 "$wine64" wineboot --init >"$root/build/wineboot.log" 2>&1 </dev/null 7>&- &&
+        timeout -k 5 60 "$wineserver" -w 7>&- && [ -f "$prefix/system.reg" ]; then
+        : >"$prefix/.ready"
+        exit 0
+      fi
+      say "Wine did not finish making $prefix (attempt $attempt of 2, log: build/wineboot.log)"
+      "$wineserver" -k9 7>&- || true
+      rm -rf "$prefix"
+    done
+    exit 1
+  ) 7>"$root/build/wine.lock"
 }
