@@ -7,7 +7,7 @@ wineserver=/usr/lib/wine/wineserver
 
 packages=(
   cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev ccache
-  wine wine64 xvfb fonts-wqy-zenhei
+  wine wine64 xvfb fonts-wqy-zenhei clang-format
 )
 
 say() { echo "$*" >&2; }
@@ -42,18 +42,20 @@ install_missing() { # packages...
   rm -f "${TMPDIR:-/tmp}/panelkit-apt.$$"
 }
 
+# Ninja builds only what changed. Two callers in one checkout take turns.
 build() { # preset [target...]
   local preset=$1 log="$root/build/$1.log" cache="$root/build/$1/CMakeCache.txt"
   shift
   mkdir -p "$root/build"
   (
+    flock 7
     cd "$root"
     if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ]; then
       cmake --preset "$preset"
       touch "$cache"
     fi
     cmake --build --preset "$preset" ${1:+--target "$@"}
-  ) >"$log" 2>&1 </dev/null || {
+  ) 7>"$root/build/$preset.lock" >"$log" 2>&1 </dev/null || {
     # The errors alone when ninja marks them; everything otherwise.
     if grep -q '^FAILED: ' "$log"; then sed -n '/^FAILED: /,$p' "$log" >&2; else cat "$log" >&2; fi
     say "the $preset build failed (whole log: build/$preset.log)"
@@ -97,8 +99,10 @@ make_prefix() {
     export LC_ALL=C.UTF-8
     for attempt in 1 2; do
       mkdir -p "$prefix"
+      # Stopping the server in order makes it write the registry, whoever had started it.
       if timeout -k 5 150 "$wine64" wineboot --init >"$root/build/wineboot.log" 2>&1 </dev/null 7>&- &&
-        timeout -k 5 60 "$wineserver" -w 7>&- && [ -f "$prefix/system.reg" ]; then
+        { timeout -k 5 60 "$wineserver" -k 7>&- || true; } && timeout 30 "$wineserver" -w 7>&- &&
+        [ -f "$prefix/system.reg" ]; then
         : >"$prefix/.ready"
         exit 0
       fi

@@ -1,13 +1,13 @@
 // A window that stays while tests run: Wine's desktop and services end with their last program, and a
 // start beside no other program is slow. Ends when the session's server is stopped.
-#include <windows.h>
 #include <cstdio>
+#include <windows.h>
 
 int main()
 {
     // Never shown: it must not take part in activation.
-    HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"keeper", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-        GetModuleHandleW(nullptr), nullptr);
+    HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"keeper", WS_POPUP, 0, 0, 1, 1, nullptr,
+        nullptr, GetModuleHandleW(nullptr), nullptr);
     if (!window) {
         return 1;
     }
