@@ -1,3 +1,12 @@
 set(PANELKIT_DESCRIPTION_SOURCES
   baselib/base.cpp
+  baselib/char_arr.cpp
+  baselib/gbk.cpp
+  baselib/gbk_table.cpp
+  baselib/io.cpp
+  baselib/io_read.cpp
+  baselib/io_search.cpp
+  baselib/io_write.cpp
+  baselib/path.cpp
+  baselib/tagged_arr.cpp
 )

@@ -1,0 +1,39 @@
+#include "baselib/char_arr.h"
+#include "baselib/gbk.h"
+#include <cstring>
+
+CharArr& CharArr::operator=(const CharArr& other)
+{
+    SetM(other.TextM());
+    return *this;
+}
+
+int CharArr::SetM(const char* text)
+{
+    return SetM(text, text != nullptr ? std::strlen(text) : 0);
+}
+
+int CharArr::SetM(const char* bytes, std::size_t length)
+{
+    const void* const nul = length > 0 ? std::memchr(bytes, '\0', length) : nullptr;
+    const std::size_t kept = nul != nullptr ? static_cast<const char*>(nul) - bytes : length;
+    std::unique_ptr<char[]> made;
+    if (kept > 0) {
+        made.reset(new char[kept + 1]);
+        std::memcpy(made.get(), bytes, kept);
+        made[kept] = '\0';
+    }
+    text_ = std::move(made);
+    return 1;
+}
+
+int CharArr::GetM(char* out, int size) const
+{
+    slCopyText(out, size, TextM());
+    return 1;
+}
+
+std::size_t CharArr::LengthM() const
+{
+    return std::strlen(TextM());
+}

@@ -1,0 +1,64 @@
+#pragma once
+#include "baselib/api.h"
+#include <cstddef>
+#include <string>
+
+// GBK text (code page 936): a byte 0x81..0xFE followed by 0x40..0x7E or 0x80..0xFE is one character.
+
+constexpr bool slGbkIsLead(char byte)
+{
+    const unsigned char value = static_cast<unsigned char>(byte);
+    return value >= 0x81 && value <= 0xFE;
+}
+
+constexpr bool slGbkIsTrail(char byte)
+{
+    const unsigned char value = static_cast<unsigned char>(byte);
+    return value >= 0x40 && value <= 0xFE && value != 0x7F;
+}
+
+// Bytes of the character at `at`: 2 or 1 (also for a byte that belongs to no character); 0 at `end`.
+constexpr int slGbkCharLength(const char* at, const char* end)
+{
+    if (at >= end) {
+        return 0;
+    }
+    return end - at >= 2 && slGbkIsLead(at[0]) && slGbkIsTrail(at[1]) ? 2 : 1;
+}
+
+// The largest number of bytes, at most `most`, at which a text of `length` bytes ends between characters.
+PANELKIT_API std::size_t slGbkCutLength(const char* text, std::size_t length, std::size_t most);
+
+// Copies into a buffer of `size` bytes with its terminator, cut at a character boundary. Null text counts
+// as empty; a null buffer or size below 1: nothing.
+PANELKIT_API void slCopyText(char* to, int size, const char* from);
+
+// Cuts a text in place to at most `most` bytes, at a character boundary.
+PANELKIT_API void slCutText(char* text, int most);
+
+// Decoding for the platform: byte 0x80 is the euro sign, user-defined pairs give the platform's private-use
+// codes (so they come back when encoded); a byte that belongs to no character gives U+FFFD. Null is empty.
+PANELKIT_API std::u16string slGbkToUtf16(const char* text);
+PANELKIT_API std::u16string slGbkToUtf16(const char* text, std::size_t length);
+
+// Decoding for printing: the same, but a pair to which code page 936 assigns no character (private-use for
+// the platform) is U+FFFD.
+PANELKIT_API std::string slGbkToUtf8(const char* text);
+PANELKIT_API std::string slGbkToUtf8(const char* text, std::size_t length);
+
+// Encoding: what has no GBK form becomes '?', one for each character; *lost (may be null) receives how many.
+PANELKIT_API std::string slUtf16ToGbk(const char16_t* text, std::size_t length, int* lost = nullptr);
+PANELKIT_API std::string slUtf8ToGbk(const std::string& text, int* lost = nullptr);
+
+#ifdef _WIN32
+inline std::wstring slGbkToWide(const char* text)
+{
+    const std::u16string wide = slGbkToUtf16(text);
+    return std::wstring(wide.begin(), wide.end());
+}
+
+inline std::string slWideToGbk(const std::wstring& text, int* lost = nullptr)
+{
+    return slUtf16ToGbk(reinterpret_cast<const char16_t*>(text.data()), text.size(), lost);
+}
+#endif

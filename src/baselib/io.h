@@ -1,0 +1,88 @@
+#pragma once
+#include "baselib/char_arr.h"
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+
+// Reads and writes files of numbers and GBK texts. Text mode ("r", "w"): numbers in decimal, a text to the
+// end of its line. Binary mode ("rb", "wb"): ints and reals of four bytes, low byte first, texts behind a
+// length of four bytes. Blanks are space, tab, CR, LF, VT, FF and NUL. No operation fails for what a file
+// holds; a reader or writer that isn't open reads nothing and writes nothing (result 0).
+class PANELKIT_API VrIOCL
+{
+public:
+    VrIOCL() = default;
+    VrIOCL(const VrIOCL&) = delete;
+    VrIOCL& operator=(const VrIOCL&) = delete;
+    ~VrIOCL(); // Closes.
+
+    // Opens for reading, the file read whole, or for writing, the file emptied. path is GBK on Windows, bytes
+    // as they are elsewhere. Anything but a regular file, or an unknown mode, leaves it unopened.
+    void OpenM(const char* path, const char* mode);
+    void CloseM(); // Harmless when not open.
+    bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
+    bool IsBinaryM() const { return binary_; }
+    std::size_t BytesLeftM() const { return size_ - at_; } // Behind the read position.
+    // The directory of the open file as OpenM got it, with its separator; "" when it has none. out: 260
+    // bytes.
+    int GetFilePathM(char* out) const;
+
+    // Finds a text from the file's beginning on, never inside a double-byte character; the next read takes
+    // what follows it. 0 when not found, the position unchanged, also for an empty text.
+    int SearchStrM(const char* text);
+
+    // Each reads one value for each pointer that isn't null, skipping blanks and line ends before it, and
+    // stops where none stands: those variables keep their values, the position stays there. The number of
+    // values read.
+    int InputDM(int* a, int* b = nullptr, int* c = nullptr, int* d = nullptr, int* e = nullptr,
+        int* f = nullptr, int* g = nullptr, int* h = nullptr, int* i = nullptr); // Saturates.
+    int InputRM(float* a, float* b = nullptr, float* c = nullptr, float* d = nullptr, float* e = nullptr,
+        float* f = nullptr, float* g = nullptr, float* h = nullptr,
+        float* i = nullptr); // Nearest; saturates.
+    int InputCM(char* a, char* b = nullptr, char* c = nullptr, char* d = nullptr, char* e = nullptr,
+        char* f = nullptr, char* g = nullptr, char* h = nullptr, char* i = nullptr); // One byte each.
+    int InputInt2DM(int pair[2]);
+    int InputInt3DM(int triple[3]);
+    int InputPoint2DM(float pair[2]);
+
+    // The rest of the line from the next byte that is no blank, blanks at its end dropped; what exceeds size
+    // - 1 bytes is passed over. The line end stays unread. 0 and "" at the end of the file, otherwise 1.
+    int InputGetsM(char* buffer, int size);
+    int InputSM(
+        char* buffer, int most, int flag); // The same with size most, 260 for -1; flag changes nothing.
+    // A text as OutputTextM wrote it; the position then starts the next line. 0 and "" when none stands here.
+    int InputTextM(CharArr* text);
+
+    int SkipLineM();           // To just past the next LF, or the end of the file. 1.
+    int SkipSomeLinesM(int n); // The same n times; n below 1: nothing. 1.
+
+    // Each writes one value, followed in text mode by a space; a real so that it reads back the same. 1 when
+    // written.
+    int OutputDM(int value);
+    int OutputRM(float value);
+    // Writes a text, at most most - 1 bytes of it cut between characters unless most is -1; in text mode a
+    // flag other than 0 ends the line behind it.
+    int OutputSM(const char* text, int most, int flag);
+    // Writes any text so that InputTextM gives it back: in text mode its length, a space, its bytes, a line
+    // end.
+    int OutputTextM(const char* text);
+
+private:
+    template <typename T> int inputAllM(T* const (&values)[9], bool (VrIOCL::*input)(T*));
+    bool inputIntM(int* value);
+    bool inputRealM(float* value);
+    bool inputCharM(char* value);
+    bool inputBytesM(void* to, std::size_t count);
+    std::size_t inputLengthM();
+    void skipBlanksM();
+    void readFileM(const char* path);
+    bool outputBytesM(const void* from, std::size_t count);
+    int outputCountedM(const char* text, std::size_t length);
+
+    std::unique_ptr<char[]> data_; // The file read; null unless open for reading.
+    std::size_t size_ { 0 };
+    std::size_t at_ { 0 };
+    FILE* out_ { nullptr }; // The file written.
+    bool binary_ { false };
+    CharArr directory_;
+};

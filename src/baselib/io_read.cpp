@@ -1,0 +1,299 @@
+#include "baselib/gbk.h"
+#include "baselib/io.h"
+#include "baselib/path.h"
+#include <algorithm>
+#include <cfloat>
+#include <charconv>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+
+namespace {
+
+bool isBlank(char byte)
+{
+    return byte == ' ' || (byte >= '\t' && byte <= '\r') || byte == '\0';
+}
+
+bool isDigit(char byte)
+{
+    return byte >= '0' && byte <= '9';
+}
+
+bool isSign(char byte)
+{
+    return byte == '-' || byte == '+';
+}
+
+const char* skipDigits(const char* at, const char* end)
+{
+    return std::find_if_not(at, end, isDigit);
+}
+
+// Digits as a number, held at `most`.
+std::int64_t digitsValue(const char* at, const char* end, std::int64_t most)
+{
+    std::int64_t value = 0;
+    for (; at < end && value <= most; ++at) {
+        value = value * 10 + (*at - '0');
+    }
+    return std::min(value, most);
+}
+
+// Where the real of this form ends: digits with or without a point, then perhaps an exponent; `at` when there
+// is none.
+const char* realEnd(const char* at, const char* end)
+{
+    const char* const point = skipDigits(at, end);
+    const bool hasPoint = point < end && *point == '.';
+    const char* const mantissaEnd = hasPoint ? skipDigits(point + 1, end) : point;
+    const bool hasDigits = point > at || (hasPoint && mantissaEnd > point + 1);
+    if (!hasDigits) {
+        return at;
+    }
+    const char* exponent = mantissaEnd;
+    if (exponent < end && (*exponent == 'e' || *exponent == 'E')) {
+        ++exponent;
+        if (exponent < end && isSign(*exponent)) {
+            ++exponent;
+        }
+        const char* const exponentEnd = skipDigits(exponent, end);
+        return exponentEnd > exponent ? exponentEnd : mantissaEnd;
+    }
+    return mantissaEnd;
+}
+
+// A real that single precision can't hold: is it too large, or too near to 0?
+bool isHuge(const char* at, const char* end)
+{
+    const char* const point = skipDigits(at, end);
+    const char* const exponent = std::find_if(at, end, [](char c) { return c == 'e' || c == 'E'; });
+    const char* const first = std::find_if(at, exponent, [](char c) { return c >= '1' && c <= '9'; });
+    // The power of ten of the first digit that counts.
+    std::int64_t power = first < point ? point - first - 1 : point - first;
+    if (exponent < end) {
+        const bool negative = exponent[1] == '-';
+        const std::int64_t value = digitsValue(exponent + (isSign(exponent[1]) ? 2 : 1), end, INT64_MAX / 20);
+        power += negative ? -value : value;
+    }
+    return power > 0;
+}
+
+std::uint32_t littleEndian(const unsigned char* bytes)
+{
+    return bytes[0] | (std::uint32_t { bytes[1] } << 8) | (std::uint32_t { bytes[2] } << 16)
+        | (std::uint32_t { bytes[3] } << 24);
+}
+
+constexpr std::size_t NoLength = SIZE_MAX;
+
+} // namespace
+
+void VrIOCL::skipBlanksM()
+{
+    while (at_ < size_ && isBlank(data_[at_])) {
+        ++at_;
+    }
+}
+
+bool VrIOCL::inputBytesM(void* to, std::size_t count)
+{
+    if (BytesLeftM() < count) {
+        return false;
+    }
+    std::memcpy(to, data_.get() + at_, count);
+    at_ += count;
+    return true;
+}
+
+template <typename T> int VrIOCL::inputAllM(T* const (&values)[9], bool (VrIOCL::*input)(T*))
+{
+    int count = 0;
+    for (T* value : values) {
+        if (value != nullptr) {
+            if (!(this->*input)(value)) {
+                break;
+            }
+            ++count;
+        }
+    }
+    return count;
+}
+
+int VrIOCL::InputDM(int* a, int* b, int* c, int* d, int* e, int* f, int* g, int* h, int* i)
+{
+    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::inputIntM);
+}
+
+int VrIOCL::InputRM(float* a, float* b, float* c, float* d, float* e, float* f, float* g, float* h, float* i)
+{
+    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::inputRealM);
+}
+
+int VrIOCL::InputCM(char* a, char* b, char* c, char* d, char* e, char* f, char* g, char* h, char* i)
+{
+    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::inputCharM);
+}
+
+int VrIOCL::InputInt2DM(int pair[2])
+{
+    return InputDM(&pair[0], &pair[1]);
+}
+
+int VrIOCL::InputInt3DM(int triple[3])
+{
+    return InputDM(&triple[0], &triple[1], &triple[2]);
+}
+
+int VrIOCL::InputPoint2DM(float pair[2])
+{
+    return InputRM(&pair[0], &pair[1]);
+}
+
+bool VrIOCL::inputIntM(int* value)
+{
+    if (binary_) {
+        unsigned char bytes[4];
+        if (!inputBytesM(bytes, sizeof bytes)) {
+            return false;
+        }
+        *value = static_cast<int>(littleEndian(bytes));
+        return true;
+    }
+    skipBlanksM();
+    const char* const begin = data_.get() + at_;
+    const char* const end = data_.get() + size_;
+    const char* const digits = begin < end && isSign(*begin) ? begin + 1 : begin;
+    const char* const digitsEnd = skipDigits(digits, end);
+    if (digitsEnd == digits) {
+        return false;
+    }
+    const std::int64_t magnitude = digitsValue(digits, digitsEnd, std::int64_t { INT_MAX } + 1);
+    *value = static_cast<int>(*begin == '-' ? -magnitude : std::min(magnitude, std::int64_t { INT_MAX }));
+    at_ += digitsEnd - begin;
+    return true;
+}
+
+bool VrIOCL::inputRealM(float* value)
+{
+    if (binary_) {
+        unsigned char bytes[4];
+        if (!inputBytesM(bytes, sizeof bytes)) {
+            return false;
+        }
+        const std::uint32_t bits = littleEndian(bytes);
+        std::memcpy(value, &bits, sizeof bits);
+        return true;
+    }
+    skipBlanksM();
+    const char* const begin = data_.get() + at_;
+    const char* const end = data_.get() + size_;
+    const char* const digits = begin < end && isSign(*begin) ? begin + 1 : begin;
+    const char* const numberEnd = realEnd(digits, end);
+    if (numberEnd == digits) {
+        return false;
+    }
+    float magnitude = 0;
+    if (std::from_chars(digits, numberEnd, magnitude).ec == std::errc::result_out_of_range) {
+        magnitude = isHuge(digits, numberEnd) ? FLT_MAX : 0.0F;
+    }
+    *value = *begin == '-' ? -magnitude : magnitude;
+    at_ += numberEnd - begin;
+    return true;
+}
+
+bool VrIOCL::inputCharM(char* value)
+{
+    if (!binary_) {
+        skipBlanksM();
+    }
+    return inputBytesM(value, 1);
+}
+
+// The length in front of a text, taken only when that many bytes follow it; otherwise NoLength, nothing read.
+std::size_t VrIOCL::inputLengthM()
+{
+    const std::size_t start = at_;
+    int length = -1;
+    bool whole = inputIntM(&length) && length >= 0;
+    if (whole && !binary_) {
+        char space = '\0';
+        whole = inputBytesM(&space, 1) && space == ' ';
+    }
+    if (!whole || static_cast<std::size_t>(length) > BytesLeftM()) {
+        at_ = start;
+        return NoLength;
+    }
+    return static_cast<std::size_t>(length);
+}
+
+int VrIOCL::InputGetsM(char* buffer, int size)
+{
+    if (binary_) {
+        CharArr text;
+        const int read = InputTextM(&text);
+        slCopyText(buffer, size, text.TextM());
+        return read;
+    }
+    skipBlanksM();
+    slCopyText(buffer, size, "");
+    if (at_ == size_) {
+        return 0;
+    }
+    const char* const begin = data_.get() + at_;
+    const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
+    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : data_.get() + size_;
+    const char* itemEnd = lineEnd;
+    while (isBlank(itemEnd[-1])) {
+        --itemEnd;
+    }
+    if (lineFeed != nullptr && lineEnd[-1] == '\r') {
+        --lineEnd;
+    }
+    at_ += lineEnd - begin;
+    if (buffer != nullptr && size > 0) {
+        const std::size_t length = static_cast<std::size_t>(itemEnd - begin);
+        const std::size_t kept = slGbkCutLength(begin, length, static_cast<std::size_t>(size) - 1);
+        std::memcpy(buffer, begin, kept);
+        buffer[kept] = '\0';
+    }
+    return 1;
+}
+
+int VrIOCL::InputSM(char* buffer, int most, int)
+{
+    return InputGetsM(buffer, most < 0 ? PathSize : most);
+}
+
+int VrIOCL::InputTextM(CharArr* text)
+{
+    const std::size_t length = inputLengthM();
+    if (length == NoLength) {
+        text->SetM("");
+        return 0;
+    }
+    text->SetM(data_.get() + at_, length);
+    at_ += length;
+    if (!binary_) {
+        SkipLineM();
+    }
+    return 1;
+}
+
+int VrIOCL::SkipLineM()
+{
+    if (at_ < size_) {
+        const char* const begin = data_.get() + at_;
+        const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
+        at_ = lineFeed != nullptr ? static_cast<const char*>(lineFeed) - data_.get() + 1 : size_;
+    }
+    return 1;
+}
+
+int VrIOCL::SkipSomeLinesM(int n)
+{
+    for (; n > 0 && at_ < size_; --n) {
+        SkipLineM();
+    }
+    return 1;
+}

@@ -1,0 +1,60 @@
+#pragma once
+#include "baselib/base.h"
+#include <memory>
+#include <vector>
+
+// A growing list of slots of N ints each, alive or deleted, that keep their index for life.
+// Copy construction shares the storage: both see every change, the last to let go frees it (a list
+// that never held anything has no storage to share). Assignment makes an independent copy.
+// The object is one shared pointer and may be moved by bytes.
+template <int N> class TaggedArr
+{
+public:
+    TaggedArr() = default;
+    TaggedArr(const TaggedArr&) = default;
+    TaggedArr& operator=(const TaggedArr& other);
+    ~TaggedArr() = default;
+
+    int GetBoundM() const;                 // One more than the last slot in use.
+    int GetAvailableNumM() const;          // Number of alive slots.
+    int GetAvailableNumM(int after) const; // Number of alive slots with an index above `after`.
+    int CheckAvailableM(int index) const;  // 1 if the slot is below the bound and alive.
+
+    // Stores N ints, alive, growing as needed; slots skipped over are deleted ones holding 0. Result 1;
+    // 0 and nothing stored for a negative index, one that leaves a gap beyond MaxGap, or null.
+    int SetItemM(const int* values, int index);
+    int AddItemM(const int* values); // Appends; the index used, -1 for null.
+    // Shifts the slots from `index` up by one; from the bound on as SetItemM.
+    int InsertItemM(const int* values, int index);
+
+    int GetItemM(int* out, int index) const; // Alive or not; 0 and nothing written outside 0..bound-1.
+    const int* GetItemPM(int index) const;   // The N ints of a slot, alive or not; null outside 0..bound-1.
+    int* ElementAtPM(int index);             // The same to write to; valid until the list grows.
+
+    int GetNextIdxM(int from) const; // First alive slot above `from`, -1 when none.
+    int GetFirstIdxM() const { return GetNextIdxM(-1); }
+    int GetLastIdxM() const; // Last alive slot, -1 when none.
+
+    // Deletes a slot; the last one also lowers the bound, by one only. Outside 0..bound-1: nothing. 1.
+    int DelItemM(int index);
+    int DelAllM(); // Lets go of the storage: a list that shared it keeps its items. 1.
+
+    static constexpr int MaxGap = 1 << 22;
+
+private:
+    struct Store
+    {
+        std::vector<int> values;
+        std::vector<char> tags;
+        int available { 0 };
+    };
+
+    bool insideM(int index) const { return index >= 0 && index < GetBoundM(); }
+    Store& storeM();
+
+    std::shared_ptr<Store> store_;
+};
+
+extern template class PANELKIT_API TaggedArr<1>;
+extern template class PANELKIT_API TaggedArr<2>;
+extern template class PANELKIT_API TaggedArr<3>;
