@@ -1,6 +1,10 @@
 set(PANELKIT_DESCRIPTION_SOURCES
   baselib/base.cpp
+  baselib/bmp_header.cpp
+  baselib/bmp_reader.cpp
+  baselib/bmp_rle.cpp
   baselib/char_arr.cpp
+  baselib/file.cpp
   baselib/gbk.cpp
   baselib/gbk_table.cpp
   baselib/io.cpp

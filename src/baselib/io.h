@@ -75,7 +75,6 @@ private:
     bool inputBytesM(void* to, std::size_t count);
     std::size_t inputLengthM();
     void skipBlanksM();
-    void readFileM(const char* path);
     bool outputBytesM(const void* from, std::size_t count);
     int outputCountedM(const char* text, std::size_t length);
 

@@ -1,0 +1,57 @@
+#pragma once
+#include <cstddef>
+#include <cstdint>
+
+// The bytes of a file, for reading little-endian numbers within bounds.
+struct BmpBytes
+{
+    const unsigned char* data { nullptr };
+    std::size_t size { 0 };
+
+    // Whether count bytes stand at position at.
+    bool holds(std::size_t at, std::size_t count) const { return at <= size && count <= size - at; }
+    std::uint16_t word(std::size_t at) const;
+    std::uint32_t dword(std::size_t at) const;
+};
+
+enum class BmpCoding : std::uint32_t
+{
+    Rgb = 0,
+    Rle8 = 1,
+    Rle4 = 2,
+    BitFields = 3,
+    AlphaBitFields = 6
+};
+
+// Where one colour component stands in a pixel of 16 or 32 bits; length 0: nowhere, its value is 0.
+struct BmpField
+{
+    int shift { 0 };
+    int length { 0 };
+};
+
+struct BmpColour
+{
+    unsigned char red { 0 };
+    unsigned char green { 0 };
+    unsigned char blue { 0 };
+};
+
+// What the headers of a .bmp file say, checked: within the limits below everything can be relied on.
+struct BmpHeader
+{
+    int width { 0 };  // 1..
+    int height { 0 }; // 1..
+    bool topDown { false };
+    int bits { 0 }; // 1, 4, 8, 16, 24 or 32 a pixel.
+    BmpCoding coding { BmpCoding::Rgb };
+    std::size_t pixelsAt { 0 }; // Behind the headers, within the file.
+    BmpField fields[3];         // Red, green, blue; for 16 and 32 bits.
+    BmpColour palette[256];
+    int paletteSize { 0 }; // An index at or above it is broken.
+};
+
+// Reads the file header and any of the information headers: 12 bytes (OS/2 1), 16 to 64 bytes (OS/2 2 and
+// the usual 40), 108 and 124 bytes (versions 4 and 5). Returns false when the file cannot be a picture of a
+// kind that is read here, or when its numbers contradict each other or the file's size.
+bool slReadBmpHeader(const BmpBytes& file, BmpHeader* header);

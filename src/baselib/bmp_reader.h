@@ -1,0 +1,20 @@
+#pragma once
+#include "baselib/api.h"
+#include <cstddef>
+
+// Reads pictures from .bmp files: 1, 4, 8, 16, 24 and 32 bits a pixel, plain, run-length coded (4 and 8 bits)
+// or with component masks, bottom-up or top-down, with the headers of OS/2 and of Windows up to version 5.
+//
+// All loaders deliver 3 bytes a pixel in the order red, green, blue, so that a key colour is given in that
+// order too; w*3 bytes a row without padding; the picture's lowest row first, whatever the order in the file.
+// The buffer belongs to the caller, who releases it with slFree.
+//
+// A file that is missing, cut short or broken in any way (a size of 0, a palette index without a colour, a
+// run past its row's end, an offset outside the file, ...) gives 0 with *w = *h = 0 and *pixels null.
+
+// file: GBK path. Returns 1, or 0 when there is no such picture.
+PANELKIT_API int slLoadBmpTexture(const char* file, int* w, int* h, unsigned char** pixels);
+PANELKIT_API int slLoadBmpPicture3D(const char* file, int* w, int* h, unsigned char** pixels);
+
+// The same from the size bytes of a file in memory.
+PANELKIT_API int slDecodeBmp(const void* data, std::size_t size, int* w, int* h, unsigned char** pixels);
