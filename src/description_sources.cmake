@@ -7,10 +7,12 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/file.cpp
   baselib/gbk.cpp
   baselib/gbk_table.cpp
+  baselib/helpers.cpp
   baselib/io.cpp
   baselib/io_read.cpp
   baselib/io_search.cpp
   baselib/io_write.cpp
   baselib/path.cpp
+  baselib/string.cpp
   baselib/tagged_arr.cpp
 )

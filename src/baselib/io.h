@@ -56,8 +56,8 @@ public:
     int SkipLineM();           // To just past the next LF, or the end of the file. 1.
     int SkipSomeLinesM(int n); // The same n times; n below 1: nothing. 1.
 
-    // Each writes one value, followed in text mode by a space; a real so that it reads back the same. 1 when
-    // written.
+    // Each writes one value, followed in text mode by a space; a real so that it reads back the same, in text
+    // mode an infinity as the largest number and what is no number as 0. 1 when written.
     int OutputDM(int value);
     int OutputRM(float value);
     // Writes a text, at most most - 1 bytes of it cut between characters unless most is -1; in text mode a

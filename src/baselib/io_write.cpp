@@ -1,8 +1,10 @@
 #include "baselib/gbk.h"
 #include "baselib/io.h"
 #include <algorithm>
+#include <cfloat>
 #include <charconv>
 #include <climits>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -43,8 +45,9 @@ int VrIOCL::OutputRM(float value)
         std::memcpy(&bits, &value, sizeof bits);
         return OutputDM(static_cast<int>(bits));
     }
+    const float finite = std::isnan(value) ? 0.0F : std::clamp(value, -FLT_MAX, FLT_MAX);
     char text[32];
-    char* const end = std::to_chars(text, text + sizeof text - 1, value).ptr;
+    char* const end = std::to_chars(text, text + sizeof text - 1, finite).ptr;
     *end = ' ';
     return outputBytesM(text, static_cast<std::size_t>(end - text) + 1) ? 1 : 0;
 }
