@@ -15,4 +15,5 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
+  records/string_arr.cpp
 )

@@ -1,0 +1,3 @@
+#include "records/string_arr.h"
+
+template class PANELKIT_API Arr<VrStringCL>;
