@@ -1,5 +1,6 @@
 // Feeds broken .bmp files to the reader; run by scripts/fuzz or by hand with the corpus in fuzz/corpus/bmp.
 #include "baselib/bmp_reader.h"
+#include "baselib/helpers.h"
 #include <cstdint>
 #include <cstdlib>
 
@@ -20,6 +21,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             = pixels[static_cast<std::size_t>(w) * static_cast<std::size_t>(h) * 3 - 1];
         static_cast<void>(last);
     }
-    std::free(pixels);
+    slFree(pixels);
     return 0;
 }

@@ -15,5 +15,9 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
+  records/bmp_record.cpp
+  records/picture_boundary.cpp
+  records/picture_edges.cpp
+  records/picture_pixels.cpp
   records/string_arr.cpp
 )

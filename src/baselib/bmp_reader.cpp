@@ -2,8 +2,8 @@
 #include "baselib/bmp_header.h"
 #include "baselib/bmp_rle.h"
 #include "baselib/file.h"
+#include "baselib/helpers.h"
 #include <climits>
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -15,7 +15,7 @@ constexpr std::uint64_t RunPixelsPerByte = 256;
 
 struct BufferDeleter
 {
-    void operator()(unsigned char* buffer) const { std::free(buffer); }
+    void operator()(unsigned char* buffer) const { slFree(buffer); }
 };
 using Buffer = std::unique_ptr<unsigned char, BufferDeleter>;
 
@@ -57,7 +57,7 @@ private:
     bool isRunCoded() const { return header_.coding == BmpCoding::Rle8 || header_.coding == BmpCoding::Rle4; }
     static Buffer allocate(std::uint64_t pixels)
     {
-        return Buffer(static_cast<unsigned char*>(std::malloc(static_cast<std::size_t>(pixels) * 3)));
+        return Buffer(static_cast<unsigned char*>(slMalloc(static_cast<std::size_t>(pixels) * 3)));
     }
 
     Buffer decodeRuns(std::uint64_t pixels) const

@@ -92,6 +92,12 @@ public:
 protected:
     T* getCurrentItemPrtM(); // The store in use.
     const T* getCurrentItemPrtM() const;
+    // For lists that fill slots of the store themselves: both at most the length.
+    void setCountsM(int bound, int available)
+    {
+        bound_ = bound;
+        available_ = available;
+    }
 
 private:
     static constexpr int InlineLength = 4;

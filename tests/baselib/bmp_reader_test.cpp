@@ -1,4 +1,5 @@
 #include "baselib/bmp_reader.h"
+#include "baselib/helpers.h"
 #include "support/bmp_file.h"
 #include <climits>
 #include <cstdio>
@@ -38,7 +39,7 @@ Picture decode(const std::vector<unsigned char>& bytes)
         picture.pixels.assign(
             pixels, pixels + static_cast<std::ptrdiff_t>(picture.width) * picture.height * 3);
     }
-    std::free(pixels);
+    slFree(pixels);
     return picture;
 }
 
@@ -421,7 +422,7 @@ TEST(BmpReader, LoadsFilesAndGivesNothingForAMissingOne)
         EXPECT_EQ(2, h);
         ASSERT_NE(nullptr, pixels);
         EXPECT_EQ(0x11, pixels[0]);
-        std::free(pixels);
+        slFree(pixels);
         EXPECT_EQ(0, load((path + ".missing").c_str(), &w, &h, &pixels));
         EXPECT_EQ(0, w);
         EXPECT_EQ(0, h);

@@ -1,0 +1,143 @@
+#include "records/picture_edges.h"
+#include "baselib/bmp_reader.h"
+#include "baselib/helpers.h"
+#include "records/picture_pixels.h"
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+struct View
+{
+    int w;
+    int h;
+    const unsigned char* pixels;
+    const unsigned char* key;
+
+    bool isEmpty() const { return w < 1 || h < 1 || pixels == nullptr; }
+    bool isTransparent(int x, int y) const
+    {
+        const std::size_t row = static_cast<std::size_t>(h - 1 - y);
+        const std::size_t place = row * static_cast<std::size_t>(w) + static_cast<std::size_t>(x);
+        return slIsTransparency(pixels + place * 3, key) != 0;
+    }
+};
+
+// Appends the ends of a line of pixels that begins at `at` and continues in steps.
+void addEnds(
+    const View& view, const int (&at)[2], const int (&step)[2], int length, Int2DArr* first, Int2DArr* last)
+{
+    const auto isTransparent
+        = [&](int i) { return view.isTransparent(at[0] + i * step[0], at[1] + i * step[1]); };
+    const auto add = [&](int i, Int2DArr* to) {
+        const int place[2] = { at[0] + i * step[0], at[1] + i * step[1] };
+        to->AddItemM(place);
+    };
+    int begin = 0;
+    while (begin < length && isTransparent(begin)) {
+        ++begin;
+    }
+    if (begin == length) {
+        return;
+    }
+    int end = length - 1;
+    while (isTransparent(end)) {
+        --end;
+    }
+    add(begin, first);
+    add(end, last);
+}
+
+using FindEdge = int (*)(int, int, const unsigned char*, const unsigned char*, Int2DArr*, Int2DArr*);
+
+int findInFile(FindEdge find, const char* file, const unsigned char* key, Int2DArr* a, Int2DArr* b)
+{
+    int w = 0;
+    int h = 0;
+    unsigned char* pixels = nullptr;
+    slLoadBmpPicture3D(file, &w, &h, &pixels);
+    const int result = find(w, h, pixels, key, a, b);
+    slFree(pixels);
+    return result;
+}
+
+} // namespace
+
+int slFindHorizonEdgeM(
+    int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* left, Int2DArr* right)
+{
+    left->DelAllM();
+    right->DelAllM();
+    const View view { w, h, pixels, key };
+    for (int y = 0; y < h && !view.isEmpty(); ++y) {
+        addEnds(view, { 0, y }, { 1, 0 }, w, left, right);
+    }
+    return 1;
+}
+
+int slFindHorizonEdgeM(const char* file, const unsigned char* key, Int2DArr* left, Int2DArr* right)
+{
+    return findInFile(slFindHorizonEdgeM, file, key, left, right);
+}
+
+int slFindVerticalEdgeM(
+    int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* first, Int2DArr* last)
+{
+    first->DelAllM();
+    last->DelAllM();
+    const View view { w, h, pixels, key };
+    for (int x = 0; x < w && !view.isEmpty(); ++x) {
+        addEnds(view, { x, 0 }, { 0, 1 }, h, first, last);
+    }
+    return 1;
+}
+
+int slFindVerticalEdgeM(const char* file, const unsigned char* key, Int2DArr* first, Int2DArr* last)
+{
+    return findInFile(slFindVerticalEdgeM, file, key, first, last);
+}
+
+// What is cut out of a column are its transparent pixels and every pixel right below one. So each row needs
+// the row above it alone.
+std::vector<PictureRect> slFindOpaqueRects(
+    int w, int h, const unsigned char* pixels, const unsigned char* key)
+{
+    std::vector<PictureRect> rects;
+    const View view { w, h, pixels, key };
+    if (view.isEmpty()) {
+        return rects;
+    }
+    std::vector<char> cutBelow(static_cast<std::size_t>(w), 0);
+    std::size_t band = 0; // Where the rectangles of the last band begin.
+    std::vector<PictureRect> row;
+    for (int y = 0; y < h; ++y) {
+        row.clear();
+        bool open = false;
+        for (int x = 0; x < w; ++x) {
+            const bool transparent = view.isTransparent(x, y);
+            char& above = cutBelow[static_cast<std::size_t>(x)];
+            const bool kept = !transparent && above == 0;
+            above = transparent ? 1 : 0;
+            if (kept && !open) {
+                row.push_back(PictureRect { x, y, x, y + 1 });
+            }
+            if (kept) {
+                row.back().right = x + 1;
+            }
+            open = kept;
+        }
+        const auto sameColumns = [](const PictureRect& a, const PictureRect& b) {
+            return a.left == b.left && a.right == b.right;
+        };
+        const auto last = rects.begin() + static_cast<std::ptrdiff_t>(band);
+        const bool continues = !row.empty() && last != rects.end() && last->bottom == y
+            && std::equal(last, rects.end(), row.begin(), row.end(), sameColumns);
+        if (continues) {
+            std::for_each(last, rects.end(), [](PictureRect& rect) { ++rect.bottom; });
+        } else if (!row.empty()) {
+            band = rects.size();
+            rects.insert(rects.end(), row.begin(), row.end());
+        }
+    }
+    return rects;
+}
