@@ -221,6 +221,13 @@ TEST(ArrTextStream, SlotsMayComeInAnyOrder)
     EXPECT_EQ(arr.GetAvailableNumM(), 2);
 }
 
+TEST(ArrTextStream, LastElementMayLeaveItsLineEndUnread)
+{
+    Arr<CountedCL> arr;
+    EXPECT_EQ(readFrom("1, b\n0, i\n31 5\nend\nnext", "r", &arr), "next");
+    EXPECT_EQ(shown(arr), "5");
+}
+
 TEST(ArrTextStream, ElementOutsideTheListIsReadAndDropped)
 {
     Arr<LineCL> arr;
