@@ -113,3 +113,15 @@ make_prefix() {
     exit 1
   ) 7>"$root/build/wine.lock"
 }
+
+# A fresh copy (links) of build/wine for a private display. No window manager is there, and Wine would wait 2 s
+# for its answer whenever a window appears: windows there are unmanaged.
+make_private_prefix() { # prefix
+  make_prefix
+  rm -rf "$1" "$1.new"
+  cp -al "$root/build/wine" "$1.new"
+  rm -f "$1.new"/*.reg
+  cp -p "$root"/build/wine/*.reg "$1.new"
+  printf '\n[Software\\\\Wine\\\\X11 Driver] 1\n"Managed"="N"\n' >>"$1.new/user.reg"
+  mv "$1.new" "$1"
+}
