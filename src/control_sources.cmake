@@ -1,3 +1,19 @@
 set(PANELKIT_CONTROL_SOURCES
+  toolkit/app.cpp
+  toolkit/controls.cpp
+  toolkit/dc.cpp
+  toolkit/dialog.cpp
+  toolkit/gbk_string.cpp
+  toolkit/gdi_objects.cpp
+  toolkit/image_list.cpp
   toolkit/library.cpp
+  toolkit/list_ctrl.cpp
+  toolkit/object.cpp
+  toolkit/spin_button.cpp
+  toolkit/text.cpp
+  toolkit/thread_state.cpp
+  toolkit/tree_ctrl.cpp
+  toolkit/wnd.cpp
+  toolkit/wnd_messages.cpp
+  toolkit/wnd_window.cpp
 )

@@ -1,0 +1,199 @@
+#include "toolkit/dialog.h"
+#include "toolkit/app.h"
+#include "toolkit/thread_state.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+CDialog::~CDialog()
+{
+    CWnd::DestroyWindow(); // while it is still a dialog
+}
+
+LPCDLGTEMPLATE CDialog::findTemplateM(LPCWSTR name) const
+{
+    HINSTANCE module = AfxGetResourceHandle();
+    HRSRC found = ::FindResourceW(module, name, RT_DIALOG);
+    HGLOBAL loaded = found == nullptr ? nullptr : ::LoadResource(module, found);
+    if (loaded == nullptr) {
+        AfxLogFailure("FindResource of a dialog template", templateName_);
+        return nullptr;
+    }
+    return static_cast<LPCDLGTEMPLATE>(::LockResource(loaded));
+}
+
+BOOL CDialog::createM(LPCDLGTEMPLATE dialogTemplate, HWND owner)
+{
+    if (dialogTemplate == nullptr) {
+        return FALSE;
+    }
+    LifeCL life(this);
+    CreationHookCL hook(this);
+    HWND made = ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialogTemplate, owner, &dialogProcM, 0);
+    if (made == nullptr) {
+        AfxLogFailure("CreateDialogIndirectParam", nullptr);
+        if (!hook.HasCaughtM() && life.IsAliveM()) {
+            PostNcDestroy();
+        }
+    }
+    return made != nullptr;
+}
+
+INT_PTR CALLBACK CDialog::dialogProcM(HWND hWnd, UINT message, WPARAM, LPARAM)
+{
+    if (message != WM_INITDIALOG) {
+        return FALSE; // the message map has had its turn before
+    }
+    CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, FromHandlePermanent(hWnd));
+    try {
+        return dialog == nullptr || dialog->OnInitDialog();
+    } catch (...) {
+        AfxLogFailure("OnInitDialog threw an exception", nullptr);
+        return TRUE;
+    }
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
+{
+    return CreateIndirect(findTemplateM(MAKEINTRESOURCEW(templateId)), parent);
+}
+
+BOOL CDialog::Create(LPCSTR templateName, CWnd* parent)
+{
+    if (IS_INTRESOURCE(templateName)) {
+        return Create(static_cast<UINT>(reinterpret_cast<UINT_PTR>(templateName)), parent);
+    }
+    return CreateIndirect(findTemplateM(GbkToWide(templateName).c_str()), parent);
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void*)
+{
+    CWnd* owner = parent == nullptr ? AfxGetMainWnd() : parent;
+    return createM(dialogTemplate, owner == nullptr ? nullptr : owner->m_hWnd);
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent)
+{
+    template_ = dialogTemplate;
+    if (parent != nullptr) {
+        parent_ = parent;
+    }
+    return dialogTemplate != nullptr;
+}
+
+HWND CDialog::modalOwnerM() const
+{
+    CWnd* wanted = parent_ == nullptr ? AfxGetMainWnd() : parent_;
+    HWND owner = wanted == nullptr || wanted == this ? nullptr : wanted->m_hWnd;
+    if (owner == nullptr) {
+        return nullptr;
+    }
+    owner = ::GetAncestor(owner, GA_ROOT);
+    return parent_ == nullptr ? ::GetLastActivePopup(owner) : owner;
+}
+
+int CDialog::DoModal()
+{
+    LPCDLGTEMPLATE dialogTemplate = template_;
+    if (dialogTemplate == nullptr) {
+        dialogTemplate = templateName_ != nullptr && !IS_INTRESOURCE(templateName_)
+            ? findTemplateM(GbkToWide(templateName_).c_str())
+            : findTemplateM(templateName_ != nullptr ? reinterpret_cast<LPCWSTR>(templateName_)
+                                                     : MAKEINTRESOURCEW(templateId_));
+    }
+    if (dialogTemplate == nullptr) {
+        return -1;
+    }
+    HWND owner = modalOwnerM();
+    bool wasEnabled = owner != nullptr && ::IsWindowEnabled(owner);
+    if (wasEnabled) {
+        ::EnableWindow(owner, FALSE);
+    }
+    modalResult_ = -1;
+    isEnded_ = false;
+    isModal_ = true;
+    LifeCL life(this);
+    if (createM(dialogTemplate, owner) && life.IsAliveM()) {
+        runModalM();
+    }
+    int result = life.IsAliveM() ? modalResult_ : -1;
+    if (life.IsAliveM() && m_hWnd != nullptr) {
+        SetWindowPos(
+            nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+    // Before the dialog goes: else the system would activate some other program's window.
+    if (wasEnabled) {
+        ::EnableWindow(owner, TRUE);
+        if (life.IsAliveM() && m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd) {
+            ::SetActiveWindow(owner);
+        }
+    }
+    if (life.IsAliveM()) {
+        isModal_ = false;
+        DestroyWindow();
+    }
+    return result;
+}
+
+void CDialog::runModalM()
+{
+    LifeCL life(this);
+    LoopCL loop;
+    CWinThread* thread = AfxGetThread();
+    HWND hWnd = m_hWnd;
+    bool isShown = IsWindowVisible() != FALSE;
+    while (life.IsAliveM() && !isEnded_ && m_hWnd == hWnd) {
+        MSG next;
+        if (!::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE)) {
+            if (!isShown) {
+                isShown = true;
+                ShowWindow(SW_SHOWNORMAL);
+                UpdateWindow();
+                continue;
+            }
+            thread->OnIdle(0);
+        }
+        if (!thread->PumpMessage()) {
+            ::PostQuitMessage(thread->ExitCode()); // the loops outside must end too
+            return;
+        }
+    }
+}
+
+void CDialog::EndDialog(int result)
+{
+    if (!isModal_) {
+        ::EndDialog(m_hWnd, result);
+        return;
+    }
+    modalResult_ = result;
+    isEnded_ = true;
+    PostMessage(WM_NULL); // the loop may be waiting
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    return IsDialogMessage(message);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info)
+{
+    LifeCL life(this);
+    if (CWnd::OnCmdMsg(nID, nCode, extra, info)) {
+        return TRUE;
+    }
+    // Commands of menus and such go on to the owner, then the application; control ids lie below them.
+    bool isMenuCommand = nCode == 0 && nID >= 0x8000 && nID < 0xF000;
+    if (!life.IsAliveM() || !isMenuCommand || (GetStyle() & WS_CHILD)) {
+        return FALSE;
+    }
+    CWnd* owner = FromHandlePermanent(::GetParent(m_hWnd));
+    if (owner != nullptr && owner->OnCmdMsg(nID, nCode, extra, info)) {
+        return TRUE;
+    }
+    return AfxGetThread()->OnCmdMsg(nID, nCode, extra, info);
+}

@@ -1,0 +1,159 @@
+#include "toolkit/gdi_objects.h"
+#include "toolkit/app.h"
+#include "toolkit/dc.h"
+#include "toolkit/text.h"
+#include "toolkit/thread_state.h"
+#include <algorithm>
+#include <cstring>
+
+IMPLEMENT_DYNAMIC(CGdiObject, CObject)
+IMPLEMENT_DYNAMIC(CPen, CGdiObject)
+IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
+IMPLEMENT_DYNAMIC(CFont, CGdiObject)
+IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
+IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
+
+namespace {
+
+template <class ObjectTP> ObjectTP* temporaryM(HGDIOBJ handle)
+{
+    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP>(handle);
+}
+
+} // namespace
+
+BOOL CGdiObject::Attach(HGDIOBJ object)
+{
+    if (object == nullptr) {
+        return FALSE;
+    }
+    m_hObject = object;
+    return TRUE;
+}
+
+HGDIOBJ CGdiObject::Detach()
+{
+    return std::exchange(m_hObject, nullptr);
+}
+
+BOOL CGdiObject::DeleteObject()
+{
+    return m_hObject != nullptr && ::DeleteObject(Detach());
+}
+
+CGdiObject* CGdiObject::FromHandle(HGDIOBJ object)
+{
+    return temporaryM<CGdiObject>(object);
+}
+CPen* CPen::FromHandle(HPEN pen)
+{
+    return temporaryM<CPen>(pen);
+}
+CBrush* CBrush::FromHandle(HBRUSH brush)
+{
+    return temporaryM<CBrush>(brush);
+}
+CFont* CFont::FromHandle(HFONT font)
+{
+    return temporaryM<CFont>(font);
+}
+CBitmap* CBitmap::FromHandle(HBITMAP bitmap)
+{
+    return temporaryM<CBitmap>(bitmap);
+}
+CRgn* CRgn::FromHandle(HRGN region)
+{
+    return temporaryM<CRgn>(region);
+}
+
+BOOL CBrush::CreatePatternBrush(CBitmap* pattern)
+{
+    return pattern != nullptr && Attach(::CreatePatternBrush(*pattern));
+}
+
+BOOL CFont::CreateFontIndirect(const LOGFONTA* font)
+{
+    // The two layouts agree up to the face name.
+    LOGFONTW wide = {};
+    std::memcpy(&wide, font, offsetof(LOGFONTA, lfFaceName));
+    char face[LF_FACESIZE + 1] = {}; // the given name may fill its array without a final zero
+    std::memcpy(face, font->lfFaceName, LF_FACESIZE);
+    GbkToWide(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
+    return CreateFontIndirect(&wide);
+}
+
+int CFont::GetLogFont(LOGFONTA* font) const
+{
+    LOGFONTW wide = {};
+    int size = GetLogFont(&wide);
+    std::memcpy(font, &wide, offsetof(LOGFONTA, lfFaceName));
+    CopyGbk(font->lfFaceName, LF_FACESIZE, WideToGbk(wide.lfFaceName));
+    return size == 0 ? 0 : static_cast<int>(sizeof *font);
+}
+
+BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
+    BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
+    BYTE pitchAndFamily, LPCSTR face)
+{
+    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut,
+        charSet, outPrecision, clipPrecision, quality, pitchAndFamily, GbkToWide(face).c_str()));
+}
+
+BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
+{
+    HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
+    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hDC, LOGPIXELSY);
+    if (screen != nullptr) {
+        ::ReleaseDC(nullptr, screen);
+    }
+    return CreateFont(-::MulDiv(tenthsOfPoint, dotsPerInch, 720), 0, 0, 0, FW_NORMAL, 0, 0, 0,
+        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, face);
+}
+
+BOOL CBitmap::LoadBitmap(UINT id)
+{
+    return Attach(::LoadBitmapW(AfxGetResourceHandle(), MAKEINTRESOURCEW(id)));
+}
+
+BOOL CBitmap::LoadBitmap(LPCSTR name)
+{
+    return Attach(::LoadBitmapW(AfxGetResourceHandle(), GbkToWide(name).c_str()));
+}
+
+BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)
+{
+    return dc != nullptr && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
+}
+
+DWORD CBitmap::GetBitmapBits(DWORD size, void* to) const
+{
+    return static_cast<DWORD>(::GetBitmapBits(*this, static_cast<LONG>(size), to));
+}
+
+DWORD CBitmap::SetBitmapBits(DWORD size, const void* from)
+{
+    return static_cast<DWORD>(::SetBitmapBits(*this, size, from));
+}
+
+CSize CBitmap::GetBitmapDimension() const
+{
+    SIZE size = {};
+    ::GetBitmapDimensionEx(*this, &size);
+    return size;
+}
+
+int CRgn::CombineRgn(const CRgn* one, const CRgn* two, int mode)
+{
+    return ::CombineRgn(handleM(), one == nullptr ? nullptr : one->handleM(),
+        two == nullptr ? nullptr : two->handleM(), mode);
+}
+
+int CRgn::CopyRgn(const CRgn* from)
+{
+    return CombineRgn(from, nullptr, RGN_COPY);
+}
+
+BOOL CRgn::EqualRgn(const CRgn* other) const
+{
+    return other != nullptr && ::EqualRgn(handleM(), other->handleM()) == TRUE;
+}

@@ -1,0 +1,160 @@
+#pragma once
+#include "toolkit/geometry.h"
+#include "toolkit/object.h"
+
+class CDC;
+
+// Owns one GDI object and deletes it with itself. Not copyable. The toolkit keeps no pointer to it, so it may
+// be moved by its bytes at any time; FromHandle therefore always gives a temporary object, never this one.
+class PANELKIT_API CGdiObject : public CObject
+{
+    DECLARE_DYNAMIC(CGdiObject)
+public:
+    CGdiObject() = default;
+    ~CGdiObject() override { DeleteObject(); }
+
+    HGDIOBJ m_hObject = nullptr;
+    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    operator HGDIOBJ() const { return m_hObject; }
+
+    BOOL Attach(HGDIOBJ object); // FALSE: null; what was held before is not deleted
+    HGDIOBJ Detach();
+    BOOL DeleteObject(); // FALSE: there was none
+    int GetObject(int size, void* to) const { return ::GetObjectW(m_hObject, size, to); }
+    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
+    BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
+    BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
+    BOOL operator==(const CGdiObject& other) const { return m_hObject == other.m_hObject; }
+    BOOL operator!=(const CGdiObject& other) const { return m_hObject != other.m_hObject; }
+
+    // Temporary object (see CWnd::FromHandle); null for a null handle.
+    static CGdiObject* FromHandle(HGDIOBJ object);
+};
+
+class PANELKIT_API CPen : public CGdiObject
+{
+    DECLARE_DYNAMIC(CPen)
+public:
+    CPen() = default;
+    CPen(int style, int width, COLORREF color) { CreatePen(style, width, color); }
+    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+    BOOL CreatePen(int style, int width, COLORREF color) { return Attach(::CreatePen(style, width, color)); }
+    BOOL CreatePenIndirect(LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
+    int GetLogPen(LOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
+    static CPen* FromHandle(HPEN pen);
+};
+
+class CBitmap;
+
+class PANELKIT_API CBrush : public CGdiObject
+{
+    DECLARE_DYNAMIC(CBrush)
+public:
+    CBrush() = default;
+    explicit CBrush(COLORREF color) { CreateSolidBrush(color); }
+    CBrush(int hatch, COLORREF color) { CreateHatchBrush(hatch, color); }
+    explicit CBrush(CBitmap* pattern) { CreatePatternBrush(pattern); }
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+    BOOL CreateSolidBrush(COLORREF color) { return Attach(::CreateSolidBrush(color)); }
+    BOOL CreateHatchBrush(int hatch, COLORREF color) { return Attach(::CreateHatchBrush(hatch, color)); }
+    BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
+    BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
+    BOOL CreatePatternBrush(CBitmap* pattern);
+    int GetLogBrush(LOGBRUSH* brush) const { return GetObject(sizeof *brush, brush); }
+    static CBrush* FromHandle(HBRUSH brush);
+};
+
+class PANELKIT_API CFont : public CGdiObject
+{
+    DECLARE_DYNAMIC(CFont)
+public:
+    CFont() = default;
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+    BOOL CreateFontIndirect(const LOGFONTW* font) { return Attach(::CreateFontIndirectW(font)); }
+    BOOL CreateFontIndirect(const LOGFONTA* font); // face name in GBK
+    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
+        BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
+        BYTE pitchAndFamily, LPCSTR face);
+    BOOL CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc = nullptr); // null dc: the screen
+    int GetLogFont(LOGFONTW* font) const { return GetObject(sizeof *font, font); }
+    int GetLogFont(LOGFONTA* font) const; // face name in GBK
+    static CFont* FromHandle(HFONT font);
+};
+
+class PANELKIT_API CBitmap : public CGdiObject
+{
+    DECLARE_DYNAMIC(CBitmap)
+public:
+    CBitmap() = default;
+    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+    BOOL LoadBitmap(UINT id); // from the application's resources
+    BOOL LoadBitmap(LPCSTR name);
+    BOOL CreateBitmap(int width, int height, UINT planes, UINT bits, const void* pixels)
+    {
+        return Attach(::CreateBitmap(width, height, planes, bits, pixels));
+    }
+    BOOL CreateBitmapIndirect(BITMAP* bitmap) { return Attach(::CreateBitmapIndirect(bitmap)); }
+    BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
+    int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
+    DWORD GetBitmapBits(DWORD size, void* to) const;
+    DWORD SetBitmapBits(DWORD size, const void* from);
+    CSize GetBitmapDimension() const;
+    static CBitmap* FromHandle(HBITMAP bitmap);
+};
+
+class PANELKIT_API CRgn : public CGdiObject
+{
+    DECLARE_DYNAMIC(CRgn)
+public:
+    CRgn() = default;
+    operator HRGN() const { return handleM(); }
+    BOOL CreateRectRgn(int left, int top, int right, int bottom)
+    {
+        return Attach(::CreateRectRgn(left, top, right, bottom));
+    }
+    BOOL CreateRectRgnIndirect(LPCRECT rect) { return Attach(::CreateRectRgnIndirect(rect)); }
+    BOOL CreateEllipticRgn(int left, int top, int right, int bottom)
+    {
+        return Attach(::CreateEllipticRgn(left, top, right, bottom));
+    }
+    BOOL CreateEllipticRgnIndirect(LPCRECT rect) { return Attach(::CreateEllipticRgnIndirect(rect)); }
+    BOOL CreateRoundRectRgn(int left, int top, int right, int bottom, int width, int height)
+    {
+        return Attach(::CreateRoundRectRgn(left, top, right, bottom, width, height));
+    }
+    BOOL CreatePolygonRgn(const POINT* points, int count, int mode)
+    {
+        return Attach(::CreatePolygonRgn(points, count, mode));
+    }
+    BOOL CreatePolyPolygonRgn(const POINT* points, const INT* counts, int polygons, int mode)
+    {
+        return Attach(::CreatePolyPolygonRgn(points, counts, polygons, mode));
+    }
+    BOOL CreateFromData(const XFORM* transform, int size, const RGNDATA* data)
+    {
+        return Attach(::ExtCreateRegion(transform, static_cast<DWORD>(size), data));
+    }
+    int GetRegionData(RGNDATA* data, int size) const
+    {
+        return static_cast<int>(::GetRegionData(handleM(), static_cast<DWORD>(size), data));
+    }
+    // This region must exist; it becomes the combination. Null operands count as failures.
+    int CombineRgn(const CRgn* one, const CRgn* two, int mode);
+    int CopyRgn(const CRgn* from);
+    BOOL EqualRgn(const CRgn* other) const;
+    int OffsetRgn(int dx, int dy) { return ::OffsetRgn(handleM(), dx, dy); }
+    int OffsetRgn(POINT by) { return ::OffsetRgn(handleM(), by.x, by.y); }
+    int GetRgnBox(LPRECT box) const { return ::GetRgnBox(handleM(), box); }
+    void SetRectRgn(int left, int top, int right, int bottom)
+    {
+        ::SetRectRgn(handleM(), left, top, right, bottom);
+    }
+    void SetRectRgn(LPCRECT rect) { SetRectRgn(rect->left, rect->top, rect->right, rect->bottom); }
+    BOOL PtInRegion(int x, int y) const { return ::PtInRegion(handleM(), x, y); }
+    BOOL PtInRegion(POINT point) const { return PtInRegion(point.x, point.y); }
+    BOOL RectInRegion(LPCRECT rect) const { return ::RectInRegion(handleM(), rect); }
+    static CRgn* FromHandle(HRGN region);
+
+private:
+    HRGN handleM() const { return static_cast<HRGN>(m_hObject); }
+};

@@ -1,0 +1,147 @@
+#pragma once
+#include "toolkit/platform.h"
+
+class CPoint;
+
+class CSize : public tagSIZE
+{
+public:
+    CSize()
+        : CSize(0, 0)
+    {
+    }
+    CSize(int width, int height)
+    {
+        cx = width;
+        cy = height;
+    }
+    CSize(SIZE size)
+        : CSize(size.cx, size.cy)
+    {
+    }
+    bool operator==(SIZE other) const { return cx == other.cx && cy == other.cy; }
+    bool operator!=(SIZE other) const { return !(*this == other); }
+    CSize operator+(SIZE other) const { return CSize(cx + other.cx, cy + other.cy); }
+    CSize operator-(SIZE other) const { return CSize(cx - other.cx, cy - other.cy); }
+    CSize operator-() const { return CSize(-cx, -cy); }
+};
+
+class CPoint : public tagPOINT
+{
+public:
+    CPoint()
+        : CPoint(0, 0)
+    {
+    }
+    CPoint(int left, int top)
+    {
+        x = left;
+        y = top;
+    }
+    CPoint(POINT point)
+        : CPoint(point.x, point.y)
+    {
+    }
+    // A mouse position as lParam carries it: two signed halves.
+    explicit CPoint(LPARAM packed)
+        : CPoint(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)))
+    {
+    }
+    void Offset(int dx, int dy)
+    {
+        x += dx;
+        y += dy;
+    }
+    void Offset(SIZE by) { Offset(by.cx, by.cy); }
+    void SetPoint(int left, int top) { *this = CPoint(left, top); }
+    bool operator==(POINT other) const { return x == other.x && y == other.y; }
+    bool operator!=(POINT other) const { return !(*this == other); }
+    CPoint operator+(SIZE by) const { return CPoint(x + by.cx, y + by.cy); }
+    CPoint operator-(SIZE by) const { return CPoint(x - by.cx, y - by.cy); }
+    CPoint operator+(POINT by) const { return CPoint(x + by.x, y + by.y); }
+    CSize operator-(POINT from) const { return CSize(x - from.x, y - from.y); }
+    CPoint operator-() const { return CPoint(-x, -y); }
+    void operator+=(SIZE by) { Offset(by); }
+    void operator-=(SIZE by) { Offset(-by.cx, -by.cy); }
+};
+
+class CRect : public tagRECT
+{
+public:
+    CRect()
+        : CRect(0, 0, 0, 0)
+    {
+    }
+    CRect(int l, int t, int r, int b) { ::SetRect(this, l, t, r, b); }
+    CRect(const RECT& rect)
+        : CRect(rect.left, rect.top, rect.right, rect.bottom)
+    {
+    }
+    CRect(LPCRECT rect)
+        : CRect(*rect)
+    {
+    }
+    CRect(POINT at, SIZE size)
+        : CRect(at.x, at.y, at.x + size.cx, at.y + size.cy)
+    {
+    }
+    CRect(POINT topLeft, POINT bottomRight)
+        : CRect(topLeft.x, topLeft.y, bottomRight.x, bottomRight.y)
+    {
+    }
+
+    int Width() const { return right - left; }
+    int Height() const { return bottom - top; }
+    CSize Size() const { return CSize(Width(), Height()); }
+    CPoint TopLeft() const { return CPoint(left, top); }
+    CPoint BottomRight() const { return CPoint(right, bottom); }
+    CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
+    operator LPRECT() { return this; }
+    operator LPCRECT() const { return this; }
+
+    BOOL IsRectEmpty() const { return ::IsRectEmpty(this); }
+    BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
+    BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
+    void SetRect(int l, int t, int r, int b) { ::SetRect(this, l, t, r, b); }
+    void SetRectEmpty() { ::SetRectEmpty(this); }
+    void CopyRect(LPCRECT from) { ::CopyRect(this, from); }
+    BOOL EqualRect(LPCRECT other) const { return ::EqualRect(this, other); }
+    void InflateRect(int dx, int dy) { ::InflateRect(this, dx, dy); }
+    void InflateRect(SIZE by) { ::InflateRect(this, by.cx, by.cy); }
+    void InflateRect(int l, int t, int r, int b) { SetRect(left - l, top - t, right + r, bottom + b); }
+    void DeflateRect(int dx, int dy) { ::InflateRect(this, -dx, -dy); }
+    void DeflateRect(SIZE by) { ::InflateRect(this, -by.cx, -by.cy); }
+    void DeflateRect(int l, int t, int r, int b) { SetRect(left + l, top + t, right - r, bottom - b); }
+    void OffsetRect(int dx, int dy) { ::OffsetRect(this, dx, dy); }
+    void OffsetRect(POINT by) { ::OffsetRect(this, by.x, by.y); }
+    void OffsetRect(SIZE by) { ::OffsetRect(this, by.cx, by.cy); }
+    void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
+    // Swaps what is the wrong way round, so that width and height are not negative.
+    void NormalizeRect()
+    {
+        *this = CRect(left < right ? left : right, top < bottom ? top : bottom, left < right ? right : left,
+            top < bottom ? bottom : top);
+    }
+    BOOL IntersectRect(LPCRECT one, LPCRECT two) { return ::IntersectRect(this, one, two); }
+    BOOL UnionRect(LPCRECT one, LPCRECT two) { return ::UnionRect(this, one, two); }
+    BOOL SubtractRect(LPCRECT from, LPCRECT what) { return ::SubtractRect(this, from, what); }
+
+    bool operator==(const RECT& other) const { return ::EqualRect(this, &other) != FALSE; }
+    bool operator!=(const RECT& other) const { return !(*this == other); }
+    void operator+=(POINT by) { OffsetRect(by); }
+    void operator-=(POINT by) { ::OffsetRect(this, -by.x, -by.y); }
+    CRect operator+(POINT by) const { return CRect(left + by.x, top + by.y, right + by.x, bottom + by.y); }
+    CRect operator-(POINT by) const { return CRect(left - by.x, top - by.y, right - by.x, bottom - by.y); }
+    CRect operator&(const RECT& other) const
+    {
+        CRect result;
+        result.IntersectRect(this, &other);
+        return result;
+    }
+    CRect operator|(const RECT& other) const
+    {
+        CRect result;
+        result.UnionRect(this, &other);
+        return result;
+    }
+};

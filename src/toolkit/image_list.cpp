@@ -1,0 +1,59 @@
+#include "toolkit/common_controls.h"
+#include "toolkit/thread_state.h"
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CImageList, CObject)
+
+void NeedCommonControls()
+{
+    INITCOMMONCONTROLSEX wanted
+        = { sizeof wanted, ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES | ICC_UPDOWN_CLASS };
+    ::InitCommonControlsEx(&wanted);
+}
+
+BOOL CImageList::Attach(HIMAGELIST list)
+{
+    m_hImageList = list;
+    return list != nullptr;
+}
+
+HIMAGELIST CImageList::Detach()
+{
+    return std::exchange(m_hImageList, nullptr);
+}
+
+CImageList* CImageList::FromHandle(HIMAGELIST list)
+{
+    return ThreadStateCL::ThisM().imageLists.GetM<CImageList>(list);
+}
+
+BOOL CImageList::Create(int width, int height, UINT flags, int initial, int grow)
+{
+    NeedCommonControls();
+    return Attach(::ImageList_Create(width, height, flags, initial, grow));
+}
+
+BOOL CImageList::DeleteImageList()
+{
+    return m_hImageList != nullptr && ::ImageList_Destroy(Detach());
+}
+
+int CImageList::Add(CBitmap* bitmap, CBitmap* mask)
+{
+    return ::ImageList_Add(m_hImageList, *bitmap, mask == nullptr ? nullptr : static_cast<HBITMAP>(*mask));
+}
+
+int CImageList::Add(CBitmap* bitmap, COLORREF maskColor)
+{
+    return ::ImageList_AddMasked(m_hImageList, *bitmap, maskColor);
+}
+
+BOOL CImageList::Draw(CDC* dc, int index, POINT at, UINT style)
+{
+    return ::ImageList_Draw(m_hImageList, index, dc->m_hDC, at.x, at.y, style);
+}
+
+BOOL CImageList::GetImageInfo(int index, IMAGEINFO* info) const
+{
+    return ::ImageList_GetImageInfo(m_hImageList, index, info);
+}

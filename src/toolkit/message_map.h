@@ -1,0 +1,161 @@
+#pragma once
+#include "toolkit/object.h"
+
+class CCmdTarget;
+
+// One message on its way through a map.
+struct AFX_MESSAGE
+{
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    LRESULT result;
+    int code;    // of WM_COMMAND, WM_NOTIFY and their reflected kinds
+    UINT id;     // of the command or the control; of WM_CTLCOLOR the CTLCOLOR_ number
+    void* extra; // of WM_NOTIFY: AFX_NOTIFY*
+};
+
+// What a WM_NOTIFY handler gets and gives back.
+struct AFX_NOTIFY
+{
+    LRESULT* pResult;
+    NMHDR* pNMHDR;
+};
+
+// False from a handler: not dealt with after all, the message goes on.
+typedef bool (*AFX_HANDLER)(CCmdTarget* target, AFX_MESSAGE& m);
+
+struct AFX_MSGMAP_ENTRY
+{
+    UINT nMessage;
+    UINT nCode;
+    UINT nID;
+    UINT nLastID;
+    AFX_HANDLER pfn; // null ends the map
+};
+
+struct AFX_MSGMAP
+{
+    const AFX_MSGMAP* (*pfnGetBaseMap)(); // null: the root
+    const AFX_MSGMAP_ENTRY* lpEntries;
+};
+
+struct AFX_CMDHANDLERINFO
+{
+    CCmdTarget* pTarget;
+    AFX_HANDLER pfn;
+};
+
+// Numbers under which a parent offers a child's notifications to the child itself.
+#ifndef WM_CTLCOLOR
+#define WM_CTLCOLOR 0x0019 // the one number that stands for the seven of the window system
+#endif
+#define WM_REFLECT_BASE 0xBC00
+
+// Something with a message map.
+class PANELKIT_API CCmdTarget : public CObject
+{
+    DECLARE_DYNAMIC(CCmdTarget)
+public:
+    CCmdTarget() = default;
+    // Offers command or notification nCode of control nID to the map; a notification has WM_NOTIFY in the
+    // high word of nCode. With info: only tells who would handle it. Result: handled.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info);
+
+protected:
+    static const AFX_MSGMAP* GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+    const AFX_MSGMAP_ENTRY* findEntryM(UINT message, int code, UINT id) const;
+};
+
+#define DECLARE_MESSAGE_MAP()                                                                                \
+protected:                                                                                                   \
+    static const AFX_MSGMAP* GetThisMessageMap();                                                            \
+    const AFX_MSGMAP* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
+    const AFX_MSGMAP* theClass::GetMessageMap() const                                                        \
+    {                                                                                                        \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
+    const AFX_MSGMAP* theClass::GetThisMessageMap()                                                          \
+    {                                                                                                        \
+        typedef theClass ThisClass;                                                                          \
+        typedef baseClass TheBaseClass;                                                                      \
+        static const AFX_MSGMAP_ENTRY entries[] = {
+
+#define END_MESSAGE_MAP()                                                                                    \
+    {                                                                                                        \
+        0, 0, 0, 0, nullptr                                                                                  \
+    }                                                                                                        \
+    }                                                                                                        \
+    ;                                                                                                        \
+    static const AFX_MSGMAP messageMap = { &TheBaseClass::GetThisMessageMap, entries };                      \
+    static_cast<void>(sizeof(ThisClass));                                                                    \
+    return &messageMap;                                                                                      \
+    }
+
+// A handler is called by name through the class itself, so the compiler checks its arguments.
+#define AFX_ENTRY(message, code, first, last, ...)                                                           \
+    { static_cast<UINT>(message), static_cast<UINT>(code), static_cast<UINT>(first),                         \
+        static_cast<UINT>(last), [](CCmdTarget* target, [[maybe_unused]] AFX_MESSAGE& m) -> bool {           \
+            ThisClass* self = static_cast<ThisClass*>(target);                                               \
+            __VA_ARGS__                                                                                      \
+        } },
+
+#define ON_MESSAGE(message, memberFxn)                                                                       \
+    AFX_ENTRY(message, 0, 0, 0, m.result = (self->*(memberFxn))(m.wParam, m.lParam); return true;)
+#define ON_REGISTERED_MESSAGE(variable, memberFxn) ON_MESSAGE(variable, memberFxn)
+
+#define ON_CONTROL_RANGE(code, first, last, memberFxn)                                                       \
+    AFX_ENTRY(WM_COMMAND, code, first, last, (self->*(memberFxn))(m.id); return true;)
+#define ON_CONTROL(code, id, memberFxn)                                                                      \
+    AFX_ENTRY(WM_COMMAND, code, id, id, (self->*(memberFxn))(); return true;)
+#define ON_COMMAND(id, memberFxn) ON_CONTROL(0, id, memberFxn)
+#define ON_COMMAND_RANGE(first, last, memberFxn) ON_CONTROL_RANGE(0, first, last, memberFxn)
+#define ON_COMMAND_EX(id, memberFxn)                                                                         \
+    AFX_ENTRY(WM_COMMAND, 0, id, id, return (self->*(memberFxn))(m.id) != FALSE;)
+#define ON_NOTIFY(code, id, memberFxn) ON_NOTIFY_BODY(code, id, id, memberFxn)
+#define ON_NOTIFY_BODY(code, first, last, memberFxn)                                                         \
+    AFX_ENTRY(WM_NOTIFY, code, first, last, AFX_NOTIFY* notify = static_cast<AFX_NOTIFY*>(m.extra);          \
+              (self->*(memberFxn))(notify->pNMHDR, notify->pResult); return true;)
+#define ON_NOTIFY_RANGE(code, first, last, memberFxn)                                                        \
+    AFX_ENTRY(WM_NOTIFY, code, first, last, AFX_NOTIFY* notify = static_cast<AFX_NOTIFY*>(m.extra);          \
+              (self->*(memberFxn))(m.id, notify->pNMHDR, notify->pResult); return true;)
+#define ON_CONTROL_REFLECT(code, memberFxn)                                                                  \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, (self->*(memberFxn))(); return true;)
+#define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                               \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, return (self->*(memberFxn))() != FALSE;)
+#define ON_NOTIFY_REFLECT(code, memberFxn)                                                                   \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0,                                                       \
+              (self->*(memberFxn))(reinterpret_cast<NMHDR*>(m.lParam), &m.result);                           \
+              return true;)
+#define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0,                                                       \
+              return (self->*(memberFxn))(reinterpret_cast<NMHDR*>(m.lParam), &m.result) != FALSE;)
+
+#define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
+#define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
+#define ON_BN_SETFOCUS(id, memberFxn) ON_CONTROL(BN_SETFOCUS, id, memberFxn)
+#define ON_BN_KILLFOCUS(id, memberFxn) ON_CONTROL(BN_KILLFOCUS, id, memberFxn)
+#define ON_STN_CLICKED(id, memberFxn) ON_CONTROL(STN_CLICKED, id, memberFxn)
+#define ON_STN_DBLCLK(id, memberFxn) ON_CONTROL(STN_DBLCLK, id, memberFxn)
+#define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
+#define ON_EN_UPDATE(id, memberFxn) ON_CONTROL(EN_UPDATE, id, memberFxn)
+#define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)
+#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
+#define ON_EN_MAXTEXT(id, memberFxn) ON_CONTROL(EN_MAXTEXT, id, memberFxn)
+#define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
+#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
+#define ON_LBN_SETFOCUS(id, memberFxn) ON_CONTROL(LBN_SETFOCUS, id, memberFxn)
+#define ON_LBN_KILLFOCUS(id, memberFxn) ON_CONTROL(LBN_KILLFOCUS, id, memberFxn)
+#define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
+#define ON_CBN_SELENDOK(id, memberFxn) ON_CONTROL(CBN_SELENDOK, id, memberFxn)
+#define ON_CBN_EDITCHANGE(id, memberFxn) ON_CONTROL(CBN_EDITCHANGE, id, memberFxn)
+#define ON_CBN_DROPDOWN(id, memberFxn) ON_CONTROL(CBN_DROPDOWN, id, memberFxn)
+#define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
+#define ON_CBN_DBLCLK(id, memberFxn) ON_CONTROL(CBN_DBLCLK, id, memberFxn)
+#define ON_CBN_SETFOCUS(id, memberFxn) ON_CONTROL(CBN_SETFOCUS, id, memberFxn)
+#define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
+
+#include "toolkit/window_messages.h"

@@ -1,0 +1,78 @@
+#pragma once
+#include "toolkit/platform.h"
+
+class CObject;
+
+// What a class knows of itself at run time: its name, its base and, where it can, how to make an object.
+struct PANELKIT_API CRuntimeClass
+{
+    LPCSTR m_lpszClassName;
+    int m_nObjectSize;
+    UINT m_wSchema;
+    CObject* (*m_pfnCreateObject)();       // null: not dynamically creatable
+    CRuntimeClass* (*m_pfnGetBaseClass)(); // null: the root
+
+    CObject* CreateObject() const;                       // on the heap, the caller's; null where it cannot
+    BOOL IsDerivedFrom(const CRuntimeClass* base) const; // a class derives from itself too
+};
+
+class PANELKIT_API CObject
+{
+public:
+    virtual ~CObject() = default;
+    virtual CRuntimeClass* GetRuntimeClass() const;
+    BOOL IsKindOf(const CRuntimeClass* runtimeClass) const
+    {
+        return GetRuntimeClass()->IsDerivedFrom(runtimeClass);
+    }
+    static CRuntimeClass* GetThisClass();
+    static CRuntimeClass classCObject;
+
+    CObject(const CObject&) = delete;
+    CObject& operator=(const CObject&) = delete;
+
+protected:
+    CObject() = default;
+};
+
+#define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
+
+#define DECLARE_DYNAMIC(class_name)                                                                          \
+public:                                                                                                      \
+    static CRuntimeClass class##class_name;                                                                  \
+    static CRuntimeClass* GetThisClass();                                                                    \
+    CRuntimeClass* GetRuntimeClass() const override;
+
+#define DECLARE_DYNCREATE(class_name)                                                                        \
+    DECLARE_DYNAMIC(class_name)                                                                              \
+    static CObject* CreateObject();
+
+#define AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, create)                                      \
+    CRuntimeClass class_name::class##class_name = { #class_name, static_cast<int>(sizeof(class_name)),       \
+        0xFFFF, create, &base_class_name::GetThisClass };                                                    \
+    CRuntimeClass* class_name::GetThisClass()                                                                \
+    {                                                                                                        \
+        return &class_name::class##class_name;                                                               \
+    }                                                                                                        \
+    CRuntimeClass* class_name::GetRuntimeClass() const                                                       \
+    {                                                                                                        \
+        return &class_name::class##class_name;                                                               \
+    }
+
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, nullptr)
+
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                     \
+    CObject* class_name::CreateObject()                                                                      \
+    {                                                                                                        \
+        return new class_name;                                                                               \
+    }                                                                                                        \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, &class_name::CreateObject)
+
+// The object as the class asked for, or null where it is none.
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                 \
+    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+inline CObject* AfxDynamicDownCast(const CRuntimeClass* runtimeClass, CObject* object)
+{
+    return object != nullptr && object->IsKindOf(runtimeClass) ? object : nullptr;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+// The window classes, their message maps and the drawing objects; the only header of them to include.
+// With PANELKIT_TOOLKIT_SYSTEM the vendor's own classes take their place.
+#ifdef PANELKIT_TOOLKIT_SYSTEM
+#include <afxwin.h>
+
+#include <afxcmn.h>
+#else
+#include "toolkit/app.h"
+#include "toolkit/common_controls.h"
+#include "toolkit/controls.h"
+#include "toolkit/dc.h"
+#include "toolkit/dialog.h"
+#include "toolkit/gbk_string.h"
+#include "toolkit/gdi_objects.h"
+#include "toolkit/geometry.h"
+#include "toolkit/message_map.h"
+#include "toolkit/object.h"
+#include "toolkit/wnd.h"
+#endif

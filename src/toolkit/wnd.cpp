@@ -1,0 +1,180 @@
+#include "toolkit/wnd.h"
+#include "toolkit/app.h"
+#include "toolkit/thread_state.h"
+
+IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
+
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
+bool CWnd::isPlaceM() const
+{
+    return m_hWnd == HWND_TOP || m_hWnd == HWND_BOTTOM || m_hWnd == HWND_TOPMOST || m_hWnd == HWND_NOTOPMOST;
+}
+
+CWnd::~CWnd()
+{
+    if (!isPlaceM()) {
+        // Handlers of the derived class are out of reach already; those of this class end the window in
+        // order.
+        CWnd::DestroyWindow();
+    }
+    ThreadStateCL::ForgetM(this);
+}
+
+CWnd* CWnd::FromHandle(HWND hWnd)
+{
+    CWnd* permanent = FromHandlePermanent(hWnd);
+    return permanent != nullptr ? permanent : ThreadStateCL::ThisM().wnds.GetM<CWnd>(hWnd);
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND hWnd)
+{
+    auto& permanent = ThreadStateCL::ThisM().permanent;
+    auto found = permanent.find(hWnd);
+    return found == permanent.end() ? nullptr : found->second;
+}
+
+BOOL CWnd::Attach(HWND hWnd)
+{
+    ASSERT(m_hWnd == nullptr);
+    if (hWnd == nullptr) {
+        return FALSE;
+    }
+    m_hWnd = hWnd;
+    ThreadStateCL::ThisM().permanent[hWnd] = this;
+    return TRUE;
+}
+
+HWND CWnd::Detach()
+{
+    HWND hWnd = std::exchange(m_hWnd, nullptr);
+    WNDPROC oldProc = std::exchange(oldProc_, nullptr);
+    if (hWnd != nullptr) {
+        auto& permanent = ThreadStateCL::ThisM().permanent;
+        auto found = permanent.find(hWnd);
+        if (found != permanent.end() && found->second == this) {
+            permanent.erase(found);
+        }
+        if (oldProc != nullptr
+            && reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(hWnd, GWLP_WNDPROC)) == AfxWndProc) {
+            ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(oldProc));
+        }
+    }
+    return hWnd;
+}
+
+void CWnd::takeMessagesM()
+{
+    PreSubclassWindow();
+    auto old = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+    oldProc_ = old == AfxWndProc ? ::DefWindowProcW : old;
+}
+
+BOOL CWnd::SubclassWindow(HWND hWnd)
+{
+    if (!Attach(hWnd)) {
+        return FALSE;
+    }
+    takeMessagesM();
+    return TRUE;
+}
+
+BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
+{
+    return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
+    int height, HWND parent, HMENU idOrMenu, LPVOID param)
+{
+    ASSERT(m_hWnd == nullptr);
+    std::wstring wideClass = GbkToWide(className);
+    std::wstring wideTitle = GbkToWide(title);
+    CREATESTRUCT cs = {};
+    cs.dwExStyle = exStyle;
+    cs.lpszClass = className == nullptr ? nullptr : wideClass.c_str();
+    cs.lpszName = wideTitle.c_str();
+    cs.style = static_cast<LONG>(style);
+    cs.x = x;
+    cs.y = y;
+    cs.cx = width;
+    cs.cy = height;
+    cs.hwndParent = parent;
+    cs.hMenu = idOrMenu;
+    cs.hInstance = AfxGetInstanceHandle();
+    cs.lpCreateParams = param;
+    LifeCL life(this);
+    HWND made = nullptr;
+    bool hasCaught = false;
+    if (PreCreateWindow(cs)) {
+        CreationHookCL hook(this, cs.hwndParent, static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)));
+        made = ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
+            cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
+        if (made == nullptr) {
+            AfxLogFailure("CreateWindowEx", className);
+        }
+        hasCaught = hook.HasCaughtM();
+    }
+    // A window that came and went has called PostNcDestroy itself.
+    if (made == nullptr && !hasCaught && life.IsAliveM()) {
+        PostNcDestroy();
+    }
+    return made != nullptr;
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, const RECT& rect,
+    CWnd* parent, UINT id, LPVOID param)
+{
+    return CreateEx(exStyle, className, title, style, rect.left, rect.top, rect.right - rect.left,
+        rect.bottom - rect.top, parent == nullptr ? nullptr : parent->m_hWnd,
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), param);
+}
+
+BOOL CWnd::Create(
+    LPCSTR className, LPCSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id, LPVOID param)
+{
+    ASSERT((style & WS_POPUP) == 0);
+    return CreateEx(0, className, title, style | WS_CHILD, rect, parent, id, param);
+}
+
+BOOL CWnd::DestroyWindow()
+{
+    HWND hWnd = m_hWnd;
+    if (hWnd == nullptr) {
+        return FALSE;
+    }
+    LifeCL life(this);
+    BOOL done = ::DestroyWindow(hWnd);
+    // Only attached, not subclassed: nobody has told this object that its window is gone.
+    if (life.IsAliveM() && m_hWnd == hWnd && !::IsWindow(hWnd)) {
+        Detach();
+    }
+    return done;
+}
+
+BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (cs.lpszClass == nullptr) {
+        cs.lpszClass = AfxDefaultWndClass();
+    }
+    return TRUE;
+}
+
+void CWnd::OnNcDestroy()
+{
+    LifeCL life(this);
+    Default();
+    if (!life.IsAliveM()) {
+        return;
+    }
+    CWinThread* thread = ThreadStateCL::ThisM().thread;
+    if (thread != nullptr && thread->m_pMainWnd == this) {
+        thread->MainWndGone();
+    }
+    Detach();
+    PostNcDestroy();
+}

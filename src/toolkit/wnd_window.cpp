@@ -1,0 +1,186 @@
+#include "toolkit/app.h"
+#include "toolkit/wnd.h"
+#include <vector>
+
+namespace {
+
+std::string textOfM(HWND hWnd)
+{
+    int length = ::GetWindowTextLengthW(hWnd);
+    std::vector<wchar_t> text(static_cast<size_t>(length) + 1);
+    int used = ::GetWindowTextW(hWnd, text.data(), length + 1);
+    return used <= 0 ? std::string() : WideToGbk(text.data(), used);
+}
+
+BOOL modifyM(HWND hWnd, int which, DWORD remove, DWORD add, UINT swpFlags)
+{
+    DWORD old = static_cast<DWORD>(::GetWindowLongPtrW(hWnd, which));
+    DWORD wanted = (old & ~remove) | add;
+    if (old == wanted) {
+        return FALSE;
+    }
+    ::SetWindowLongPtrW(hWnd, which, static_cast<LONG_PTR>(wanted));
+    if (swpFlags != 0) {
+        ::SetWindowPos(
+            hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | swpFlags);
+    }
+    return TRUE;
+}
+
+HWND handleOf(const CWnd* wnd)
+{
+    return wnd == nullptr ? nullptr : wnd->m_hWnd;
+}
+
+} // namespace
+
+BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT swpFlags)
+{
+    return modifyM(m_hWnd, GWL_STYLE, remove, add, swpFlags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT swpFlags)
+{
+    return modifyM(m_hWnd, GWL_EXSTYLE, remove, add, swpFlags);
+}
+
+void CWnd::SetWindowText(LPCSTR text)
+{
+    ::SetWindowTextW(m_hWnd, GbkToWide(text).c_str());
+}
+
+int CWnd::GetWindowText(LPSTR to, int size) const
+{
+    return CopyGbk(to, size, textOfM(m_hWnd));
+}
+
+void CWnd::GetWindowText(CString& to) const
+{
+    to = textOfM(m_hWnd).c_str();
+}
+
+int CWnd::GetWindowTextLength() const
+{
+    return static_cast<int>(textOfM(m_hWnd).size());
+}
+
+void CWnd::SetDlgItemText(int id, LPCSTR text)
+{
+    ::SetDlgItemTextW(m_hWnd, id, GbkToWide(text).c_str());
+}
+
+int CWnd::GetDlgItemText(int id, LPSTR to, int size) const
+{
+    return CopyGbk(to, size, textOfM(::GetDlgItem(m_hWnd, id)));
+}
+
+int CWnd::GetDlgItemText(int id, CString& to) const
+{
+    to = textOfM(::GetDlgItem(m_hWnd, id)).c_str();
+    return to.GetLength();
+}
+
+void CWnd::SetFont(CFont* font, BOOL redraw)
+{
+    HFONT handle = font == nullptr ? nullptr : static_cast<HFONT>(*font);
+    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(handle), redraw ? 1 : 0);
+}
+
+CFont* CWnd::GetFont() const
+{
+    return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+}
+
+HICON CWnd::SetIcon(HICON icon, BOOL big)
+{
+    return reinterpret_cast<HICON>(
+        SendMessage(WM_SETICON, big ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(icon)));
+}
+
+int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
+{
+    return ::MessageBoxW(m_hWnd, GbkToWide(text).c_str(),
+        GbkToWide(caption == nullptr ? AfxGetAppName() : caption).c_str(), type);
+}
+
+void CWnd::MoveWindow(LPCRECT rect, BOOL redraw)
+{
+    MoveWindow(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, redraw);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags)
+{
+    return ::SetWindowPos(m_hWnd, handleOf(after), x, y, width, height, flags);
+}
+
+void CWnd::CenterWindow(CWnd* over)
+{
+    HWND base = over != nullptr ? over->m_hWnd : ::GetParent(m_hWnd);
+    CRect area;
+    if (base == nullptr) {
+        ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    } else if (GetStyle() & WS_CHILD) {
+        ::GetClientRect(base, &area);
+        ::MapWindowPoints(base, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&area), 2);
+    } else {
+        ::GetWindowRect(base, &area);
+    }
+    CRect own;
+    GetWindowRect(&own);
+    int x = area.left + (area.Width() - own.Width()) / 2;
+    int y = area.top + (area.Height() - own.Height()) / 2;
+    SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CWnd::ClientToScreen(LPRECT rect) const
+{
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(rect), 2);
+}
+
+void CWnd::ScreenToClient(LPRECT rect) const
+{
+    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rect), 2);
+}
+
+void CWnd::MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const
+{
+    ::MapWindowPoints(m_hWnd, handleOf(to), points, count);
+}
+
+void CWnd::MapWindowPoints(CWnd* to, LPRECT rect) const
+{
+    ::MapWindowPoints(m_hWnd, handleOf(to), reinterpret_cast<POINT*>(rect), 2);
+}
+
+void CWnd::InvalidateRgn(CRgn* region, BOOL erase)
+{
+    ::InvalidateRgn(m_hWnd, region == nullptr ? nullptr : static_cast<HRGN>(*region), erase);
+}
+
+BOOL CWnd::RedrawWindow(LPCRECT rect, CRgn* region, UINT flags)
+{
+    return ::RedrawWindow(m_hWnd, rect, region == nullptr ? nullptr : static_cast<HRGN>(*region), flags);
+}
+
+int CWnd::ReleaseDC(CDC* dc)
+{
+    return dc == nullptr ? 0 : ::ReleaseDC(m_hWnd, dc->m_hDC);
+}
+
+CWnd* CWnd::FindWindow(LPCSTR className, LPCSTR title)
+{
+    std::wstring wideClass = GbkToWide(className);
+    std::wstring wideTitle = GbkToWide(title);
+    return FromHandle(::FindWindowW(
+        className == nullptr ? nullptr : wideClass.c_str(), title == nullptr ? nullptr : wideTitle.c_str()));
+}
+
+CWnd* CWnd::SetParent(CWnd* parent)
+{
+    return FromHandle(::SetParent(m_hWnd, handleOf(parent)));
+}
+
+CWnd* CWnd::GetNextDlgTabItem(CWnd* from, BOOL previous) const
+{
+    return FromHandle(::GetNextDlgTabItem(m_hWnd, handleOf(from), previous));
+}

@@ -1,0 +1,378 @@
+#include "toolkit/toolkit.h"
+#include <cstring>
+#include <gtest/gtest.h>
+#include <new>
+#include <vector>
+
+namespace {
+
+const char ChineseText[] = "\xD6\xD0\xCE\xC4"
+                           "a"; // 中文a
+const wchar_t ChineseWide[] = L"\u4E2D\u6587"
+                              L"a";
+
+class ParentCL : public CWnd
+{
+public:
+    ParentCL() { CreateEx(0, nullptr, "parent", WS_OVERLAPPEDWINDOW, 0, 0, 300, 300, nullptr, nullptr); }
+    std::vector<std::string> seen;
+    HBRUSH brush = nullptr;
+
+    afx_msg void OnClicked() { seen.push_back("parent clicked"); }
+    afx_msg void OnChange() { seen.push_back("parent change"); }
+    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT kind)
+    {
+        seen.push_back("parent color " + std::to_string(kind));
+        return brush;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ParentCL, CWnd)
+ON_BN_CLICKED(7, &ParentCL::OnClicked)
+ON_EN_CHANGE(8, &ParentCL::OnChange)
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+class ChildCL : public CStatic
+{
+public:
+    std::vector<UINT> messages;
+    bool hasSeenCreate = false;
+    int preSubclassed = 0;
+    HBRUSH brush = nullptr;
+    std::vector<std::string>* seen = nullptr;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override
+    {
+        cs.style |= WS_VISIBLE | WS_GROUP | SS_CENTER;
+        cs.dwExStyle |= WS_EX_CLIENTEDGE;
+        return CStatic::PreCreateWindow(cs);
+    }
+    void PreSubclassWindow() override
+    {
+        ++preSubclassed;
+        ModifyStyle(0, SS_NOTIFY);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        messages.push_back(message);
+        return CStatic::WindowProc(message, wParam, lParam);
+    }
+    afx_msg int OnCreate(LPCREATESTRUCT cs)
+    {
+        hasSeenCreate = true;
+        return CStatic::OnCreate(cs);
+    }
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind)
+    {
+        if (seen != nullptr && dc->m_hDC != nullptr) {
+            seen->push_back("child color " + std::to_string(kind));
+        }
+        return brush;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ChildCL, CStatic)
+ON_WM_CREATE()
+ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+class ButtonCL : public CButton
+{
+public:
+    std::vector<std::string>* seen = nullptr;
+    BOOL isKept = TRUE;
+    afx_msg BOOL OnClicked()
+    {
+        seen->push_back("child clicked");
+        return isKept;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ButtonCL, CButton)
+ON_CONTROL_REFLECT_EX(BN_CLICKED, &ButtonCL::OnClicked)
+END_MESSAGE_MAP()
+
+class DrawnListCL : public CListBox
+{
+public:
+    int measured = 0;
+    int drawn = 0;
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override
+    {
+        ++measured;
+        item->itemHeight = 37;
+    }
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+};
+
+class SuicidalCL : public CWnd
+{
+public:
+    explicit SuicidalCL(bool* gone)
+        : gone_(gone)
+    {
+    }
+    ~SuicidalCL() override { *gone_ = true; }
+    afx_msg void OnTimer(UINT_PTR) { delete this; }
+    afx_msg void OnSize(UINT, int, int) { throw 1; }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool* gone_;
+};
+
+BEGIN_MESSAGE_MAP(SuicidalCL, CWnd)
+ON_WM_TIMER()
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+class SelfDeletingCL : public CWnd
+{
+public:
+    explicit SelfDeletingCL(bool* gone)
+        : gone_(gone)
+    {
+    }
+    afx_msg void OnLButtonUp(UINT flags, CPoint at)
+    {
+        DestroyWindow();
+        static_cast<void>(flags);
+        static_cast<void>(at);
+    }
+    void PostNcDestroy() override
+    {
+        EXPECT_EQ(m_hWnd, nullptr);
+        *gone_ = true;
+        delete this;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool* gone_;
+};
+
+BEGIN_MESSAGE_MAP(SelfDeletingCL, CWnd)
+ON_WM_LBUTTONUP()
+END_MESSAGE_MAP()
+
+const RECT Place = { 10, 10, 110, 60 };
+
+} // namespace
+
+TEST(Wnd, OwnMapSeesCreationFromItsFirstMessage)
+{
+    ParentCL parent;
+    ChildCL child;
+    ASSERT_TRUE(child.Create("text", 0, Place, &parent, 5));
+    EXPECT_TRUE(child.hasSeenCreate);
+    auto& seen = child.messages;
+    EXPECT_NE(std::find(seen.begin(), seen.end(), WM_NCCREATE), seen.end());
+}
+
+TEST(Wnd, PreCreateWindowAddsStylesAndPreSubclassWindowRunsOnce)
+{
+    ParentCL parent;
+    ChildCL child;
+    ASSERT_TRUE(child.Create("text", 0, Place, &parent, 5));
+    EXPECT_EQ(child.preSubclassed, 1);
+    EXPECT_EQ(child.GetStyle(), static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_GROUP | SS_CENTER | SS_NOTIFY));
+    EXPECT_TRUE(child.GetExStyle() & WS_EX_CLIENTEDGE);
+    wchar_t name[20] = {};
+    ::GetClassNameW(child, name, 20);
+    EXPECT_STREQ(name, L"Static");
+}
+
+TEST(Wnd, ReflectedColourGoesToTheChildFirstAndToTheParentWithoutABrush)
+{
+    ParentCL parent;
+    ChildCL child;
+    child.seen = &parent.seen;
+    ASSERT_TRUE(child.Create("text", 0, Place, &parent, 5));
+    CBrush own(RGB(1, 2, 3));
+    CBrush parents(RGB(4, 5, 6));
+    parent.brush = parents;
+    CClientDC dc(&child);
+    WPARAM context = reinterpret_cast<WPARAM>(dc.m_hDC);
+    LPARAM window = reinterpret_cast<LPARAM>(child.m_hWnd);
+    parent.seen.clear();
+    EXPECT_EQ(
+        parent.SendMessage(WM_CTLCOLORSTATIC, context, window), reinterpret_cast<LRESULT>(parents.m_hObject));
+    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child color 6", "parent color 6" }));
+    child.brush = own;
+    parent.seen.clear();
+    EXPECT_EQ(
+        parent.SendMessage(WM_CTLCOLORSTATIC, context, window), reinterpret_cast<LRESULT>(own.m_hObject));
+    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child color 6" }));
+}
+
+TEST(Wnd, CommandIsOfferedToTheChildAndThenToTheParent)
+{
+    ParentCL parent;
+    ButtonCL button;
+    button.seen = &parent.seen;
+    ASSERT_TRUE(button.Create("ok", WS_VISIBLE, Place, &parent, 7));
+    parent.seen.clear();
+    button.SendMessage(BM_CLICK);
+    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child clicked" }));
+    button.isKept = FALSE;
+    parent.seen.clear();
+    button.SendMessage(BM_CLICK);
+    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child clicked", "parent clicked" }));
+}
+
+TEST(Wnd, UnreflectedNotificationReachesTheParentsMap)
+{
+    ParentCL parent;
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_VISIBLE, Place, &parent, 8));
+    parent.seen.clear();
+    edit.SetWindowText("new");
+    EXPECT_EQ(parent.seen, (std::vector<std::string> { "parent change" }));
+}
+
+TEST(Wnd, OwnerDrawnListBoxIsAskedForItsItemHeightDuringCreation)
+{
+    ParentCL parent;
+    DrawnListCL list;
+    ASSERT_TRUE(list.Create(WS_VISIBLE | LBS_OWNERDRAWFIXED, Place, &parent, 9));
+    EXPECT_EQ(list.measured, 1);
+    EXPECT_EQ(list.GetItemHeight(0), 37);
+    list.AddString("x");
+    parent.ShowWindow(SW_SHOWNA);
+    list.RedrawWindow();
+    EXPECT_GT(list.drawn, 0);
+}
+
+TEST(Wnd, FromHandleGivesThePermanentObjectElseTheSameTemporaryOne)
+{
+    ParentCL parent;
+    EXPECT_EQ(CWnd::FromHandle(parent), &parent);
+    HWND plain
+        = ::CreateWindowExW(0, L"Static", L"", WS_CHILD, 0, 0, 5, 5, parent, nullptr, nullptr, nullptr);
+    CWnd* temporary = CWnd::FromHandle(plain);
+    ASSERT_NE(temporary, nullptr);
+    EXPECT_EQ(temporary->m_hWnd, plain);
+    EXPECT_EQ(CWnd::FromHandle(plain), temporary);
+    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+    EXPECT_EQ(temporary->GetParent(), &parent);
+    AfxGetThread()->OnIdle(0);
+    EXPECT_TRUE(::IsWindow(plain)) << "a temporary object does not own its window";
+    CWnd other;
+    ASSERT_TRUE(other.SubclassWindow(plain));
+    EXPECT_EQ(CWnd::FromHandle(plain), &other);
+    EXPECT_EQ(other.Detach(), plain);
+    EXPECT_NE(reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(plain, GWLP_WNDPROC)), &AfxWndProc);
+}
+
+TEST(Wnd, ATemporaryObjectServesAsParent)
+{
+    HWND foreign
+        = ::CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
+    CStatic label;
+    EXPECT_TRUE(label.Create("x", WS_VISIBLE, Place, CWnd::FromHandle(foreign), 3));
+    EXPECT_EQ(::GetParent(label), foreign);
+    ::DestroyWindow(foreign);
+    EXPECT_EQ(label.m_hWnd, nullptr);
+}
+
+TEST(Wnd, TextIsGbkInBothDirectionsAndCutBetweenCharacters)
+{
+    ParentCL parent;
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_VISIBLE, Place, &parent, 8));
+    edit.SetWindowText(ChineseText);
+    wchar_t wide[10] = {};
+    ::GetWindowTextW(edit, wide, 10);
+    EXPECT_STREQ(wide, ChineseWide);
+    EXPECT_EQ(edit.GetWindowTextLength(), 5);
+    char text[6] = {};
+    EXPECT_EQ(edit.GetWindowText(text, 6), 5);
+    EXPECT_STREQ(text, ChineseText);
+    EXPECT_EQ(edit.GetWindowText(text, 4), 2); // three bytes of room would split the second character
+    EXPECT_STREQ(text, "\xD6\xD0");
+    EXPECT_EQ(edit.GetWindowText(text, 0), 0);
+    ::SetWindowTextW(edit,
+        L"\u0E01"
+        L"b"); // GBK has no such letter
+    EXPECT_EQ(edit.GetWindowText(text, 6), 2);
+    EXPECT_STREQ(text, "?b");
+    edit.SetWindowText(nullptr);
+    EXPECT_EQ(edit.GetWindowTextLength(), 0);
+}
+
+TEST(Wnd, DestroyedObjectTakesItsWindowAlongAndViceVersa)
+{
+    HWND hWnd = nullptr;
+    {
+        ParentCL parent;
+        hWnd = parent;
+        CStatic child;
+        child.Create("x", 0, Place, &parent, 1);
+        ::DestroyWindow(hWnd);
+        EXPECT_EQ(parent.m_hWnd, nullptr);
+        EXPECT_EQ(child.m_hWnd, nullptr);
+    }
+    {
+        ParentCL parent;
+        hWnd = parent;
+    }
+    EXPECT_FALSE(::IsWindow(hWnd));
+}
+
+TEST(Wnd, ObjectMayGoInsideItsOwnHandler)
+{
+    bool gone = false;
+    SuicidalCL* wnd = new SuicidalCL(&gone);
+    ASSERT_TRUE(wnd->CreateEx(0, nullptr, "x", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr));
+    HWND hWnd = *wnd;
+    wnd->SendMessage(WM_TIMER, 1);
+    EXPECT_TRUE(gone);
+    EXPECT_FALSE(::IsWindow(hWnd));
+
+    gone = false;
+    SelfDeletingCL* other = new SelfDeletingCL(&gone);
+    ASSERT_TRUE(other->CreateEx(0, nullptr, "x", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr));
+    other->SendMessage(WM_LBUTTONUP);
+    EXPECT_TRUE(gone);
+}
+
+TEST(Wnd, ExceptionOfAHandlerStaysInside)
+{
+    bool gone = false;
+    SuicidalCL wnd(&gone);
+    EXPECT_TRUE(wnd.CreateEx(0, nullptr, "x", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr));
+    EXPECT_EQ(wnd.SendMessage(WM_SIZE), 0);
+}
+
+TEST(Wnd, ObjectMovesByItsBytesUntilItHasAWindow)
+{
+    ParentCL parent;
+    alignas(DrawnListCL) unsigned char first[sizeof(DrawnListCL)];
+    alignas(DrawnListCL) unsigned char second[sizeof(DrawnListCL)];
+    new (first) DrawnListCL;
+    std::memcpy(second, first, sizeof first);
+    std::memset(first, 0xCD, sizeof first);
+    DrawnListCL* list = std::launder(reinterpret_cast<DrawnListCL*>(second));
+    ASSERT_TRUE(list->Create(LBS_OWNERDRAWFIXED, Place, &parent, 9));
+    EXPECT_EQ(CWnd::FromHandle(list->m_hWnd), list);
+    EXPECT_EQ(list->measured, 1);
+    list->~DrawnListCL();
+}
+
+TEST(Wnd, StackingOrderFollowsSetWindowPos)
+{
+    ParentCL parent;
+    CStatic one;
+    CStatic two;
+    one.Create("1", 0, Place, &parent, 1);
+    two.Create("2", 0, Place, &parent, 2);
+    UINT flags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+    EXPECT_TRUE(two.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, flags));
+    EXPECT_EQ(parent.GetTopWindow(), &two);
+    EXPECT_TRUE(one.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, flags));
+    EXPECT_TRUE(two.SetWindowPos(&one, 0, 0, 0, 0, flags));
+    EXPECT_EQ(one.GetNextWindow(), &two);
+}
