@@ -11,7 +11,8 @@ fresh() {
   mkdir -p "$tree"/src/{baselib,toolkit,records,dialog} "$tree"/src/controls/{base,text,lists} "$tree"/tools
   echo '#include "baselib/io.h"' >"$tree/src/baselib/io.cpp"
   echo '#include "toolkit/toolkit.h"' >"$tree/src/controls/text/edit.cpp"
-  echo 'set(x baselib/io.cpp' | tr ' ' '\n' | sed 's/^/  /' >"$tree/src/description_sources.cmake"
+  echo '// Nothing.' >"$tree/src/records/list.cpp"
+  printf '  baselib/io.cpp\n  records/list.cpp\n' >"$tree/src/description_sources.cmake"
   printf '  controls/text/edit.cpp\n' >"$tree/src/control_sources.cmake"
 }
 
@@ -30,6 +31,7 @@ expect() { # wanted exit code, what, file, line
 expect 0 "records include baselib" records/region.h '#include "baselib/io.h"'
 expect 0 "the dialog includes controls" dialog/dialog.h '#include "controls/text/edit.h"'
 expect 0 "a control includes the toolkit" controls/lists/list.h '#include "toolkit/toolkit.h"'
+expect 0 "a picture's record of the control half includes the toolkit" records/brush_record.h '#include "toolkit/toolkit.h"'
 expect 1 "baselib includes records" baselib/io.h '#include "records/arr.h"'
 expect 1 "records include a control" records/region.h '#include "controls/base/control.h"'
 expect 1 "the controls' base includes a control" controls/base/control.h '  #  include "controls/text/edit.h"'
@@ -40,6 +42,7 @@ expect 1 "baselib includes the toolkit" baselib/io.h '#include "toolkit/toolkit.
 expect 1 "a record's header includes the toolkit" controls/text/edit_record.h '#include "toolkit/toolkit.h"'
 expect 1 "the description half includes windows.h" baselib/io.cpp '#include <windows.h>'
 expect 1 "a record's header includes windows.h" controls/text/edit_record.h '#include <Windows.h>'
+expect 1 "a described file's header includes windows.h" records/list.h '#include <windows.h>'
 expect 1 "a path that does not start at src" dialog/dialog.h '#include "edit.h"'
 expect 1 "a file in neither half" records/region.cpp '#include "baselib/io.h"'
 expect 1 "a file in both halves" control_sources.cmake '  baselib/io.cpp'
