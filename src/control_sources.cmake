@@ -1,4 +1,9 @@
 set(PANELKIT_CONTROL_SOURCES
+  records/bitmap_record.cpp
+  records/brush_record.cpp
+  records/region_functions.cpp
+  records/region_pixels.cpp
+  records/rgn_record.cpp
   toolkit/app.cpp
   toolkit/controls.cpp
   toolkit/dc.cpp

@@ -5,15 +5,15 @@
 
 // GBK text (code page 936): a byte 0x81..0xFE followed by 0x40..0x7E or 0x80..0xFE is one character.
 
-constexpr bool slGbkIsLead(char byte)
+constexpr bool slGbkIsLead(char code)
 {
-    const unsigned char value = static_cast<unsigned char>(byte);
+    const unsigned char value = static_cast<unsigned char>(code);
     return value >= 0x81 && value <= 0xFE;
 }
 
-constexpr bool slGbkIsTrail(char byte)
+constexpr bool slGbkIsTrail(char code)
 {
-    const unsigned char value = static_cast<unsigned char>(byte);
+    const unsigned char value = static_cast<unsigned char>(code);
     return value >= 0x40 && value <= 0xFE && value != 0x7F;
 }
 

@@ -1,0 +1,4 @@
+#include "records/brush_record.h"
+
+DVrBrushCL::DVrBrushCL() = default;
+DVrBrushCL::~DVrBrushCL() = default;

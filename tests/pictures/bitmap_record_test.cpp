@@ -1,0 +1,408 @@
+#include "records/bitmap_record.h"
+#include "records/brush_record.h"
+#include "records/region_functions.h"
+#include "support/platform_pictures.h"
+
+namespace {
+
+constexpr COLORREF Grey = RGB(100, 100, 100);
+
+// The colour that placePicture has at x, y.
+COLORREF place(int x, int y)
+{
+    return RGB(x, y, 7);
+}
+
+bool isBitmap(HGDIOBJ handle)
+{
+    return ::GetObjectType(handle) == OBJ_BITMAP;
+}
+
+HGDIOBJ handleOf(DVrBitmapCL* record)
+{
+    CBitmap* const bitmap = record->GetBitmapM();
+    return bitmap != nullptr ? bitmap->GetSafeHandle() : nullptr;
+}
+
+} // namespace
+
+TEST(BitmapRecord, IsEmptyAtFirst)
+{
+    DVrBitmapCL record;
+    EXPECT_FALSE(record.IsAliveM());
+    EXPECT_TRUE(DVrBitmapCL(AliveTag).IsAliveM());
+    EXPECT_FALSE(record.HoldsBitmapM());
+    EXPECT_EQ(nullptr, record.GetBitmapM());
+    EXPECT_EQ(0, record.GetWidthM());
+    EXPECT_EQ(0, record.GetHeightM());
+    EXPECT_EQ(0, record.GetExtraM()[0]);
+    EXPECT_EQ(0, record.GetExtraM()[1]);
+    Canvas canvas(4, 4, Grey);
+    EXPECT_EQ(0, record.DrawBitmapM(&canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(0, record.DrawStretchBitmapM(&canvas.dc, 0, 0, 4, 4));
+    EXPECT_EQ(0, record.BlendBitmapM(&canvas.dc));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(0, 0));
+}
+
+TEST(BitmapRecord, LoadingReplacesAndDeletesTheBitmap)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL record;
+    EXPECT_EQ(1, record.LoadSafeBitmapM(file.path()));
+    EXPECT_EQ(6, record.GetWidthM());
+    EXPECT_EQ(4, record.GetHeightM());
+    const HGDIOBJ first = handleOf(&record);
+    EXPECT_EQ(0, record.LoadSafeBitmapM("no such picture.bmp"));
+    EXPECT_FALSE(record.HoldsBitmapM());
+    EXPECT_FALSE(isBitmap(first));
+    record.LoadBitmapM(file.path());
+    EXPECT_EQ(6, record.GetWidthM());
+    record.LoadBitmapM("no such picture.bmp");
+    EXPECT_EQ(0, record.GetWidthM());
+    EXPECT_EQ(0, record.LoadSafeBitmapM(nullptr));
+}
+
+TEST(BitmapRecord, MovingTakesTheHandleAndLetsItsOwnGoUndeleted)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    CBitmap source;
+    slLoadPicture(&source, file.path());
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    const HGDIOBJ own = handleOf(&record);
+    const HGDIOBJ moved = source.GetSafeHandle();
+    EXPECT_EQ(1, record.MoveBitmapM(&source));
+    EXPECT_EQ(nullptr, source.GetSafeHandle());
+    EXPECT_EQ(moved, handleOf(&record));
+    EXPECT_TRUE(isBitmap(own));
+    ::DeleteObject(own);
+    EXPECT_EQ(0, record.MoveBitmapM(nullptr));
+    EXPECT_EQ(moved, handleOf(&record));
+}
+
+TEST(BitmapRecord, DeletingDeletesTheBitmapAndTheRecord)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL record(AliveTag);
+    record.LoadBitmapM(file.path());
+    const HGDIOBJ handle = handleOf(&record);
+    record.DelItemM();
+    EXPECT_FALSE(record.IsAliveM());
+    EXPECT_FALSE(isBitmap(handle));
+    EXPECT_FALSE(record.HoldsBitmapM());
+}
+
+TEST(BitmapRecord, DestroyedRecordDeletesItsBitmap)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    HGDIOBJ handle = nullptr;
+    {
+        DVrBitmapCL record;
+        record.LoadBitmapM(file.path());
+        handle = handleOf(&record);
+        ASSERT_TRUE(isBitmap(handle));
+    }
+    EXPECT_FALSE(isBitmap(handle));
+}
+
+TEST(BitmapRecord, AssignmentSharesTheBitmapAndCopiesTagAndNumbers)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL source(AliveTag);
+    source.LoadBitmapM(file.path());
+    source.SetExtraM(3, 4);
+    DVrBitmapCL target;
+    target.LoadBitmapM(file.path());
+    const HGDIOBJ own = handleOf(&target);
+    target = source;
+    EXPECT_EQ(handleOf(&source), handleOf(&target));
+    EXPECT_TRUE(target.IsAliveM());
+    EXPECT_EQ(3, target.GetExtraM()[0]);
+    EXPECT_EQ(4, target.GetExtraM()[1]);
+    EXPECT_TRUE(isBitmap(own)); // Let go, not deleted.
+    ::DeleteObject(own);
+    DVrBitmapCL& same = target;
+    target = same;
+    EXPECT_EQ(handleOf(&source), handleOf(&target));
+    target = DVrBitmapCL();
+    EXPECT_FALSE(target.HoldsBitmapM());
+    EXPECT_TRUE(source.HoldsBitmapM());
+}
+
+TEST(BitmapRecord, SharedBitmapDiesWithTheFirstOfItsRecords)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL target;
+    HGDIOBJ shared = nullptr;
+    {
+        DVrBitmapCL source(AliveTag);
+        source.LoadBitmapM(file.path());
+        target = source;
+        shared = handleOf(&target);
+        EXPECT_EQ(6, target.GetWidthM());
+    }
+    EXPECT_FALSE(isBitmap(shared));
+    EXPECT_EQ(0, target.GetWidthM());
+    EXPECT_EQ(0, target.GetHeightM());
+    Canvas canvas(8, 8, Grey);
+    const int small[2] = { 2, 2 };
+    EXPECT_EQ(0, target.DrawBitmapM(&canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(0, target.DrawBitmapM(&canvas.dc, 0, 0, &small));
+    EXPECT_EQ(0, target.DrawStretchBitmapM(&canvas.dc, 0, 0, 8, 8));
+    EXPECT_EQ(0, target.BlendBitmapM(&canvas.dc));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(0, 0));
+    EXPECT_EQ(nullptr, target.GetBitmapM());
+}
+
+TEST(BitmapRecord, HandleGivenToAnotherObjectIsLeftAlone)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL first;
+    DVrBitmapCL second;
+    first.LoadBitmapM(file.path());
+    second = first;
+    const HGDIOBJ shared = handleOf(&first);
+    first.DelItemM();
+    // The system numbers its objects anew: make some until one gets the number.
+    std::vector<HGDIOBJ> made;
+    while (made.size() < 5000 && (made.empty() || made.back() != shared)) {
+        made.push_back(::CreateBitmap(1, 1, 1, 32, nullptr));
+    }
+    const bool reused = made.back() == shared;
+    EXPECT_EQ(0, second.GetWidthM());
+    second.LoadBitmapM("no such picture.bmp");
+    DVrBitmapCL third;
+    third = second;
+    second.DelItemM();
+    for (HGDIOBJ object : made) {
+        EXPECT_TRUE(isBitmap(object));
+        ::DeleteObject(object);
+    }
+    RecordProperty("reused", reused ? 1 : 0);
+}
+
+TEST(BitmapRecord, DrawsAtItsOwnSizeWithoutASmallerOne)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    const int equal[2] = { 6, 4 };
+    const int larger[2] = { 60, 40 };
+    for (const int(*size)[2] : { static_cast<const int(*)[2]>(nullptr), &equal, &larger }) {
+        Canvas canvas(20, 20, Grey);
+        EXPECT_EQ(1, record.DrawBitmapM(&canvas.dc, 3, 2, size));
+        EXPECT_EQ(Grey, canvas.dc.GetPixel(2, 2));
+        EXPECT_EQ(place(0, 0), canvas.dc.GetPixel(3, 2));
+        EXPECT_EQ(place(5, 3), canvas.dc.GetPixel(8, 5));
+        EXPECT_EQ(Grey, canvas.dc.GetPixel(9, 5));
+        EXPECT_EQ(Grey, canvas.dc.GetPixel(8, 6));
+    }
+}
+
+TEST(BitmapRecord, SmallerSizeInOneDirectionScales)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(8, 8));
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    const int narrow[2] = { 4, 8 };
+    Canvas canvas(20, 20, Grey);
+    EXPECT_EQ(1, record.DrawBitmapM(&canvas.dc, 0, 0, &narrow));
+    EXPECT_NE(Grey, canvas.dc.GetPixel(3, 7));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(4, 7));
+    const int low[2] = { 12, 4 };
+    Canvas other(20, 20, Grey);
+    EXPECT_EQ(1, record.DrawBitmapM(&other.dc, 0, 0, &low));
+    EXPECT_NE(Grey, other.dc.GetPixel(11, 3));
+    EXPECT_EQ(Grey, other.dc.GetPixel(11, 4));
+}
+
+TEST(BitmapRecord, ScaledSourceBeginsAtTheDestinationsPlace)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(16, 16));
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    CBitmap bitmap;
+    slLoadPicture(&bitmap, file.path());
+    const int size[2] = { 8, 8 };
+    Canvas canvas(20, 20, Grey);
+    EXPECT_EQ(1, record.DrawBitmapM(&canvas.dc, 4, 2, &size));
+    // The same step by the platform alone.
+    Canvas expected(20, 20, Grey);
+    CDC source;
+    source.CreateCompatibleDC(&expected.dc);
+    const HGDIOBJ previous = ::SelectObject(source.m_hDC, bitmap.m_hObject);
+    expected.dc.StretchBlt(4, 2, 8, 8, &source, 4, 2, 16, 16, SRCCOPY);
+    ::SelectObject(source.m_hDC, previous);
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            ASSERT_EQ(expected.dc.GetPixel(x, y), canvas.dc.GetPixel(x, y)) << x << "," << y;
+        }
+    }
+    // And not from the bitmap's own corner on.
+    const COLORREF corner = canvas.dc.GetPixel(4, 2);
+    EXPECT_GE(GetRValue(corner), 4);
+    EXPECT_GE(GetGValue(corner), 2);
+}
+
+TEST(BitmapRecord, StretchesIntoARectangle)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(4, 4));
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    Canvas canvas(20, 20, Grey);
+    EXPECT_EQ(1, record.DrawStretchBitmapM(&canvas.dc, 2, 3, 12, 8));
+    EXPECT_EQ(place(0, 0), canvas.dc.GetPixel(2, 3));
+    EXPECT_EQ(place(3, 3), canvas.dc.GetPixel(13, 10));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(14, 10));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(13, 11));
+}
+
+TEST(BitmapRecord, PaintingOverExchangesWidthAndHeight)
+{
+    for (const auto& measures :
+        { std::pair<int, int>(6, 4), std::pair<int, int>(3, 7), std::pair<int, int>(5, 5) }) {
+        const int w = measures.first;
+        const int h = measures.second;
+        const TestFile file("bitmap_record_test.bmp", placePicture(w, h));
+        DVrBitmapCL record;
+        record.LoadBitmapM(file.path());
+        Canvas canvas(10, 10, Grey);
+        canvas.dc.SetTextColor(RGB(1, 2, 3));
+        EXPECT_EQ(1, record.BlendBitmapM(&canvas.dc));
+        EXPECT_EQ(RGB(1, 2, 3), canvas.dc.GetTextColor());
+        EXPECT_EQ(Grey, canvas.dc.GetPixel(0, 0));
+        record.DrawBitmapM(&canvas.dc, 0, 0, nullptr);
+        for (int y = 0; y < h; ++y) {
+            for (int x = 0; x < w; ++x) {
+                const COLORREF expected = x < h && y < w ? RGB(0, 0, 255) : place(x, y);
+                EXPECT_EQ(expected, canvas.dc.GetPixel(x, y)) << w << "x" << h << " at " << x << "," << y;
+            }
+        }
+    }
+}
+
+TEST(BitmapRecord, BitmapSelectedElsewhereIsNotPainted)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(4, 4));
+    DVrBitmapCL record;
+    record.LoadBitmapM(file.path());
+    CDC other;
+    other.CreateCompatibleDC(nullptr);
+    const HGDIOBJ previous = ::SelectObject(other.m_hDC, handleOf(&record));
+    Canvas canvas(4, 4, Grey);
+    EXPECT_EQ(0, record.BlendBitmapM(&canvas.dc));
+    ::SelectObject(other.m_hDC, previous);
+    EXPECT_EQ(1, record.BlendBitmapM(&canvas.dc));
+    EXPECT_EQ(0, record.BlendBitmapM(nullptr));
+}
+
+TEST(BitmapRecordList, AddingTakesTheNameAsGiven)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    std::string name = file.path();
+    name.resize(name.size() - 4);
+    DVrBitmapArr list;
+    EXPECT_EQ(-1, list.AddBitmapM(name.c_str()));
+    EXPECT_EQ(0, list.GetBoundM());
+    EXPECT_EQ(0, list.GetAvailableNumM());
+    EXPECT_EQ(0, list.AddBitmapM(file.path()));
+    EXPECT_EQ(1, list.AddBitmapM(file.path()));
+    EXPECT_EQ(-1, list.AddBitmapM("no such picture.bmp"));
+    EXPECT_EQ(2, list.GetBoundM());
+    EXPECT_EQ(2, list.GetAvailableNumM());
+    int size[2] = { -1, -1 };
+    EXPECT_EQ(1, list.GetBmpSizeM(1, size));
+    EXPECT_EQ(6, size[0]);
+    EXPECT_EQ(4, size[1]);
+}
+
+TEST(BitmapRecordList, StaysLoadedWhenItGrows)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapArr list;
+    for (int i = 5; i < 20; ++i) {
+        ASSERT_EQ(i - 5, list.AddBitmapM(file.path()));
+    }
+    int size[2] = { 0, 0 };
+    // The first four were assigned from the store inside the list, which still shares them.
+    for (int i = 0; i < 15; ++i) {
+        EXPECT_EQ(1, list.GetBmpSizeM(i, size));
+        EXPECT_EQ(6, size[0]) << i;
+    }
+}
+
+TEST(BitmapRecordList, SettingCompletesANameWithoutExtension)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    const TestFile upper("bitmap_record_upper.DAT", placePicture(3, 2));
+    std::string name = file.path();
+    name.resize(name.size() - 4);
+    DVrBitmapArr list;
+    EXPECT_EQ(1, list.SetBitmapM(2, name.c_str()));
+    EXPECT_EQ(3, list.GetBoundM());
+    EXPECT_EQ(1, list.GetAvailableNumM());
+    EXPECT_EQ(6, list.ElementAtM(2).GetWidthM());
+    EXPECT_EQ(1, list.SetBitmapM(2, upper.path()));
+    EXPECT_EQ(3, list.ElementAtM(2).GetWidthM());
+    EXPECT_EQ(0, list.SetBitmapM(2, "no such picture"));
+    EXPECT_EQ(1, list.CheckAvailableM(2)); // Alive and empty.
+    EXPECT_FALSE(list.ElementAtM(2).HoldsBitmapM());
+    EXPECT_EQ(0, list.SetBitmapM(-1, file.path()));
+    EXPECT_EQ(0, list.SetBitmapM(0, nullptr));
+}
+
+TEST(BitmapRecordList, InsertingShiftsAndAFailedOneIsDeleted)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    const TestFile small("bitmap_record_small.bmp", placePicture(3, 2));
+    std::string name = small.path();
+    name.resize(name.size() - 4);
+    DVrBitmapArr list;
+    list.AddBitmapM(file.path());
+    EXPECT_EQ(1, list.InsertBitmapM(0, name.c_str()));
+    EXPECT_EQ(2, list.GetBoundM());
+    EXPECT_EQ(3, list.ElementAtM(0).GetWidthM());
+    EXPECT_EQ(6, list.ElementAtM(1).GetWidthM());
+    EXPECT_EQ(0, list.InsertBitmapM(1, "no such picture.bmp"));
+    EXPECT_EQ(3, list.GetBoundM());
+    EXPECT_EQ(2, list.GetAvailableNumM());
+    EXPECT_EQ(0, list.CheckAvailableM(1));
+    EXPECT_EQ(6, list.ElementAtM(2).GetWidthM());
+    EXPECT_EQ(0, list.InsertBitmapM(-1, file.path()));
+}
+
+TEST(BitmapRecordList, DrawsAliveSlotsThatHoldABitmap)
+{
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapArr list;
+    list.AddBitmapM(file.path());
+    list.AddItemM(DVrBitmapCL(AliveTag));
+    list.AddBitmapM(file.path());
+    list.AddBitmapM(file.path());
+    list.DelItemM(2);
+    Canvas canvas(8, 8, Grey);
+    EXPECT_EQ(0, list.DrawBitmapM(1, &canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(0, list.DrawBitmapM(2, &canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(Grey, canvas.dc.GetPixel(0, 0));
+    EXPECT_EQ(1, list.DrawBitmapM(0, &canvas.dc, 1, 1, nullptr));
+    EXPECT_EQ(place(0, 0), canvas.dc.GetPixel(1, 1));
+    int size[2] = { -1, -1 };
+    EXPECT_EQ(1, list.GetBmpSizeM(1, size));
+    EXPECT_EQ(0, size[0]);
+    EXPECT_EQ(0, list.GetBmpSizeM(2, size));
+    EXPECT_EQ(0, list.GetBmpSizeM(-1, size));
+    EXPECT_EQ(0, list.GetBmpSizeM(9, size));
+}
+
+TEST(BrushRecord, HoldsNoBrushAtFirstAndDeletesItsOwn)
+{
+    HGDIOBJ handle = nullptr;
+    {
+        DVrBrushCL brush;
+        EXPECT_EQ(nullptr, brush.GetSafeHandle());
+        brush.CreateSolidBrush(RGB(1, 2, 3));
+        handle = brush.GetSafeHandle();
+        ASSERT_EQ(static_cast<DWORD>(OBJ_BRUSH), ::GetObjectType(handle));
+    }
+    EXPECT_EQ(0U, ::GetObjectType(handle));
+}
