@@ -102,6 +102,11 @@ template <int N> int* TaggedArr<N>::ElementAtPM(int index)
     return insideM(index) ? store_->values.data() + static_cast<std::ptrdiff_t>(index) * N : nullptr;
 }
 
+template <int N> int TaggedArr<N>::GetFirstIdxM() const
+{
+    return GetNextIdxM(-1);
+}
+
 template <int N> int TaggedArr<N>::GetNextIdxM(int from) const
 {
     const int bound = GetBoundM();

@@ -32,7 +32,7 @@ public:
     int* ElementAtPM(int index);             // The same to write to; valid until the list grows.
 
     int GetNextIdxM(int from) const; // First alive slot above `from`, -1 when none.
-    int GetFirstIdxM() const { return GetNextIdxM(-1); }
+    int GetFirstIdxM() const;
     int GetLastIdxM() const; // Last alive slot, -1 when none.
 
     // Deletes a slot; the last one also lowers the bound, by one only. Outside 0..bound-1: nothing. 1.

@@ -44,9 +44,9 @@ public:
     int SetIncrementM(
         int n);          // Slots that InsertItemM and AddItemM(int, int*) add at a time; n < 1: unchanged.
     int AddSizeM(int n); // n slots more; n < 1: none.
-    int GetLengthM() const { return length_; }
-    int GetBoundM() const { return bound_; }
-    int GetAvailableNumM() const { return available_; }
+    int GetLengthM() const;
+    int GetBoundM() const;
+    int GetAvailableNumM() const;
     int GetAvailableNumM(int i);      // Alive slots behind slot i.
     int CheckAvailableM(int i) const; // 1 for an alive slot of the array, otherwise 0.
 
@@ -77,17 +77,17 @@ public:
     T* ElementAtPM(int i);
     // A slot of the store. Outside it: a deleted element that belongs to no array.
     T& ElementAtM(int i);
-    T& operator[](int i) { return ElementAtM(i); }
+    T& operator[](int i);
 
     // The first alive slot behind `from` in index order; its index is in *idx too, -1 when there is none (out
     // is then unchanged, a pointer null).
     int GetNextM(T* out, int* idx, int from) const;
-    int GetFirstM(T* out, int* idx) const { return GetNextM(out, idx, -1); }
+    int GetFirstM(T* out, int* idx) const;
     const T* GetNextPM(int* idx, int from) const;
-    const T* GetFirstPM(int* idx) const { return GetNextPM(idx, -1); }
+    const T* GetFirstPM(int* idx) const;
     const T* GetLastPM(int* idx) const; // The last alive slot.
     int GetNextIdxM(int from) const;
-    int GetFirstIdxM() const { return GetNextIdxM(-1); }
+    int GetFirstIdxM() const;
 
 protected:
     T* getCurrentItemPrtM(); // The store in use.

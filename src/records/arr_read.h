@@ -4,6 +4,42 @@
 
 // Access and iteration of Arr.
 
+// None of these is inline in the class: an importing program without optimization calls the exported one.
+template <class T> int Arr<T>::GetLengthM() const
+{
+    return length_;
+}
+
+template <class T> int Arr<T>::GetBoundM() const
+{
+    return bound_;
+}
+
+template <class T> int Arr<T>::GetAvailableNumM() const
+{
+    return available_;
+}
+
+template <class T> T& Arr<T>::operator[](int i)
+{
+    return ElementAtM(i);
+}
+
+template <class T> int Arr<T>::GetFirstM(T* out, int* idx) const
+{
+    return GetNextM(out, idx, -1);
+}
+
+template <class T> const T* Arr<T>::GetFirstPM(int* idx) const
+{
+    return GetNextPM(idx, -1);
+}
+
+template <class T> int Arr<T>::GetFirstIdxM() const
+{
+    return GetNextIdxM(-1);
+}
+
 template <class T> int Arr<T>::GetAvailableNumM(int i)
 {
     int count = 0;
