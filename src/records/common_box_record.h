@@ -1,0 +1,60 @@
+#pragma once
+#include "baselib/base.h"
+#include "records/fields.h"
+
+class DControlCommonCL;
+class DVrRgnCL;
+class Int2DArr;
+
+// The fields that open every control record, and the default shapes of a control.
+class PANELKIT_API DVrCommonBoxCL : public VrBaseCL
+{
+public:
+    DVrCommonBoxCL() = default;
+    explicit DVrCommonBoxCL(char tag)
+        : VrBaseCL(tag)
+    {
+    }
+
+    // Reads window index, the item index only when withItemIndex is nonzero, function id, position and
+    // size (pixels); the other fields keep their values. Always 1.
+    int FmReadInterfaceM(VrIOCL* io, int withItemIndex);
+    // Takes the window index as given, then reads item index, function id, extra value, region kind,
+    // position, size and show condition. The item index that was read.
+    int FmInputInterfaceM(int windowIndex, VrIOCL* io);
+
+    // Hands window index, function id, position, size and show condition to a control. Always 1.
+    int InitCommonCtrlM(DControlCommonCL* control) const;
+
+    // Shapes in the control's own client coordinates. A region that the argument held is deleted.
+    void GetButtonRgnM(DVrRgnCL* region) const;       // The rectangle; nothing unless the region kind is 0.
+    void GetDrawRgnM(DVrRgnCL* region) const;         // The outline polygon.
+    void GetRotateButtonRgnM(DVrRgnCL* region) const; // The inscribed ellipse.
+
+    int GetWindowIndexM() const { return windowIndex_; }
+    int GetItemIndexM() const { return itemIndex_; }
+    int GetFuncIDM() const { return functionId_; }
+    int GetExtraValueM() const { return extraValue_; }
+    int GetRegionKindM() const { return regionKind_; }
+    const int (&GetPositionM() const)[2] { return position_; }
+    const int (&GetSizeM() const)[2] { return size_; }
+    int GetShowConditionM() const { return showCondition_; }
+
+    void SetWindowIndexM(int index) { windowIndex_ = index; }
+    void SetShowConditionM(int condition) { showCondition_ = condition; }
+
+    // The common fields of a main section, named as every other field is.
+    void EachCommonFieldM(FieldVisitorCL& visitor, int withItemIndex = 0);
+
+private:
+    void setPolygonM(Int2DArr* points) const;
+
+    int windowIndex_ { 0 };
+    int itemIndex_ { 0 };
+    int functionId_ { 0 };
+    int extraValue_ { 0 };
+    int regionKind_ { 0 };
+    int position_[2] {};
+    int size_[2] {};
+    int showCondition_ { -1 };
+};

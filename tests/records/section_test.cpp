@@ -1,0 +1,182 @@
+#include "baselib/gbk_texts.h"
+#include "controls/buttons/label_record.h"
+#include "records/section.h"
+#include "support/description.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+// Reads the label section of a description.
+struct LabelsCL
+{
+    explicit LabelsCL(const std::string& utf8)
+    {
+        const DescriptionFileCL file(utf8);
+        VrIOCL io;
+        io.OpenM(file.path(), "r");
+        status = slReadSection(io, records, &count);
+    }
+    DVrLabelArr records;
+    int count { -1 };
+    SectionStatus status;
+};
+
+} // namespace
+
+TEST(Section, MissingHeaderLeavesTheKindAbsent)
+{
+    const LabelsCL labels("[版本号]\n1\n");
+    EXPECT_EQ(labels.status, SectionStatus::Missing);
+    EXPECT_EQ(labels.records.GetBoundM(), 0);
+}
+
+TEST(Section, UnopenedReaderFindsNothing)
+{
+    VrIOCL io;
+    io.OpenM("no such file", "r");
+    DVrLabelArr records;
+    int count = -1;
+    EXPECT_EQ(slReadSection(io, records, &count), SectionStatus::Missing);
+    EXPECT_EQ(count, 0);
+}
+
+TEST(Section, CountOfZeroEndsTheSectionWhateverFollows)
+{
+    EXPECT_EQ(LabelsCL("[标题]\n0\n任何文字 [ ] 5\n1 1 1 1\n").status, SectionStatus::Empty);
+    EXPECT_EQ(LabelsCL("[标题]\n-1\n").status, SectionStatus::Empty);
+}
+
+TEST(Section, UnreadableCountIsZero)
+{
+    EXPECT_EQ(LabelsCL("[标题]\nabc\n").status, SectionStatus::Empty);
+}
+
+TEST(Section, CountBeyondTheFilesBytesIsBroken)
+{
+    EXPECT_EQ(
+        LabelsCL("[标题]\n2000000000\n0\n1 2 3 4 5 6 1\ntext\n0 -1 0 0\n").status, SectionStatus::Broken);
+    EXPECT_EQ(LabelsCL("[标题]\n4\n\n\n").status, SectionStatus::Broken); // Three bytes are left behind it.
+    EXPECT_EQ(LabelsCL("[标题]\n3\n\n\n").status, SectionStatus::Read);
+}
+
+TEST(Section, ShortSectionStillYieldsAsManyRecordsAsItsCountSays)
+{
+    LabelsCL labels("[标题]\n3\n0\n1 11 2 3 4 5 3\n文字\n1 255 0 0\n2 12 7\n");
+    ASSERT_EQ(labels.status, SectionStatus::Read);
+    ASSERT_EQ(labels.records.GetAvailableNumM(), 3);
+    EXPECT_EQ(labels.records[0].GetFuncIDM(), 11);
+    EXPECT_EQ(labels.records[1].GetFuncIDM(), 12);
+    EXPECT_EQ(labels.records[1].GetPositionM()[0], 7);
+    EXPECT_EQ(labels.records[1].GetPositionM()[1], 0); // Not that of the record before it.
+    EXPECT_EQ(labels.records[2].GetFuncIDM(), 0);
+}
+
+TEST(Section, CommentLinesAreSkippedUnread)
+{
+    LabelsCL labels("[标题]\n1 注释\n2\n7 7 7\n[标题] 99\n1 11 2 3 4 5 1\ntext\n0 -1 0 0\n");
+    ASSERT_EQ(labels.records.GetAvailableNumM(), 1);
+    EXPECT_EQ(labels.records[0].GetFuncIDM(), 11);
+}
+
+TEST(Section, HugeOrNegativeCommentCountsNeitherOverflowNorHang)
+{
+    EXPECT_EQ(LabelsCL("[标题]\n1\n2147483647\n1 11 2 3 4 5 1\n").records[0].GetFuncIDM(), 0);
+    EXPECT_EQ(LabelsCL("[标题]\n1\n-5 1 11 2 3 4 5 1\n").records[0].GetFuncIDM(), 11);
+}
+
+TEST(Section, SectionBeforeTheDialogHeaderIsFound)
+{
+    LabelsCL labels("[标题]\n1\n0\n1 11 2 3 4 5 1\ntext\n0 -1 0 0\n[版本号]\n1\n[对话框]\n0\n");
+    EXPECT_EQ(labels.records.GetAvailableNumM(), 1);
+}
+
+namespace {
+
+// A kind with a secondary section, for the walk alone.
+class NoteCL : public DVrCommonBoxCL
+{
+public:
+    NoteCL() = default;
+    explicit NoteCL(char tag)
+        : DVrCommonBoxCL(tag)
+    {
+    }
+    int FmReadInterfaceM(VrIOCL* io) { return slReadRecord(*this, io); }
+    void EachFieldM(FieldVisitorCL&) { }
+    CharArr notes;
+};
+
+int attachNote(NoteCL& record, const SectionEntryCL& entry)
+{
+    const std::string all = record.notes.TextM() + std::to_string(entry.numbers[0]) + entry.texts[0] + ";";
+    return record.notes.SetM(all.c_str());
+}
+
+class NoteArr : public RecordArr<NoteCL>
+{
+public:
+    static constexpr const char* Header = "[notes]";
+    static constexpr std::array<SecondarySectionCL<NoteCL>, 1> Secondaries {
+        { { "[more]", 1, 1, TextSize, attachNote } }
+    };
+};
+
+SectionStatus readNotes(const std::string& bytes, NoteArr& notes)
+{
+    const TempFile file(bytes);
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    int count = 0;
+    return slReadSection(io, notes, &count);
+}
+
+const std::string TwoNotes = "[notes]\n2\n0\n1 7 0 0 1 1\n2 8 0 0 1 1\n";
+
+} // namespace
+
+TEST(SecondarySection, MissingOneLeavesTheRecordsButIsIncomplete)
+{
+    NoteArr notes;
+    EXPECT_EQ(readNotes(TwoNotes, notes), SectionStatus::Incomplete);
+    EXPECT_EQ(notes.GetAvailableNumM(), 2);
+}
+
+TEST(SecondarySection, BrokenOneCountsAsMissing)
+{
+    NoteArr notes;
+    EXPECT_EQ(readNotes(TwoNotes + "[more]\n1000\n0\n7 1 a\n", notes), SectionStatus::Incomplete);
+    EXPECT_STREQ(notes[0].notes.TextM(), "");
+}
+
+TEST(SecondarySection, EmptyOneIsComplete)
+{
+    NoteArr notes;
+    EXPECT_EQ(readNotes(TwoNotes + "[more]\n0\n", notes), SectionStatus::Read);
+}
+
+TEST(SecondarySection, EntriesGoToTheFirstRecordWithTheirIdInFileOrder)
+{
+    NoteArr notes;
+    EXPECT_EQ(readNotes("[notes]\n3\n0\n1 7 0 0 1 1\n2 8 0 0 1 1\n3 7 0 0 1 1\n"
+                        "[more]\n4\n1\ncomment\n8 5 e\n7 1 a\n9 1 nobody\n7 1 a\n",
+                  notes),
+        SectionStatus::Read);
+    EXPECT_STREQ(notes[0].notes.TextM(), "1a;1a;");
+    EXPECT_STREQ(notes[1].notes.TextM(), "5e;");
+    EXPECT_STREQ(notes[2].notes.TextM(), "");
+}
+
+TEST(SecondarySection, NullWordsSkipTheEntryAndOtherSpellingsDoNot)
+{
+    NoteArr notes;
+    readNotes(TwoNotes + "[more]\n4\n0\n7 1 NULL\n7 2 null\n7 3 Null\n7 4 NULLx\n", notes);
+    EXPECT_STREQ(notes[0].notes.TextM(), "3Null;4NULLx;");
+}
+
+TEST(SecondarySection, EntryThatEndsEarlyHasZeroAndEmptyTextNotThePreviousOnes)
+{
+    NoteArr notes;
+    readNotes("[notes]\n2\n0\n1 0 0 0 1 1\n2 8 0 0 1 1\n[more]\n2\n0\n8 5 e\n", notes);
+    EXPECT_STREQ(notes[0].notes.TextM(), "0;");
+    EXPECT_STREQ(notes[1].notes.TextM(), "5e;");
+}
