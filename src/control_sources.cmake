@@ -1,4 +1,13 @@
 set(PANELKIT_CONTROL_SOURCES
+  controls/base/background.cpp
+  controls/base/common_box_control.cpp
+  controls/base/control_common.cpp
+  controls/base/control_geometry.cpp
+  controls/buttons/group_box.cpp
+  controls/buttons/label.cpp
+  dialog/basic_dialog.cpp
+  dialog/basic_dialog_build.cpp
+  dialog/basic_dialog_finish.cpp
   records/bitmap_record.cpp
   records/brush_record.cpp
   records/region_functions.cpp

@@ -15,9 +15,15 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
+  controls/buttons/group_box_record.cpp
+  controls/buttons/label_record.cpp
+  dialog/dialog_header.cpp
   records/bmp_record.cpp
+  records/common_box_record.cpp
+  records/fields.cpp
   records/picture_boundary.cpp
   records/picture_edges.cpp
   records/picture_pixels.cpp
+  records/section.cpp
   records/string_arr.cpp
 )

@@ -1,0 +1,33 @@
+#pragma once
+#include "records/brush_record.h"
+#include "toolkit/toolkit.h"
+
+// The solid background colour of a control with the brush that paints it. Copying copies the colour only.
+class PANELKIT_API BackgroundCL
+{
+public:
+    explicit BackgroundCL(COLORREF colour)
+        : colour_(colour)
+    {
+    }
+    BackgroundCL(const BackgroundCL& other)
+        : colour_(other.colour_)
+    {
+    }
+    BackgroundCL& operator=(const BackgroundCL& other)
+    {
+        colour_ = other.colour_;
+        return *this;
+    }
+
+    COLORREF GetColourM() const { return colour_; }
+    void SetColourM(COLORREF colour) { colour_ = colour; }
+
+    // Answers a colour request: sets the text background and replaces the brush, which stays owned here.
+    HBRUSH AnswerM(CDC* dc);
+    void DeleteBrushM() { brush_.DeleteObject(); }
+
+private:
+    COLORREF colour_;
+    DVrBrushCL brush_;
+};

@@ -1,0 +1,93 @@
+#pragma once
+#include "baselib/base.h"
+#include "controls/base/control_common.h"
+#include "controls/base/messages.h"
+
+// What every kind of control is made of, in this order: a platform control, the common base, the element
+// base; with what all kinds do alike. Copying copies the description, never the window.
+template <class PlatformTP> class ControlCL : public PlatformTP, public DControlCommonCL, public VrBaseCL
+{
+public:
+    ControlCL() = default;
+    explicit ControlCL(char tag)
+        : VrBaseCL(tag)
+    {
+    }
+    ControlCL(const ControlCL& other)
+        : PlatformTP()
+        , DControlCommonCL(other)
+        , VrBaseCL(other)
+    {
+    }
+    // A window that the target still has is destroyed: it showed what the target was before.
+    ControlCL& operator=(const ControlCL& other)
+    {
+        if (this != &other) {
+            PlatformTP::DestroyWindow();
+            DControlCommonCL::operator=(other);
+            VrBaseCL::operator=(other);
+            InitialCommonM(nullptr);
+        }
+        return *this;
+    }
+
+    // Destroys the window and marks the element deleted.
+    void DelItemM()
+    {
+        PlatformTP::DestroyWindow();
+        SetDeleteTagM(DeletedTag);
+    }
+
+    // 0 and 5 do nothing, 1 enables, 2 disables, 3 shows, 4 hides: 1. Any other command: 0.
+    int SetItemCmdM(int command)
+    {
+        if (command < 0 || command > 5) {
+            return 0;
+        }
+        if (this->GetSafeHwnd() != nullptr) {
+            if (command == 1 || command == 2) {
+                this->EnableWindow(command == 1);
+            } else if (command == 3 || command == 4) {
+                this->ShowWindow(command == 3 ? SW_SHOW : SW_HIDE);
+            }
+        }
+        return 1;
+    }
+
+    // Stacks the window just behind another, and shows it. Always 1.
+    int SetZOrderM(const CWnd* after)
+    {
+        this->SetWindowPos(after, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
+        return 1;
+    }
+
+    // DControlCommonCL's report, not the platform's message handler of that name.
+    using DControlCommonCL::OnMouseMove;
+
+protected:
+    // Records the control as its own window once the platform has created it.
+    int createdM(BOOL created)
+    {
+        if (created) {
+            InitialCommonM(this);
+        }
+        return created;
+    }
+
+    // Posts a message with the control's id to the parent window.
+    void postToParentM(unsigned message, LPARAM lParam = 0)
+    {
+        ::PostMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
+    }
+    void sendToParentM(unsigned message, LPARAM lParam = 0)
+    {
+        ::SendMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
+    }
+
+    // The shared focus handler of most kinds: default handling, then the report to the parent.
+    void reportFocusM(CWnd* oldFocus)
+    {
+        PlatformTP::OnSetFocus(oldFocus);
+        postToParentM(FocusGainedMsg);
+    }
+};

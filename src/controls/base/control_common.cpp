@@ -1,0 +1,101 @@
+#include "controls/base/control_common.h"
+#include "baselib/gbk.h"
+#include "controls/base/messages.h"
+#include <cstring>
+
+DControlCommonCL::~DControlCommonCL() = default;
+
+DControlCommonCL& DControlCommonCL::operator=(const DControlCommonCL& other)
+{
+    windowIndex_ = other.windowIndex_;
+    selfIndex_ = other.selfIndex_;
+    window_ = other.window_;
+    SetPositionM(other.position_);
+    SetSizeM(other.size_);
+    functionId_ = other.functionId_;
+    showCondition_ = other.showCondition_;
+    std::memmove(descript_, other.descript_, sizeof descript_);
+    return *this;
+}
+
+void DControlCommonCL::SetBaseInfoM(int windowIndex, int selfIndex, int functionId)
+{
+    windowIndex_ = windowIndex;
+    selfIndex_ = selfIndex;
+    functionId_ = functionId;
+}
+
+void DControlCommonCL::SetPositionM(const int position[2])
+{
+    position_[0] = position[0];
+    position_[1] = position[1];
+}
+
+void DControlCommonCL::SetSizeM(const int size[2])
+{
+    size_[0] = size[0];
+    size_[1] = size[1];
+}
+
+int DControlCommonCL::GetPosM(int position[2]) const
+{
+    position[0] = position_[0];
+    position[1] = position_[1];
+    return 1;
+}
+
+int DControlCommonCL::GetSizeM(int size[2]) const
+{
+    size[0] = size_[0];
+    size[1] = size_[1];
+    return 1;
+}
+
+void DControlCommonCL::SetDescriptM(const char* text)
+{
+    slCopyText(descript_, DescriptSize, text);
+}
+
+int DControlCommonCL::AddRelationItemM(int a, int b, int c)
+{
+    const int triple[3] = { a, b, c };
+    return relationItems_.AddItemM(triple);
+}
+
+void DControlCommonCL::doRelationM() const
+{
+    for (int i = relationItems_.GetFirstIdxM(); i >= 0; i = relationItems_.GetNextIdxM(i)) {
+        int triple[3];
+        relationItems_.GetItemM(triple, i);
+        doRelationItemM(triple[0], triple[1], triple[2]);
+    }
+}
+
+int DControlCommonCL::doRelationItemM(int, int b, int) const
+{
+    CWnd* parent = hasWindowM() ? window_->GetParent() : nullptr;
+    return parent != nullptr && parent->GetDlgItem(b) != nullptr ? 1 : 0;
+}
+
+int DControlCommonCL::CheckLegalM(int ask)
+{
+    CWnd* mainWindow = ask != 0 ? AfxGetMainWnd() : nullptr;
+    if (mainWindow != nullptr) {
+        mainWindow->SendMessage(QueryPermissionMsg, reinterpret_cast<WPARAM>(&legalFlag_), 0);
+    }
+    return legalFlag_;
+}
+
+void DControlCommonCL::OnMouseMove(CWnd* target, UINT, const CPoint& point)
+{
+    if (target == nullptr) {
+        return;
+    }
+    CPoint onScreen = point;
+    if (hasWindowM()) {
+        window_->ClientToScreen(&onScreen);
+    }
+    PointerReportCL report { static_cast<int>(onScreen.x), static_cast<int>(onScreen.y), window_ };
+    target->SendMessage(
+        PointerReportMsg, reinterpret_cast<WPARAM>(&report), reinterpret_cast<LPARAM>(descript_));
+}

@@ -1,0 +1,115 @@
+#pragma once
+#include "baselib/int3d_arr.h"
+#include "toolkit/toolkit.h"
+
+// What the host and the application know of any control: ids, described place, window, relations.
+// Lengths are pixels. Without a live window the geometry getters give 0 and the setters do nothing.
+class PANELKIT_API DControlCommonCL
+{
+public:
+    static constexpr int DescriptSize = 128; // Bytes, with the terminator.
+
+    DControlCommonCL() = default;
+    DControlCommonCL(const DControlCommonCL&) = default; // The relation items are shared, not duplicated.
+    // The relation items and the legal flag of the target stay.
+    DControlCommonCL& operator=(const DControlCommonCL& other);
+    virtual ~DControlCommonCL();
+
+    void SetWinIdxM(int index) { windowIndex_ = index; }
+    int GetWinIdxM() const { return windowIndex_; }
+    void SetSelfIdxM(int index) { selfIndex_ = index; }
+    void SetFunctionIDM(int id) { functionId_ = id; }
+    int GetFunctionIDM() const { return functionId_; }
+    void SetBaseInfoM(int windowIndex, int selfIndex, int functionId);
+    void SetShowConditionM(int condition) { showCondition_ = condition; }
+    int GetShowConditionM() const { return showCondition_; }
+
+    // The described place: left, top and width, height. Setting it moves no window.
+    void SetPositionM(const int position[2]);
+    void SetSizeM(const int size[2]);
+    int GetPosM(int position[2]) const; // Always 1.
+    int GetSizeM(int size[2]) const;    // Always 1.
+
+    // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character.
+    void SetDescriptM(const char* text);
+    const char* GetDescriptM() const { return descript_; }
+
+    int AddRelationItemM(int a, int b, int c); // The index of the new triple.
+    const Int3DArr& GetRelationItemsM() const { return relationItems_; }
+    // The relation hook: calls doRelationItemM for each triple; 1 when there is an item with id b, else 0.
+    // It changes nothing.
+    void doRelationM() const;
+    int doRelationItemM(int a, int b, int c) const;
+
+    void ShowObjectM(bool show);
+    void SetVisibleM(int visible); // Shows for every value but 0.
+
+    // Edges and sizes of the client rectangle, in the parent's client coordinates.
+    int GetLeftM() const;
+    int GetTopM() const;
+    int GetRightM() const;
+    int GetButtomM() const;
+    int GetWidthM() const;
+    int GetHeightM() const;
+
+    // These move or size the window rectangle, frame included, which the getters above leave out.
+    void SetPosM(int top, int left); // The top comes first.
+    void SetLeftM(int left);
+    void SetTopM(int top);
+    void SetRightM(int right);
+    void SetButtomM(int bottom);
+    void SetWidthM(int width);
+    void SetHeightM(int height);
+    void MoveM(int dx, int dy);
+    void SetCenterM(const CPoint& centre);
+    void LayoutControlM(); // Moves the window to the described place.
+
+    // These move the other control: to this left; to this vertical centre; to this horizontal centre.
+    void AlignLeftM(DControlCommonCL* other);
+    void AlignCenterHorizonM(DControlCommonCL* other);
+    void AlignCenterVerticalM(DControlCommonCL* other);
+
+    // Stores a described place, each value truncated toward zero. Moves nothing.
+    void UpdatePositionM(float left, float top, float width, float height);
+    // Stores the place as truncated fractions of the parent's client size: zeros inside the parent.
+    void UpdatePositionM();
+
+    // Whether the application allows an action. ask 0: the last answer. Otherwise sends 1361 with the
+    // address of the flag to the thread's main window (no main window: the flag stays) and returns it.
+    int CheckLegalM(int ask);
+    // Sends 3044 to the target: wParam a PointerReportCL, lParam the description. Null target: nothing.
+    void OnMouseMove(CWnd* target, UINT flags, const CPoint& point);
+
+protected:
+    void InitialCommonM(CWnd* window) { window_ = window; }
+    void DoAfterCreateM(CWnd* window) { window_ = window; }
+    CWnd* windowM() const { return window_; }
+    // The described place as a window can have it: positions and sizes within -32767..32767.
+    CRect describedRectM() const;
+
+private:
+    bool hasWindowM() const;
+    CRect inParentM(CRect rect) const; // From screen to the parent's client coordinates.
+    CRect clientRectM() const;         // Both in the parent's client coordinates.
+    CRect windowRectM() const;
+    void placeM(const CRect& rect);
+
+    Int3DArr relationItems_;
+    int windowIndex_ { 0 };
+    int selfIndex_ { 0 };
+    CWnd* window_ { nullptr };
+    int position_[2] {};
+    int size_[2] {};
+    int functionId_ { 0 };
+    int showCondition_ { 0 };
+    int legalFlag_ { 0 };
+    char descript_[DescriptSize] {};
+};
+
+// What wParam of message 3044 points to: the pointer in screen coordinates and the control under it.
+struct PointerReportCL
+{
+    int x;
+    int y;
+    CWnd* control;
+};

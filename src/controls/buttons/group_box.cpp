@@ -1,0 +1,56 @@
+#include "controls/buttons/group_box.h"
+#include "baselib/gbk.h"
+#include "controls/buttons/group_box_record.h"
+
+template class PANELKIT_API Arr<DuGroupBoxCL>;
+
+BEGIN_MESSAGE_MAP(DuGroupBoxCL, CButton)
+ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+int DVrGroupBoxCL::InitGroupBoxM(DuGroupBoxCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetInitTextM(text_.TextM());
+    return 1;
+}
+
+int DVrGroupBoxArr::InitGroupBoxM(int index, DuGroupBoxCL* control) const
+{
+    return ifAliveM(index, [control](const DVrGroupBoxCL& record) { record.InitGroupBoxM(control); });
+}
+
+int DuGroupBoxCL::Create(CWnd* parent)
+{
+    return createdM(CButton::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));
+}
+
+BOOL DuGroupBoxCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_GROUPBOX;
+    return CButton::PreCreateWindow(create);
+}
+
+int DuGroupBoxCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CButton::OnCreate(create) == -1) {
+        return -1;
+    }
+    SetWindowText(text_);
+    return 0;
+}
+
+int DuGroupBoxCL::SetInitTextM(const char* text)
+{
+    slCopyText(text_, TextSize, text);
+    return 1;
+}
+
+int DuGroupBoxCL::SetTextM(const char* text)
+{
+    slCopyText(text_, TextSize, text);
+    if (m_hWnd != nullptr) {
+        SetWindowText(text_);
+    }
+    return 1;
+}
