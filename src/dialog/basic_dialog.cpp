@@ -1,0 +1,88 @@
+#include "dialog/basic_dialog.h"
+#include "baselib/gbk.h"
+
+namespace {
+
+// Shows the dialog once, when its controls exist.
+constexpr UINT_PTR StartTimer = 6107;
+constexpr UINT StartPeriod = 50; // Milliseconds.
+
+} // namespace
+
+IMPLEMENT_DYNCREATE(DuBasicDialogCL, CDialog)
+
+BEGIN_MESSAGE_MAP(DuBasicDialogCL, CDialog)
+ON_WM_PAINT()
+ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+DuBasicDialogCL::DuBasicDialogCL() = default;
+
+DuBasicDialogCL::DuBasicDialogCL(int templateId, CWnd* parent)
+    : CDialog(static_cast<UINT>(templateId), parent)
+{
+}
+
+DuBasicDialogCL::~DuBasicDialogCL() = default;
+
+int DuBasicDialogCL::SetConfigFileM(const char* path)
+{
+    if (path == nullptr || *path == '\0') {
+        return 0;
+    }
+    slCopyText(configFile_, TextSize, path);
+    return 1;
+}
+
+int DuBasicDialogCL::SetCancelIdM(int id)
+{
+    cancelId_ = id;
+    return 1;
+}
+
+BOOL DuBasicDialogCL::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    DestroyM();
+    InitDlgM(this, 1);
+    timerId_ = SetTimer(StartTimer, StartPeriod, nullptr);
+    return TRUE;
+}
+
+void DuBasicDialogCL::DestroyM()
+{
+    std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
+    font_.DeleteObject();
+}
+
+BOOL DuBasicDialogCL::DestroyWindow()
+{
+    DestroyM();
+    return CDialog::DestroyWindow();
+}
+
+int DuBasicDialogCL::DrawBkGroundM(CDC* dc, int x, int y)
+{
+    if (background_.GetWidthM() == 0) {
+        return 0;
+    }
+    background_.DrawBitmapM(dc, x, y, nullptr);
+    return 1;
+}
+
+void DuBasicDialogCL::OnPaint()
+{
+    CPaintDC dc(this);
+    DrawBkGroundM(&dc, 0, 0);
+}
+
+void DuBasicDialogCL::OnTimer(UINT_PTR id)
+{
+    if (id == StartTimer) {
+        ShowWindow(SW_SHOW);
+        if (timerId_ != 0) {
+            KillTimer(timerId_);
+        }
+    }
+    CDialog::OnTimer(id);
+}

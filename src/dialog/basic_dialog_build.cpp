@@ -1,0 +1,74 @@
+// Building: the header and the pass of each kind.
+#include "dialog/basic_dialog.h"
+#include <algorithm>
+
+int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
+{
+    initM(parent, mode);
+    slEachKindAsBuilt([this, parent](auto row) { buildKindM<decltype(row)>(parent); });
+    if (mode == 1) {
+        initCtrlZOrderM(parent);
+    }
+    setItemFontM(parent, header_.fontOption);
+    return 1;
+}
+
+int DuBasicDialogCL::initM(CWnd* parent, int mode)
+{
+    VrIOCL io;
+    io.OpenM(configFile_, "r");
+    if (slReadDialogHeader(io, header_) == 0) {
+        return 0;
+    }
+    if (header_.background[0] != '\0') {
+        background_.LoadSafeBitmapM(header_.background);
+    }
+    if (mode == 1) {
+        constexpr int Most = 32767; // No window is farther away or larger.
+        ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
+        if (header_.titleFlag == 1) {
+            parent->SetWindowText(header_.title);
+        }
+        parent->MoveWindow(std::clamp(header_.position[0], -Most, Most),
+            std::clamp(header_.position[1], -Most, Most), std::clamp(header_.size[0], -Most, Most),
+            std::clamp(header_.size[1], -Most, Most), TRUE);
+    }
+    return 1;
+}
+
+// Reads the records of one kind, then makes and fills its controls. The file is closed before any window
+// exists: a control may open it again.
+template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
+{
+    using ControlTP = typename RowTP::Controls::ControlTP;
+    auto& [controls, records] = std::get<KindMembersCL<RowTP>>(kinds_);
+    int count = 0;
+    {
+        VrIOCL io;
+        io.OpenM(configFile_, "r");
+        const SectionStatus status = slReadSection(io, records, &count);
+        if (status != SectionStatus::Read) {
+            return status == SectionStatus::Empty ? 1 : 0;
+        }
+    }
+    if constexpr (!RowTP::Records::Secondaries.empty()) {
+        count = records.GetAvailableNumM();
+    }
+    const ControlTP scratch(AliveTag);
+    controls.InitialSizeM(count);
+    for (int i = 0; i < count; ++i) {
+        controls.SetItemM(scratch, i);
+        (records.*RowTP::InitM)(i, &controls.ElementAtM(i));
+    }
+    controls.Create(parent);
+    if constexpr (!std::is_null_pointer_v<decltype(RowTP::FillM)>) {
+        int record = records.GetFirstIdxM();
+        int control = controls.GetFirstIdxM();
+        while (record >= 0 && control >= 0) {
+            (records.*RowTP::FillM)(record, &controls.ElementAtM(control));
+            record = records.GetNextIdxM(record);
+            control = controls.GetNextIdxM(control);
+        }
+    }
+    return 1;
+}

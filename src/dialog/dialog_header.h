@@ -1,0 +1,25 @@
+#pragma once
+#include "baselib/api.h"
+#include "records/fields.h"
+
+class VrIOCL;
+
+// What "[版本号]" and "[对话框]" say of the dialog window itself.
+struct DialogHeaderCL
+{
+    int position[2] {};
+    int size[2] {};
+    int titleFlag { 0 };     // 1: a caption bar with the title.
+    char title[TextSize] {}; // GBK.
+    int fontOption { 0 };    // The height of the characters in pixels.
+    int windowKind { 0 };
+    int borderKind { 0 };
+    char background[TextSize] {}; // File name of the background picture, empty for none.
+
+    // The window style word that title flag, window kind and border kind make together.
+    PANELKIT_API unsigned StyleM() const;
+};
+
+// Reads both header sections of an open file. 0, and nothing changed, when one of them is missing.
+// What can't be read is 0 or empty.
+PANELKIT_API int slReadDialogHeader(VrIOCL& io, DialogHeaderCL& header);

@@ -1,0 +1,85 @@
+#pragma once
+#include "controls/buttons/group_box_record.h"
+#include "controls/buttons/label_record.h"
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+class DuGroupBoxArr;
+class DuLabelArr;
+
+enum class Stacking
+{
+    ByWindowIndex,
+    AsCreated
+}; // AsCreated kinds don't get the dialog font either.
+
+// One kind of control: its record array and runtime array, the code that GetContrlPtrM reports, its place in
+// the order of building, whether the stacking and font passes take it, how a record fills a control, and
+// what a record adds once the control's window exists (null: nothing).
+template <class RecordArrTP, class ControlArrTP, int codeN, int buildPlaceN, Stacking stackingN, auto initN,
+    auto fillN = nullptr>
+struct KindRowCL
+{
+    using Records = RecordArrTP;
+    using Controls = ControlArrTP;
+    static constexpr int Code = codeN;
+    static constexpr int BuildPlace = buildPlaceN;
+    static constexpr bool IsStacked = stackingN == Stacking::ByWindowIndex;
+    static constexpr auto InitM = initN;
+    static constexpr auto FillM = fillN;
+};
+
+// The one table of kinds. The rows stand in the order of the host's members, which is also the order of
+// search by id and of collection for the stacking and font passes.
+using KindTable
+    = std::tuple<KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
+        KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex,
+            &DVrGroupBoxArr::InitGroupBoxM>>;
+
+constexpr int KindCount = 19;
+
+// Calls see(row) for each kind of the table, in its order; row is a KindRowCL.
+template <class FunctionTP> void slEachKind(FunctionTP&& see)
+{
+    std::apply([&see](auto... row) { (see(row), ...); }, KindTable());
+}
+
+// The same in the order of building.
+template <class FunctionTP> void slEachKindAsBuilt(FunctionTP&& see)
+{
+    for (int place = 0; place < KindCount; ++place) {
+        slEachKind([&see, place](auto row) {
+            if (row.BuildPlace == place) {
+                see(row);
+            }
+        });
+    }
+}
+
+// Kinds whose sections are known, but whose controls are not built yet.
+struct PendingKindCL
+{
+    int buildPlace;
+    const char* name;
+    const char* header;
+};
+inline constexpr PendingKindCL PendingKinds[] = {
+    { 0, "normal_animation", NormalAnimateHeader },
+    { 1, "special_animation", SpecAnimateHeader },
+    { 3, "single_edit", SingleEditHeader },
+    { 4, "spin_edit", SpinEditHeader },
+    { 5, "multi_edit", MultiEditHeader },
+    { 6, "text_list_box", TextListBoxHeader },
+    { 7, "bitmap_list_box", BmpListBoxHeader },
+    { 8, "combo_box", ComboBoxHeader },
+    { 9, "list_control", ListCtrlHeader },
+    { 10, "radio_button", RadioBoxHeader },
+    { 11, "check_box", CheckBoxHeader },
+    { 12, "standard_button", StandardButtonHeader },
+    { 13, "bitmap_button", BmpButtonHeader },
+    { 14, "multi_state_button", MultiStateButtonHeader },
+    { 15, "rotate_button", RotateBtnHeader },
+    { 17, "tree", TreeHeader },
+    { 18, "drawing", Draw2DHeader },
+};

@@ -1,0 +1,262 @@
+#include "dialog/basic_dialog.h"
+#include "support/test_dialog.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string label(int windowIndex, int id, const std::string& text = "x")
+{
+    return std::to_string(windowIndex) + " " + std::to_string(id) + " 20 30 120 20 1\n" + text
+        + "\n0 -1 0 0\n";
+}
+
+std::string labels(int count, const std::string& records)
+{
+    return HeaderSections + ("[标题]\n" + std::to_string(count) + "\n0\n" + records);
+}
+
+// The window system gives it to every window that is no child.
+constexpr DWORD AlwaysSet = WS_CLIPSIBLINGS;
+
+int childrenOf(HWND window)
+{
+    int count = 0;
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        ++count;
+    }
+    return count;
+}
+
+std::string screenPlaceOf(HWND window)
+{
+    RECT rect {};
+    ::GetWindowRect(window, &rect);
+    return std::to_string(rect.left) + " " + std::to_string(rect.top) + " "
+        + std::to_string(rect.right - rect.left) + " " + std::to_string(rect.bottom - rect.top);
+}
+
+LOGFONTW fontOf(HWND window)
+{
+    LOGFONTW font {};
+    ::GetObjectW(reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    return font;
+}
+
+// Dispatches messages until the condition holds; false after ten seconds.
+template <class ConditionTP> bool waitFor(ConditionTP condition)
+{
+    const DWORD start = ::GetTickCount();
+    while (!condition()) {
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            ::DispatchMessageW(&message);
+        }
+        if (::GetTickCount() - start > 10000) {
+            return false;
+        }
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+    return true;
+}
+
+} // namespace
+
+TEST(BasicDialog, IsCreatedByItsRunTimeClass)
+{
+    CObject* object = RUNTIME_CLASS(DuBasicDialogCL)->CreateObject();
+    ASSERT_NE(object, nullptr);
+    EXPECT_TRUE(object->IsKindOf(RUNTIME_CLASS(CDialog)));
+    EXPECT_STREQ(object->GetRuntimeClass()->m_lpszClassName, "DuBasicDialogCL");
+    delete object;
+}
+
+TEST(BasicDialog, HeaderRestylesTitlesAndPlacesTheDialog)
+{
+    const TestDialogCL dialog(HeaderSections);
+    EXPECT_EQ(styleOf(dialog.m_hWnd) & ~AlwaysSet, 0x80C80000U);
+    EXPECT_EQ(textOf(dialog.m_hWnd), "参数设置");
+    EXPECT_EQ(screenPlaceOf(dialog.m_hWnd), "100 80 420 260");
+    EXPECT_EQ(childrenOf(dialog.m_hWnd), 0);
+}
+
+TEST(BasicDialog, WithoutTitleFlagTheTitleIsNotSet)
+{
+    const TestDialogCL dialog("[版本号]\n1\n[对话框]\n0\n10 20\n300 200\n0\n标题\n14 2 4\nNULL\n");
+    EXPECT_EQ(textOf(dialog.m_hWnd), "");
+    EXPECT_EQ(styleOf(dialog.m_hWnd) & ~AlwaysSet, 0x80400000U);
+}
+
+TEST(BasicDialog, MissingHeaderAppliesNothingButTheKindsAreStillBuilt)
+{
+    const TestDialogCL dialog("[标题]\n1\n0\n" + label(1, 11));
+    EXPECT_EQ(styleOf(dialog.m_hWnd) & WS_CAPTION, static_cast<DWORD>(WS_CAPTION));
+    EXPECT_NE(dialog.ItemM(11), nullptr);
+}
+
+TEST(BasicDialog, AnEmptyPathIsRefusedAndTheOldOneStays)
+{
+    const DescriptionFileCL file(labels(1, label(1, 11)));
+    DuBasicDialogCL dialog;
+    EXPECT_EQ(dialog.SetConfigFileM(file.path()), 1);
+    EXPECT_EQ(dialog.SetConfigFileM(""), 0);
+    EXPECT_EQ(dialog.SetConfigFileM(nullptr), 0);
+    EXPECT_EQ(dialog.SetCancelIdM(5), 1);
+    PlainWindowCL window;
+    EXPECT_EQ(dialog.InitDlgM(&window, 0), 1);
+    EXPECT_EQ(childrenOf(window.m_hWnd), 1);
+}
+
+TEST(BasicDialog, WithoutAPathEveryPassFindsNothing)
+{
+    DuBasicDialogCL dialog;
+    PlainWindowCL window;
+    EXPECT_EQ(dialog.InitDlgM(&window, 0), 1);
+    EXPECT_EQ(childrenOf(window.m_hWnd), 0);
+}
+
+TEST(BasicDialog, OtherModesFillAWindowAndLeaveTitleStylePlaceAndStackingAlone)
+{
+    const DescriptionFileCL file(labels(2, label(5, 11) + label(1, 12)));
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    PlainWindowCL window;
+    const DWORD style = styleOf(window.m_hWnd);
+    const std::string place = screenPlaceOf(window.m_hWnd);
+    dialog.InitDlgM(&window, 2);
+    EXPECT_EQ(styleOf(window.m_hWnd), style);
+    EXPECT_EQ(screenPlaceOf(window.m_hWnd), place);
+    EXPECT_EQ(textOf(window.m_hWnd), "plain");
+    ASSERT_EQ(childrenOf(window.m_hWnd), 2);
+    EXPECT_EQ(::GetDlgCtrlID(::GetWindow(window.m_hWnd, GW_CHILD)), 11);
+    EXPECT_EQ(fontOf(::GetDlgItem(window.m_hWnd, 11)).lfHeight, -14); // The font pass runs all the same.
+}
+
+TEST(BasicDialog, SmallestWindowIndexIsOnTop)
+{
+    const TestDialogCL dialog(labels(3, label(5, 15) + label(1, 11) + label(3, 13)));
+    EXPECT_EQ(dialog.StackM(), "11 13 15");
+}
+
+TEST(BasicDialog, EqualWindowIndexesKeepTheOrderOfCollection)
+{
+    const TestDialogCL dialog(
+        labels(3, label(2, 11) + label(2, 12) + label(1, 13)) + "[成组控件]\n1\n0\n2 21 0 0 50 50\nbox\n");
+    EXPECT_EQ(dialog.StackM(), "13 11 12 21");
+}
+
+TEST(BasicDialog, DuplicateIdAlwaysMeansTheTopmostWindowWithIt)
+{
+    // Both steps of id 11 find the first label; the last of them decides where it stays.
+    const TestDialogCL dialog(labels(3, label(1, 11, "first") + label(3, 11, "second") + label(2, 12)));
+    EXPECT_EQ(dialog.StackM(), "12 11 11");
+    EXPECT_EQ(textOf(::GetWindow(::GetWindow(dialog.m_hWnd, GW_CHILD), GW_HWNDNEXT)), "first");
+    const HWND last = ::GetWindow(::GetWindow(dialog.m_hWnd, GW_CHILD), GW_HWNDLAST);
+    EXPECT_EQ(::SendMessageW(last, WM_GETFONT, 0, 0), 0);
+}
+
+TEST(BasicDialog, FontOptionIsTheHeightOfTheDialogFont)
+{
+    const TestDialogCL dialog(labels(1, label(1, 11)));
+    const LOGFONTW font = fontOf(dialog.ItemM(11));
+    EXPECT_EQ(font.lfHeight, -14);
+    EXPECT_EQ(font.lfWeight, FW_NORMAL);
+    EXPECT_EQ(font.lfCharSet, GB2312_CHARSET);
+    EXPECT_EQ(font.lfPitchAndFamily, FF_MODERN);
+    EXPECT_STREQ(font.lfFaceName, L"宋体");
+    const TestDialogCL unset(
+        "[版本号]\n1\n[对话框]\n0\n10 20\n300 200\n0\nNULL\n0 2 4\nNULL\n[标题]\n1\n0\n" + label(1, 11));
+    EXPECT_EQ(fontOf(unset.ItemM(11)).lfHeight, 0);
+}
+
+TEST(BasicDialog, FirstTimerTickShowsTheDialogAndStopsTheTimer)
+{
+    TestDialogCL dialog(HeaderSections);
+    EXPECT_FALSE(dialog.IsWindowVisible());
+    ASSERT_TRUE(waitFor([&dialog] { return dialog.IsWindowVisible() != FALSE; }));
+    EXPECT_FALSE(dialog.KillTimer(6107)); // Already gone.
+}
+
+TEST(BasicDialog, OtherTimersDoNotShowTheDialog)
+{
+    TestDialogCL dialog(HeaderSections);
+    dialog.KillTimer(6107);
+    dialog.SendMessage(WM_TIMER, 55, 0);
+    EXPECT_FALSE(dialog.IsWindowVisible());
+    dialog.SendMessage(WM_TIMER, 6107, 0);
+    EXPECT_TRUE(dialog.IsWindowVisible());
+}
+
+TEST(BasicDialog, TwoBuildsWithDestroyBetweenGiveTheSameWindows)
+{
+    TestDialogCL dialog(labels(2, label(2, 12, "二") + label(1, 11, "一")));
+    const std::string before = dialog.StackM();
+    dialog.DestroyM();
+    EXPECT_EQ(dialog.StackM(), "");
+    dialog.InitDlgM(&dialog, 1);
+    EXPECT_EQ(dialog.StackM(), before);
+    EXPECT_EQ(textOf(dialog.ItemM(12)), "二");
+}
+
+TEST(BasicDialog, SecondBuildWithoutDestroyUsesTheRecordsOfTheFirstLoad)
+{
+    TestDialogCL dialog(labels(1, label(1, 11, "first")));
+    const DescriptionFileCL other(labels(1, label(1, 12, "second")));
+    dialog.SetConfigFileM(other.path());
+    dialog.InitDlgM(&dialog, 1);
+    EXPECT_EQ(dialog.StackM(), "11");
+    EXPECT_EQ(textOf(dialog.ItemM(11)), "first");
+}
+
+TEST(BasicDialog, DestroyWindowReleasesTheControlsAndTheObjectCanBeShownAgain)
+{
+    TestDialogCL dialog(labels(1, label(1, 11)));
+    const HWND label = dialog.ItemM(11);
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_FALSE(::IsWindow(label));
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    const EmptyTemplateCL empty;
+    EXPECT_TRUE(dialog.CreateIndirect(&empty.header, nullptr));
+    EXPECT_EQ(dialog.StackM(), "11");
+}
+
+TEST(BasicDialog, ModalDialogClosesByItsCloseButton)
+{
+    class ModalCL : public DuBasicDialogCL
+    {
+    public:
+        BOOL OnInitDialog() override
+        {
+            DuBasicDialogCL::OnInitDialog();
+            PostMessage(WM_CLOSE);
+            return TRUE;
+        }
+    };
+    const DescriptionFileCL file(HeaderSections);
+    const EmptyTemplateCL empty;
+    ModalCL dialog;
+    dialog.SetConfigFileM(file.path());
+    dialog.InitModalIndirect(&empty.header, nullptr);
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(BasicDialog, ThousandBuildsLeaveNoWindowBehind)
+{
+    // Each round makes a font and two brushes: a leak of GDI objects would end it early.
+    TestDialogCL dialog(labels(2, label(1, 11) + "2 12 20 60 100 20 1\ncolour\n0 255 0 0\n"));
+    dialog.ShowWindow(SW_SHOW);
+    for (int round = 0; round < 1000; ++round) {
+        dialog.DestroyM();
+        dialog.InitDlgM(&dialog, 1);
+        ASSERT_EQ(childrenOf(dialog.m_hWnd), 2) << round;
+        ASSERT_NE(dialog.SendDlgItemMessage(12, WM_GETFONT), 0) << round;
+    }
+}
+
+TEST(BasicDialog, BackgroundPictureIsDrawnAtTheGivenCorner)
+{
+    TestDialogCL dialog(HeaderSections);
+    CClientDC dc(&dialog);
+    EXPECT_EQ(dialog.DrawBkGroundM(&dc, 0, 0), 0);
+}
