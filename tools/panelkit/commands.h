@@ -1,0 +1,14 @@
+#pragma once
+#include <string>
+
+// The subcommands. Each gets what the user typed, as UTF-8, prints its result on standard output and what is
+// wrong, in one line, on standard error; the result is the exit code.
+constexpr int CannotUse = 2; // Wrong arguments, or a file that can't be opened.
+
+int dumpCommand(const std::string& file);
+int inspectCommand(const std::string& file);
+int viewCommand(const std::string& file);
+int shotCommand(const std::string& file, const std::string& picture);
+
+// One line on standard error; the result is CannotUse.
+int complain(const std::string& what);

@@ -1,0 +1,103 @@
+// What the library reads from a description file.
+#include "baselib/gbk.h"
+#include "baselib/gbk_texts.h"
+#include "commands.h"
+#include "description_file.h"
+#include "dialog/dialog_header.h"
+#include "dialog/kinds.h"
+#include "json.h"
+
+namespace {
+
+const char* statusName(SectionStatus status)
+{
+    switch (status) {
+    case SectionStatus::Missing:
+        return "missing";
+    case SectionStatus::Empty:
+        return "empty";
+    case SectionStatus::Broken:
+        return "broken";
+    case SectionStatus::Incomplete:
+        return "incomplete";
+    case SectionStatus::Read:
+        break;
+    }
+    return "read";
+}
+
+JsonTP dialogOf(VrIOCL& io)
+{
+    DialogHeaderCL header;
+    if (slReadDialogHeader(io, header) == 0) {
+        return nullptr;
+    }
+    return { { "position", header.position }, { "size", header.size }, { "title_flag", header.titleFlag },
+        { "title", slGbkToUtf8(header.title) }, { "font_option", header.fontOption },
+        { "window_kind", header.windowKind }, { "border_kind", header.borderKind },
+        { "background", slGbkToUtf8(header.background) }, { "style", hexWord(header.StyleM()) } };
+}
+
+JsonTP section(const char* kind, const char* header, SectionStatus status)
+{
+    return { { "kind", kind }, { "header", slGbkToUtf8(header) }, { "status", statusName(status) },
+        { "records", JsonTP::array() } };
+}
+
+template <class RecordArrTP> JsonTP sectionOf(VrIOCL& io)
+{
+    RecordArrTP records;
+    int count = 0;
+    JsonTP result = section(RecordArrTP::KindName, RecordArrTP::Header, slReadSection(io, records, &count));
+    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+        JsonTP object;
+        FieldPrinterCL printer(object);
+        records.ElementAtM(i).EachCommonFieldM(printer);
+        records.ElementAtM(i).EachFieldM(printer);
+        result["records"].push_back(std::move(object));
+    }
+    return result;
+}
+
+JsonTP relationsOf(VrIOCL& io)
+{
+    JsonTP relations = JsonTP::array();
+    int count = 0;
+    slOpenSection(io, RelationHeader, &count);
+    for (int i = 0; i < count; ++i) {
+        int control = 0;
+        int values[3] = {};
+        io.InputDM(&control, &values[0], &values[1], &values[2]);
+        relations.push_back({ { "control", control }, { "values", values } });
+    }
+    return relations;
+}
+
+} // namespace
+
+int dumpCommand(const std::string& file)
+{
+    std::string name;
+    if (!enterFolderOf(file, &name)) {
+        return CannotUse;
+    }
+    VrIOCL io;
+    io.OpenM(name.c_str(), "r");
+    JsonTP sections = JsonTP::array();
+    for (int place = 0; place < KindCount; ++place) {
+        slEachKind([&](auto row) {
+            if (row.BuildPlace == place) {
+                sections.push_back(sectionOf<typename decltype(row)::Records>(io));
+            }
+        });
+        for (const PendingKindCL& kind : PendingKinds) {
+            if (kind.buildPlace == place) {
+                int count = 0;
+                sections.push_back(section(kind.name, kind.header, slOpenSection(io, kind.header, &count)));
+            }
+        }
+    }
+    printJson({ { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
+        { "relations", relationsOf(io) }, { "new_rotate_buttons", JsonTP::array() } });
+    return 0;
+}

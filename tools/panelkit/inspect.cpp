@@ -1,0 +1,91 @@
+// What the window system says of the dialog that the library builds.
+#include "application.h"
+#include "commands.h"
+#include "description_file.h"
+#include "inspect_items.h"
+#include "json.h"
+#include "shown_dialog.h"
+
+namespace {
+
+std::string textOf(HWND window)
+{
+    std::wstring text(static_cast<size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return utf8Of(text);
+}
+
+JsonTP rectOf(const RECT& rect)
+{
+    return JsonTP::array({ rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top });
+}
+
+JsonTP fontOf(HWND window)
+{
+    const auto font = reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0));
+    LOGFONTW description {};
+    if (font == nullptr || ::GetObjectW(font, sizeof description, &description) == 0) {
+        return nullptr;
+    }
+    return { { "height", description.lfHeight }, { "face", utf8Of(description.lfFaceName) },
+        { "charset", description.lfCharSet } };
+}
+
+const char* kindOf(const CWnd* control)
+{
+    const char* kind = "";
+    slEachKind([&](auto row) {
+        using RowTP = decltype(row);
+        if (dynamic_cast<const typename RowTP::Controls::ControlTP*>(control) != nullptr) {
+            kind = RowTP::Records::KindName;
+        }
+    });
+    return kind;
+}
+
+JsonTP controlOf(HWND window, HWND dialog)
+{
+    wchar_t windowClass[64] = L"";
+    ::GetClassNameW(window, windowClass, 64);
+    RECT rect {};
+    ::GetWindowRect(window, &rect);
+    ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    const LONG style = ::GetWindowLongW(window, GWL_STYLE);
+    JsonTP control = { { "id", ::GetDlgCtrlID(window) },
+        { "kind", kindOf(CWnd::FromHandlePermanent(window)) }, { "class", utf8Of(windowClass) },
+        { "text", textOf(window) }, { "style", hexWord(static_cast<DWORD>(style)) },
+        { "ex_style", hexWord(static_cast<DWORD>(::GetWindowLongW(window, GWL_EXSTYLE))) },
+        { "rect", rectOf(rect) }, { "visible", (style & WS_VISIBLE) != 0 },
+        { "enabled", (style & WS_DISABLED) == 0 }, { "font", fontOf(window) } };
+    addItems(window, windowClass, control);
+    return control;
+}
+
+} // namespace
+
+int inspectCommand(const std::string& file)
+{
+    std::string name;
+    if (!enterFolderOf(file, &name)) {
+        return CannotUse;
+    }
+    ShownDialogCL dialog(name);
+    if (!dialog.BuildM()) {
+        complain("the dialog of '" + file + "' can't be created");
+        return 1;
+    }
+    RECT rect {};
+    ::GetWindowRect(dialog.m_hWnd, &rect);
+    JsonTP controls = JsonTP::array();
+    for (HWND child = ::GetWindow(dialog.m_hWnd, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        controls.push_back(controlOf(child, dialog.m_hWnd));
+    }
+    printJson({ { "dialog",
+                    { { "title", textOf(dialog.m_hWnd) },
+                        { "style", hexWord(static_cast<DWORD>(::GetWindowLongW(dialog.m_hWnd, GWL_STYLE))) },
+                        { "rect", rectOf(rect) } } },
+        { "controls", std::move(controls) } });
+    dialog.DestroyWindow();
+    return 0;
+}

@@ -1,0 +1,68 @@
+#include "commands.h"
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#ifdef _WIN32
+#include "application.h"
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+int complain(const std::string& what)
+{
+    std::fprintf(stderr, "panelkit: %s\n", what.c_str());
+    return CannotUse;
+}
+
+namespace {
+
+int run(std::vector<std::string> arguments)
+{
+    CLI::App app("Reads, shows and pictures dialog description files.", "panelkit");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "panelkit " PANELKIT_VERSION);
+
+    std::string file;
+    std::string picture;
+    int result = 0;
+    const auto add = [&](const char* name, const char* what) {
+        CLI::App* command = app.add_subcommand(name, what);
+        command->add_option("FILE", file, "the dialog description file")->required();
+        return command;
+    };
+    add("dump", "Prints what the library reads from FILE, as JSON.")->callback([&] {
+        result = dumpCommand(file);
+    });
+    add("inspect", "Prints the windows that the library builds from FILE, as JSON.")->callback([&] {
+        result = inspectCommand(file);
+    });
+    add("view", "Shows the dialog of FILE.")->callback([&] { result = viewCommand(file); });
+    CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
+    shot->add_option("OUT.png", picture, "the picture to write")->required();
+    shot->callback([&] { result = shotCommand(file, picture); });
+
+    try {
+        std::reverse(arguments.begin(), arguments.end()); // As the parser wants them.
+        app.parse(std::move(arguments));
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) {
+            return app.exit(error); // Help or version.
+        }
+        return complain(std::string(error.what()) + " (panelkit --help tells more)");
+    }
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+#ifdef _WIN32
+    // JSON goes out byte for byte; arguments come as UTF-16 whatever the system's code page.
+    _setmode(_fileno(stdout), _O_BINARY);
+    static_cast<void>(argc);
+    static_cast<void>(argv);
+    return run(wideArguments());
+#else
+    return run(std::vector<std::string>(argv + 1, argv + argc));
+#endif
+}
