@@ -7,7 +7,7 @@ wineserver=/usr/lib/wine/wineserver
 
 packages=(
   cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev ccache
-  wine wine64 xvfb fonts-wqy-zenhei clang-format
+  wine wine64 fonts-wine xvfb fonts-wqy-zenhei clang-format
 )
 
 say() { echo "$*" >&2; }
@@ -86,6 +86,19 @@ wine_environment() { # prefix
   export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
 }
 
+# The fonts that dialogs name are not on this system: one that has both Chinese and Latin letters stands for
+# them. Wine finds the symbols of its window frames only among the prefix's own fonts.
+set_fonts() { # prefix, its server stopped
+  local font
+  cp /usr/share/wine/fonts/marlett.ttf "$1/drive_c/windows/Fonts/"
+  {
+    printf '\n[Software\\\\Wine\\\\Fonts\\\\Replacements] 1\n'
+    for font in '\x5b8b\x4f53' SimSun Tahoma 'MS Shell Dlg' System; do
+      printf '"%s"="WenQuanYi Zen Hei"\n' "$font"
+    done
+  } >>"$1/user.reg"
+}
+
 # Makes build/wine once. Now and then a first start of Wine hangs: then it says so and begins anew, once.
 make_prefix() {
   local prefix="$root/build/wine" attempt
@@ -103,6 +116,7 @@ make_prefix() {
       if timeout -k 5 150 "$wine64" wineboot --init >"$root/build/wineboot.log" 2>&1 </dev/null 7>&- &&
         { timeout -k 5 60 "$wineserver" -k 7>&- || true; } && timeout 30 "$wineserver" -w 7>&- &&
         [ -f "$prefix/system.reg" ]; then
+        set_fonts "$prefix"
         : >"$prefix/.ready"
         exit 0
       fi
