@@ -70,8 +70,10 @@ start_display() {
   mkfifo "$pipe"
   exec 8<>"$pipe"
   rm -f "$pipe"
-  # -noreset keeps the server alive when its last program leaves; setsid keeps Ctrl-C from it, as we stop it.
-  setsid Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>&8 8<&- >/dev/null 2>&1 </dev/null &
+  # -noreset keeps the server alive when its last program leaves; setsid keeps Ctrl-C from it, as we stop it;
+  # the signal ends it when the caller was killed.
+  setsid setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
+    3>&8 8<&- >/dev/null 2>&1 </dev/null &
   display_pid=$!
   read -r -t 60 number <&8 || number=
   exec 8<&-
