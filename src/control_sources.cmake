@@ -8,6 +8,7 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
   dialog/basic_dialog_finish.cpp
+  dialog/basic_dialog_items.cpp
   records/bitmap_record.cpp
   records/brush_record.cpp
   records/region_functions.cpp

@@ -32,7 +32,27 @@ public:
     // Draws the background picture with its corner at (x, y); 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
 
+    // Controls by function id. Where several have the id, the first in the order of the kinds is meant.
+    // An unknown id, or that of a control of another kind, gives 0 and changes nothing.
+    CWnd* GetContrlPtrM(int id, int* kind);           // Null: none, *kind stays. A static_cast to the class
+                                                      // that *kind says is fine; the host keeps it.
+    int ShowContrlM(int id, int show);                // Shows for 1, hides for every other value; 1.
+    int ShowAllCtrlM(int show);                       // The same for all controls; always 1.
+    int EnableAllCtrlM(int enable);                   // Enables for 1, else disables; always 1.
+    void ShowObjectM(int kind, int index, bool show); // Radio buttons (kind 11) by place in their array.
+    int GetNormalAnimateBmpIdxM(int id, int* index);  // The picture shown; *index is set only for 1.
+    int ChangeNormalAnimateM(int id, int index);      // Shows a picture; the animation's result.
+
+    // Lines of list boxes and combo boxes.
+    int AddItemM(int id, int position, const char* text); // The result of the control's AddItemM.
+    int DelItemM(int id); // The number is the control's id and the index of the line to delete; 1 if found.
+    int SetSelM(int id);  // The number is the control's id and the index of the line to select; 1 if found.
+
 protected:
+    // Hands the control relations of the description file to the dialog's controls; nothing calls it during
+    // building. 1 if the file has the section.
+    int initItemRelationM();
+
     afx_msg void OnPaint();
     afx_msg void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()
@@ -49,6 +69,8 @@ private:
         using Type = std::tuple<KindMembersCL<RowsTP>...>;
     };
 
+    template <class FunctionTP> void eachControlsM(FunctionTP&& see); // with_control.h
+    template <class FunctionTP> int withControlM(int id, FunctionTP&& see);
     int initM(CWnd* parent, int mode);
     template <class RowTP> int buildKindM(CWnd* parent);
     Int2DArr stackedM();

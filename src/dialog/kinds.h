@@ -39,6 +39,17 @@ using KindTable
 
 constexpr int KindCount = 19;
 
+// The codes of kinds that have operations of their own.
+enum KindCode : int
+{
+    NormalAnimateCode = 1,
+    SingleEditCode = 4,
+    TextListBoxCode = 7,
+    BmpListBoxCode = 8,
+    ComboBoxCode = 9,
+    RadioBoxCode = 11
+};
+
 // Calls see(row) for each kind of the table, in its order; row is a KindRowCL.
 template <class FunctionTP> void slEachKind(FunctionTP&& see)
 {

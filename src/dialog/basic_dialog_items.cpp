@@ -1,0 +1,140 @@
+// What the application does with controls by their function ids, values apart.
+#include "baselib/gbk_texts.h"
+#include "dialog/basic_dialog.h"
+#include "dialog/with_control.h"
+
+namespace {
+
+constexpr bool holdsItems(int kind)
+{
+    return kind == TextListBoxCode || kind == BmpListBoxCode || kind == ComboBoxCode;
+}
+
+} // namespace
+
+CWnd* DuBasicDialogCL::GetContrlPtrM(int id, int* kind)
+{
+    CWnd* found = nullptr;
+    withControlM(id, [&found, kind](auto row, auto& control) {
+        found = &control;
+        *kind = row.Code;
+    });
+    return found;
+}
+
+int DuBasicDialogCL::GetNormalAnimateBmpIdxM(int id, int* index)
+{
+    int result = 0;
+    withControlM(id, [&result, index](auto row, auto& control) {
+        if constexpr (decltype(row)::Code == NormalAnimateCode) {
+            int current = 0;
+            result = control.GetCurIdxM(&current);
+            if (result == 1) {
+                *index = current;
+            }
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::ChangeNormalAnimateM(int id, int index)
+{
+    int result = 0;
+    const CWnd* child = ::IsWindow(m_hWnd) ? GetDlgItem(id) : nullptr;
+    eachControlsM([&result, child, index](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == NormalAnimateCode) {
+            for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+                if (child != nullptr && controls.ElementAtM(i).m_hWnd == child->m_hWnd) {
+                    result = controls.ElementAtM(i).DispBmpM(index);
+                }
+            }
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::ShowContrlM(int id, int show)
+{
+    return withControlM(id, [show](auto, auto& control) { control.SetItemCmdM(show == 1 ? 3 : 4); });
+}
+
+int DuBasicDialogCL::ShowAllCtrlM(int show)
+{
+    eachControlsM([show](auto, auto& controls) { controls.SetItemCmdM(-1, show == 1 ? 3 : 4); });
+    return 1;
+}
+
+int DuBasicDialogCL::EnableAllCtrlM(int enable)
+{
+    eachControlsM([enable](auto, auto& controls) { controls.SetItemCmdM(-1, enable == 1 ? 1 : 2); });
+    return 1;
+}
+
+void DuBasicDialogCL::ShowObjectM(int kind, int index, bool show)
+{
+    if (kind != RadioBoxCode) {
+        return;
+    }
+    eachControlsM([index, show](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == RadioBoxCode) {
+            controls.ShowObjectM(index, show);
+        }
+    });
+}
+
+int DuBasicDialogCL::AddItemM(int id, int position, const char* text)
+{
+    int result = 0;
+    withControlM(id, [&result, position, text](auto row, auto& control) {
+        if constexpr (holdsItems(decltype(row)::Code)) {
+            result = control.AddItemM(position, text);
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::DelItemM(int id)
+{
+    int result = 0;
+    withControlM(id, [&result, id](auto row, auto& control) {
+        if constexpr (holdsItems(decltype(row)::Code)) {
+            control.DelItemM(id);
+            result = 1;
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::SetSelM(int id)
+{
+    int result = 0;
+    withControlM(id, [&result, id](auto row, auto& control) {
+        if constexpr (decltype(row)::Code == BmpListBoxCode) {
+            control.SetSelM(id, 1);
+            result = 1;
+        } else if constexpr (holdsItems(decltype(row)::Code)) {
+            control.SetSelM(id);
+            result = 1;
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::initItemRelationM()
+{
+    VrIOCL io;
+    io.OpenM(configFile_, "r");
+    int count = 0;
+    if (slOpenSection(io, RelationHeader, &count) == SectionStatus::Missing) {
+        return 0;
+    }
+    SectionEntryCL entry;
+    for (int i = 0; i < count; ++i) {
+        slReadEntry(io, entry, 3, 0, 0);
+        CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(m_hWnd, entry.functionId));
+        if (auto* control = dynamic_cast<DControlCommonCL*>(child)) {
+            control->AddRelationItemM(entry.numbers[0], entry.numbers[1], entry.numbers[2]);
+        }
+    }
+    return 1;
+}
