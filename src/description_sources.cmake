@@ -12,11 +12,14 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/io_read.cpp
   baselib/io_search.cpp
   baselib/io_write.cpp
+  baselib/number_text.cpp
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
   controls/buttons/group_box_record.cpp
   controls/buttons/label_record.cpp
+  controls/text/single_edit_record.cpp
+  controls/text/typed_value.cpp
   dialog/dialog_header.cpp
   records/bmp_record.cpp
   records/common_box_record.cpp

@@ -1,10 +1,8 @@
 #include "baselib/gbk.h"
 #include "baselib/io.h"
+#include "baselib/number_text.h"
 #include "baselib/path.h"
 #include <algorithm>
-#include <cfloat>
-#include <charconv>
-#include <climits>
 #include <cstdint>
 #include <cstring>
 
@@ -13,70 +11,6 @@ namespace {
 bool isBlank(char byte)
 {
     return byte == ' ' || (byte >= '\t' && byte <= '\r') || byte == '\0';
-}
-
-bool isDigit(char byte)
-{
-    return byte >= '0' && byte <= '9';
-}
-
-bool isSign(char byte)
-{
-    return byte == '-' || byte == '+';
-}
-
-const char* skipDigits(const char* at, const char* end)
-{
-    return std::find_if_not(at, end, isDigit);
-}
-
-// Digits as a number, held at `most`.
-std::int64_t digitsValue(const char* at, const char* end, std::int64_t most)
-{
-    std::int64_t value = 0;
-    for (; at < end && value <= most; ++at) {
-        value = value * 10 + (*at - '0');
-    }
-    return std::min(value, most);
-}
-
-// Where the real of this form ends: digits with or without a point, then perhaps an exponent; `at` when there
-// is none.
-const char* realEnd(const char* at, const char* end)
-{
-    const char* const point = skipDigits(at, end);
-    const bool hasPoint = point < end && *point == '.';
-    const char* const mantissaEnd = hasPoint ? skipDigits(point + 1, end) : point;
-    const bool hasDigits = point > at || (hasPoint && mantissaEnd > point + 1);
-    if (!hasDigits) {
-        return at;
-    }
-    const char* exponent = mantissaEnd;
-    if (exponent < end && (*exponent == 'e' || *exponent == 'E')) {
-        ++exponent;
-        if (exponent < end && isSign(*exponent)) {
-            ++exponent;
-        }
-        const char* const exponentEnd = skipDigits(exponent, end);
-        return exponentEnd > exponent ? exponentEnd : mantissaEnd;
-    }
-    return mantissaEnd;
-}
-
-// A real that single precision can't hold: is it too large, or too near to 0?
-bool isHuge(const char* at, const char* end)
-{
-    const char* const point = skipDigits(at, end);
-    const char* const exponent = std::find_if(at, end, [](char c) { return c == 'e' || c == 'E'; });
-    const char* const first = std::find_if(at, exponent, [](char c) { return c >= '1' && c <= '9'; });
-    // The power of ten of the first digit that counts.
-    std::int64_t power = first < point ? point - first - 1 : point - first;
-    if (exponent < end) {
-        const bool negative = exponent[1] == '-';
-        const std::int64_t value = digitsValue(exponent + (isSign(exponent[1]) ? 2 : 1), end, INT64_MAX / 20);
-        power += negative ? -value : value;
-    }
-    return power > 0;
 }
 
 std::uint32_t littleEndian(const unsigned char* bytes)
@@ -162,16 +96,9 @@ bool VrIOCL::inputIntM(int* value)
     }
     skipBlanksM();
     const char* const begin = data_.get() + at_;
-    const char* const end = data_.get() + size_;
-    const char* const digits = begin < end && isSign(*begin) ? begin + 1 : begin;
-    const char* const digitsEnd = skipDigits(digits, end);
-    if (digitsEnd == digits) {
-        return false;
-    }
-    const std::int64_t magnitude = digitsValue(digits, digitsEnd, std::int64_t { INT_MAX } + 1);
-    *value = static_cast<int>(*begin == '-' ? -magnitude : std::min(magnitude, std::int64_t { INT_MAX }));
-    at_ += digitsEnd - begin;
-    return true;
+    const char* const numberEnd = slReadInt(begin, data_.get() + size_, value);
+    at_ += numberEnd - begin;
+    return numberEnd > begin;
 }
 
 bool VrIOCL::inputRealM(float* value)
@@ -187,19 +114,9 @@ bool VrIOCL::inputRealM(float* value)
     }
     skipBlanksM();
     const char* const begin = data_.get() + at_;
-    const char* const end = data_.get() + size_;
-    const char* const digits = begin < end && isSign(*begin) ? begin + 1 : begin;
-    const char* const numberEnd = realEnd(digits, end);
-    if (numberEnd == digits) {
-        return false;
-    }
-    float magnitude = 0;
-    if (std::from_chars(digits, numberEnd, magnitude).ec == std::errc::result_out_of_range) {
-        magnitude = isHuge(digits, numberEnd) ? FLT_MAX : 0.0F;
-    }
-    *value = *begin == '-' ? -magnitude : magnitude;
+    const char* const numberEnd = slReadReal(begin, data_.get() + size_, value);
     at_ += numberEnd - begin;
-    return true;
+    return numberEnd > begin;
 }
 
 bool VrIOCL::inputCharM(char* value)

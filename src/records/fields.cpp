@@ -7,6 +7,8 @@ FieldVisitorCL::~FieldVisitorCL() = default;
 
 void FieldVisitorCL::ListM(const char*, int, const std::function<void(FieldVisitorCL&, int)>&) { }
 
+void FieldVisitorCL::StopReadingM() { }
+
 int slIsNullWord(const char* text)
 {
     return std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0;
@@ -53,4 +55,10 @@ void FieldReaderCL::TextM(const char*, CharArr& text, NullWord nullWord)
     if (io_->InputGetsM(line, TextSize) != 0) {
         text.SetM(nullWord == NullWord::Empty && slIsNullWord(line) ? "" : line);
     }
+}
+
+void FieldReaderCL::StopReadingM()
+{
+    static VrIOCL nothing; // A reader that isn't open reads nothing.
+    io_ = &nothing;
 }

@@ -38,6 +38,8 @@ public:
     // text has a field without name. see(visitor, row) is called for each row.
     virtual void ListM(
         const char* name, int rows, const std::function<void(FieldVisitorCL& visitor, int row)>& see);
+    // The record turned out to be unreadable: the fields from here on keep their defaults.
+    virtual void StopReadingM();
 };
 
 // Reads each field it sees from a description file. What can't be read keeps its value.
@@ -54,6 +56,7 @@ public:
     void RealPairM(const char* name, float (&values)[2]) override;
     void ColourM(const char* name, ColourTP& colour, int* flag) override;
     void TextM(const char* name, CharArr& text, NullWord nullWord) override;
+    void StopReadingM() override;
 
 private:
     VrIOCL* io_;

@@ -1,0 +1,12 @@
+#pragma once
+#include "baselib/path.h"
+
+// One typed value or one range of 260 bytes; which member is meant, the data type of its owner says.
+// Made as all zero.
+union simpleValD {
+    char text[PathSize] {}; // GBK, at most 259 bytes and a terminator.
+    int number;
+    float real;
+    int numbers[2]; // Minimum and maximum.
+    float reals[2];
+};

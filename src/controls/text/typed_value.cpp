@@ -1,0 +1,205 @@
+#include "controls/text/typed_value.h"
+#include "baselib/char_arr.h"
+#include "baselib/gbk.h"
+#include "baselib/number_text.h"
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
+namespace {
+
+constexpr unsigned Backspace = 8;
+constexpr unsigned EditCommands[] = { 1, 3, 22, 24, 26 }; // Ctrl with A, C, V, X, Z.
+
+bool isNumberType(int type)
+{
+    return type == IntegerType || type == RealType;
+}
+
+bool isBlank(char byte)
+{
+    return byte == ' ' || (byte >= '\t' && byte <= '\r');
+}
+
+} // namespace
+
+void slTripDot(char* text, int decimals)
+{
+    char* const point = std::strchr(text, '.');
+    const std::size_t kept = static_cast<std::size_t>(std::max(decimals, 0)) + 1;
+    if (point != nullptr && std::strlen(point) > kept) {
+        point[kept] = '\0';
+    }
+}
+
+void TypedValueCL::SetTypeM(int type, int decimals)
+{
+    type_ = type;
+    decimals_ = decimals;
+}
+
+int TypedValueCL::SetRangeM(const simpleValD& range)
+{
+    if (!isNumberType(type_) && type_ != TextType) {
+        return 0;
+    }
+    // The bytes of two ints are those of two reals.
+    std::copy_n(range.text, sizeof range.numbers, range_.text);
+    return 1;
+}
+
+int TypedValueCL::SetValueM(const simpleValD& value)
+{
+    switch (type_) {
+    case IntegerType:
+        value_.number = value.number;
+        return 1;
+    case RealType:
+        value_.real = value.real;
+        return 1;
+    case TextType: {
+        simpleValD ended = value;
+        ended.text[TextSize - 1] = '\0';
+        SetTextM(ended.text);
+        return 1;
+    }
+    default:
+        return 0;
+    }
+}
+
+int TypedValueCL::GetValueM(simpleValD* value) const
+{
+    switch (type_) {
+    case IntegerType:
+        value->number = value_.number;
+        return 1;
+    case RealType:
+        value->real = value_.real;
+        return 1;
+    case TextType:
+        slCopyText(value->text, TextSize, value_.text);
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+void TypedValueCL::SetTextM(const char* value)
+{
+    if (value != value_.text) {
+        slCopyText(value_.text, TextSize, value);
+    }
+}
+
+bool TypedValueCL::AcceptsM(unsigned character) const
+{
+    if (!isNumberType(type_)) {
+        return type_ == TextType;
+    }
+    const auto* const commandsEnd = std::end(EditCommands);
+    return (character >= '0' && character <= '9') || character == Backspace || character == '-'
+        || character == '+' || (type_ == RealType && character == '.')
+        || std::find(std::begin(EditCommands), commandsEnd, character) != commandsEnd;
+}
+
+template <class T> CheckCode TypedValueCL::judgeM(T value, const T (&limits)[2])
+{
+    return value < limits[0] ? BelowMinimum : value > limits[1] ? AboveMaximum : ValidValue;
+}
+
+CheckCode TypedValueCL::ReadM(const char* text)
+{
+    char line[TextSize];
+    slCopyText(line, TextSize, text);
+    if (type_ == TextType) {
+        SetTextM(line);
+        // Only the maximum counts.
+        const int length = static_cast<int>(std::strlen(value_.text));
+        return length > range_.numbers[1] ? AboveMaximum : ValidValue;
+    }
+    if (type_ == RealType) {
+        slTripDot(line, decimals_);
+    }
+    const char* const end = line + std::strlen(line);
+    const char* const begin = std::find_if_not(static_cast<const char*>(line), end, isBlank);
+    if (type_ == IntegerType && slReadInt(begin, end, &value_.number) > begin) {
+        return judgeM(value_.number, range_.numbers);
+    }
+    if (type_ == RealType && slReadReal(begin, end, &value_.real) > begin) {
+        return judgeM(value_.real, range_.reals);
+    }
+    return Unreadable;
+}
+
+int TypedValueCL::ShowM(char* to, int size) const
+{
+    slCopyText(to, size, "");
+    if (type_ == TextType) {
+        slCopyText(to, size, value_.text);
+        return 1;
+    }
+    showNumberM(to, size, value_, 0);
+    return isNumberType(type_) ? 1 : 0;
+}
+
+// One of the two numbers of a value or range; the locale doesn't matter.
+void TypedValueCL::showNumberM(char* to, int size, const simpleValD& value, int which) const
+{
+    char text[TextSize];
+    std::to_chars_result result { text, std::errc() };
+    if (type_ == RealType) {
+        const int decimals = std::clamp(decimals_, 0, MostDecimals);
+        result = std::to_chars(text, text + TextSize - 1, static_cast<double>(value.reals[which]),
+            std::chars_format::fixed, decimals);
+    } else if (type_ == IntegerType || type_ == TextType) {
+        result = std::to_chars(text, text + TextSize - 1, value.numbers[which]);
+    }
+    *result.ptr = '\0';
+    slCopyText(to, size, text);
+}
+
+void TypedValueCL::ForceM(CheckCode code)
+{
+    if (code != BelowMinimum && code != AboveMaximum) {
+        return;
+    }
+    const int which = code == BelowMinimum ? 0 : 1;
+    if (type_ == IntegerType) {
+        value_.number = range_.numbers[which];
+    } else if (type_ == RealType) {
+        value_.real = range_.reals[which];
+    } else if (type_ == TextType && code == AboveMaximum) {
+        slCutText(value_.text, std::max(range_.numbers[1], 0));
+    }
+}
+
+std::string TypedValueCL::LimitTextM(CheckCode code) const
+{
+    char text[TextSize];
+    showNumberM(text, TextSize, range_, code == BelowMinimum ? 0 : 1);
+    return text;
+}
+
+void slTypedField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& value)
+{
+    if (type == RealType) {
+        visitor.RealM(name, value.real);
+    } else if (type == TextType) {
+        CharArr text;
+        text.SetM(value.text);
+        visitor.TextM(name, text, NullWord::Kept);
+        slCopyText(value.text, TextSize, text.TextM());
+    } else {
+        visitor.IntM(name, value.number);
+    }
+}
+
+void slTypedRangeField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& range)
+{
+    if (type == RealType) {
+        visitor.RealPairM(name, range.reals);
+    } else {
+        visitor.IntPairM(name, range.numbers);
+    }
+}

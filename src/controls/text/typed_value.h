@@ -1,0 +1,80 @@
+#pragma once
+#include "baselib/simple_value.h"
+#include "records/fields.h"
+#include <string>
+
+// What a value is held as; the codes of description files.
+enum ValueType
+{
+    IntegerType = 1,
+    RealType = 2,
+    TextType = 3
+};
+
+// How a text was judged.
+enum CheckCode
+{
+    Unreadable = 0,
+    BelowMinimum = 3,
+    ValidValue = 4,
+    AboveMaximum = 5
+};
+
+// A real is shown with at most so many decimals: any then fits a text buffer.
+constexpr int MostDecimals = TextSize - 42;
+
+// The value of an edit: its data type, decimals and limits; reading it from what the user typed, checking it,
+// and showing it. Any code but those above is an unknown type: nothing can be typed, stored, read or shown.
+// Texts are GBK of at most 259 bytes; what is longer is cut at a character.
+class PANELKIT_API TypedValueCL
+{
+public:
+    int GetTypeM() const { return type_; }
+    int GetDecimalsM() const { return decimals_; }
+    void SetTypeM(int type, int decimals); // decimals: of a real; below 0 counts as 0.
+
+    // Both take, by type, ints, reals or a text, for a text type the limits as ints: 1; 0 for an unknown
+    // type.
+    int SetRangeM(const simpleValD& range);
+    int SetValueM(const simpleValD& value);
+    int GetValueM(simpleValD* value) const;
+    const simpleValD& RangeM() const { return range_; }
+
+    // These don't look at the type.
+    void SetIntM(int value) { value_.number = value; }
+    void SetRealM(float value) { value_.real = value; }
+    void SetTextM(const char* value);
+    int IntM() const { return value_.number; }
+    float RealM() const { return value_.real; }
+    const char* TextM() const { return value_.text; }
+
+    // Whether the user may type this character. Editing commands such as Ctrl+V arrive as characters too.
+    bool AcceptsM(unsigned character) const;
+
+    // Reads a text into the value, in the limits or not, and judges it. Blanks before a number and anything
+    // behind it don't matter. Where no number stands the value stays.
+    CheckCode ReadM(const char* text);
+    int ShowM(char* to, int size) const; // The value as text: 1; "" and 0 for an unknown type.
+
+    // Brings a value that ReadM judged to be out of range to the limit; a text is cut to its maximum length.
+    void ForceM(CheckCode code);
+    // The limit that a value with this code passes, as text.
+    std::string LimitTextM(CheckCode code) const;
+
+private:
+    void showNumberM(char* to, int size, const simpleValD& value, int which) const;
+    template <class T> static CheckCode judgeM(T value, const T (&limits)[2]);
+
+    int type_ { IntegerType };
+    int decimals_ { 0 };
+    simpleValD range_;
+    simpleValD value_;
+};
+
+// Cuts a real's text behind the given number of decimals, not rounding; the point itself stays.
+PANELKIT_API void slTripDot(char* text, int decimals);
+
+// A value or a range of a record as a field that goes by the data type; zeros for an unknown type, which ends
+// the reading of a record before it comes to them.
+PANELKIT_API void slTypedField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& value);
+PANELKIT_API void slTypedRangeField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& range);
