@@ -1,0 +1,29 @@
+#pragma once
+#include "toolkit/toolkit.h"
+
+// Keeps a shown control from redrawing itself for as long as this lives, then has it drawn once.
+class PANELKIT_API FillingCL
+{
+public:
+    explicit FillingCL(CWnd* control)
+        : control_(
+            control->GetSafeHwnd() != nullptr && (control->GetStyle() & WS_VISIBLE) != 0 ? control : nullptr)
+    {
+        // A hidden one is left alone: switching its drawing on again would show it.
+        if (control_ != nullptr) {
+            control_->SetRedraw(FALSE);
+        }
+    }
+    FillingCL(const FillingCL&) = delete;
+    FillingCL& operator=(const FillingCL&) = delete;
+    ~FillingCL()
+    {
+        if (control_ != nullptr) {
+            control_->SetRedraw(TRUE);
+            control_->Invalidate();
+        }
+    }
+
+private:
+    CWnd* control_;
+};
