@@ -99,23 +99,35 @@ private:
 
     bool decodeRow(const unsigned char* from, unsigned char* to) const
     {
+        if (header_.bits <= 8) {
+            return decodeIndices(from, to);
+        }
+        if (header_.bits == 24) {
+            for (const unsigned char* const end = to + width_ * 3; to != end; to += 3, from += 3) {
+                to[0] = from[2];
+                to[1] = from[1];
+                to[2] = from[0];
+            }
+            return true;
+        }
+        const std::size_t size = static_cast<std::size_t>(header_.bits) / 8;
+        for (std::size_t x = 0; x < width_; ++x, to += 3) {
+            const BmpBytes pixel { from + x * size, size };
+            const std::uint32_t value = size == 2 ? pixel.word(0) : pixel.dword(0);
+            for (int i = 0; i < 3; ++i) {
+                to[i] = component(value, header_.fields[i]);
+            }
+        }
+        return true;
+    }
+
+    bool decodeIndices(const unsigned char* from, unsigned char* to) const
+    {
         const std::size_t bits = static_cast<std::size_t>(header_.bits);
         for (std::size_t x = 0; x < width_; ++x, to += 3) {
-            if (bits <= 8) {
-                const unsigned place = static_cast<unsigned>(8 - bits - x * bits % 8);
-                if (!putIndex(from[x * bits / 8] >> place & ((1 << bits) - 1), to)) {
-                    return false;
-                }
-            } else if (bits == 24) {
-                to[0] = from[x * 3 + 2];
-                to[1] = from[x * 3 + 1];
-                to[2] = from[x * 3];
-            } else {
-                const BmpBytes pixel { from + x * bits / 8, bits / 8 };
-                const std::uint32_t value = bits == 16 ? pixel.word(0) : pixel.dword(0);
-                for (int i = 0; i < 3; ++i) {
-                    to[i] = component(value, header_.fields[i]);
-                }
+            const unsigned place = static_cast<unsigned>(8 - bits - x * bits % 8);
+            if (!putIndex(from[x * bits / 8] >> place & ((1 << bits) - 1), to)) {
+                return false;
             }
         }
         return true;

@@ -1,7 +1,6 @@
 #include "records/picture_edges.h"
 #include "baselib/bmp_reader.h"
 #include "baselib/helpers.h"
-#include "records/picture_pixels.h"
 #include <algorithm>
 #include <cstddef>
 
@@ -14,12 +13,16 @@ struct View
     const unsigned char* pixels;
     const unsigned char* key;
 
+    const unsigned char* rowAt(int y) const
+    {
+        return pixels + static_cast<std::size_t>(h - 1 - y) * static_cast<std::size_t>(w) * 3;
+    }
     bool isEmpty() const { return w < 1 || h < 1 || pixels == nullptr; }
     bool isTransparent(int x, int y) const
     {
-        const std::size_t row = static_cast<std::size_t>(h - 1 - y);
-        const std::size_t place = row * static_cast<std::size_t>(w) + static_cast<std::size_t>(x);
-        return slIsTransparency(pixels + place * 3, key) != 0;
+        // As slIsTransparency says, without a call for each pixel.
+        const unsigned char* const pixel = rowAt(y) + static_cast<std::size_t>(x) * 3;
+        return pixel[0] >= key[0] && pixel[1] >= key[1] && pixel[2] >= key[2];
     }
 };
 

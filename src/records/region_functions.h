@@ -26,6 +26,8 @@ PANELKIT_API int slCreateRgn(const Int2DArr& pts, CRgn* rgn);
 // All that follow replace the region.
 
 // The picture without the runs of transparent pixels in each column; see slFindOpaqueRects.
+PANELKIT_API int slCreatRgnByPixel(
+    int w, int h, const unsigned char* pixels, const unsigned char* key, CRgn* rgn);
 PANELKIT_API int slCreatRgnByPixel(const char* file, const unsigned char* key, CRgn* rgn);
 // The outline of the first black figure; key is not used.
 PANELKIT_API int slCreateRgnAny(

@@ -11,7 +11,7 @@ namespace {
 
 // The platform unites one rectangle at a time with what it has, in time that grows with the square of their
 // number; so it gets few at once, and the pieces are united in pairs.
-constexpr std::size_t PieceSize = 32;
+constexpr std::size_t PieceSize = 16;
 
 HRGN makePiece(const PictureRect* rects, std::size_t count)
 {
@@ -76,19 +76,25 @@ private:
 
 } // namespace
 
-int slCreatRgnByPixel(const char* file, const unsigned char* key, CRgn* rgn)
+int slCreatRgnByPixel(int w, int h, const unsigned char* pixels, const unsigned char* key, CRgn* rgn)
 {
     rgn->DeleteObject();
-    int w = 0;
-    int h = 0;
-    unsigned char* pixels = nullptr;
-    slLoadBmpPicture3D(file, &w, &h, &pixels);
     const std::vector<PictureRect> rects = slFindOpaqueRects(w, h, pixels, key);
-    slFree(pixels);
     UnionTree tree;
     for (std::size_t i = 0; i < rects.size(); i += PieceSize) {
         tree.add(makePiece(&rects[i], std::min(PieceSize, rects.size() - i)));
     }
     rgn->Attach(tree.take());
+    return 1;
+}
+
+int slCreatRgnByPixel(const char* file, const unsigned char* key, CRgn* rgn)
+{
+    int w = 0;
+    int h = 0;
+    unsigned char* pixels = nullptr;
+    slLoadBmpPicture3D(file, &w, &h, &pixels);
+    slCreatRgnByPixel(w, h, pixels, key, rgn);
+    slFree(pixels);
     return 1;
 }
