@@ -5,6 +5,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/control_geometry.cpp
   controls/buttons/group_box.cpp
   controls/buttons/label.cpp
+  controls/text/multi_edit.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
   dialog/basic_dialog_finish.cpp

@@ -18,6 +18,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/tagged_arr.cpp
   controls/buttons/group_box_record.cpp
   controls/buttons/label_record.cpp
+  controls/text/multi_edit_record.cpp
   controls/text/single_edit_record.cpp
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp

@@ -1,6 +1,7 @@
 #pragma once
 #include "controls/buttons/group_box.h"
 #include "controls/buttons/label.h"
+#include "controls/text/multi_edit.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "records/bitmap_record.h"

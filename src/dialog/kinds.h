@@ -1,12 +1,14 @@
 #pragma once
 #include "controls/buttons/group_box_record.h"
 #include "controls/buttons/label_record.h"
+#include "controls/text/multi_edit_record.h"
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
 class DuGroupBoxArr;
 class DuLabelArr;
+class DuMultiEditArr;
 
 enum class Stacking
 {
@@ -34,6 +36,8 @@ struct KindRowCL
 // search by id and of collection for the stacking and font passes.
 using KindTable
     = std::tuple<KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
+        KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
+            &DVrMultiEditArr::InitMultiEditM>,
         KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex,
             &DVrGroupBoxArr::InitGroupBoxM>>;
 
@@ -80,7 +84,6 @@ inline constexpr PendingKindCL PendingKinds[] = {
     { 1, "special_animation", SpecAnimateHeader },
     { 3, "single_edit", SingleEditHeader },
     { 4, "spin_edit", SpinEditHeader },
-    { 5, "multi_edit", MultiEditHeader },
     { 6, "text_list_box", TextListBoxHeader },
     { 7, "bitmap_list_box", BmpListBoxHeader },
     { 8, "combo_box", ComboBoxHeader },

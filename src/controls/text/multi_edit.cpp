@@ -1,0 +1,134 @@
+#include "controls/text/multi_edit.h"
+#include "controls/text/multi_edit_record.h"
+#include <cstring>
+
+template class PANELKIT_API Arr<DuMultiEditCL>;
+
+BEGIN_MESSAGE_MAP(DuMultiEditCL, CEdit)
+ON_CONTROL_REFLECT(EN_CHANGE, &DuMultiEditCL::OnChange)
+ON_WM_SETFOCUS()
+ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+int DVrMultiEditCL::InitMultiEditM(DuMultiEditCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetAlignModeM(alignMode_);
+    control->SetMaxNumM(maxNum_); // Before the text, which is dropped whole if it is not shorter.
+    control->SetInitTextM(text_.TextM());
+    control->SetReadOnlyM(readOnly_);
+    control->SetEdgeM(edge_);
+    control->SetBkColorM(bkColor_);
+    return 1;
+}
+
+int DVrMultiEditArr::InitMultiEditM(int index, DuMultiEditCL* control) const
+{
+    return ifAliveM(index, [control](const DVrMultiEditCL& record) { record.InitMultiEditM(control); });
+}
+
+int DuMultiEditCL::Create(CWnd* parent)
+{
+    const int result = createdM(CEdit::Create(0, describedRectM(), parent, GetFunctionIDM()));
+    if (result == 1) {
+        SetWindowText(text_.TextM());
+    }
+    return result;
+}
+
+BOOL DuMultiEditCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | ES_WANTRETURN | ES_MULTILINE;
+    if (edge_ == 1) {
+        create.style |= WS_BORDER;
+        create.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
+    if (readOnly_ == 1) {
+        create.style |= ES_READONLY;
+    }
+    if (alignMode_ == 3) {
+        create.style |= ES_CENTER;
+    } else if (alignMode_ == 4) {
+        create.style |= ES_RIGHT;
+    }
+    return CEdit::PreCreateWindow(create);
+}
+
+int DuMultiEditCL::SetMaxNumM(int bytes)
+{
+    if (bytes < 1) {
+        return 0;
+    }
+    maxNum_ = bytes;
+    return 1;
+}
+
+int DuMultiEditCL::SetAlignModeM(int mode)
+{
+    alignMode_ = mode;
+    return 1;
+}
+
+int DuMultiEditCL::SetReadOnlyM(int readOnly)
+{
+    readOnly_ = readOnly;
+    return 1;
+}
+
+int DuMultiEditCL::SetEdgeM(int edge)
+{
+    edge_ = edge;
+    return 1;
+}
+
+int DuMultiEditCL::SetBkColorM(COLORREF colour)
+{
+    background_.SetColourM(colour);
+    return 1;
+}
+
+int DuMultiEditCL::storeM(const char* text, size_t atLeast)
+{
+    const size_t length = text == nullptr ? 0 : std::strlen(text);
+    if (length < atLeast || length >= static_cast<size_t>(maxNum_)) {
+        return 0;
+    }
+    return text_.SetM(text);
+}
+
+int DuMultiEditCL::SetInitTextM(const char* text)
+{
+    return storeM(text, 1);
+}
+
+int DuMultiEditCL::SetTextM(const char* text)
+{
+    const int stored = storeM(text, 0);
+    if (stored == 1 && m_hWnd != nullptr) {
+        SetWindowText(text_.TextM()); // A multi-line window does not report this change.
+    }
+    return stored;
+}
+
+int DuMultiEditCL::GetTextM(char* text) const
+{
+    std::strcpy(text, text_.TextM());
+    return 1;
+}
+
+void DuMultiEditCL::OnChange()
+{
+    CString text;
+    GetWindowText(text);
+    text_.SetM(text);
+}
+
+void DuMultiEditCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}
+
+HBRUSH DuMultiEditCL::CtlColor(CDC* dc, UINT)
+{
+    return background_.AnswerM(dc);
+}
