@@ -1,0 +1,57 @@
+#pragma once
+#include "baselib/base.h"
+#include "toolkit/toolkit.h"
+
+// Which characters a text box takes: 0 digits, 2 those of reals, any other value all.
+enum EditConstant : int
+{
+};
+
+// An edit field for programs that make their own windows: filters what is typed, reads and writes its text as
+// a number or a text. Limits are inclusive and must be set before numbers are used. Texts are GBK and pass
+// through 50 bytes: what is longer is cut at a character. Formats are printf's, for exactly one value.
+class PANELKIT_API DuTextBox : public CEdit, public VrBaseCL
+{
+public:
+    DuTextBox() = default;
+    explicit DuTextBox(char tag)
+        : VrBaseCL(tag)
+    {
+    }
+
+    EditConstant GetEditTypeM() const { return editType_; }
+    void SetEditTypeM(EditConstant type) { editType_ = type; }
+
+    // Minimum and maximum. Always 1.
+    int SetMinMaxValM(const int limits[2]);
+    int GetMinMaxValueM(int limits[2]) const;
+    int SetMinMaxValM(const float limits[2]);
+    int GetMinMaxValM(float limits[2]) const;
+
+    // 1 and the number; -1 for a blank text, *value untouched; -1 and *value = -1 for a number outside the
+    // limits. A text that is no number counts as 0, but is reported by 0 where 0 is within the limits.
+    int GetIntM(int* value) const;
+    int GetRealM(float* value) const;
+    // Shows the number, or nothing if it is outside the limits. Always 1.
+    int SetIntM(int value, const char* format);
+    int SetRealM(float value, const char* format);
+
+    int GetStringM(char* text) const; // Copies the text, 50 bytes at most. 1, for the empty text 0.
+    int SetStringM(const char* text, const char* format); // Shows the text. Always 1.
+
+protected:
+    afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr int BufferSize = 50;
+    template <class NumberTP>
+    int getM(const char* (*read)(const char* at, const char* end, NumberTP* value),
+        const NumberTP (&limits)[2], NumberTP* value) const;
+    bool isTakenM(UINT character) const;
+    void showM(const char* format, ...); // Null: nothing.
+
+    EditConstant editType_ { 4 };
+    int intLimits_[2] {};
+    float realLimits_[2] {};
+};
