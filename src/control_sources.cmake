@@ -7,6 +7,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/buttons/label.cpp
   controls/text/multi_edit.cpp
   controls/text/text_box.cpp
+  controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
   dialog/basic_dialog_finish.cpp
