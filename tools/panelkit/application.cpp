@@ -23,12 +23,18 @@ std::string utf8Of(const std::wstring& text)
     return result;
 }
 
-std::wstring wideOf(const std::string& utf8)
+std::string printedOf(const std::wstring& text)
 {
-    const int length = static_cast<int>(utf8.size());
-    std::wstring result(::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0), 0);
-    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, result.data(), static_cast<int>(result.size()));
-    return result;
+    // Bytes and pairs without a character were shown as private-use codes.
+    constexpr wchar_t FirstPrivate = 0xE000;
+    constexpr wchar_t LastPrivate = 0xF8FF;
+    std::wstring printed = text;
+    for (wchar_t& character : printed) {
+        if (character >= FirstPrivate && character <= LastPrivate) {
+            character = 0xFFFD;
+        }
+    }
+    return utf8Of(printed);
 }
 
 std::vector<std::string> wideArguments()

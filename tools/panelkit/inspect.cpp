@@ -12,7 +12,7 @@ std::string textOf(HWND window)
 {
     std::wstring text(static_cast<size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return utf8Of(text);
+    return printedOf(text);
 }
 
 JsonTP rectOf(const RECT& rect)
@@ -27,7 +27,7 @@ JsonTP fontOf(HWND window)
     if (font == nullptr || ::GetObjectW(font, sizeof description, &description) == 0) {
         return nullptr;
     }
-    return { { "height", description.lfHeight }, { "face", utf8Of(description.lfFaceName) },
+    return { { "height", description.lfHeight }, { "face", printedOf(description.lfFaceName) },
         { "charset", description.lfCharSet } };
 }
 
@@ -52,7 +52,7 @@ JsonTP controlOf(HWND window, HWND dialog)
     ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
     const LONG style = ::GetWindowLongW(window, GWL_STYLE);
     JsonTP control = { { "id", ::GetDlgCtrlID(window) },
-        { "kind", kindOf(CWnd::FromHandlePermanent(window)) }, { "class", utf8Of(windowClass) },
+        { "kind", kindOf(CWnd::FromHandlePermanent(window)) }, { "class", printedOf(windowClass) },
         { "text", textOf(window) }, { "style", hexWord(static_cast<DWORD>(style)) },
         { "ex_style", hexWord(static_cast<DWORD>(::GetWindowLongW(window, GWL_EXSTYLE))) },
         { "rect", rectOf(rect) }, { "visible", (style & WS_VISIBLE) != 0 },

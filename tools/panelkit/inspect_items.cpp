@@ -28,7 +28,7 @@ JsonTP itemsOf(HWND window, const ItemMessagesCL& messages, bool hasTexts)
                 ::SendMessageW(window, messages.text, index, reinterpret_cast<LPARAM>(text.data()))));
         }
         const auto data = static_cast<int>(::SendMessageW(window, messages.data, index, 0));
-        items.push_back({ { "text", utf8Of(text) }, { "data", data } });
+        items.push_back({ { "text", printedOf(text) }, { "data", data } });
     }
     return items;
 }
@@ -41,7 +41,7 @@ std::string cellOf(HWND window, int row, int column)
     item.pszText = text;
     item.cchTextMax = 520;
     ::SendMessageW(window, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return utf8Of(text);
+    return printedOf(text);
 }
 
 void addTable(HWND window, JsonTP& control)
@@ -57,7 +57,7 @@ void addTable(HWND window, JsonTP& control)
     while (::SendMessageW(
                window, LVM_GETCOLUMNW, static_cast<WPARAM>(columnCount), reinterpret_cast<LPARAM>(&column))
         != 0) {
-        columns.push_back({ { "text", utf8Of(text) }, { "width", column.cx } });
+        columns.push_back({ { "text", printedOf(text) }, { "width", column.cx } });
         ++columnCount;
     }
     const auto rowCount = static_cast<int>(::SendMessageW(window, LVM_GETITEMCOUNT, 0, 0));
@@ -87,7 +87,7 @@ JsonTP treeItem(HWND window, HTREEITEM handle)
     item.pszText = text;
     item.cchTextMax = 520;
     ::SendMessageW(window, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    return { { "text", utf8Of(text) }, { "data", static_cast<int>(item.lParam) },
+    return { { "text", printedOf(text) }, { "data", static_cast<int>(item.lParam) },
         { "children", JsonTP::array() } };
 }
 

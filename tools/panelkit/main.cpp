@@ -19,6 +19,7 @@ int run(std::vector<std::string> arguments)
 {
     CLI::App app("Reads, shows and pictures dialog description files.", "panelkit");
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // "/dialogs/a.dlg" is a file on every system.
     app.set_version_flag("--version", "panelkit " PANELKIT_VERSION);
 
     std::string file;

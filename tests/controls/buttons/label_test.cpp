@@ -1,8 +1,13 @@
 #include "controls/buttons/group_box.h"
 #include "controls/buttons/label.h"
 #include "controls/buttons/label_record.h"
+#include "support/message_recorder.h"
+#include "support/pixels.h"
+#include "support/pump.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
+
+using namespace testing_support;
 
 namespace {
 
@@ -15,51 +20,6 @@ struct LabelCL
     }
     HWND WindowM() const { return dialog.ItemM(11); }
     TestDialogCL dialog;
-};
-
-// A dialog that counts what it gets.
-class CountingWindowCL : public PlainWindowCL
-{
-public:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == 1625) {
-            ++focusReports;
-            reporter = wParam;
-            extra = lParam;
-        }
-        return PlainWindowCL::WindowProc(message, wParam, lParam);
-    }
-    int focusReports { 0 };
-    WPARAM reporter { 0 };
-    LPARAM extra { -1 };
-};
-
-void handleQueued()
-{
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::DispatchMessageW(&message);
-    }
-}
-
-struct PixelsCL
-{
-    explicit PixelsCL(HWND window)
-        : window_(window)
-    {
-        ::RedrawWindow(
-            window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-        dc_ = ::GetDC(window);
-    }
-    PixelsCL(const PixelsCL&) = delete;
-    PixelsCL& operator=(const PixelsCL&) = delete;
-    ~PixelsCL() { ::ReleaseDC(window_, dc_); }
-    COLORREF AtM(int x, int y) const { return ::GetPixel(dc_, x, y); }
-
-private:
-    HWND window_;
-    HDC dc_;
 };
 
 } // namespace
@@ -99,10 +59,12 @@ TEST(Label, BackgroundColourFillsTheLabelAndNoneTakesTheDialogs)
 {
     LabelCL red("1\nnull\n0 255 0 0\n");
     red.dialog.ShowWindow(SW_SHOW);
-    EXPECT_EQ(PixelsCL(red.WindowM()).AtM(60, 20), RGB(255, 0, 0));
+    PumpPending();
+    EXPECT_EQ(Pixels(red.WindowM()).AtM(60, 20), RGB(255, 0, 0));
     LabelCL plain("1\nnull\n0 -1 0 0\n");
     plain.dialog.ShowWindow(SW_SHOW);
-    EXPECT_EQ(PixelsCL(plain.WindowM()).AtM(60, 20), ::GetSysColor(COLOR_BTNFACE));
+    PumpPending();
+    EXPECT_EQ(Pixels(plain.WindowM()).AtM(60, 20), ::GetSysColor(COLOR_BTNFACE));
 }
 
 TEST(Label, EachColourRequestReplacesTheBrushAndNoneLeaks)
@@ -161,16 +123,14 @@ TEST(Label, TextTooLongForItsBufferIsCutAtACharacter)
 
 TEST(Label, FocusIsReportedToTheParentByPost)
 {
-    CountingWindowCL parent;
+    PlainWindowCL parent;
     DuLabelCL label;
     label.SetFunctionIDM(77);
     label.Create(&parent);
+    MessageRecorder recorder(parent.m_hWnd, { 1625 });
     ::SetFocus(label.m_hWnd);
-    EXPECT_EQ(parent.focusReports, 0);
-    handleQueued();
-    EXPECT_EQ(parent.focusReports, 1);
-    EXPECT_EQ(parent.reporter, 77U);
-    EXPECT_EQ(parent.extra, 0);
+    PumpPending();
+    EXPECT_EQ(recorder.ListM(), std::vector<std::string> { "posted 1625 w=77 l=0" });
 }
 
 TEST(Label, CommandsEnableDisableShowAndHide)

@@ -1,0 +1,134 @@
+#include "support/description.h"
+#include "tools/run_command.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string sample(const std::string& name)
+{
+    return PANELKIT_SAMPLES "/" + name;
+}
+
+CommandResultCL dump(const std::string& path)
+{
+    return runCommand("dump \"" + path + "\"");
+}
+
+// The one line of complaint and exit 2 that wrong use gets.
+void expectComplaint(const CommandResultCL& result, const std::string& part)
+{
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_NE(result.errors.find(part), std::string::npos) << result.errors;
+    EXPECT_EQ(result.errors.rfind("panelkit: ", 0), 0U) << result.errors;
+    EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+}
+
+int countOf(const std::string& text, const std::string& part)
+{
+    int count = 0;
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+TEST(Dump, PrintsTheSampleToTheLetter)
+{
+    const CommandResultCL result = dump(sample("two_kinds.dlg"));
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, wholeFile(sample("two_kinds.json")));
+}
+
+TEST(Dump, EmptyFileHasNoDialogAndNineteenMissingSections)
+{
+    const TempFile file("");
+    const CommandResultCL result = dump(file.path());
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.output.rfind("{\n  \"dialog\": null,\n", 0), 0U);
+    EXPECT_EQ(countOf(result.output, "\"missing\""), 19);
+}
+
+TEST(Dump, BinaryFileIsReadToItsEnd)
+{
+    std::string bytes;
+    for (int i = 0; i < 100000; ++i) {
+        bytes += static_cast<char>((i * 7919) >> 3);
+    }
+    const TempFile file(bytes);
+    EXPECT_EQ(dump(file.path()).code, 0);
+}
+
+TEST(Dump, FileCutAnywhereIsReadToItsEnd)
+{
+    const std::string whole = wholeFile(sample("two_kinds.dlg"));
+    for (size_t length = 0; length < whole.size(); length += 23) {
+        const TempFile file(whole.substr(0, length));
+        const CommandResultCL result = dump(file.path());
+        ASSERT_EQ(result.code, 0) << length;
+        ASSERT_EQ(result.output.back(), '\n') << length;
+    }
+}
+
+TEST(Dump, CountsThatCannotBeMeantAreBrokenOrEmpty)
+{
+    const DescriptionFileCL file("[标题]\n2000000000\n0\n[成组控件]\n-1\n0\n");
+    const CommandResultCL result = dump(file.path());
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(countOf(result.output, "\"broken\""), 1);
+    EXPECT_EQ(countOf(result.output, "\"empty\""), 1);
+}
+
+TEST(Dump, HundredMegabytesWithoutASectionEndInTime)
+{
+    std::string bytes = slUtf8ToGbk("[标题]\n2000000000\n");
+    bytes.resize(100000000, '\x81'); // Whether a later byte begins a character depends on all before it.
+    const TempFile file(bytes);
+    const CommandResultCL result = dump(file.path());
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(countOf(result.output, "\"broken\""), 1);
+}
+
+TEST(Dump, FilesThatCannotBeOpenedGetOneClearLine)
+{
+    expectComplaint(dump("no such file.dlg"), "no such file");
+    const TempFile inside("");
+    const std::string folder = std::filesystem::path(inside.path()).parent_path().string();
+    expectComplaint(dump(folder), "not a regular file");
+}
+
+TEST(Dump, ChineseFileNamesAreFound)
+{
+    namespace fs = std::filesystem;
+    const TempFile file("[x]");
+    const fs::path chinese = fs::path(file.path()).parent_path() / fs::u8path("参数 设置.dlg");
+    fs::copy_file(file.path(), chinese, fs::copy_options::overwrite_existing);
+    // Arguments reach a Windows program as UTF-16; these go through the tests' code page on the way.
+#ifndef _WIN32
+    EXPECT_EQ(dump(chinese.string()).code, 0);
+#endif
+    fs::remove(chinese);
+}
+
+TEST(Command, WrongArgumentsGetOneClearLine)
+{
+    expectComplaint(runCommand(""), "subcommand");
+    expectComplaint(runCommand("dump"), "FILE");
+    expectComplaint(runCommand("dump a b"), "b");
+    expectComplaint(runCommand("frobnicate x"), "");
+    expectComplaint(runCommand("shot x"), "OUT.png");
+    expectComplaint(runCommand("dump --nonsense x"), "--nonsense");
+}
+
+TEST(Command, VersionAndHelpAreAnswers)
+{
+    const CommandResultCL version = runCommand("--version");
+    EXPECT_EQ(version.code, 0);
+    EXPECT_EQ(version.output.rfind("panelkit ", 0), 0U);
+    const CommandResultCL help = runCommand("--help");
+    EXPECT_EQ(help.code, 0);
+    EXPECT_NE(help.output.find("inspect"), std::string::npos);
+}

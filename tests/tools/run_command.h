@@ -1,0 +1,85 @@
+#pragma once
+#include "support/temp_file.h"
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <sys/wait.h>
+#endif
+
+// What a run of the panelkit command gave.
+struct CommandResultCL
+{
+    int code { -1 };
+    std::string output; // Standard output.
+    std::string errors; // Standard error.
+};
+
+inline std::string wholeFile(const std::string& path)
+{
+    std::string bytes;
+    if (FILE* file = std::fopen(path.c_str(), "rb")) {
+        char block[4096];
+        for (size_t read = 0; (read = std::fread(block, 1, sizeof block, file)) > 0;) {
+            bytes.append(block, read);
+        }
+        std::fclose(file);
+    }
+    return bytes;
+}
+
+#ifdef _WIN32
+
+inline HANDLE inheritedFile(const std::string& path)
+{
+    SECURITY_ATTRIBUTES attributes { sizeof attributes, nullptr, TRUE };
+    return ::CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &attributes, CREATE_ALWAYS,
+        FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+inline int startCommand(const std::string& arguments, const std::string& output, const std::string& errors)
+{
+    STARTUPINFOA start {};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = inheritedFile(output);
+    start.hStdError = inheritedFile(errors);
+    PROCESS_INFORMATION process {};
+    std::string line = "\"" PANELKIT_COMMAND "\" " + arguments;
+    DWORD code = 999;
+    if (::CreateProcessA(
+            nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process)) {
+        ::WaitForSingleObject(process.hProcess, 120000);
+        ::GetExitCodeProcess(process.hProcess, &code);
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+    }
+    ::CloseHandle(start.hStdOutput);
+    ::CloseHandle(start.hStdError);
+    return static_cast<int>(code);
+}
+
+#else
+
+inline int startCommand(const std::string& arguments, const std::string& output, const std::string& errors)
+{
+    const std::string line = "'" PANELKIT_COMMAND "' " + arguments + " >'" + output + "' 2>'" + errors + "'";
+    const int status = std::system(line.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+}
+
+#endif
+
+// Runs the command with arguments as typed; quote names with blanks in double quotes.
+inline CommandResultCL runCommand(const std::string& arguments)
+{
+    const TempFile output;
+    const TempFile errors;
+    CommandResultCL result;
+    result.code = startCommand(arguments, output.path(), errors.path());
+    result.output = wholeFile(output.path());
+    result.errors = wholeFile(errors.path());
+    return result;
+}
