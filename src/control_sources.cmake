@@ -3,8 +3,13 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/common_box_control.cpp
   controls/base/control_common.cpp
   controls/base/control_geometry.cpp
+  controls/buttons/check_box.cpp
+  controls/buttons/checkable_button.cpp
   controls/buttons/group_box.cpp
   controls/buttons/label.cpp
+  controls/buttons/radio_box.cpp
+  controls/buttons/standard_button.cpp
+  controls/lists/text_list_box.cpp
   controls/text/multi_edit.cpp
   controls/text/text_box.cpp
   controls/text/tool_tip.cpp

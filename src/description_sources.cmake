@@ -16,8 +16,12 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
+  controls/buttons/check_box_record.cpp
   controls/buttons/group_box_record.cpp
   controls/buttons/label_record.cpp
+  controls/buttons/radio_box_record.cpp
+  controls/buttons/standard_button_record.cpp
+  controls/lists/text_list_box_record.cpp
   controls/text/multi_edit_record.cpp
   controls/text/single_edit_record.cpp
   controls/text/typed_value.cpp

@@ -1,6 +1,10 @@
 #pragma once
+#include "controls/buttons/check_box.h"
 #include "controls/buttons/group_box.h"
 #include "controls/buttons/label.h"
+#include "controls/buttons/radio_box.h"
+#include "controls/buttons/standard_button.h"
+#include "controls/lists/text_list_box.h"
 #include "controls/text/multi_edit.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
@@ -77,6 +81,7 @@ private:
     Int2DArr stackedM();
     int initCtrlZOrderM(CWnd* parent);
     int setItemFontM(CWnd* parent, int fontOption);
+    int setTxtLstBoxItemHeightM();
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };

@@ -10,6 +10,7 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         initCtrlZOrderM(parent);
     }
     setItemFontM(parent, header_.fontOption);
+    setTxtLstBoxItemHeightM(); // The font has changed them.
     return 1;
 }
 
@@ -61,6 +62,7 @@ template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
         (records.*RowTP::InitM)(i, &controls.ElementAtM(i));
     }
     controls.Create(parent);
+    controls.AfterCreateM();
     if constexpr (!std::is_null_pointer_v<decltype(RowTP::FillM)>) {
         int record = records.GetFirstIdxM();
         int control = controls.GetFirstIdxM();

@@ -3,6 +3,7 @@
 #include "baselib/gbk_texts.h"
 #include "baselib/int2d_arr.h"
 #include "dialog/basic_dialog.h"
+#include "dialog/with_control.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
@@ -98,4 +99,15 @@ int DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
         }
     }
     return 1;
+}
+
+int DuBasicDialogCL::setTxtLstBoxItemHeightM()
+{
+    int result = 0;
+    eachControlsM([&result](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == TextListBoxCode) {
+            result = controls.SetItemHeightM();
+        }
+    });
+    return result;
 }

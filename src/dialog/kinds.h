@@ -1,20 +1,39 @@
 #pragma once
+#include "controls/buttons/check_box_record.h"
 #include "controls/buttons/group_box_record.h"
 #include "controls/buttons/label_record.h"
+#include "controls/buttons/radio_box_record.h"
+#include "controls/buttons/standard_button_record.h"
+#include "controls/lists/text_list_box_record.h"
 #include "controls/text/multi_edit_record.h"
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
+class DuCheckBoxArr;
 class DuGroupBoxArr;
 class DuLabelArr;
 class DuMultiEditArr;
+class DuRadioBoxArr;
+class DuStandardButtonArr;
+class DuTextListBoxArr;
 
 enum class Stacking
 {
     ByWindowIndex,
     AsCreated
 }; // AsCreated kinds don't get the dialog font either.
+
+// The codes of kinds that have operations of their own.
+enum KindCode : int
+{
+    NormalAnimateCode = 1,
+    SingleEditCode = 4,
+    TextListBoxCode = 7,
+    BmpListBoxCode = 8,
+    ComboBoxCode = 9,
+    RadioBoxCode = 11
+};
 
 // One kind of control: its record array and runtime array, the code that GetContrlPtrM reports, its place in
 // the order of building, whether the stacking and font passes take it, how a record fills a control, and
@@ -34,25 +53,21 @@ struct KindRowCL
 
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
-using KindTable
-    = std::tuple<KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
-        KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
-            &DVrMultiEditArr::InitMultiEditM>,
-        KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex,
-            &DVrGroupBoxArr::InitGroupBoxM>>;
+using KindTable = std::tuple<
+    KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
+        &DVrMultiEditArr::InitMultiEditM>,
+    KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
+        &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
+    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, 13, 12, Stacking::ByWindowIndex,
+        &DVrStandardButtonArr::InitStandardButtonM>,
+    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacking::ByWindowIndex,
+        &DVrRadioBoxArr::InitRadioBoxM>,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, 12, 11, Stacking::ByWindowIndex, &DVrCheckBoxArr::InitCheckBoxM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex,
+        &DVrGroupBoxArr::InitGroupBoxM>>;
 
 constexpr int KindCount = 19;
-
-// The codes of kinds that have operations of their own.
-enum KindCode : int
-{
-    NormalAnimateCode = 1,
-    SingleEditCode = 4,
-    TextListBoxCode = 7,
-    BmpListBoxCode = 8,
-    ComboBoxCode = 9,
-    RadioBoxCode = 11
-};
 
 // Calls see(row) for each kind of the table, in its order; row is a KindRowCL.
 template <class FunctionTP> void slEachKind(FunctionTP&& see)
@@ -84,13 +99,9 @@ inline constexpr PendingKindCL PendingKinds[] = {
     { 1, "special_animation", SpecAnimateHeader },
     { 3, "single_edit", SingleEditHeader },
     { 4, "spin_edit", SpinEditHeader },
-    { 6, "text_list_box", TextListBoxHeader },
     { 7, "bitmap_list_box", BmpListBoxHeader },
     { 8, "combo_box", ComboBoxHeader },
     { 9, "list_control", ListCtrlHeader },
-    { 10, "radio_button", RadioBoxHeader },
-    { 11, "check_box", CheckBoxHeader },
-    { 12, "standard_button", StandardButtonHeader },
     { 13, "bitmap_button", BmpButtonHeader },
     { 14, "multi_state_button", MultiStateButtonHeader },
     { 15, "rotate_button", RotateBtnHeader },

@@ -145,3 +145,50 @@ TEST(HostItems, WithoutRelationsTheFileHasNone)
     ItemDialogCL empty("[相关对象信息]\n0\n");
     EXPECT_EQ(empty.ReadRelationsM(), 1);
 }
+
+namespace {
+
+// A list box with id 1 and three lines: its id is also the index of a line.
+std::string listBox(int mode)
+{
+    return HeaderSections + ("[文本列表框]\n1\n0\n1 1 0 0 80 80 12 " + std::to_string(mode))
+        + " 1 255 255 255 0\n[文本列表框初始值]\n3\n0\n1 a\n1 b\n1 c\n";
+}
+
+LRESULT countOf(const TestDialogCL& dialog)
+{
+    return ::SendMessageW(dialog.ItemM(1), LB_GETCOUNT, 0, 0);
+}
+
+} // namespace
+
+TEST(HostItems, AddsALineWithItsNumberToAListBox)
+{
+    TestDialogCL dialog(listBox(1));
+    EXPECT_EQ(dialog.AddItemM(1, 42, "d"), 1);
+    EXPECT_EQ(countOf(dialog), 4);
+    EXPECT_EQ(::SendMessageW(dialog.ItemM(1), LB_GETITEMDATA, 3, 0), 42);
+}
+
+TEST(HostItems, OneNumberIsBothTheListAndTheLineToDelete)
+{
+    TestDialogCL dialog(listBox(1));
+    EXPECT_EQ(dialog.DelItemM(1), 1);
+    wchar_t text[20] = L"";
+    ::SendMessageW(dialog.ItemM(1), LB_GETTEXT, 1, reinterpret_cast<LPARAM>(text));
+    EXPECT_STREQ(text, L"c"); // Line 1, "b", is gone.
+    dialog.DelItemM(1);
+    EXPECT_EQ(dialog.DelItemM(1), 1); // No line 1 any more, but the list is found.
+    EXPECT_EQ(countOf(dialog), 1);
+}
+
+TEST(HostItems, OneNumberIsBothTheListAndTheLineToSelect)
+{
+    TestDialogCL dialog(listBox(2));
+    EXPECT_EQ(dialog.SetSelM(1), 1);
+    EXPECT_GT(::SendMessageW(dialog.ItemM(1), LB_GETSEL, 1, 0), 0);
+    EXPECT_EQ(::SendMessageW(dialog.ItemM(1), LB_GETSELCOUNT, 0, 0), 1);
+    TestDialogCL single(listBox(1));
+    EXPECT_EQ(single.SetSelM(1), 1); // Found, although a single selection refuses.
+    EXPECT_EQ(::SendMessageW(single.ItemM(1), LB_GETCURSEL, 0, 0), LB_ERR);
+}

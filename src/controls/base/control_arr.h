@@ -23,6 +23,9 @@ public:
         return result;
     }
 
+    // Called by the host once it has created the windows. A kind with something to do then hides it.
+    int AfterCreateM() { return 1; }
+
     // The first alive control with that function id, or null. The array keeps it.
     ControlTP* GetControlPtrM(int id)
     {

@@ -1,0 +1,23 @@
+#pragma once
+#include "controls/base/control_arr.h"
+#include "controls/buttons/checkable_button.h"
+
+// An automatic check box. Posts 1739 to its parent when it is clicked.
+class PANELKIT_API DuCheckBoxCL : public CheckableButtonCL
+{
+public:
+    using CheckableButtonCL::CheckableButtonCL;
+
+    int SetCurCheckM(int state); // 1 checks, every other value unchecks. Always 1.
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    afx_msg void onClickedM();
+    DECLARE_MESSAGE_MAP()
+};
+
+extern template class PANELKIT_API Arr<DuCheckBoxCL>;
+
+class PANELKIT_API DuCheckBoxArr : public ControlArr<DuCheckBoxCL>
+{
+};

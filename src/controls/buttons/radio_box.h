@@ -1,0 +1,36 @@
+#pragma once
+#include "controls/base/control_arr.h"
+#include "controls/buttons/checkable_button.h"
+
+// An automatic radio button. Posts 1734 to its parent when it is clicked, 1625 when it gains the focus.
+class PANELKIT_API DuRadioBoxCL : public CheckableButtonCL
+{
+public:
+    using CheckableButtonCL::CheckableButtonCL;
+
+    int SetCurCheckM(int state);     // Hands the state to the platform as it is. Always 1.
+    int SetGroupNoM(int group);      // Neighbours with equal numbers form a group. Always 1.
+    int GetGroupNoM(int* out) const; // Always 1.
+    // 1: the window begins a group. Any other value clears the whole style of the window. Always 1.
+    int SetGroupM(int flag);
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    afx_msg void onClickedM();
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int group_ { 0 };
+};
+
+extern template class PANELKIT_API Arr<DuRadioBoxCL>;
+
+class PANELKIT_API DuRadioBoxArr : public ControlArr<DuRadioBoxCL>
+{
+public:
+    // Lets each run of equal group numbers begin a group. The windows must exist. 0 for an empty array.
+    int MakeGroupM();
+    int AfterCreateM() { return MakeGroupM(); }
+    void ShowObjectM(int index, bool show); // The radio button at a place of the array; else nothing.
+};

@@ -1,0 +1,212 @@
+#include "controls/lists/text_list_box.h"
+#include "controls/lists/filling.h"
+#include "controls/lists/text_list_box_record.h"
+
+template class PANELKIT_API Arr<DuTextListBoxCL>;
+
+BEGIN_MESSAGE_MAP(DuTextListBoxCL, CListBox)
+ON_WM_CREATE()
+ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetItemInitHeightM(itemHeight_);
+    control->SetSelModeM(selMode_);
+    control->SetEdgeM(edge_);
+    control->SetBkColorM(bkColor_);
+    control->SetScrollM(scroll_);
+    return 1;
+}
+
+int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
+{
+    const FillingCL filling(control);
+    slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
+    return 1;
+}
+
+int DVrTextListBoxArr::InitTextListBoxM(int index, DuTextListBoxCL* control) const
+{
+    return ifAliveM(index, [control](const DVrTextListBoxCL& record) { record.InitTextListBoxM(control); });
+}
+
+int DVrTextListBoxArr::InitTextListBoxStrM(int index, DuTextListBoxCL* control)
+{
+    return ifAliveM(
+        index, [control](const DVrTextListBoxCL& record) { record.InitTextListBoxStrM(control); });
+}
+
+int DuTextListBoxCL::Create(CWnd* parent)
+{
+    return createdM(CListBox::Create(0, describedRectM(), parent, GetFunctionIDM()));
+}
+
+BOOL DuTextListBoxCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | LBS_NOINTEGRALHEIGHT | LBS_NOTIFY;
+    if (edge_ == 1) {
+        create.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
+    if (scroll_ == 1) {
+        create.style |= LBS_DISABLENOSCROLL;
+    }
+    if (selMode_ == 2) {
+        create.style |= LBS_MULTIPLESEL;
+    } else if (selMode_ == 3) {
+        create.style |= LBS_EXTENDEDSEL;
+    } else if (selMode_ == 4) {
+        create.style |= LBS_NOSEL;
+    }
+    return CListBox::PreCreateWindow(create);
+}
+
+int DuTextListBoxCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CListBox::OnCreate(create) == -1) {
+        return -1;
+    }
+    SetItemHeightM();
+    return 0;
+}
+
+int DuTextListBoxCL::SetScrollM(int scroll)
+{
+    scroll_ = scroll;
+    return 1;
+}
+
+int DuTextListBoxCL::SetSelModeM(int mode)
+{
+    selMode_ = mode;
+    return 1;
+}
+
+int DuTextListBoxCL::SetEdgeM(int edge)
+{
+    edge_ = edge;
+    return 1;
+}
+
+int DuTextListBoxCL::SetItemInitHeightM(int height)
+{
+    if (height < 1) {
+        return 0;
+    }
+    itemHeight_ = height;
+    return 1;
+}
+
+int DuTextListBoxCL::SetBkColorM(unsigned long color)
+{
+    background_.SetColourM(color);
+    return 1;
+}
+
+int DuTextListBoxCL::AddItemM(int data, const char* text)
+{
+    const int position = AddString(text);
+    if (position == LB_ERR || position == LB_ERRSPACE) {
+        return -1;
+    }
+    return SetItemData(position, static_cast<DWORD_PTR>(static_cast<INT_PTR>(data)));
+}
+
+int DuTextListBoxCL::InsertItemM(int index, int data, const char* text)
+{
+    const int position = InsertString(index, text);
+    if (position == LB_ERR || position == LB_ERRSPACE) {
+        return 0;
+    }
+    return SetItemData(position, static_cast<DWORD_PTR>(static_cast<INT_PTR>(data))) != LB_ERR ? 1 : 0;
+}
+
+int DuTextListBoxCL::DelItemM(int index)
+{
+    return DeleteString(static_cast<UINT>(index)) != LB_ERR ? 1 : 0;
+}
+
+int DuTextListBoxCL::DelAllItemM()
+{
+    for (int i = GetCount() - 1; i >= 0; --i) {
+        DelItemM(i);
+    }
+    return 1;
+}
+
+int DuTextListBoxCL::GetItemM(int* index, int* data)
+{
+    const int selected = GetCurSel();
+    if (selected == LB_ERR) {
+        return 0;
+    }
+    const int number = static_cast<int>(GetItemData(selected));
+    if (number == LB_ERR) {
+        return 0;
+    }
+    *index = selected;
+    *data = number;
+    return 1;
+}
+
+int DuTextListBoxCL::GetSelNumM(int* count)
+{
+    if (selMode_ == 1) {
+        *count = GetCurSel() != LB_ERR ? 1 : 0;
+        return 1;
+    }
+    const int selected = GetSelCount();
+    if (selected == LB_ERR) {
+        return 0;
+    }
+    *count = selected;
+    return 1;
+}
+
+int DuTextListBoxCL::SetSelM(int index)
+{
+    // Some platforms accept the message of multiple selections everywhere.
+    const bool many = (GetStyle() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+    return many && SetSel(index) != LB_ERR ? 1 : 0;
+}
+
+int DuTextListBoxCL::SetItemHeightM(int height)
+{
+    if (height < 1) {
+        return 0;
+    }
+    itemHeight_ = height;
+    if (m_hWnd != nullptr) {
+        SetItemHeight(0, static_cast<UINT>(height));
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
+    return 1;
+}
+
+int DuTextListBoxCL::SetItemHeightM()
+{
+    return m_hWnd != nullptr && SetItemHeight(0, static_cast<UINT>(itemHeight_)) != LB_ERR ? 1 : 0;
+}
+
+void DuTextListBoxCL::destroyM()
+{
+    background_.DeleteBrushM();
+}
+
+HBRUSH DuTextListBoxCL::CtlColor(CDC* dc, UINT)
+{
+    return background_.AnswerM(dc);
+}
+
+int DuTextListBoxArr::SetItemHeightM()
+{
+    int result = 0;
+    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
+        result = ElementAtM(i).SetItemHeightM();
+        if (result != 1) {
+            break;
+        }
+    }
+    return result;
+}
