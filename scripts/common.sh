@@ -8,6 +8,8 @@ wineserver=/usr/lib/wine/wineserver
 packages=(
   cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev ccache
   wine wine64 fonts-wine xvfb fonts-wqy-zenhei clang-format
+  # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
+  libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
 
 say() { echo "$*" >&2; }

@@ -18,6 +18,7 @@ public:
         , DControlCommonCL(other)
         , VrBaseCL(other)
     {
+        InitialCommonM(nullptr); // The window is the other's.
     }
     // A window that the target still has is destroyed: it showed what the target was before.
     ControlCL& operator=(const ControlCL& other)

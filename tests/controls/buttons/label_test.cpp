@@ -168,6 +168,21 @@ TEST(Label, SetZOrderStacksBehindAnotherAndShows)
     EXPECT_TRUE(styleOf(second.m_hWnd) & WS_VISIBLE);
 }
 
+TEST(Label, CopyHasTheDescriptionButNoWindow)
+{
+    PlainWindowCL parent;
+    DuLabelCL label(AliveTag);
+    label.SetFunctionIDM(7);
+    label.Create(&parent);
+    DuLabelCL copy(label);
+    EXPECT_EQ(copy.GetFunctionIDM(), 7);
+    copy.SetLeftM(90); // Would move the label if the copy took it for its own.
+    EXPECT_EQ(label.GetLeftM(), 0);
+    const HWND window = label.m_hWnd;
+    label = DuLabelCL(AliveTag);
+    EXPECT_FALSE(::IsWindow(window)); // It showed what the label was before.
+}
+
 TEST(Label, DeletingDestroysTheWindowAndMarksTheElement)
 {
     PlainWindowCL parent;
