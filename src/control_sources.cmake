@@ -3,6 +3,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/common_box_control.cpp
   controls/base/control_common.cpp
   controls/base/control_geometry.cpp
+  controls/base/leaving.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp
   controls/buttons/group_box.cpp
@@ -11,12 +12,14 @@ set(PANELKIT_CONTROL_SOURCES
   controls/buttons/standard_button.cpp
   controls/lists/text_list_box.cpp
   controls/text/multi_edit.cpp
+  controls/text/single_edit.cpp
   controls/text/text_box.cpp
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
+  dialog/basic_dialog_values.cpp
   records/bitmap_record.cpp
   records/brush_record.cpp
   records/region_functions.cpp

@@ -6,6 +6,7 @@
 #include "controls/buttons/standard_button.h"
 #include "controls/lists/text_list_box.h"
 #include "controls/text/multi_edit.h"
+#include "controls/text/single_edit.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "records/bitmap_record.h"
@@ -53,7 +54,33 @@ public:
     int DelItemM(int id); // The number is the control's id and the index of the line to delete; 1 if found.
     int SetSelM(int id);  // The number is the control's id and the index of the line to select; 1 if found.
 
+    // Values of single-line edits; the results are those of the edit's SetValueM, SetCurValM, GetValueM and
+    // GetCurValM.
+    int SetSingleEditValM(int id, int value);
+    int SetSingleEditValM(int id, float value);
+    int SetSingleEditValM(int id, const char* text);
+    int SetSingleEditValM(int id, simpleValD value);
+    int GetSingleEditValM(int id, int* value);
+    int GetSingleEditValM(int id, float* value);
+    int GetSingleEditValM(int id, char* text); // 260 bytes.
+    int GetSingleEditValM(int id, simpleValD* value);
+    int EnableSingleEditM(int id, int enable); // Enables for 1, else disables; -1: all of them. Always 1.
+
+    // -1: a typed value is bad. It stands for the application's dialog that routes 1624 to onCtrlLostFocusM.
+    int SetValueStatusM(int status); // Always 1.
+    int GetValueStatusM() const { return valueStatus_; }
+    // Has the single-line edit with the focus checked as if the user left it: a bad value is told, and the
+    // edit keeps the focus. The value status.
+    int CheckValueLegalM();
+
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // For the application's message map: 1624 (a field was left, with what value) and 1625 (a control gained
+    // the focus; unless it is the cancel control, the field left last is asked to check its value). 0.
+    afx_msg LRESULT onCtrlLostFocusM(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT onCtrlSetFocusM(WPARAM wParam, LPARAM lParam);
+
     // Hands the control relations of the description file to the dialog's controls; nothing calls it during
     // building. 1 if the file has the section.
     int initItemRelationM();
@@ -76,6 +103,7 @@ private:
 
     template <class FunctionTP> void eachControlsM(FunctionTP&& see); // with_control.h
     template <class FunctionTP> int withControlM(int id, FunctionTP&& see);
+    template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     int initM(CWnd* parent, int mode);
     template <class RowTP> int buildKindM(CWnd* parent);
     Int2DArr stackedM();

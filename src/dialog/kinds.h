@@ -6,6 +6,7 @@
 #include "controls/buttons/standard_button_record.h"
 #include "controls/lists/text_list_box_record.h"
 #include "controls/text/multi_edit_record.h"
+#include "controls/text/single_edit_record.h"
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -15,6 +16,7 @@ class DuGroupBoxArr;
 class DuLabelArr;
 class DuMultiEditArr;
 class DuRadioBoxArr;
+class DuSingleEditArr;
 class DuStandardButtonArr;
 class DuTextListBoxArr;
 
@@ -55,6 +57,8 @@ struct KindRowCL
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<
     KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacking::ByWindowIndex,
+        &DVrSingleEditArr::InitSingleEditM>,
     KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
         &DVrMultiEditArr::InitMultiEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
@@ -97,7 +101,6 @@ struct PendingKindCL
 inline constexpr PendingKindCL PendingKinds[] = {
     { 0, "normal_animation", NormalAnimateHeader },
     { 1, "special_animation", SpecAnimateHeader },
-    { 3, "single_edit", SingleEditHeader },
     { 4, "spin_edit", SpinEditHeader },
     { 7, "bitmap_list_box", BmpListBoxHeader },
     { 8, "combo_box", ComboBoxHeader },

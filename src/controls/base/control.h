@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/base.h"
 #include "controls/base/control_common.h"
+#include "controls/base/leaving.h"
 #include "controls/base/messages.h"
 
 // What every kind of control is made of, in this order: a platform control, the common base, the element
@@ -85,10 +86,13 @@ protected:
         ::SendMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
     }
 
-    // The shared focus handler of most kinds: default handling, then the report to the parent.
+    // The shared focus handler of most kinds: default handling, then the report to the parent, unless it
+    // is only passing through (leaving.h).
     void reportFocusM(CWnd* oldFocus)
     {
         PlatformTP::OnSetFocus(oldFocus);
-        postToParentM(FocusGainedMsg);
+        if (!NotLeavingCL::CoversM(this->m_hWnd)) {
+            postToParentM(FocusGainedMsg);
+        }
     }
 };

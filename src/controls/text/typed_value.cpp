@@ -1,6 +1,7 @@
 #include "controls/text/typed_value.h"
 #include "baselib/char_arr.h"
 #include "baselib/gbk.h"
+#include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
 #include <algorithm>
 #include <charconv>
@@ -179,6 +180,21 @@ std::string TypedValueCL::LimitTextM(CheckCode code) const
     char text[TextSize];
     showNumberM(text, TextSize, range_, code == BelowMinimum ? 0 : 1);
     return text;
+}
+
+std::string TypedValueCL::FaultTextM(CheckCode code) const
+{
+    if (code == Unreadable) {
+        return BadDataText;
+    }
+    const bool isLow = code == BelowMinimum;
+    const char* start = StringTooLongText;
+    if (type_ == IntegerType) {
+        start = isLow ? IntTooSmallText : IntTooLargeText;
+    } else if (type_ == RealType) {
+        start = isLow ? FloatTooSmallText : FloatTooLargeText;
+    }
+    return start + LimitTextM(code) + MessageEnd;
 }
 
 void slTypedField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& value)

@@ -60,6 +60,8 @@ public:
     void ForceM(CheckCode code);
     // The limit that a value with this code passes, as text.
     std::string LimitTextM(CheckCode code) const;
+    // What a user is told of a value with this code, in the words that name the type.
+    std::string FaultTextM(CheckCode code) const;
 
 private:
     void showNumberM(char* to, int size, const simpleValD& value, int which) const;

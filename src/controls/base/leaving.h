@@ -1,0 +1,43 @@
+#pragma once
+#include "toolkit/toolkit.h"
+#include <functional>
+
+// When is a field left? When the user leaves it: by a key, by a click, by turning to another program, or
+// because the application asks (CheckValueLegalM). Then its value is checked, told of and reported. A field
+// has not been left, and nothing happens, when it loses the focus
+// - while a message about a value is open, or because the field it is about takes the focus back: the field
+//   that the user was on the way to was never reached, so it doesn't report to have been entered either;
+// - while its parent handles the report of a bad value, or the wish to close the dialog (Esc, close button);
+// - because it or its dialog is being hidden, disabled or destroyed.
+// So one step of the user shows one message at most, however many fields are bad.
+
+// While one lives, no field in a window (null: of this thread) is left or entered. Objects live in scopes.
+class PANELKIT_API NotLeavingCL
+{
+public:
+    explicit NotLeavingCL(HWND within = nullptr);
+    NotLeavingCL(const NotLeavingCL&) = delete;
+    NotLeavingCL& operator=(const NotLeavingCL&) = delete;
+    ~NotLeavingCL();
+
+    static bool CoversM(HWND field); // Whether one lives for this field.
+
+private:
+    HWND within_;
+    const NotLeavingCL* outer_;
+};
+
+// What a field knows of itself to tell being left from vanishing.
+class PANELKIT_API LeavingCL
+{
+public:
+    void SeeM(HWND field, UINT message); // Every message of the field, first of all.
+    bool IsLeftM(HWND field) const;      // When the field loses the focus.
+
+private:
+    bool wasShown_ { false };
+};
+
+// Shows a message about a field's value, modally by show(), and gives the field the focus back if it has
+// moved away. False when the field was destroyed meanwhile: the caller must not touch it any more.
+PANELKIT_API bool slTellAboutField(CWnd* field, const std::function<void()>& show);

@@ -1,0 +1,273 @@
+#include "controls/text/single_edit.h"
+#include "baselib/gbk.h"
+#include "controls/text/single_edit_record.h"
+
+template class PANELKIT_API Arr<DuSingleEditCL>;
+
+BEGIN_MESSAGE_MAP(DuSingleEditCL, CEdit)
+ON_WM_CREATE()
+ON_WM_CHAR()
+ON_WM_KILLFOCUS()
+ON_WM_SETFOCUS()
+ON_WM_CTLCOLOR_REFLECT()
+ON_MESSAGE(CheckValueMsg, &DuSingleEditCL::onCheckValM)
+END_MESSAGE_MAP()
+
+int DVrSingleEditCL::InitSingleEditM(DuSingleEditCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetAlignModeM(alignMode_);
+    control->SetDataTypeM(dataType_, decimals_);
+    control->SetRangeM(range_);
+    const bool isNoText = dataType_ == TextType && slIsNullWord(initial_.text) != 0;
+    control->SetInitValM(isNoText ? simpleValD() : initial_);
+    control->SetPasswordM(password_);
+    control->SetEdgeM(edge_);
+    control->SetReadOnlyM(readOnly_);
+    return 1; // The colour is for applications to apply; the control stays white.
+}
+
+int DVrSingleEditArr::InitSingleEditM(int index, DuSingleEditCL* control) const
+{
+    return ifAliveM(index, [control](const DVrSingleEditCL& record) { record.InitSingleEditM(control); });
+}
+
+int DuSingleEditCL::Create(CWnd* parent)
+{
+    return createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
+}
+
+BOOL DuSingleEditCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | ES_AUTOHSCROLL;
+    if (edge_ == 1) {
+        create.style |= WS_BORDER;
+        create.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
+    if (readOnly_ == 1) {
+        create.style |= ES_READONLY;
+    }
+    if (alignMode_ == 3) {
+        create.style |= ES_CENTER;
+    } else if (alignMode_ == 4) {
+        create.style |= ES_RIGHT;
+    }
+    if (password_ == 1) {
+        create.style |= ES_PASSWORD;
+    }
+    return CEdit::PreCreateWindow(create);
+}
+
+int DuSingleEditCL::SetDataTypeM(int type, int decimals)
+{
+    value_.SetTypeM(type, decimals);
+    return 1;
+}
+
+int DuSingleEditCL::SetAlignModeM(int mode)
+{
+    alignMode_ = mode;
+    return 1;
+}
+
+int DuSingleEditCL::SetPasswordM(int password)
+{
+    password_ = password;
+    return 1;
+}
+
+int DuSingleEditCL::SetReadOnlyM(int readOnly)
+{
+    readOnly_ = readOnly;
+    return 1;
+}
+
+int DuSingleEditCL::SetEdgeM(int edge)
+{
+    edge_ = edge;
+    return 1;
+}
+
+int DuSingleEditCL::SetBkColorM(COLORREF colour)
+{
+    background_.SetColourM(colour);
+    return 1;
+}
+
+int DuSingleEditCL::SetRangeM(const simpleValD& range)
+{
+    return value_.SetRangeM(range);
+}
+
+int DuSingleEditCL::SetInitValM(const simpleValD& value)
+{
+    return value_.SetValueM(value);
+}
+
+int DuSingleEditCL::GetCurValM(simpleValD* value)
+{
+    const CheckCode code = checkValueM();
+    if (code == ValidValue && value != nullptr) {
+        value_.GetValueM(value);
+    }
+    return code;
+}
+
+int DuSingleEditCL::SetCurValM(simpleValD value)
+{
+    value_.SetValueM(value);
+    return DispEditM();
+}
+
+int DuSingleEditCL::GetValueM(int* value)
+{
+    const bool isValid = value != nullptr && checkValueM() == ValidValue;
+    if (isValid) {
+        *value = value_.IntM();
+    }
+    return isValid ? 1 : 0;
+}
+
+int DuSingleEditCL::GetValueM(float* value)
+{
+    const bool isValid = value != nullptr && checkValueM() == ValidValue;
+    if (isValid) {
+        *value = value_.RealM();
+    }
+    return isValid ? 1 : 0;
+}
+
+int DuSingleEditCL::GetValueM(char* text)
+{
+    const bool isValid = text != nullptr && checkValueM() == ValidValue;
+    if (isValid) {
+        slCopyText(text, TextSize, value_.TextM());
+    }
+    return isValid ? 1 : 0;
+}
+
+int DuSingleEditCL::SetValueM(int value)
+{
+    value_.SetIntM(value);
+    DispEditM();
+    return 1;
+}
+
+int DuSingleEditCL::SetValueM(float value)
+{
+    value_.SetRealM(value);
+    DispEditM();
+    return 1;
+}
+
+int DuSingleEditCL::SetValueM(const char* text)
+{
+    value_.SetTextM(text);
+    DispEditM();
+    return 1;
+}
+
+int DuSingleEditCL::UpdateDataM(int direction)
+{
+    return direction == 1 ? checkValueM() : DispEditM();
+}
+
+int DuSingleEditCL::DispEditM()
+{
+    char text[TextSize];
+    const int result = value_.ShowM(text, TextSize);
+    if (result == 1 && m_hWnd != nullptr) {
+        SetWindowText(text);
+    }
+    return result;
+}
+
+// Reads the window's text into the value. Without a window nothing can be read.
+CheckCode DuSingleEditCL::checkValueM()
+{
+    if (m_hWnd == nullptr) {
+        return Unreadable;
+    }
+    char text[TextSize];
+    GetWindowText(text, TextSize);
+    return value_.ReadM(text);
+}
+
+// What the user is told on leaving; the texts that name the type are those of the check request.
+std::string DuSingleEditCL::leftTextM(CheckCode code) const
+{
+    if (code == Unreadable) {
+        return BadDataText;
+    }
+    const char* const start = value_.GetTypeM() == TextType ? StringTooLongText
+        : code == BelowMinimum                              ? NumberTooSmallText
+                                                            : NumberTooLargeText;
+    return start + value_.LimitTextM(code) + MessageEnd;
+}
+
+bool DuSingleEditCL::tellM(const std::string& text)
+{
+    return slTellAboutField(this, [&text] { AfxMessageBox(text.c_str()); });
+}
+
+LRESULT DuSingleEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    leaving_.SeeM(m_hWnd, message);
+    return CEdit::WindowProc(message, wParam, lParam);
+}
+
+int DuSingleEditCL::OnCreate(LPCREATESTRUCT create)
+{
+    const int result = CEdit::OnCreate(create);
+    if (result != -1) {
+        DispEditM();
+    }
+    return result;
+}
+
+void DuSingleEditCL::OnChar(UINT character, UINT repeat, UINT flags)
+{
+    if (value_.AcceptsM(character)) {
+        CEdit::OnChar(character, repeat, flags);
+    }
+}
+
+void DuSingleEditCL::OnSetFocus(CWnd* oldFocus)
+{
+    CEdit::OnSetFocus(oldFocus); // No report: unlike other controls.
+}
+
+void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
+{
+    CEdit::OnKillFocus(newFocus);
+    if (!leaving_.IsLeftM(m_hWnd)) {
+        return;
+    }
+    const CheckCode code = checkValueM();
+    if (code == ValidValue) {
+        postToParentM(ValueReportMsg, 0);
+        return;
+    }
+    if (code != Unreadable) {
+        value_.ForceM(code);
+        DispEditM();
+    }
+    if (tellM(leftTextM(code))) {
+        const NotLeavingCL reporting(::GetParent(m_hWnd));
+        sendToParentM(ValueReportMsg, -1);
+    }
+}
+
+HBRUSH DuSingleEditCL::CtlColor(CDC* dc, UINT)
+{
+    return background_.AnswerM(dc);
+}
+
+LRESULT DuSingleEditCL::onCheckValM(WPARAM, LPARAM)
+{
+    const CheckCode code = checkValueM();
+    if (code != ValidValue) {
+        tellM(value_.FaultTextM(code));
+    }
+    return 0;
+}

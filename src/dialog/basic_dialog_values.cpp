@@ -1,0 +1,109 @@
+// Typed values by function id, and the check of what the user typed.
+#include "dialog/basic_dialog.h"
+#include "dialog/with_control.h"
+
+// Gives see(edit) for the control with that id, if it is a single-line edit; otherwise 0.
+template <class FunctionTP> int DuBasicDialogCL::withSingleEditM(int id, FunctionTP&& see)
+{
+    int result = 0;
+    withControlM(id, [&result, &see](auto row, auto& control) {
+        if constexpr (decltype(row)::Code == SingleEditCode) {
+            result = see(control);
+        }
+    });
+    return result;
+}
+
+int DuBasicDialogCL::SetSingleEditValM(int id, int value)
+{
+    return withSingleEditM(id, [value](DuSingleEditCL& edit) { return edit.SetValueM(value); });
+}
+
+int DuBasicDialogCL::SetSingleEditValM(int id, float value)
+{
+    return withSingleEditM(id, [value](DuSingleEditCL& edit) { return edit.SetValueM(value); });
+}
+
+int DuBasicDialogCL::SetSingleEditValM(int id, const char* text)
+{
+    return withSingleEditM(id, [text](DuSingleEditCL& edit) { return edit.SetValueM(text); });
+}
+
+int DuBasicDialogCL::SetSingleEditValM(int id, simpleValD value)
+{
+    return withSingleEditM(id, [&value](DuSingleEditCL& edit) { return edit.SetCurValM(value); });
+}
+
+int DuBasicDialogCL::GetSingleEditValM(int id, int* value)
+{
+    return withSingleEditM(id, [value](DuSingleEditCL& edit) { return edit.GetValueM(value); });
+}
+
+int DuBasicDialogCL::GetSingleEditValM(int id, float* value)
+{
+    return withSingleEditM(id, [value](DuSingleEditCL& edit) { return edit.GetValueM(value); });
+}
+
+int DuBasicDialogCL::GetSingleEditValM(int id, char* text)
+{
+    return withSingleEditM(id, [text](DuSingleEditCL& edit) { return edit.GetValueM(text); });
+}
+
+int DuBasicDialogCL::GetSingleEditValM(int id, simpleValD* value)
+{
+    return withSingleEditM(id, [value](DuSingleEditCL& edit) { return edit.GetCurValM(value); });
+}
+
+int DuBasicDialogCL::EnableSingleEditM(int id, int enable)
+{
+    eachControlsM([id, enable](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == SingleEditCode) {
+            controls.SetItemCmdM(id, enable == 1 ? 1 : 2);
+        }
+    });
+    return 1;
+}
+
+int DuBasicDialogCL::SetValueStatusM(int status)
+{
+    valueStatus_ = status;
+    return 1;
+}
+
+int DuBasicDialogCL::CheckValueLegalM()
+{
+    valueStatus_ = 0;
+    if (m_hWnd != nullptr) {
+        SetFocus();
+    }
+    return valueStatus_;
+}
+
+LRESULT DuBasicDialogCL::onCtrlLostFocusM(WPARAM wParam, LPARAM lParam)
+{
+    lastLeftId_ = static_cast<int>(wParam);
+    valueStatus_ = static_cast<int>(lParam);
+    return 0;
+}
+
+LRESULT DuBasicDialogCL::onCtrlSetFocusM(WPARAM wParam, LPARAM)
+{
+    if (static_cast<int>(wParam) != cancelId_ && lastLeftId_ != 0) {
+        const HWND left = ::GetDlgItem(m_hWnd, lastLeftId_);
+        if (left != nullptr) {
+            ::SendMessageW(left, CheckValueMsg, 0, 0);
+        }
+    }
+    return 0;
+}
+
+LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    // What the application does about closing, such as asking the user, must not check any value first.
+    const bool isCancel = message == WM_COMMAND && wParam == IDCANCEL;
+    if (message == WM_CLOSE || isCancel) {
+        const NotLeavingCL closing(m_hWnd);
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+    return CDialog::WindowProc(message, wParam, lParam);
+}
