@@ -1,0 +1,114 @@
+// The parameter dialog of a plotter: plotter.exe [FOLDER], the folder of plotter.dlg and its pictures.
+#include "dialog/basic_dialog.h"
+#include <cstdio>
+
+namespace {
+
+// The function ids of plotter.dlg that the application uses.
+enum ControlId : int
+{
+    OkId = 1,
+    CancelId = 2,
+    LandscapeId = 3001,
+    FeedId = 3011,
+    LiftPenId = 3012,
+    PenListId = 3020
+};
+
+class PlotterAppCL : public CWinApp
+{
+};
+PlotterAppCL application;
+
+class PlotterDialogCL : public DuBasicDialogCL
+{
+public:
+    PlotterDialogCL()
+    {
+        SetConfigFileM("plotter.dlg");
+        SetCancelIdM(CancelId); // Cancel takes the focus without a check of what was typed.
+    }
+    void PrintM() const;
+
+protected:
+    afx_msg LRESULT onButtonM(WPARAM wParam, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    template <class ControlTP> ControlTP* controlM(int id, int code)
+    {
+        int kind = 0;
+        CWnd* const found = GetContrlPtrM(id, &kind);
+        return found != nullptr && kind == code ? static_cast<ControlTP*>(found) : nullptr;
+    }
+    bool isCheckedM(int id) const
+    {
+        return ::SendMessageW(::GetDlgItem(m_hWnd, id), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    }
+    void readM();
+
+    bool landscape_ { false };
+    bool feed_ { false };
+    bool liftPen_ { false };
+    int pen_ { -1 };
+};
+
+BEGIN_MESSAGE_MAP(PlotterDialogCL, DuBasicDialogCL)
+ON_MESSAGE(ButtonActionMsg, &PlotterDialogCL::onButtonM)
+END_MESSAGE_MAP()
+
+LRESULT PlotterDialogCL::onButtonM(WPARAM wParam, LPARAM)
+{
+    if (wParam == OkId) {
+        readM(); // While the controls still exist.
+        EndDialog(IDOK);
+    } else if (wParam == CancelId) {
+        EndDialog(IDCANCEL);
+    }
+    return 0;
+}
+
+void PlotterDialogCL::readM()
+{
+    landscape_ = isCheckedM(LandscapeId);
+    feed_ = isCheckedM(FeedId);
+    liftPen_ = isCheckedM(LiftPenId);
+    if (auto* const pens = controlM<DuTextListBoxCL>(PenListId, TextListBoxCode)) {
+        int index = 0;
+        pens->GetItemM(&index, &pen_);
+    }
+}
+
+void PlotterDialogCL::PrintM() const
+{
+    std::printf("landscape %d\nfeed paper %d\nlift pen %d\npen %d\n", landscape_, feed_, liftPen_, pen_);
+}
+
+// The description file says all the rest of the dialog.
+struct EmptyTemplateCL
+{
+    DLGTEMPLATE header { WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100 };
+    WORD menu { 0 };
+    WORD windowClass { 0 };
+    WORD title { 0 };
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Pictures are found relative to the current folder.
+    if (argc > 1 && !::SetCurrentDirectoryA(argv[1])) {
+        std::fprintf(stderr, "no such folder: %s\n", argv[1]);
+        return 2;
+    }
+    const EmptyTemplateCL empty;
+    PlotterDialogCL dialog;
+    dialog.InitModalIndirect(&empty.header);
+    if (dialog.DoModal() != IDOK) {
+        std::printf("cancelled\n");
+        return 1;
+    }
+    dialog.PrintM();
+    return 0;
+}
