@@ -55,6 +55,8 @@ private:
 
 BEGIN_MESSAGE_MAP(PlotterDialogCL, DuBasicDialogCL)
 ON_MESSAGE(ButtonActionMsg, &PlotterDialogCL::onButtonM)
+ON_MESSAGE(ValueReportMsg, &PlotterDialogCL::onCtrlLostFocusM)
+ON_MESSAGE(FocusGainedMsg, &PlotterDialogCL::onCtrlSetFocusM)
 END_MESSAGE_MAP()
 
 LRESULT PlotterDialogCL::onButtonM(WPARAM wParam, LPARAM)
