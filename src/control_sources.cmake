@@ -13,6 +13,8 @@ set(PANELKIT_CONTROL_SOURCES
   controls/lists/text_list_box.cpp
   controls/text/multi_edit.cpp
   controls/text/single_edit.cpp
+  controls/text/spin_button.cpp
+  controls/text/spin_edit.cpp
   controls/text/text_box.cpp
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp

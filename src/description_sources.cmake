@@ -24,6 +24,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/lists/text_list_box_record.cpp
   controls/text/multi_edit_record.cpp
   controls/text/single_edit_record.cpp
+  controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp
   records/bmp_record.cpp

@@ -7,6 +7,7 @@
 #include "controls/lists/text_list_box.h"
 #include "controls/text/multi_edit.h"
 #include "controls/text/single_edit.h"
+#include "controls/text/spin_edit.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "records/bitmap_record.h"

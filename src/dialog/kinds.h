@@ -7,6 +7,7 @@
 #include "controls/lists/text_list_box_record.h"
 #include "controls/text/multi_edit_record.h"
 #include "controls/text/single_edit_record.h"
+#include "controls/text/spin_edit_record.h"
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -17,6 +18,7 @@ class DuLabelArr;
 class DuMultiEditArr;
 class DuRadioBoxArr;
 class DuSingleEditArr;
+class DuSpinEditArr;
 class DuStandardButtonArr;
 class DuTextListBoxArr;
 
@@ -61,6 +63,7 @@ using KindTable = std::tuple<
         &DVrSingleEditArr::InitSingleEditM>,
     KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
         &DVrMultiEditArr::InitMultiEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, 6, 4, Stacking::ByWindowIndex, &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, 13, 12, Stacking::ByWindowIndex,
@@ -101,7 +104,6 @@ struct PendingKindCL
 inline constexpr PendingKindCL PendingKinds[] = {
     { 0, "normal_animation", NormalAnimateHeader },
     { 1, "special_animation", SpecAnimateHeader },
-    { 4, "spin_edit", SpinEditHeader },
     { 7, "bitmap_list_box", BmpListBoxHeader },
     { 8, "combo_box", ComboBoxHeader },
     { 9, "list_control", ListCtrlHeader },

@@ -33,7 +33,8 @@ JsonTP fontOf(HWND window)
 
 const char* kindOf(const CWnd* control)
 {
-    const char* kind = "";
+    // The arrows of a spin edit stand in no table.
+    const char* kind = dynamic_cast<const DuSpinButtonCL*>(control) != nullptr ? "spin_button" : "";
     slEachKind([&](auto row) {
         using RowTP = decltype(row);
         if (dynamic_cast<const typename RowTP::Controls::ControlTP*>(control) != nullptr) {

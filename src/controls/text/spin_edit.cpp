@@ -1,0 +1,290 @@
+#include "controls/text/spin_edit.h"
+#include "baselib/gbk_texts.h"
+#include "controls/text/spin_edit_record.h"
+#include <algorithm>
+
+template class PANELKIT_API Arr<DuSpinEditCL>;
+
+BEGIN_MESSAGE_MAP(DuSpinEditCL, CEdit)
+ON_WM_CHAR()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+ON_WM_CREATE()
+ON_MESSAGE(SpinClickMsg, &DuSpinEditCL::onSpinClickM)
+ON_MESSAGE(CheckValueMsg, &DuSpinEditCL::onCheckValM)
+END_MESSAGE_MAP()
+
+int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetAlignModeM(alignMode_);
+    control->SetDataTypeM(dataType_, decimals_);
+    control->SetRangeM(range_);
+    control->SetInitValM(initial_);
+    control->SetStepM(step_);
+    control->SetSpinLenM(spinWidth_);
+    control->SetWinIdxM(editWindowIndex_);
+    control->SpinButtonM().SetFunctionIDM(spinFunctionId_);
+    return 1;
+}
+
+int DVrSpinEditArr::InitSpinEditM(int index, DuSpinEditCL* control) const
+{
+    return ifAliveM(index, [control](const DVrSpinEditCL& record) { record.InitSpinEditM(control); });
+}
+
+int DuSpinEditArr::Create(CWnd* parent)
+{
+    int result = 0;
+    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
+        result = ElementAtM(i).Create(parent);
+        if (result != 1) {
+            break;
+        }
+        ElementAtM(i).DispEditM();
+    }
+    return result;
+}
+
+int DuSpinEditCL::Create(CWnd* parent)
+{
+    if (createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM()))) != 1) {
+        return 0;
+    }
+    CRect rect;
+    GetClientRect(&rect);
+    constexpr int Most = 32767; // No window is wider.
+    rect.left = rect.right - std::clamp(spinWidth_, -Most, Most);
+    const int result = spinButton_.Create(rect, parent);
+    if (result == 1) {
+        spinButton_.SetBuddy(this);
+    }
+    return result;
+}
+
+BOOL DuSpinEditCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style
+        |= WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | WS_GROUP | WS_TABSTOP | ES_AUTOHSCROLL;
+    if (alignMode_ == 3) {
+        create.style |= ES_CENTER;
+    } else if (alignMode_ == 4) {
+        create.style |= ES_RIGHT;
+    }
+    return CEdit::PreCreateWindow(create);
+}
+
+int DuSpinEditCL::OnCreate(LPCREATESTRUCT create)
+{
+    const int result = CEdit::OnCreate(create);
+    if (result != -1) {
+        ModifyStyleEx(0, WS_EX_CLIENTEDGE);
+    }
+    return result;
+}
+
+void DuSpinEditCL::DelItemM()
+{
+    spinButton_.DestroyWindow();
+    ControlCL::DelItemM();
+}
+
+int DuSpinEditCL::SetItemCmdM(int command)
+{
+    const int result = ControlCL::SetItemCmdM(command);
+    if (result == 1 && spinButton_.GetSafeHwnd() != nullptr) {
+        if (command == 1 || command == 2) {
+            spinButton_.EnableWindow(command == 1);
+        } else if (command == 3 || command == 4) {
+            spinButton_.ShowWindow(command == 3 ? SW_SHOW : SW_HIDE);
+        }
+    }
+    return result;
+}
+
+int DuSpinEditCL::SetDataTypeM(int type, int decimals)
+{
+    constexpr int Unknown = 0;
+    value_.SetTypeM(type == TextType ? Unknown : type, decimals);
+    return 1;
+}
+
+int DuSpinEditCL::SetAlignModeM(int mode)
+{
+    alignMode_ = mode;
+    return 1;
+}
+
+int DuSpinEditCL::SetSpinLenM(int width)
+{
+    spinWidth_ = width;
+    return 1;
+}
+
+int DuSpinEditCL::SetRangeM(const simpleValD& range)
+{
+    return value_.SetRangeM(range);
+}
+
+int DuSpinEditCL::SetStepM(const simpleValD& step)
+{
+    switch (value_.GetTypeM()) {
+    case IntegerType:
+        step_.number = step.number;
+        return 1;
+    case RealType:
+        step_.real = step.real;
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+int DuSpinEditCL::SetInitValM(const simpleValD& value)
+{
+    return value_.SetValueM(value);
+}
+
+// No check code says that the value is to be written: callers rely on their output staying as it is.
+int DuSpinEditCL::GetCurValM(simpleValD*)
+{
+    if (m_hWnd == nullptr) {
+        return Unreadable;
+    }
+    char text[TextSize];
+    GetWindowText(text, TextSize);
+    return value_.ReadM(text);
+}
+
+int DuSpinEditCL::DispEditM()
+{
+    char text[TextSize];
+    const int result = value_.ShowM(text, TextSize);
+    if (result == 1 && m_hWnd != nullptr) {
+        SetWindowText(text);
+    }
+    return result;
+}
+
+int DuSpinEditCL::updateDataM(int direction)
+{
+    return direction == 1 ? GetCurValM(nullptr) : DispEditM();
+}
+
+LRESULT DuSpinEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    leaving_.SeeM(m_hWnd, message);
+    return CEdit::WindowProc(message, wParam, lParam);
+}
+
+void DuSpinEditCL::OnChar(UINT character, UINT repeats, UINT flags)
+{
+    if (value_.AcceptsM(character)) {
+        CEdit::OnChar(character, repeats, flags);
+    }
+}
+
+void DuSpinEditCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}
+
+void DuSpinEditCL::OnKillFocus(CWnd* newFocus)
+{
+    CEdit::OnKillFocus(newFocus);
+    if (leaving_.IsLeftM(m_hWnd) && tellCheckedM()) {
+        postToParentM(WM_KILLFOCUS);
+    }
+}
+
+namespace {
+
+// The limit towards which the step went counts first.
+template <class T> CheckCode judgeStep(T value, const T (&limits)[2], bool isDown)
+{
+    const bool isLow = value < limits[0];
+    const bool isHigh = value > limits[1];
+    if (isLow && isHigh) {
+        return isDown ? BelowMinimum : AboveMaximum;
+    }
+    return isLow ? BelowMinimum : isHigh ? AboveMaximum : ValidValue;
+}
+
+} // namespace
+
+// Steps *value: 1 is the lower arrow, -1 the upper one. Where the result is out of range, *value stays.
+CheckCode DuSpinEditCL::steppedM(int delta, simpleValD* value) const
+{
+    const simpleValD& range = value_.RangeM();
+    if (value_.GetTypeM() == IntegerType) {
+        const long long limits[2] = { range.numbers[0], range.numbers[1] };
+        const long long stepped = value_.IntM() - static_cast<long long>(delta) * step_.number;
+        const CheckCode code = judgeStep(stepped, limits, delta == 1);
+        if (code == ValidValue) {
+            value->number = static_cast<int>(stepped);
+        }
+        return code;
+    }
+    const float stepped = delta == 1 ? value_.RealM() - step_.real : value_.RealM() + step_.real;
+    const CheckCode code = judgeStep(stepped, range.reals, delta == 1);
+    if (code == ValidValue) {
+        value->real = stepped;
+    }
+    return code;
+}
+
+std::string DuSpinEditCL::refusalM(CheckCode code) const
+{
+    const bool isLow = code == BelowMinimum;
+    const char* const start = value_.GetTypeM() == IntegerType ? (isLow ? IntAtMinimumText : IntAtMaximumText)
+        : isLow                                                ? FloatAtMinimumText
+                                                               : FloatAtMaximumText;
+    return start + value_.LimitTextM(code) + MessageEnd;
+}
+
+LRESULT DuSpinEditCL::onSpinClickM(WPARAM wParam, LPARAM)
+{
+    if (isWarning_) {
+        return 0; // An arrow that is held down goes on behind the message.
+    }
+    simpleValD value;
+    if (value_.GetValueM(&value) == 0) {
+        return 0; // An unknown type.
+    }
+    updateDataM(1);
+    const int delta = static_cast<int>(wParam);
+    if (delta == 1 || delta == -1) {
+        const CheckCode code = steppedM(delta, &value);
+        value_.SetValueM(value); // The stepped value, or the one from before the typing.
+        if (code != ValidValue) {
+            isWarning_ = true;
+            if (!tellM(refusalM(code))) {
+                return 0;
+            }
+            isWarning_ = false;
+            // The message took the release of the mouse button, on which the arrows wait.
+            spinButton_.PostMessage(WM_CANCELMODE);
+        }
+    }
+    updateDataM(0);
+    return 0;
+}
+
+LRESULT DuSpinEditCL::onCheckValM(WPARAM, LPARAM)
+{
+    tellCheckedM();
+    return 0;
+}
+
+// Checks the value and tells the user of a bad one. False when the field was destroyed meanwhile.
+bool DuSpinEditCL::tellCheckedM()
+{
+    const CheckCode code = static_cast<CheckCode>(GetCurValM(nullptr));
+    return code == ValidValue || tellM(value_.FaultTextM(code));
+}
+
+bool DuSpinEditCL::tellM(const std::string& text)
+{
+    return slTellAboutField(
+        this, [this, &text] { MessageBox(text.c_str(), WarningCaption, MB_OK | MB_ICONEXCLAMATION); });
+}

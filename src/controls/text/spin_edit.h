@@ -1,0 +1,69 @@
+#pragma once
+#include "controls/base/control.h"
+#include "controls/base/control_arr.h"
+#include "controls/base/leaving.h"
+#include "controls/text/spin_button.h"
+#include "controls/text/typed_value.h"
+
+// A number with a pair of arrows. A click on an arrow steps the number; a step out of the range is refused
+// with a warning. What is typed is filtered and, when the user leaves the field, checked; a bad value is told
+// and stays as typed. Then WM_KILLFOCUS is posted to the parent, with the control's id. Styles are taken when
+// the window is created.
+class PANELKIT_API DuSpinEditCL : public ControlCL<CEdit>
+{
+public:
+    using ControlCL::ControlCL;
+
+    using CEdit::Create;
+    // Creates the edit at the described place and the arrows at its right edge; the result for the arrows.
+    int Create(CWnd* parent);
+    void DelItemM();              // Destroys both windows and marks the element deleted.
+    int SetItemCmdM(int command); // As with every control; the arrows follow.
+
+    int SetDataTypeM(int type, int decimals); // IntegerType or RealType; others are inert. Always 1.
+    int SetAlignModeM(int mode);              // 3 centred, 4 right, else left. Always 1.
+    int SetSpinLenM(int width);               // Of the arrows, in pixels. Always 1.
+    // Stored by type, not shown: 1; 0 for an unknown type.
+    int SetRangeM(const simpleValD& range);
+    int SetStepM(const simpleValD& step);
+    int SetInitValM(const simpleValD& value);
+
+    // Reads the text into the current value; the check code (CheckCode). *value is never written.
+    int GetCurValM(simpleValD* value);
+    int DispEditM(); // Shows the current value: 1, or 0 for an unknown type.
+    DuSpinButtonCL& SpinButtonM() { return spinButton_; }
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    int updateDataM(int direction); // 1: reads the text, the check code; else DispEditM.
+    afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnKillFocus(CWnd* newFocus);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg LRESULT onSpinClickM(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT onCheckValM(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CheckCode steppedM(int delta, simpleValD* value) const;
+    std::string refusalM(CheckCode code) const;
+    bool tellM(const std::string& text);
+    bool tellCheckedM();
+
+    DuSpinButtonCL spinButton_;
+    TypedValueCL value_;
+    int alignMode_ { 2 };
+    int spinWidth_ { 0 };
+    simpleValD step_;
+    bool isWarning_ { false };
+    LeavingCL leaving_;
+};
+
+extern template class PANELKIT_API Arr<DuSpinEditCL>;
+
+class PANELKIT_API DuSpinEditArr : public ControlArr<DuSpinEditCL>
+{
+public:
+    int Create(CWnd* parent); // As with every kind; each control shows its value once it is created.
+};
