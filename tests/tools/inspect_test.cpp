@@ -29,6 +29,16 @@ TEST(Inspect, EmptyFileIsADialogWithoutControls)
     EXPECT_NE(result.output.find("\"controls\": []"), std::string::npos);
 }
 
+TEST(Inspect, ArrowsOfASpinEditHaveAKindOfTheirOwn)
+{
+    const DescriptionFileCL file(
+        HeaderSections + std::string("[带spin的文本]\n1\n0\n1 11 20 30 120 24 1 0 10 0 3 2 9 5 12 16\n"));
+    const CommandResultCL result = runCommand("inspect \"" + std::string(file.path()) + "\"");
+    EXPECT_EQ(result.code, 0);
+    EXPECT_NE(result.output.find("\"id\": 11,\n      \"kind\": \"spin_edit\""), std::string::npos);
+    EXPECT_NE(result.output.find("\"id\": 12,\n      \"kind\": \"spin_button\""), std::string::npos);
+}
+
 TEST(Inspect, MissingFileGetsExitTwo)
 {
     EXPECT_EQ(runCommand("inspect nowhere.dlg").code, 2);
