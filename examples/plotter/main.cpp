@@ -1,4 +1,5 @@
 // The parameter dialog of a plotter: plotter.exe [FOLDER], the folder of plotter.dlg and its pictures.
+#include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
 #include <cstdio>
 
@@ -9,6 +10,7 @@ enum ControlId : int
 {
     OkId = 1,
     CancelId = 2,
+    SpeedId = 1051,
     LandscapeId = 3001,
     FeedId = 3011,
     LiftPenId = 3012,
@@ -25,6 +27,7 @@ class PlotterDialogCL : public DuBasicDialogCL
 public:
     PlotterDialogCL()
     {
+        tip_.InitialM();
         SetConfigFileM("plotter.dlg");
         SetCancelIdM(CancelId); // Cancel takes the focus without a check of what was typed.
     }
@@ -32,6 +35,7 @@ public:
 
 protected:
     afx_msg LRESULT onButtonM(WPARAM wParam, LPARAM);
+    afx_msg BOOL OnSetCursor(CWnd* over, UINT hit, UINT message);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -47,6 +51,7 @@ private:
     }
     void readM();
 
+    uToolTipCtrl tip_;
     bool landscape_ { false };
     bool feed_ { false };
     bool liftPen_ { false };
@@ -54,10 +59,25 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(PlotterDialogCL, DuBasicDialogCL)
+ON_WM_SETCURSOR()
 ON_MESSAGE(ButtonActionMsg, &PlotterDialogCL::onButtonM)
 ON_MESSAGE(ValueReportMsg, &PlotterDialogCL::onCtrlLostFocusM)
 ON_MESSAGE(FocusGainedMsg, &PlotterDialogCL::onCtrlSetFocusM)
 END_MESSAGE_MAP()
+
+// The pointer has moved over the dialog or one of its controls.
+BOOL PlotterDialogCL::OnSetCursor(CWnd* over, UINT hit, UINT message)
+{
+    if (message == WM_MOUSEMOVE && over->GetDlgCtrlID() == SpeedId && GetActiveWindow() == this) {
+        CRect rect;
+        over->GetWindowRect(&rect);
+        const NotLeavingCL showing(m_hWnd); // The new window takes the activation: no field is left by that.
+        tip_.ShowHelpM(
+            this, CRect(rect.left, rect.bottom + 2, rect.left + 90, rect.bottom + 24), "10..800 mm/s");
+        SetActiveWindow();
+    }
+    return DuBasicDialogCL::OnSetCursor(over, hit, message);
+}
 
 LRESULT PlotterDialogCL::onButtonM(WPARAM wParam, LPARAM)
 {
