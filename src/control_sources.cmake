@@ -1,15 +1,26 @@
 set(PANELKIT_CONTROL_SOURCES
+  controls/animation/animation.cpp
+  controls/animation/normal_animate.cpp
+  controls/animation/spec_animate.cpp
   controls/base/background.cpp
   controls/base/common_box_control.cpp
   controls/base/control_common.cpp
   controls/base/control_geometry.cpp
   controls/base/leaving.cpp
+  controls/base/picture_static.cpp
+  controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp
   controls/buttons/group_box.cpp
+  controls/buttons/image_cache.cpp
   controls/buttons/label.cpp
+  controls/buttons/multi_state_button.cpp
+  controls/buttons/new_rotate_btn.cpp
   controls/buttons/radio_box.cpp
+  controls/buttons/rotate_btn.cpp
+  controls/buttons/rotate_btn_draw.cpp
   controls/buttons/standard_button.cpp
+  controls/drawing/draw_2d.cpp
   controls/lists/text_list_box.cpp
   controls/text/multi_edit.cpp
   controls/text/single_edit.cpp

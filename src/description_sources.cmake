@@ -16,11 +16,20 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
+  controls/animation/frame_names.cpp
+  controls/animation/normal_animate_record.cpp
+  controls/animation/spec_animate_record.cpp
+  controls/buttons/bmp_button_record.cpp
   controls/buttons/check_box_record.cpp
   controls/buttons/group_box_record.cpp
   controls/buttons/label_record.cpp
+  controls/buttons/multi_state_button_record.cpp
+  controls/buttons/new_rotate_btn_record.cpp
   controls/buttons/radio_box_record.cpp
+  controls/buttons/rotate_btn_record.cpp
+  controls/buttons/rotation.cpp
   controls/buttons/standard_button_record.cpp
+  controls/drawing/draw_2d_record.cpp
   controls/lists/text_list_box_record.cpp
   controls/text/multi_edit_record.cpp
   controls/text/single_edit_record.cpp

@@ -23,6 +23,7 @@ public:
     bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
     bool IsBinaryM() const { return binary_; }
     std::size_t BytesLeftM() const { return size_ - at_; } // Behind the read position.
+    std::size_t SizeM() const { return size_; }            // Of the file read, in bytes.
     // The directory of the open file as OpenM got it, with its separator; "" when it has none. out: 260
     // bytes.
     int GetFilePathM(char* out) const;

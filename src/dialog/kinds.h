@@ -1,9 +1,15 @@
 #pragma once
+#include "controls/animation/normal_animate_record.h"
+#include "controls/animation/spec_animate_record.h"
+#include "controls/buttons/bmp_button_record.h"
 #include "controls/buttons/check_box_record.h"
 #include "controls/buttons/group_box_record.h"
 #include "controls/buttons/label_record.h"
+#include "controls/buttons/multi_state_button_record.h"
 #include "controls/buttons/radio_box_record.h"
+#include "controls/buttons/rotate_btn_record.h"
 #include "controls/buttons/standard_button_record.h"
+#include "controls/drawing/draw_2d_record.h"
 #include "controls/lists/text_list_box_record.h"
 #include "controls/text/multi_edit_record.h"
 #include "controls/text/single_edit_record.h"
@@ -12,12 +18,18 @@
 #include <type_traits>
 #include <utility>
 
+class DuBmpButtonArr;
 class DuCheckBoxArr;
+class DuDraw2DArr;
 class DuGroupBoxArr;
 class DuLabelArr;
 class DuMultiEditArr;
+class DuMultiStateButtonArr;
+class DuNormalAnimateArr;
 class DuRadioBoxArr;
+class DuRotateBtnArr;
 class DuSingleEditArr;
+class DuSpecAnimateArr;
 class DuSpinEditArr;
 class DuStandardButtonArr;
 class DuTextListBoxArr;
@@ -57,7 +69,10 @@ struct KindRowCL
 
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
-using KindTable = std::tuple<
+using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
+                                 Stacking::ByWindowIndex, &DVrNormalAnimateArr::InitNormalAnimateM>,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, 2, 1, Stacking::ByWindowIndex,
+        &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacking::ByWindowIndex,
         &DVrSingleEditArr::InitSingleEditM>,
@@ -71,8 +86,13 @@ using KindTable = std::tuple<
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacking::ByWindowIndex,
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, 12, 11, Stacking::ByWindowIndex, &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex,
-        &DVrGroupBoxArr::InitGroupBoxM>>;
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, 14, 13, Stacking::ByWindowIndex,
+        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, 15, 14, Stacking::ByWindowIndex,
+        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex, &DVrGroupBoxArr::InitGroupBoxM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, 16, 15, Stacking::AsCreated, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, 19, 18, Stacking::AsCreated, &DVrDraw2DArr::InitDraw2DM>>;
 
 constexpr int KindCount = 19;
 
@@ -102,14 +122,8 @@ struct PendingKindCL
     const char* header;
 };
 inline constexpr PendingKindCL PendingKinds[] = {
-    { 0, "normal_animation", NormalAnimateHeader },
-    { 1, "special_animation", SpecAnimateHeader },
     { 7, "bitmap_list_box", BmpListBoxHeader },
     { 8, "combo_box", ComboBoxHeader },
     { 9, "list_control", ListCtrlHeader },
-    { 13, "bitmap_button", BmpButtonHeader },
-    { 14, "multi_state_button", MultiStateButtonHeader },
-    { 15, "rotate_button", RotateBtnHeader },
     { 17, "tree", TreeHeader },
-    { 18, "drawing", Draw2DHeader },
 };

@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "commands.h"
+#include "controls/buttons/new_rotate_btn_record.h"
 #include "description_file.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
@@ -73,6 +74,21 @@ JsonTP relationsOf(VrIOCL& io)
     return relations;
 }
 
+JsonTP newRotateButtonsOf(VrIOCL& io)
+{
+    DVrNewRotateBtnArr records;
+    records.FmReadInterfaceM(&io);
+    JsonTP buttons = JsonTP::array();
+    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+        JsonTP object;
+        FieldPrinterCL printer(object);
+        records.ElementAtM(i).EachCommonFieldM(printer, 1);
+        records.ElementAtM(i).EachFieldM(printer);
+        buttons.push_back(std::move(object));
+    }
+    return buttons;
+}
+
 } // namespace
 
 int dumpCommand(const std::string& file)
@@ -98,6 +114,6 @@ int dumpCommand(const std::string& file)
         }
     }
     printJson({ { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
-        { "relations", relationsOf(io) }, { "new_rotate_buttons", JsonTP::array() } });
+        { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } });
     return 0;
 }

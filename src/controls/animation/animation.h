@@ -1,0 +1,27 @@
+#pragma once
+#include "controls/base/picture_static.h"
+
+// What both animations share: the frames and the current one.
+class PANELKIT_API AnimationCL : public PictureStaticCL
+{
+public:
+    int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing. Always 1.
+    // Deletes a frame. If it is the current one there is none from then on, and the window shows so.
+    // Always 1.
+    int DeleteBmpM(int index);
+
+protected:
+    explicit AnimationCL(int current)
+        : current_(current)
+    {
+    }
+    AnimationCL(char tag, int current)
+        : PictureStaticCL(tag)
+        , current_(current)
+    {
+    }
+    void deleteFramesM();
+
+    int current_; // -1: none.
+    DVrBitmapArr frames_;
+};

@@ -1,0 +1,69 @@
+#include "controls/base/picture_static.h"
+
+int PictureStaticCL::Create(CWnd* parent)
+{
+    return createdM(CStatic::Create("", 0, describedRectM(), parent, GetFunctionIDM()));
+}
+
+BOOL PictureStaticCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    return CStatic::PreCreateWindow(create);
+}
+
+void PictureStaticCL::PreSubclassWindow()
+{
+    ModifyStyle(0, SS_NOTIFY); // Without it the mouse goes to what lies behind.
+    CStatic::PreSubclassWindow();
+}
+
+bool PictureStaticCL::beginClickM()
+{
+    if (holdsMouseM()) {
+        return false;
+    }
+    SetCapture();
+    return true;
+}
+
+void PictureStaticCL::invalidateM(bool erase)
+{
+    if (m_hWnd != nullptr) {
+        Invalidate(erase ? TRUE : FALSE);
+    }
+}
+
+void PictureStaticCL::clientRgnM(CRgn* region) const
+{
+    CRect client;
+    GetClientRect(&client);
+    region->DeleteObject();
+    region->CreateRectRgnIndirect(&client);
+}
+
+void PictureStaticCL::clipWindowM(const CRgn& region)
+{
+    const HRGN copy = ::CreateRectRgn(0, 0, 0, 0);
+    ::CombineRgn(copy, region, nullptr, RGN_COPY);
+    if (SetWindowRgn(copy, TRUE) == 0) {
+        ::DeleteObject(copy);
+    }
+}
+
+void PictureStaticCL::invalidateInParentM()
+{
+    CWnd* const parent = m_hWnd != nullptr ? GetParent() : nullptr;
+    if (parent != nullptr) {
+        CRect rect;
+        GetWindowRect(&rect);
+        parent->ScreenToClient(&rect);
+        parent->InvalidateRect(&rect, TRUE);
+    }
+}
+
+int PictureStaticCL::appendPictureM(DVrBitmapArr* pictures, const char* file)
+{
+    const int index = pictures->AddItemM(DVrBitmapCL(AliveTag));
+    DVrBitmapCL* const picture = pictures->ElementAtPM(index);
+    return picture != nullptr && picture->LoadSafeBitmapM(file) == 1 ? index : -1;
+}

@@ -1,0 +1,42 @@
+#pragma once
+#include "controls/base/control.h"
+#include "records/bitmap_record.h"
+#include "records/rgn_record.h"
+
+// What the controls that paint themselves share: a static without text that gets the mouse, clicks that hold
+// the mouse from press to release, regions of the client rectangle.
+class PANELKIT_API PictureStaticCL : public ControlCL<CStatic>
+{
+public:
+    using ControlCL::ControlCL;
+
+    using CStatic::Create;
+    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    void PreSubclassWindow() override;
+
+    bool holdsMouseM() const { return m_hWnd != nullptr && ::GetCapture() == m_hWnd; }
+    bool beginClickM(); // Takes the mouse; false when the window has it already.
+    // Ends a click begun here: finish() runs while the mouse is still held. Any other: nothing.
+    template <class FinishTP> void endClickM(FinishTP&& finish)
+    {
+        if (holdsMouseM()) {
+            const HWND window = m_hWnd;
+            finish();
+            if (::GetCapture() == window) { // What finish() told the parent may have destroyed this object.
+                ::ReleaseCapture();
+            }
+        }
+    }
+
+    void invalidateM(bool erase);         // The whole window, if there is one.
+    void clientRgnM(CRgn* region) const;  // The region becomes the client rectangle.
+    void clipWindowM(const CRgn& region); // To a copy: a window owns the region that it is given.
+    void invalidateInParentM();           // The window's rectangle in the parent, with erasing.
+
+    // Appends the picture of a file as named. The slot; -1 when it can't be loaded: its slot then holds a
+    // picture that draws nothing, so that later ones keep their places.
+    static int appendPictureM(DVrBitmapArr* pictures, const char* file);
+};

@@ -1,0 +1,108 @@
+#include "controls/buttons/bmp_button.h"
+#include "controls/buttons/bmp_button_record.h"
+#include "controls/buttons/hit_region.h"
+
+template class PANELKIT_API Arr<DuBmpButtonCL>;
+
+BEGIN_MESSAGE_MAP(DuBmpButtonCL, CStatic)
+ON_WM_CREATE()
+ON_WM_PAINT()
+ON_WM_MOUSEMOVE()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+int DVrBmpButtonCL::InitBmpButtonM(DuBmpButtonCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetBtnBmpM(normal_.TextM(), pressed_.TextM(), released_.TextM(), disabled_.TextM());
+    control->GetBtnRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+    return 1;
+}
+
+int DVrBmpButtonArr::InitBmpButtonM(int index, DuBmpButtonCL* control) const
+{
+    return ifAliveM(index, [control](const DVrBmpButtonCL& record) { record.InitBmpButtonM(control); });
+}
+
+int DuBmpButtonCL::SetBtnBmpM(
+    const char* normal, const char* pressed, const char* released, const char* disabled)
+{
+    const char* const files[StatusCount] = { normal, pressed, released, disabled };
+    for (int i = 0; i < StatusCount; ++i) {
+        if (files[i] != nullptr && *files[i] != '\0') {
+            pictures_[i].LoadBitmapM(files[i]);
+        }
+    }
+    return 1;
+}
+
+int DuBmpButtonCL::SetBtnStatusM(BUTTON_STATUS status)
+{
+    status_ = status;
+    if (m_hWnd != nullptr) {
+        EnableWindow(status != ButtonDisabled);
+        InvalidateRgn(&drawRgn_, TRUE);
+    }
+    return 1;
+}
+
+void DuBmpButtonCL::destroyM()
+{
+    buttonRgn_.DeleteObject();
+    drawRgn_.DeleteObject();
+    for (DVrBitmapCL& picture : pictures_) {
+        picture = DVrBitmapCL();
+    }
+}
+
+int DuBmpButtonCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CStatic::OnCreate(create) == -1) {
+        return -1;
+    }
+    if (drawRgn_.GetSafeHandle() == nullptr) {
+        clientRgnM(&drawRgn_);
+        clipWindowM(drawRgn_);
+    }
+    if (buttonRgn_.GetSafeHandle() == nullptr) {
+        clientRgnM(&buttonRgn_);
+    }
+    return 0;
+}
+
+void DuBmpButtonCL::OnPaint()
+{
+    CPaintDC dc(this);
+    if (status_ >= 0 && status_ < StatusCount) {
+        pictures_[status_].DrawBitmapM(&dc, 0, 0, nullptr);
+    }
+}
+
+void DuBmpButtonCL::OnMouseMove(UINT, CPoint)
+{
+    // Nothing changes under the pointer.
+}
+
+void DuBmpButtonCL::OnLButtonDown(UINT, CPoint)
+{
+    SetCapture();
+    status_ = ButtonPressed;
+    postToParentM(ButtonDownMsg);
+    Invalidate(FALSE);
+}
+
+void DuBmpButtonCL::OnLButtonUp(UINT, CPoint)
+{
+    endClickM([this] {
+        status_ = ButtonReleased;
+        postToParentM(ButtonActionMsg);
+        Invalidate(FALSE);
+    });
+}
+
+void DuBmpButtonCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}

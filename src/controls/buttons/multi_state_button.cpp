@@ -1,0 +1,179 @@
+#include "controls/buttons/multi_state_button.h"
+#include "controls/buttons/hit_region.h"
+#include "controls/buttons/multi_state_button_record.h"
+#include <cstring>
+
+template class PANELKIT_API Arr<DuMultiStateButtonCL>;
+
+BEGIN_MESSAGE_MAP(DuMultiStateButtonCL, CStatic)
+ON_WM_CREATE()
+ON_WM_PAINT()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+int DVrMultiStateButtonCL::InitMultiStateButtonM(DuMultiStateButtonCL* control) const
+{
+    InitCommonCtrlM(control);
+    if (!region_.EmptyM() && std::strcmp(region_.TextM(), "NULL") != 0) {
+        control->GetButtonRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+    }
+    if (statuses_.GetAvailableNumM() > 0) {
+        control->SetInitBmpNumM(statuses_.GetAvailableNumM());
+        for (int i = statuses_.GetFirstIdxM(); i >= 0; i = statuses_.GetNextIdxM(i)) {
+            control->AddStatusM(statuses_[i], files_.GetItemPM(i)->TextM());
+        }
+        control->SetInitStatusM(initialStatus_);
+    }
+    return 1;
+}
+
+int DVrMultiStateButtonArr::InitMultiStateButtonM(int index, DuMultiStateButtonCL* control) const
+{
+    return ifAliveM(
+        index, [control](const DVrMultiStateButtonCL& record) { record.InitMultiStateButtonM(control); });
+}
+
+int DuMultiStateButtonCL::SetInitBmpNumM(int n)
+{
+    if (n >= 1) {
+        pictures_.InitialSizeM(n);
+    }
+    return 1;
+}
+
+int DuMultiStateButtonCL::AddStatusM(int status, const char* file)
+{
+    if (file == nullptr || *file == '\0') {
+        return 0;
+    }
+    statuses_.AddItemM(status);
+    appendPictureM(&pictures_, file);
+    return 1;
+}
+
+int DuMultiStateButtonCL::indexOfM(int status) const
+{
+    int i = statuses_.GetFirstIdxM();
+    while (i >= 0 && statuses_[i] != status) {
+        i = statuses_.GetNextIdxM(i);
+    }
+    return i;
+}
+
+int DuMultiStateButtonCL::pictureOfM(int index) const
+{
+    if (statuses_.CheckAvailableM(index) == 0) {
+        return -1;
+    }
+    int picture = pictures_.GetFirstIdxM();
+    for (int i = statuses_.GetFirstIdxM(); i >= 0 && i < index && picture >= 0;
+         i = statuses_.GetNextIdxM(i)) {
+        picture = pictures_.GetNextIdxM(picture);
+    }
+    return picture;
+}
+
+int DuMultiStateButtonCL::SetInitStatusM(int status)
+{
+    if (statuses_.GetAvailableNumM() == 0) {
+        return status == 1 ? 1 : 0;
+    }
+    const int found = indexOfM(status);
+    if (found < 0) {
+        return 0;
+    }
+    current_ = found;
+    return 1;
+}
+
+int DuMultiStateButtonCL::SetCurStatusM(int status)
+{
+    const int result = statuses_.GetAvailableNumM() > 0 ? SetInitStatusM(status) : 0;
+    invalidateM(true);
+    return result;
+}
+
+int DuMultiStateButtonCL::GetCurStatusM(int* out) const
+{
+    statuses_.GetItemM(out, current_);
+    return 1;
+}
+
+int DuMultiStateButtonCL::DelStatusM(int status)
+{
+    const int index = indexOfM(status);
+    const int picture = pictureOfM(index);
+    if (index >= 0) {
+        statuses_.DelItemM(index);
+    }
+    if (picture >= 0) {
+        pictures_.DelItemM(picture);
+    }
+    return index >= 0 && picture >= 0 ? 1 : 0;
+}
+
+int DuMultiStateButtonCL::DelAllM()
+{
+    statuses_.DelAllM();
+    pictures_.DelAllM();
+    current_ = -1;
+    if (drawRgn_.GetSafeHandle() != nullptr) {
+        invalidateInParentM();
+    }
+    return 1;
+}
+
+int DuMultiStateButtonCL::InitRgnM()
+{
+    // A region that was traced before there was a window gives way as well: the whole button takes clicks.
+    if (drawRgn_.GetSafeHandle() == nullptr) {
+        clientRgnM(&drawRgn_);
+        clientRgnM(&buttonRgn_);
+        clipWindowM(drawRgn_);
+    }
+    return 1;
+}
+
+int DuMultiStateButtonCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CStatic::OnCreate(create) == -1) {
+        return -1;
+    }
+    InitRgnM();
+    return 0;
+}
+
+void DuMultiStateButtonCL::OnPaint()
+{
+    CPaintDC dc(this);
+    const int picture = pictureOfM(current_);
+    if (picture >= 0) {
+        pictures_.DrawBitmapM(picture, &dc, 0, 0, nullptr);
+    }
+}
+
+void DuMultiStateButtonCL::OnLButtonDown(UINT, CPoint point)
+{
+    if (buttonRgn_.PtInRegion(point)) {
+        beginClickM();
+    }
+}
+
+void DuMultiStateButtonCL::OnLButtonUp(UINT, CPoint point)
+{
+    endClickM([this, point] {
+        if (buttonRgn_.PtInRegion(point) && statuses_.GetAvailableNumM() > 0) {
+            const int next = statuses_.GetNextIdxM(current_);
+            current_ = next >= 0 ? next : statuses_.GetFirstIdxM();
+            postToParentM(ButtonActionMsg, current_);
+        }
+    });
+    Invalidate(TRUE);
+}
+
+void DuMultiStateButtonCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}

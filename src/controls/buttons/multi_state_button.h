@@ -1,0 +1,48 @@
+#pragma once
+#include "baselib/int_arr.h"
+#include "controls/base/control_arr.h"
+#include "controls/base/picture_static.h"
+
+// A button that goes on to the next of its status values at every click, with a picture for each. Status
+// values are any integers; of equal ones a search finds the first. Files are GBK names of .bmp files.
+class PANELKIT_API DuMultiStateButtonCL : public PictureStaticCL
+{
+public:
+    using PictureStaticCL::PictureStaticCL;
+
+    int SetInitBmpNumM(int n);                    // Room for n pictures, n < 1: nothing. Always 1.
+    int AddStatusM(int status, const char* file); // 1; 0 and nothing added for an empty name.
+    // Makes a status current: 1, or 0 and no change when there is none with that value. Without any status 1
+    // for the value 1, else 0.
+    int SetInitStatusM(int status);
+    int SetCurStatusM(int status);     // The same, but 0 without any status; repaints in every case.
+    int GetCurStatusM(int* out) const; // Without a current status *out keeps its value. Always 1.
+    int DelStatusM(int status);        // Removes a status with its picture; 0 when there is none.
+    int DelAllM();                     // There is no current status then. Always 1.
+    int InitRgnM();                    // Both regions become the client rectangle, once. Always 1.
+    DVrRgnCL* GetButtonRgnM() { return &buttonRgn_; } // Where clicks count; the control keeps it.
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int indexOfM(int status) const;  // Of the first entry with that value, -1 when there is none.
+    int pictureOfM(int index) const; // The picture of an entry, -1 when there is none.
+
+    int current_ { 0 }; // An index of the status list, -1 for none.
+    DVrRgnCL buttonRgn_;
+    DVrRgnCL drawRgn_;
+    IntArr statuses_;
+    DVrBitmapArr pictures_; // The same number of alive ones in the same order.
+};
+
+extern template class PANELKIT_API Arr<DuMultiStateButtonCL>;
+
+class PANELKIT_API DuMultiStateButtonArr : public ControlArr<DuMultiStateButtonCL>
+{
+};

@@ -1,0 +1,182 @@
+#include "controls/buttons/rotate_btn.h"
+#include "controls/buttons/hit_region.h"
+#include "controls/buttons/rotate_btn_record.h"
+
+template class PANELKIT_API Arr<DuRotateBtnCL>;
+
+BEGIN_MESSAGE_MAP(DuRotateBtnCL, CStatic)
+ON_WM_CREATE()
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_RBUTTONDOWN()
+ON_WM_RBUTTONUP()
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+int DVrRotateBtnCL::InitRotateBtnM(DuRotateBtnCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetEnableM(enabled_ == 1 ? 1 : 0);
+    control->SetSignM(stepSigns_, counterIncrements_);
+    control->SetAngleM(angleRange_, stepAngle_, initialAngle_);
+    control->SetCounterM(initialCounter_);
+    control->SetBmpM(background_.TextM(), rotating_.TextM());
+    control->SetRotPosM(picturePosition_, centre_);
+    control->GetButtonRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+    return 1;
+}
+
+int DVrRotateBtnArr::InitRotateBtnM(int index, DuRotateBtnCL* control) const
+{
+    return ifAliveM(index, [control](const DVrRotateBtnCL& record) { record.InitRotateBtnM(control); });
+}
+
+int DuRotateBtnCL::Create(CWnd* parent)
+{
+    return createdM(CStatic::Create(" ", 0, describedRectM(), parent, GetFunctionIDM()));
+}
+
+int DuRotateBtnCL::SetAngleM(const float range[2], float step, float angle)
+{
+    upper_ = range[0];
+    lower_ = range[1];
+    stepAngle_ = step;
+    angle_ = angle;
+    return 1;
+}
+
+int DuRotateBtnCL::SetRotPosM(const int position[2], const int centre[2])
+{
+    for (int i = 0; i < 2; ++i) {
+        position_[i] = position[i];
+        centre_[i] = centre[i];
+    }
+    return 1;
+}
+
+int DuRotateBtnCL::SetSignM(const int signs[2], const int increments[2])
+{
+    for (int i = 0; i < 2; ++i) {
+        signs_[i] = signs[i];
+        increments_[i] = increments[i];
+    }
+    return 1;
+}
+
+int DuRotateBtnCL::SetCounterM(int counter)
+{
+    counter_ = counter;
+    return 1;
+}
+
+int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
+{
+    background_.LoadBitmapM(background);
+    rotating_.LoadBitmapM(rotating);
+    return 1;
+}
+
+int DuRotateBtnCL::SetEnableM(int enabled)
+{
+    enabled_ = enabled;
+    return 1;
+}
+
+int DuRotateBtnCL::EnableButtonM(int enabled)
+{
+    enabled_ = enabled;
+    if (m_hWnd != nullptr) {
+        EnableWindow(enabled == 1);
+    }
+    return 1;
+}
+
+int DuRotateBtnCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CStatic::OnCreate(create) == -1) {
+        return -1;
+    }
+    if (windowRgn_.GetSafeHandle() == nullptr) {
+        clientRgnM(&windowRgn_);
+    }
+    if (hitRgn_.GetSafeHandle() == nullptr) {
+        CRect client;
+        GetClientRect(&client);
+        hitRgn_.CreateEllipticRgnIndirect(&client);
+    }
+    clipWindowM(windowRgn_);
+    EnableWindow(enabled_ == 1);
+    width_ = rotating_.GetWidthM();
+    height_ = rotating_.GetHeightM();
+    return 0;
+}
+
+BOOL DuRotateBtnCL::OnEraseBkgnd(CDC* dc)
+{
+    drawBkM(dc);
+    return CStatic::OnEraseBkgnd(dc);
+}
+
+void DuRotateBtnCL::OnPaint()
+{
+    CPaintDC dc(this);
+    drawRotM(&dc, angle_);
+}
+
+void DuRotateBtnCL::pressM(CPoint point)
+{
+    if (hitRgn_.PtInRegion(point)) {
+        beginClickM();
+    }
+}
+
+void DuRotateBtnCL::releaseM(CPoint point, Side side)
+{
+    endClickM([this, point, side] {
+        if (hitRgn_.PtInRegion(point) && stepM(side)) {
+            postToParentM(ButtonActionMsg, counter_);
+            redrawNeeded_ = 1;
+            InvalidateRgn(&windowRgn_, TRUE);
+        }
+    });
+}
+
+bool DuRotateBtnCL::stepM(Side side)
+{
+    const auto inRange = [this](float angle) { return lower_ <= angle && angle <= upper_; };
+    const float next = slAngleAfterStep(angle_, signs_[side], stepAngle_);
+    if (!inRange(angle_) || !inRange(next)) {
+        return false;
+    }
+    angle_ = next;
+    // At the end of the ints the counter goes round.
+    counter_ = static_cast<int>(static_cast<unsigned>(counter_) + static_cast<unsigned>(increments_[side]));
+    return true;
+}
+
+void DuRotateBtnCL::OnLButtonDown(UINT, CPoint point)
+{
+    pressM(point);
+}
+
+void DuRotateBtnCL::OnRButtonDown(UINT, CPoint point)
+{
+    pressM(point);
+}
+
+void DuRotateBtnCL::OnLButtonUp(UINT, CPoint point)
+{
+    releaseM(point, Left);
+}
+
+void DuRotateBtnCL::OnRButtonUp(UINT, CPoint point)
+{
+    releaseM(point, Right);
+}
+
+void DuRotateBtnCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}

@@ -1,0 +1,78 @@
+#pragma once
+#include "controls/base/control_arr.h"
+#include "controls/base/picture_static.h"
+#include "controls/buttons/image_cache.h"
+
+// A knob: a picture turned to the current angle over a background. A left or right click inside its hit
+// region turns it by a step and posts the counter. Angles are degrees, pictures GBK names of .bmp files,
+// positions pixels of the control's window. Setters take effect when the knob is painted anew after the next
+// step, before the first painting at once.
+class PANELKIT_API DuRotateBtnCL : public PictureStaticCL
+{
+public:
+    using PictureStaticCL::PictureStaticCL;
+
+    using CStatic::Create;
+    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+
+    int SetAngleM(const float range[2], float step, float angle); // range: upper, lower. Always 1.
+    int SetRotPosM(const int position[2], const int centre[2]);   // Always 1.
+    int SetSignM(const int signs[2], const int increments[2]);    // Each for left, right. Always 1.
+    int SetCounterM(int counter);                                 // Always 1.
+    int SetBmpM(const char* background, const char* rotating);    // Loads both. Always 1.
+    int SetEnableM(int enabled);    // 1: enabled; applied when the window is created. Always 1.
+    int EnableButtonM(int enabled); // The same at once. Always 1.
+    DVrRgnCL* GetButtonRgnM() { return &hitRgn_; } // Where clicks count; the control keeps it.
+    float GetAngleM() const { return angle_; }
+    int GetCounterM() const { return counter_; }
+
+    void drawBkM(CDC* dc);               // The background from its corner over the client rectangle.
+    void drawRotM(CDC* dc, float angle); // The turned picture; composed anew only after a change.
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    enum Side
+    {
+        Left,
+        Right
+    };
+    void pressM(CPoint point);
+    void releaseM(CPoint point, Side side);
+    bool stepM(Side side);
+    void composeM(CDC* dc, float angle);
+
+    int counter_ { 0 };
+    float angle_ { 0 };
+    float stepAngle_ { 0 };
+    int enabled_ { 1 };
+    int redrawNeeded_ { 1 };
+    int position_[2] {};
+    int centre_[2] {};
+    int signs_[2] {};
+    int increments_[2] {};
+    float upper_ { 0 };
+    float lower_ { 0 };
+    int width_ { 0 }; // Of the rotating picture when the window was created.
+    int height_ { 0 };
+    DVrBitmapCL background_;
+    DVrBitmapCL rotating_;
+    DVrRgnCL hitRgn_;
+    DVrRgnCL windowRgn_;
+    ImageCacheCL cache_;
+};
+
+extern template class PANELKIT_API Arr<DuRotateBtnCL>;
+
+class PANELKIT_API DuRotateBtnArr : public ControlArr<DuRotateBtnCL>
+{
+};

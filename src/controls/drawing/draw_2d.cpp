@@ -1,0 +1,43 @@
+#include "controls/drawing/draw_2d.h"
+#include "controls/drawing/draw_2d_record.h"
+
+template class PANELKIT_API Arr<DuDraw2DCL>;
+
+BEGIN_MESSAGE_MAP(DuDraw2DCL, CStatic)
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetBkColorM(bkColor_);
+    return 1;
+}
+
+int DVrDraw2DArr::InitDraw2DM(int index, DuDraw2DCL* control) const
+{
+    return ifAliveM(index, [control](const DVrDraw2DCL& record) { record.InitDraw2DM(control); });
+}
+
+int DuDraw2DCL::SetBkColorM(COLORREF colour)
+{
+    bkColor_ = colour;
+    return 1;
+}
+
+BOOL DuDraw2DCL::OnEraseBkgnd(CDC* dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    CBrush brush(bkColor_);
+    if (brush.GetSafeHandle() != nullptr) {
+        dc->FillRect(&client, &brush);
+    }
+    return CStatic::OnEraseBkgnd(dc);
+}
+
+void DuDraw2DCL::OnPaint()
+{
+    const CPaintDC validated(this); // The application draws.
+}

@@ -1,0 +1,282 @@
+#include "controls/buttons/bmp_button.h"
+#include "controls/buttons/multi_state_button.h"
+#include "support/pictured_dialog.h"
+#include <gtest/gtest.h>
+
+using namespace testing_support;
+
+namespace {
+
+constexpr std::uint32_t Yellow = 0xFFFF00;
+
+// A bitmap button with id 11 of 40 by 30 pixels with a picture of one colour for each status.
+struct BmpButtonCL
+{
+    explicit BmpButtonCL(const std::string& region = "NULL")
+        : dialog(std::string("[位图按钮]\n1\n0\n1 11 20 30 40 30\n") + normal.path() + "\n" + pressed.path()
+            + "\n" + released.path() + "\n" + disabled.path() + "\n" + region + "\n")
+    {
+        ::SetFocus(nullptr);
+        PumpPending();
+    }
+    HWND WindowM() const { return dialog.ItemM(11); }
+    DuBmpButtonCL* ControlM() const { return dialog.ControlM<DuBmpButtonCL>(11); }
+    COLORREF PixelM() const { return dialog.PixelM(11, 7, 8); }
+    SmallPictureCL normal { Red, 40, 30 };
+    SmallPictureCL pressed { Green, 40, 30 };
+    SmallPictureCL released { Blue, 40, 30 };
+    SmallPictureCL disabled { Yellow, 40, 30 };
+    PicturedDialogCL dialog;
+};
+
+std::string boxOf(CRgn* region)
+{
+    RECT box {};
+    region->GetRgnBox(&box);
+    return std::to_string(box.left) + " " + std::to_string(box.top) + " " + std::to_string(box.right) + " "
+        + std::to_string(box.bottom);
+}
+
+} // namespace
+
+TEST(BmpButton, WindowHasStyleAndPlaceOfItsRecord)
+{
+    const BmpButtonCL button;
+    EXPECT_EQ(styleOf(button.WindowM()), 0x50010100U);
+    EXPECT_EQ(placeOf(button.WindowM()), "20 30 40 30");
+    EXPECT_EQ(textOf(button.WindowM()), "");
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+}
+
+TEST(BmpButton, PressIsReportedAndShownAndReleaseEndsInAClick)
+{
+    const BmpButtonCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    MoveMouseToM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.PixelM(), asShown(Red)); // No picture of its own under the pointer.
+    PressM();
+    EXPECT_EQ(::GetCapture(), button.WindowM());
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    ReleaseM();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(button.PixelM(), asShown(Blue));
+    EXPECT_EQ(button.ControlM()->GetBtnStatusM(), ButtonReleased); // Stays so.
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0" }));
+}
+
+TEST(BmpButton, DraggingOffAndReleasingOutsideStillClicks)
+{
+    const BmpButtonCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    MoveMouseToM(button.WindowM(), 5, 5);
+    PressM();
+    MoveMouseToM(button.WindowM(), 100, 90);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    ReleaseM();
+    EXPECT_EQ(button.PixelM(), asShown(Blue));
+    MoveMouseToM(button.WindowM(), 100, 90);
+    PressM();
+    MoveMouseToM(button.WindowM(), 5, 5);
+    ReleaseM(); // A press that began elsewhere is nobody's click.
+    ClickM(button.WindowM(), 5, 5, Button::Right);
+    FocusM(button.WindowM());
+    PumpPending();
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0", "posted 1625 w=11 l=0" }));
+}
+
+TEST(BmpButton, DisabledStatusTakesTheMouseAwayUntilAnotherIsSet)
+{
+    const BmpButtonCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    EXPECT_EQ(button.ControlM()->SetBtnStatusM(ButtonDisabled), 1);
+    EXPECT_FALSE(::IsWindowEnabled(button.WindowM()));
+    EXPECT_EQ(button.PixelM(), asShown(Yellow));
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(messages.ListM(), MessageListTP {});
+    EXPECT_EQ(button.ControlM()->SetBtnStatusM(ButtonNormal), 1);
+    EXPECT_TRUE(::IsWindowEnabled(button.WindowM()));
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0" }));
+}
+
+TEST(BmpButton, WithoutPicturesNothingIsPaintedInAnyStatus)
+{
+    PicturedDialogCL dialog("[位图按钮]\n1\n0\n1 11 20 30 40 30\nNULL\nNULL\nnull\nNULL\nNULL\n");
+    PumpPending();
+    auto* control = dialog.ControlM<DuBmpButtonCL>(11);
+    for (const int status : { 0, 1, 2, 3, 4, -1 }) {
+        control->SetBtnStatusM(static_cast<BUTTON_STATUS>(status));
+        PumpPending(); // The platform may paint a static that is enabled or disabled.
+        CClientDC(control).FillSolidRect(0, 0, 40, 30, RGB(9, 8, 7));
+        control->Invalidate(FALSE);
+        PumpPending();
+        EXPECT_EQ(Pixels(control->m_hWnd).CountM(RGB(9, 8, 7)), 40 * 30) << status;
+    }
+}
+
+TEST(BmpButton, EmptyNamesLeaveThePicturesAsTheyWere)
+{
+    const BmpButtonCL button;
+    EXPECT_EQ(button.ControlM()->SetBtnBmpM("", nullptr, "", button.normal.path()), 1);
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+    button.ControlM()->SetBtnStatusM(ButtonDisabled);
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+}
+
+TEST(BmpButton, RegionsAreTheRectangleExceptATracedOne)
+{
+    const BmpButtonCL plain;
+    EXPECT_EQ(boxOf(plain.ControlM()->GetBtnRgnM()), "0 0 40 30");
+    EXPECT_EQ(boxOf(plain.ControlM()->GetDrawRgnM()), "0 0 40 30");
+    const SmallPictureCL shape(0x000000, 21, 11);
+    const BmpButtonCL traced(shape.path());
+    EXPECT_EQ(boxOf(traced.ControlM()->GetBtnRgnM()), "0 0 20 10");
+    EXPECT_EQ(boxOf(traced.ControlM()->GetDrawRgnM()), "0 0 40 30");
+    const HRGN window = ::CreateRectRgn(0, 0, 1, 1);
+    EXPECT_EQ(::GetWindowRgn(traced.WindowM(), window), SIMPLEREGION);
+    ::DeleteObject(window);
+    traced.ControlM()->destroyM();
+    EXPECT_EQ(traced.ControlM()->GetBtnRgnM()->GetSafeHandle(), nullptr);
+    EXPECT_EQ(traced.ControlM()->GetDrawRgnM()->GetSafeHandle(), nullptr);
+}
+
+namespace {
+
+// A multi-state button with id 11 of 40 by 30 pixels with the states 10, 20, 30 at state 20.
+struct MultiStateCL
+{
+    explicit MultiStateCL(const std::string& region = "NULL", const std::string& initial = "20")
+        : dialog("[多态按钮]\n1\n0\n1 11 20 30 40 30 " + initial + "\n" + region
+            + "\n[多态按钮数据]\n3\n0\n11 10 " + red.path() + "\n11 20 " + green.path() + "\n11 30 "
+            + blue.path() + "\n")
+    {
+        ::SetFocus(nullptr);
+        PumpPending();
+    }
+    HWND WindowM() const { return dialog.ItemM(11); }
+    DuMultiStateButtonCL* ControlM() const { return dialog.ControlM<DuMultiStateButtonCL>(11); }
+    COLORREF PixelM() const { return dialog.PixelM(11, 7, 8); }
+    int StatusM() const
+    {
+        int status = -99;
+        EXPECT_EQ(ControlM()->GetCurStatusM(&status), 1);
+        return status;
+    }
+    SmallPictureCL red { Red, 40, 30 };
+    SmallPictureCL green { Green, 40, 30 };
+    SmallPictureCL blue { Blue, 40, 30 };
+    PicturedDialogCL dialog;
+};
+
+} // namespace
+
+TEST(MultiStateButton, ClicksGoRoundTheStatesAndPostThePosition)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(styleOf(button.WindowM()), 0x50010100U);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    const std::pair<int, std::uint32_t> wanted[] = { { 30, Blue }, { 10, Red }, { 20, Green } };
+    for (const auto& [status, colour] : wanted) {
+        ClickM(button.WindowM(), 5, 5);
+        EXPECT_EQ(button.StatusM(), status);
+        EXPECT_EQ(button.PixelM(), asShown(colour));
+    }
+    FocusM(button.WindowM());
+    PumpPending();
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1424 w=11 l=2", "posted 1424 w=11 l=0", "posted 1424 w=11 l=1",
+            "posted 1625 w=11 l=0" }));
+}
+
+TEST(MultiStateButton, ReleaseOutsideGivesTheMouseBackAndChangesNothing)
+{
+    const MultiStateCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    MoveMouseToM(button.WindowM(), 5, 5);
+    PressM();
+    EXPECT_EQ(::GetCapture(), button.WindowM());
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    MoveMouseToM(button.WindowM(), 100, 90);
+    ReleaseM();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    PressM();
+    MoveMouseToM(button.WindowM(), 5, 5);
+    ReleaseM();
+    ClickM(button.WindowM(), 5, 5, Button::Right);
+    EXPECT_EQ(button.StatusM(), 20);
+    EXPECT_EQ(messages.ListM(), MessageListTP {});
+}
+
+TEST(MultiStateButton, CreationReplacesATracedRegionByTheRectangle)
+{
+    const SmallPictureCL shape(0x000000, 11, 11);
+    const MultiStateCL button(shape.path());
+    EXPECT_EQ(boxOf(button.ControlM()->GetButtonRgnM()), "0 0 40 30");
+    ClickM(button.WindowM(), 30, 25);
+    EXPECT_EQ(button.StatusM(), 30);
+}
+
+TEST(MultiStateButton, UnknownStatusKeepsTheCurrentOneAndRepaints)
+{
+    const MultiStateCL button;
+    PumpPending();
+    EXPECT_EQ(button.ControlM()->SetCurStatusM(77), 0);
+    EXPECT_TRUE(::GetUpdateRect(button.WindowM(), nullptr, FALSE));
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    EXPECT_EQ(button.ControlM()->SetCurStatusM(30), 1);
+    EXPECT_EQ(button.PixelM(), asShown(Blue));
+    const MultiStateCL unknown("NULL", "77");
+    EXPECT_EQ(unknown.StatusM(), 10);
+}
+
+TEST(MultiStateButton, AfterDeletingAllThereIsNoStatusAndNothingIsPainted)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(button.ControlM()->DelAllM(), 1);
+    EXPECT_EQ(button.StatusM(), -99); // Nothing to store.
+    EXPECT_EQ(button.PixelM(), ::GetSysColor(COLOR_BTNFACE));
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(messages.ListM(), MessageListTP {});
+    EXPECT_EQ(button.ControlM()->SetCurStatusM(1), 0);
+    EXPECT_EQ(button.ControlM()->SetInitStatusM(1), 1);
+    EXPECT_EQ(button.ControlM()->SetInitStatusM(2), 0);
+}
+
+TEST(MultiStateButton, EqualValuesAreEntriesOfTheirOwnOfWhichASearchFindsTheFirst)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(button.ControlM()->AddStatusM(20, button.red.path()), 1);
+    EXPECT_EQ(button.ControlM()->AddStatusM(40, ""), 0);
+    button.ControlM()->SetCurStatusM(30);
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.StatusM(), 20);
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+    EXPECT_EQ(button.ControlM()->SetCurStatusM(20), 1);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+}
+
+TEST(MultiStateButton, DeletingAStatusTakesItsPictureAlong)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(button.ControlM()->DelStatusM(77), 0);
+    EXPECT_EQ(button.ControlM()->DelStatusM(10), 1);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.PixelM(), asShown(Blue));
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.StatusM(), 20);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
+}
+
+TEST(MultiStateButton, PictureThatCannotBeLoadedDrawsNothingAndKeepsTheOthersInStep)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(button.ControlM()->AddStatusM(40, "no_such_picture.bmp"), 1);
+    EXPECT_EQ(button.ControlM()->AddStatusM(50, button.red.path()), 1);
+    button.ControlM()->SetCurStatusM(50);
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+}

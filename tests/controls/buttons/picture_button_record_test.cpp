@@ -1,0 +1,240 @@
+#include "controls/buttons/bmp_button_record.h"
+#include "controls/buttons/multi_state_button_record.h"
+#include "controls/buttons/new_rotate_btn_record.h"
+#include "controls/buttons/rotate_btn_record.h"
+#include "records/section.h"
+#include "support/description.h"
+#include "support/printed.h"
+#include <algorithm>
+#include <gtest/gtest.h>
+
+TEST(BmpButtonRecord, FiveNamesOfWhichTheNullWordsMeanNone)
+{
+    EXPECT_EQ(printed<DVrBmpButtonCL>("1 11 2 3 4 5\na.bmp\nNULL\nnull\n按钮 4.bmp\nNull\n"),
+        "normal=a.bmp pressed= released= disabled=按钮 4.bmp region=Null");
+    EXPECT_EQ(printed<DVrBmpButtonCL>("1 11 2 3 4 5"), "normal= pressed= released= disabled= region=");
+}
+
+namespace {
+
+std::string multiState(const std::string& utf8, SectionStatus wanted)
+{
+    const DescriptionFileCL file(utf8);
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    DVrMultiStateButtonArr records;
+    int count = 0;
+    EXPECT_EQ(slReadSection(io, records, &count), wanted);
+    std::string all;
+    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+        all += printedFields(records[i]) + "\n";
+    }
+    return all;
+}
+
+} // namespace
+
+TEST(MultiStateButtonRecord, RowsGoToTheFirstButtonWithTheirIdAndNullRowsToNone)
+{
+    EXPECT_EQ(
+        multiState(
+            "[多态按钮]\n3\n0\n1 11 0 0 9 9 20\nNULL\n1 12 0 0 9 9 5\nr.bmp\n1 12 0 0 9 9 6\nnull\n"
+            "[多态按钮数据]\n6\n1\n编号 状态 图片\n11 10 a.bmp\n12 5 x y.bmp\n11 -20 b.bmp\n11 30 NULL\n"
+            "77 1 c.bmp\n11 10 d.bmp\n",
+            SectionStatus::Read),
+        "initial_status=20 region=NULL states=[status=10 bitmap=a.bmp][status=-20 bitmap=b.bmp]"
+        "[status=10 bitmap=d.bmp]\n"
+        "initial_status=5 region=r.bmp states=[status=5 bitmap=x y.bmp]\n"
+        "initial_status=6 region=null states=\n");
+}
+
+TEST(MultiStateButtonRecord, WithoutDataSectionTheKindIsIncomplete)
+{
+    EXPECT_EQ(multiState("[多态按钮]\n1\n0\n1 11 0 0 9 9 20\nNULL\n", SectionStatus::Incomplete),
+        "initial_status=20 region=NULL states=\n");
+}
+
+TEST(MultiStateButtonRecord, StringsAreAddedToAliveRecordsOnly)
+{
+    DVrMultiStateButtonArr records;
+    records.AddItemM(DVrMultiStateButtonCL(AliveTag));
+    EXPECT_EQ(records.AddStringM(0, 7, "a.bmp"), 1);
+    EXPECT_EQ(records.AddStringM(4, 8, "b.bmp"), 1);
+    EXPECT_EQ(printedFields(records[0]), "initial_status=0 region= states=[status=7 bitmap=a.bmp]");
+}
+
+TEST(RotateBtnRecord, FieldsStandInFileOrderTheUpperBoundFirst)
+{
+    EXPECT_EQ(printed<DVrRotateBtnCL>("1 11 2 3 40 50 5 6 20 25 1 -1 2 -3 7.5 0 90 -45.5 15 100\n"
+                                      "底.bmp\nNULL\nnull\n"),
+        "picture_position=5,6 centre=20,25 step_signs=1,-1 counter_increments=2,-3 step_angle=7.5 enabled=0 "
+        "angle_range=90,-45.5 initial_angle=15 initial_counter=100 background=底.bmp rotating= region=");
+}
+
+TEST(RotateBtnRecord, EnabledIsOneAndAllElseZeroWhereNothingCanBeRead)
+{
+    EXPECT_EQ(printed<DVrRotateBtnCL>("1 11 2 3 40 50"),
+        "picture_position=0,0 centre=0,0 step_signs=0,0 counter_increments=0,0 step_angle=0 enabled=1 "
+        "angle_range=0,0 initial_angle=0 initial_counter=0 background= rotating= region=");
+}
+
+namespace {
+
+// What the array makes of a file; the file's folder is cut off the names.
+std::string newRotate(const std::string& utf8, int wanted = 1)
+{
+    const DescriptionFileCL file(utf8);
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    DVrNewRotateBtnArr records;
+    EXPECT_EQ(records.FmReadInterfaceM(&io), wanted);
+    char folder[PathSize];
+    io.GetFilePathM(folder);
+    std::string all;
+    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+        FieldTextCL common;
+        records[i].EachCommonFieldM(common, 1);
+        all += common.text + " " + printedFields(records[i]) + "\n";
+    }
+    const std::string prefix = slGbkToUtf8(folder);
+    for (size_t at = all.find(prefix); !prefix.empty() && at != std::string::npos;
+         at = all.find(prefix, at)) {
+        all.erase(at, prefix.size());
+    }
+    return all;
+}
+
+const char* const NoPictures = "[新旋转按钮对应的图片]\n0 1\n";
+const char* const Head = "[窗口中新旋转按钮数据]\n";
+
+} // namespace
+
+TEST(NewRotateBtnRecord, PositiveCountsReadNeitherDescriptionNorShowCondition)
+{
+    EXPECT_EQ(newRotate(Head + std::string("2 2\n说明\n1 7 11 2 3 40 50 1 -1 4\n2 8 12 2 3 40 50 2 -2 5\n")
+                  + NoPictures),
+        "window_index=1 item_index=7 function_id=11 position=2,3 size=40,50 steps=1,-1 initial_index=4 "
+        "show_condition=-1 description= pictures=\n"
+        "window_index=2 item_index=8 function_id=12 position=2,3 size=40,50 steps=2,-2 initial_index=5 "
+        "show_condition=-1 description= pictures=\n");
+}
+
+TEST(NewRotateBtnRecord, NegativeSecondNumberSwitchesTheShowConditionOn)
+{
+    EXPECT_EQ(newRotate(Head + std::string("1 -1\n1 7 11 2 3 40 50 1 -1 4 9\n") + NoPictures),
+        "window_index=1 item_index=7 function_id=11 position=2,3 size=40,50 steps=1,-1 initial_index=4 "
+        "show_condition=9 description= pictures=\n");
+}
+
+TEST(NewRotateBtnRecord, NegativeCountSwitchesTheDescriptionOnOfWhichOnlyCapitalNullIsEmpty)
+{
+    const auto described = [](const std::string& text) {
+        const std::string all
+            = newRotate(Head + std::string("-1 1\n1 7 11 2 3 40 50 1 -1 4 ") + text + "\n" + NoPictures);
+        const size_t from = all.find("description=") + 12;
+        return all.substr(from, all.find(" pictures=") - from);
+    };
+    EXPECT_EQ(described("调节 速度"), "调节 速度");
+    EXPECT_EQ(described("NULL"), "");
+    EXPECT_EQ(described("null"), "null");
+    EXPECT_EQ(described(std::string(123, 'x') + "中"), std::string(123, 'x'));
+    EXPECT_EQ(described(std::string(200, 'y')), std::string(124, 'y'));
+}
+
+TEST(NewRotateBtnRecord, BothNegativeReadTheShowConditionBeforeTheDescription)
+{
+    EXPECT_EQ(newRotate(Head + std::string("-1 -2\n说明\n1 7 11 2 3 40 50 1 -1 4 5 音量\n") + NoPictures),
+        "window_index=1 item_index=7 function_id=11 position=2,3 size=40,50 steps=1,-1 initial_index=4 "
+        "show_condition=5 description=音量 pictures=\n");
+}
+
+namespace {
+
+std::string pictures(const std::string& section, int wanted = 1)
+{
+    const std::string all = newRotate(
+        Head + std::string("2 1\n1 0 11 0 0 9 9 1 1 0\n1 0 12 0 0 9 9 1 1 0\n") + section, wanted);
+    std::string found;
+    for (size_t at = all.find("pictures="); at != std::string::npos; at = all.find("pictures=", at + 1)) {
+        found += all.substr(at + 9, all.find('\n', at) - at - 9) + ";";
+    }
+    return found;
+}
+
+} // namespace
+
+TEST(NewRotateBtnRecord, PicturesGoByPositionAndSlotAndShortExtensionsGetBmp)
+{
+    EXPECT_EQ(
+        pictures("[新旋转按钮对应的图片]\n9 2\n说明\n0 0 2 knob3\n0 1 0 b.c\n0 0 0 旋钮.BMP\n5 1 1 NULL\n"
+                 "0 2 0 outside\n0 -1 0 outside\n0 0 -1 outside\n0 1 99999 outside\n0 1 0 again.x.y\n"),
+        "[旋钮.BMP][][knob3.bmp];[again.x.y.bmp][NULL.bmp];");
+}
+
+TEST(NewRotateBtnRecord, PictureLinesSkippedTakeTheNumberAsItIs)
+{
+    // A negative number skips nothing: the rest of the count line is the first row.
+    EXPECT_EQ(pictures("[新旋转按钮对应的图片]\n1 -1 0 1 0 a.bmp\n"), ";[a.bmp];");
+}
+
+TEST(NewRotateBtnRecord, SlotMayBeAsLargeAsTheFileButNotLarger)
+{
+    const std::string head
+        = Head + std::string("1 1\n1 0 11 0 0 9 9 1 1 0\n[新旋转按钮对应的图片]\n1 1\n0 0 ");
+    const std::string tail = " a.bmp\n";
+    const size_t size = slUtf8ToGbk(head).size() + 2 + tail.size();
+    const auto count = [&](size_t slot) {
+        const std::string all = newRotate(head + std::to_string(slot) + tail);
+        return static_cast<size_t>(std::count(all.begin(), all.end(), '['));
+    };
+    ASSERT_GT(size, 9U);
+    ASSERT_LT(size, 98U);
+    EXPECT_EQ(count(size), size + 1);
+    EXPECT_EQ(count(size + 1), 0U);
+}
+
+TEST(NewRotateBtnRecord, MissingSectionsGiveZeroAndTheRecordsReadStay)
+{
+    EXPECT_EQ(newRotate("nothing", 0), "");
+    EXPECT_EQ(pictures("", 0), ";;");
+}
+
+TEST(NewRotateBtnRecord, CountsThatCannotBeMeantBreakTheirSection)
+{
+    EXPECT_EQ(newRotate(Head + std::string("2147483647 1\n1 0 11 0 0 9 9 1 1 0\n") + NoPictures, 0), "");
+    EXPECT_EQ(newRotate(Head + std::string("-2147483648 1\n1 0 11 0 0 9 9 1 1 0\n") + NoPictures, 0), "");
+    EXPECT_EQ(pictures("[新旋转按钮对应的图片]\n1000 1\n0 0 0 a.bmp\n", 0), ";;");
+    EXPECT_EQ(newRotate(Head + std::string("x\n") + NoPictures), "");
+}
+
+TEST(NewRotateBtnRecord, CountMayBeTheNumberOfBytesLeft)
+{
+    // Three bytes behind the numbers: three records of defaults, not four.
+    const auto records = [](int count) {
+        const std::string all = newRotate(
+            NoPictures + std::string(Head) + std::to_string(count) + " 0\n\n\n", count == 3 ? 1 : 0);
+        return std::count(all.begin(), all.end(), '\n');
+    };
+    EXPECT_EQ(records(3), 3);
+    EXPECT_EQ(records(4), 0);
+}
+
+TEST(NewRotateBtnRecord, FarSlotsOfManyButtonsTakeNoMemoryUntilAsked)
+{
+    // 2000 buttons, each with a slot as far as the file is long: sized at reading they would take gigabytes.
+    std::string file = Head + std::string("2000 1\n");
+    for (int i = 0; i < 2000; ++i) {
+        file += "1 0 1 0 0 9 9 1 1 0\n";
+    }
+    file += "[新旋转按钮对应的图片]\n2000 1\n";
+    for (int i = 0; i < 2000; ++i) {
+        file += "0 " + std::to_string(i) + " 60000 a\n";
+    }
+    const DescriptionFileCL described(file);
+    VrIOCL io;
+    io.OpenM(described.path(), "r");
+    ASSERT_GT(io.SizeM(), 60000U);
+    DVrNewRotateBtnArr records;
+    EXPECT_EQ(records.FmReadInterfaceM(&io), 1);
+    EXPECT_EQ(records[1999].PicturesM().GetBoundM(), 60001);
+}
