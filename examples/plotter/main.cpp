@@ -1,4 +1,5 @@
 // The parameter dialog of a plotter: plotter.exe [FOLDER], the folder of plotter.dlg and its pictures.
+#include "baselib/gbk.h"
 #include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
 #include <cstdio>
@@ -10,7 +11,12 @@ enum ControlId : int
 {
     OkId = 1,
     CancelId = 2,
+    NameId = 1050,
     SpeedId = 1051,
+    LiftSpeedId = 1053,
+    PressureId = 1055,
+    WidthId = 1056,
+    HeightId = 1057,
     LandscapeId = 3001,
     FeedId = 3011,
     LiftPenId = 3012,
@@ -49,9 +55,21 @@ private:
     {
         return ::SendMessageW(::GetDlgItem(m_hWnd, id), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
-    void readM();
+    bool isLegalM(int spinEditId)
+    {
+        auto* const edit = controlM<DuSpinEditCL>(spinEditId, SpinEditCode);
+        simpleValD unused {};
+        return edit != nullptr && edit->GetCurValM(&unused) == ValidValue;
+    }
+    bool readM();
 
     uToolTipCtrl tip_;
+    char name_[sizeof(simpleValD)] {};
+    UINT speed_ { 0 };
+    UINT liftSpeed_ { 0 };
+    int pressure_ { 0 };
+    float width_ { 0 };
+    float height_ { 0 };
     bool landscape_ { false };
     bool feed_ { false };
     bool liftPen_ { false };
@@ -82,16 +100,21 @@ BOOL PlotterDialogCL::OnSetCursor(CWnd* over, UINT hit, UINT message)
 LRESULT PlotterDialogCL::onButtonM(WPARAM wParam, LPARAM)
 {
     if (wParam == OkId) {
-        readM(); // While the controls still exist.
-        EndDialog(IDOK);
+        // Enter leaves no field: what is being typed is checked here, while the controls still exist.
+        if (CheckValueLegalM() == 0 && readM()) {
+            EndDialog(IDOK);
+        }
     } else if (wParam == CancelId) {
         EndDialog(IDCANCEL);
     }
     return 0;
 }
 
-void PlotterDialogCL::readM()
+// False when a value can't be taken; the user has been told.
+bool PlotterDialogCL::readM()
 {
+    speed_ = GetDlgItemInt(SpeedId);
+    liftSpeed_ = GetDlgItemInt(LiftSpeedId);
     landscape_ = isCheckedM(LandscapeId);
     feed_ = isCheckedM(FeedId);
     liftPen_ = isCheckedM(LiftPenId);
@@ -99,10 +122,15 @@ void PlotterDialogCL::readM()
         int index = 0;
         pens->GetItemM(&index, &pen_);
     }
+    return isLegalM(SpeedId) && isLegalM(LiftSpeedId) && GetSingleEditValM(NameId, name_) == 1
+        && GetSingleEditValM(PressureId, &pressure_) == 1 && GetSingleEditValM(WidthId, &width_) == 1
+        && GetSingleEditValM(HeightId, &height_) == 1;
 }
 
 void PlotterDialogCL::PrintM() const
 {
+    std::printf("job %s\nspeed %u mm/s\nlift speed %u mm/s\npressure %d g\npaper %.1f x %.1f mm\n", name_,
+        speed_, liftSpeed_, pressure_, static_cast<double>(width_), static_cast<double>(height_));
     std::printf("landscape %d\nfeed paper %d\nlift pen %d\npen %d\n", landscape_, feed_, liftPen_, pen_);
 }
 
