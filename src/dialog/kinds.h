@@ -40,15 +40,28 @@ enum class Stacking
     AsCreated
 }; // AsCreated kinds don't get the dialog font either.
 
-// The codes of kinds that have operations of their own.
+// What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
 enum KindCode : int
 {
     NormalAnimateCode = 1,
+    SpecAnimateCode = 2,
+    LabelCode = 3,
     SingleEditCode = 4,
+    MultiEditCode = 5,
+    SpinEditCode = 6,
     TextListBoxCode = 7,
     BmpListBoxCode = 8,
     ComboBoxCode = 9,
-    RadioBoxCode = 11
+    ListCtrlCode = 10,
+    RadioBoxCode = 11,
+    CheckBoxCode = 12,
+    StandardButtonCode = 13,
+    BmpButtonCode = 14,
+    MultiStateButtonCode = 15,
+    RotateBtnCode = 16,
+    GroupBoxCode = 17,
+    TreeCode = 18,
+    Draw2DCode = 19
 };
 
 // One kind of control: its record array and runtime array, the code that GetContrlPtrM reports, its place in
@@ -71,28 +84,32 @@ struct KindRowCL
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
                                  Stacking::ByWindowIndex, &DVrNormalAnimateArr::InitNormalAnimateM>,
-    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, 2, 1, Stacking::ByWindowIndex,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacking::ByWindowIndex,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, 3, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacking::ByWindowIndex,
         &DVrSingleEditArr::InitSingleEditM>,
-    KindRowCL<DVrMultiEditArr, DuMultiEditArr, 5, 5, Stacking::ByWindowIndex,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacking::ByWindowIndex,
         &DVrMultiEditArr::InitMultiEditM>,
-    KindRowCL<DVrSpinEditArr, DuSpinEditArr, 6, 4, Stacking::ByWindowIndex, &DVrSpinEditArr::InitSpinEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacking::ByWindowIndex,
+        &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
-    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, 13, 12, Stacking::ByWindowIndex,
+    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacking::ByWindowIndex,
         &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacking::ByWindowIndex,
         &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, 12, 11, Stacking::ByWindowIndex, &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, 14, 13, Stacking::ByWindowIndex,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacking::ByWindowIndex,
+        &DVrCheckBoxArr::InitCheckBoxM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacking::ByWindowIndex,
         &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, 15, 14, Stacking::ByWindowIndex,
-        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, 17, 16, Stacking::ByWindowIndex, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, 16, 15, Stacking::AsCreated, &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrDraw2DArr, DuDraw2DArr, 19, 18, Stacking::AsCreated, &DVrDraw2DArr::InitDraw2DM>>;
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
+        Stacking::ByWindowIndex, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacking::ByWindowIndex,
+        &DVrGroupBoxArr::InitGroupBoxM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, Stacking::AsCreated,
+        &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, Stacking::AsCreated, &DVrDraw2DArr::InitDraw2DM>>;
 
 constexpr int KindCount = 19;
 
