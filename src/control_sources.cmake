@@ -21,7 +21,12 @@ set(PANELKIT_CONTROL_SOURCES
   controls/buttons/rotate_btn_draw.cpp
   controls/buttons/standard_button.cpp
   controls/drawing/draw_2d.cpp
+  controls/lists/bitmap_list_box.cpp
+  controls/lists/combo_box.cpp
+  controls/lists/list_control.cpp
   controls/lists/text_list_box.cpp
+  controls/lists/tree.cpp
+  controls/lists/tree_pictures.cpp
   controls/text/multi_edit.cpp
   controls/text/single_edit.cpp
   controls/text/spin_button.cpp

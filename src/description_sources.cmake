@@ -30,7 +30,12 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/buttons/rotation.cpp
   controls/buttons/standard_button_record.cpp
   controls/drawing/draw_2d_record.cpp
+  controls/lists/bitmap_list_box_record.cpp
+  controls/lists/combo_box_record.cpp
+  controls/lists/list_control_record.cpp
   controls/lists/text_list_box_record.cpp
+  controls/lists/tree_lines.cpp
+  controls/lists/tree_record.cpp
   controls/text/multi_edit_record.cpp
   controls/text/single_edit_record.cpp
   controls/text/spin_edit_record.cpp

@@ -10,7 +10,11 @@
 #include "controls/buttons/rotate_btn_record.h"
 #include "controls/buttons/standard_button_record.h"
 #include "controls/drawing/draw_2d_record.h"
+#include "controls/lists/bitmap_list_box_record.h"
+#include "controls/lists/combo_box_record.h"
+#include "controls/lists/list_control_record.h"
 #include "controls/lists/text_list_box_record.h"
+#include "controls/lists/tree_record.h"
 #include "controls/text/multi_edit_record.h"
 #include "controls/text/single_edit_record.h"
 #include "controls/text/spin_edit_record.h"
@@ -19,10 +23,13 @@
 #include <utility>
 
 class DuBmpButtonArr;
+class DuBmpListBoxArr;
 class DuCheckBoxArr;
+class DuComboBoxArr;
 class DuDraw2DArr;
 class DuGroupBoxArr;
 class DuLabelArr;
+class DuListCtrlArr;
 class DuMultiEditArr;
 class DuMultiStateButtonArr;
 class DuNormalAnimateArr;
@@ -33,6 +40,7 @@ class DuSpecAnimateArr;
 class DuSpinEditArr;
 class DuStandardButtonArr;
 class DuTextListBoxArr;
+class DuTreeArr;
 
 enum class Stacking
 {
@@ -95,6 +103,12 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
+    KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7, Stacking::ByWindowIndex,
+        &DVrBmpListBoxArr::InitBmpListBoxM, &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
+    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacking::ByWindowIndex,
+        &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacking::ByWindowIndex,
+        &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacking::ByWindowIndex,
         &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacking::ByWindowIndex,
@@ -109,6 +123,8 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, Stacking::AsCreated,
         &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, Stacking::AsCreated, &DVrTreeArr::InitTreeM,
+        &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, Stacking::AsCreated, &DVrDraw2DArr::InitDraw2DM>>;
 
 constexpr int KindCount = 19;
@@ -130,17 +146,3 @@ template <class FunctionTP> void slEachKindAsBuilt(FunctionTP&& see)
         });
     }
 }
-
-// Kinds whose sections are known, but whose controls are not built yet.
-struct PendingKindCL
-{
-    int buildPlace;
-    const char* name;
-    const char* header;
-};
-inline constexpr PendingKindCL PendingKinds[] = {
-    { 7, "bitmap_list_box", BmpListBoxHeader },
-    { 8, "combo_box", ComboBoxHeader },
-    { 9, "list_control", ListCtrlHeader },
-    { 17, "tree", TreeHeader },
-};

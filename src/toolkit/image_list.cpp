@@ -45,7 +45,11 @@ int CImageList::Add(CBitmap* bitmap, CBitmap* mask)
 
 int CImageList::Add(CBitmap* bitmap, COLORREF maskColor)
 {
-    return ::ImageList_AddMasked(m_hImageList, *bitmap, maskColor);
+    // Reached by name, as the framework's wrapper does.
+    using AddMaskedTP = int(WINAPI*)(HIMAGELIST, HBITMAP, COLORREF);
+    static const auto addMasked = reinterpret_cast<AddMaskedTP>(reinterpret_cast<void*>(
+        ::GetProcAddress(::GetModuleHandleW(L"comctl32.dll"), "ImageList_AddMasked")));
+    return addMasked != nullptr ? addMasked(m_hImageList, *bitmap, maskColor) : -1;
 }
 
 BOOL CImageList::Draw(CDC* dc, int index, POINT at, UINT style)

@@ -100,19 +100,7 @@ int dumpCommand(const std::string& file)
     VrIOCL io;
     io.OpenM(name.c_str(), "r");
     JsonTP sections = JsonTP::array();
-    for (int place = 0; place < KindCount; ++place) {
-        slEachKind([&](auto row) {
-            if (row.BuildPlace == place) {
-                sections.push_back(sectionOf<typename decltype(row)::Records>(io));
-            }
-        });
-        for (const PendingKindCL& kind : PendingKinds) {
-            if (kind.buildPlace == place) {
-                int count = 0;
-                sections.push_back(section(kind.name, kind.header, slOpenSection(io, kind.header, &count)));
-            }
-        }
-    }
+    slEachKindAsBuilt([&](auto row) { sections.push_back(sectionOf<typename decltype(row)::Records>(io)); });
     printJson({ { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
         { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } });
     return 0;

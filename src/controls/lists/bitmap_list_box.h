@@ -1,0 +1,84 @@
+#pragma once
+#include "controls/base/control.h"
+#include "controls/base/control_arr.h"
+#include "records/bitmap_record.h"
+
+// The pictures of a list box's lines. They go with the window: a copy of the control starts without.
+class PANELKIT_API LinePicturesCL : public DVrBitmapArr
+{
+public:
+    LinePicturesCL() = default;
+    LinePicturesCL(const LinePicturesCL&)
+        : DVrBitmapArr()
+    {
+    }
+    LinePicturesCL& operator=(const LinePicturesCL& other)
+    {
+        if (this != &other) {
+            DelAllM();
+        }
+        return *this;
+    }
+    int SlotOfLineM(int line) const; // The slot of the line-th alive picture, -1 when there is none.
+};
+
+// A list box of pictures in a grid, each framed blue while it is selected, else white. Each line has a number
+// of the application; lines count from 0. Where nothing else is said the result is 1, or 0 when the platform
+// refuses.
+class PANELKIT_API DuBmpListBoxCL : public ControlCL<CListBox>
+{
+public:
+    using ControlCL::ControlCL;
+
+    using CListBox::Create;
+    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+
+    // These take effect when the window is created. Always 1.
+    int SetRowColNumM(const int rowsColumns[2]); // Lines visible; below 1 counts as 1.
+    int SetScrollModeM(int mode);                // 1 horizontal, 2 vertical, 4 both, else none.
+    int SetSelModeM(int mode);                   // 2 multiple, 3 extended, 4 none, else single.
+    int SetInitBmpNumM(int count);               // Makes room for pictures.
+
+    // Adds a line with its .bmp file, a name with extension. The picture's slot; 0 when the name is empty or
+    // the line can't be added, -1, and no line stays, when the picture can't be loaded.
+    int AddItemM(int data, const char* file);
+    // Inserts a line and, at the same place, its picture; ".bmp" is added to a name without an extension. A
+    // picture that can't be loaded leaves the line.
+    int InsertItemM(int index, int data, const char* file);
+    void DelItemM(); // Destroys the window and the pictures and marks the element deleted.
+    int DelItemM(int index);
+    // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays. Always 1.
+    int DelAllItemM();
+
+    int GetSelNumM(int* count);         // How many lines are selected.
+    int SetSelM(int index, int select); // select 0 takes it back, except for a single selection.
+    // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
+    int GetFirstItemM(int* index, int* data);
+    int GetNextItemM(int from, int* index, int* data);
+    void destroyM(); // Deletes the pictures.
+
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
+    void DrawItem(LPDRAWITEMSTRUCT draw) override;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static void drawFrameM(CDC* dc, const RECT& item, COLORREF colour);
+    int columnWidthM() const;
+
+    int rows_ { 0 };
+    int columns_ { 0 };
+    int scrollMode_ { 2 };
+    int selMode_ { 1 };
+    LinePicturesCL pictures_;
+};
+
+extern template class PANELKIT_API Arr<DuBmpListBoxCL>;
+
+class PANELKIT_API DuBmpListBoxArr : public ControlArr<DuBmpListBoxCL>
+{
+};

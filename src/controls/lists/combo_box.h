@@ -1,0 +1,55 @@
+#pragma once
+#include "controls/base/control.h"
+#include "controls/base/control_arr.h"
+#include "records/fields.h"
+
+// A drop-down list, with or without an edit field. Indexes count from 0; texts are GBK.
+class PANELKIT_API DuComboBoxCL : public ControlCL<CComboBox>
+{
+public:
+    using ControlCL::ControlCL;
+
+    using CComboBox::Create;
+    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+
+    // 0: no edit field, 1: with one. Takes effect when the window is created. Always 1.
+    int SetEditAvailableM(int available);
+
+    int AddItemM(int data, const char* text); // -1 when it can't be added, else the platform's result.
+    int InsertItemM(int index, int data, const char* text);
+    int DelItemM(int index);
+    using ControlCL::DelItemM;
+    // Deletes index 0, 1, 2, ... in turn: as later items move up, every second one stays. Always 1.
+    int DelAllItemM();
+
+    // The selected item; its text is copied into a buffer of 260 bytes. Without a selection the typed text
+    // with index and data -1; 0, and nothing is written, if that is empty too.
+    int GetCurItemM(int* index, int* data, char* text);
+    int SetSelM(int index); // 0 also for -1, which clears the selection.
+    // Selects the first item with that data. Clears the selection and reports 0 when there is none.
+    int SetDataSelM(int data);
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSelchange();
+    afx_msg void OnKillfocus();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void takeTypedTextM();
+
+    int editAvailable_ { 0 };
+    // The item last selected by the user: typing into the edit field makes the list forget it.
+    int currentSel_ { -1 };
+};
+
+extern template class PANELKIT_API Arr<DuComboBoxCL>;
+
+class PANELKIT_API DuComboBoxArr : public ControlArr<DuComboBoxCL>
+{
+public:
+    // Creates the first alive control, then, up to the first failure, those of the slots from 1 up to the
+    // number of alive controls, deleted or not. 0 when none is alive, else the last result.
+    int Create(CWnd* parent);
+};

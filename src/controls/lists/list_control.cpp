@@ -1,0 +1,181 @@
+#include "controls/lists/list_control.h"
+#include "controls/lists/filling.h"
+#include "controls/lists/list_control_record.h"
+
+template class PANELKIT_API Arr<DuListCtrlCL>;
+
+BEGIN_MESSAGE_MAP(DuListCtrlCL, CListCtrl)
+ON_WM_CREATE()
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+int DVrListCtrlCL::InitListCtrlM(DuListCtrlCL* control) const
+{
+    InitCommonCtrlM(control);
+    control->SetColNumM(columnCount_);
+    control->SetSelModeM(singleSelection_);
+    return 1;
+}
+
+int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
+{
+    const FillingCL filling(control);
+    const auto each = [](const PairedTextsCL& list, auto&& see) {
+        const int count = list.CountM();
+        int text = list.texts.GetFirstIdxM();
+        for (int i = 0; i < count && text >= 0; ++i) {
+            see(list.pairs[i], slTextAt(list.texts, text));
+            text = list.texts.GetNextIdxM(text);
+        }
+    };
+    each(titles_,
+        [control](const int* title, const char* text) { control->InsertColumnM(title[0], title[1], text); });
+    each(cells_, [control](const int* cell, const char* text) {
+        // A cell needs its row, which the row's column-0 text makes.
+        if (cell[1] == 0) {
+            control->InsertItemM(cell[0], 0, text);
+        } else {
+            control->SetItemTextM(cell[0], cell[1], text);
+        }
+    });
+    return 1;
+}
+
+int DVrListCtrlArr::InitListCtrlM(int index, DuListCtrlCL* control) const
+{
+    return ifAliveM(index, [control](const DVrListCtrlCL& record) { record.InitListCtrlM(control); });
+}
+
+int DVrListCtrlArr::InitListCtrlStrM(int index, DuListCtrlCL* control)
+{
+    return ifAliveM(index, [control](const DVrListCtrlCL& record) { record.InitListCtrlStrM(control); });
+}
+
+int DuListCtrlCL::Create(CWnd* parent)
+{
+    return createdM(CListCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
+}
+
+BOOL DuListCtrlCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS;
+    create.dwExStyle |= WS_EX_CLIENTEDGE;
+    if (singleSelection_ == 1) {
+        create.style |= LVS_SINGLESEL;
+    }
+    return CListCtrl::PreCreateWindow(create);
+}
+
+int DuListCtrlCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CListCtrl::OnCreate(create) == -1) {
+        return -1;
+    }
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+    return 0;
+}
+
+void DuListCtrlCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}
+
+int DuListCtrlCL::SetColNumM(int columns)
+{
+    columns_ = columns;
+    return 1;
+}
+
+int DuListCtrlCL::SetSelModeM(int single)
+{
+    singleSelection_ = single;
+    return 1;
+}
+
+int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
+{
+    LVCOLUMNA heading {};
+    heading.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
+    heading.fmt = LVCFMT_LEFT;
+    heading.cx = width;
+    heading.pszText = const_cast<char*>(text);
+    heading.iSubItem = column;
+    return CListCtrl::InsertColumn(column, &heading) != -1 ? 1 : 0;
+}
+
+int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
+{
+    const int inserted = CListCtrl::InsertItem(row, text);
+    if (inserted == -1) {
+        return 0;
+    }
+    SetItemData(inserted, static_cast<DWORD_PTR>(data));
+    return 1;
+}
+
+int DuListCtrlCL::SetItemTextM(int row, int column, const char* text)
+{
+    return SetItemText(row, column, text) ? 1 : 0;
+}
+
+int DuListCtrlCL::DeleteItemM(int row)
+{
+    return row >= 0 && DeleteItem(row) ? 1 : 0;
+}
+
+int DuListCtrlCL::DelAllM()
+{
+    return DeleteAllItems() ? 1 : 0;
+}
+
+int DuListCtrlCL::GetRowNumM(int* count) const
+{
+    *count = GetItemCount();
+    return 1;
+}
+
+int DuListCtrlCL::GetSelNumM(int* count) const
+{
+    *count = static_cast<int>(GetSelectedCount());
+    return 1;
+}
+
+int DuListCtrlCL::GetFirstSelM(int* row, int* data) const
+{
+    const int first = GetNextItem(-1, LVNI_SELECTED);
+    if (first == -1) {
+        return 0;
+    }
+    *row = first;
+    *data = static_cast<int>(GetItemData(first));
+    return 1;
+}
+
+int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
+{
+    *row = GetNextItem(from, LVNI_SELECTED);
+    if (*row == -1) {
+        return 0;
+    }
+    *data = static_cast<int>(GetItemData(*row));
+    return 1;
+}
+
+int DuListCtrlCL::GetCurSelM(int* row, int* data) const
+{
+    if (GetSelectedCount() > 0) {
+        return GetFirstSelM(row, data);
+    }
+    *row = -1;
+    return 1;
+}
+
+int DuListCtrlCL::SetSelM(int row)
+{
+    constexpr UINT AllMarks = LVIS_FOCUSED | LVIS_SELECTED | LVIS_DROPHILITED;
+    for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
+        SetItemState(at, 0, AllMarks);
+    }
+    SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    return 1;
+}

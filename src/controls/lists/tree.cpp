@@ -1,0 +1,127 @@
+#include "controls/lists/tree.h"
+#include "controls/lists/filling.h"
+#include "controls/lists/tree_pictures.h"
+#include "controls/lists/tree_record.h"
+
+template class PANELKIT_API Arr<DuTreeCL>;
+
+BEGIN_MESSAGE_MAP(DuTreeCL, CTreeCtrl)
+ON_WM_CREATE()
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+int DVrTreeCL::InitTreeM(DuTreeCL* control) const
+{
+    if (control != nullptr) {
+        InitCommonCtrlM(control);
+    }
+    return 1;
+}
+
+int DVrTreeCL::InitTreeStrM(DuTreeCL* control)
+{
+    return genTreeM(0, TVI_ROOT, control);
+}
+
+int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
+{
+    const FillingCL filling(tree);
+    TreePicturesCL pictures(tree->ImagesM());
+    lines_.GenerateM(
+        parentKey, parentItem, [tree, &pictures](void* parent, const TreeLinesCL::LineCL& line) -> void* {
+            return tree->InsertItemM(static_cast<HTREEITEM>(parent), line.data, line.text,
+                line.selectedPicture, line.normalPicture, pictures);
+        });
+    return 1;
+}
+
+int DVrTreeArr::InitTreeM(int index, DuTreeCL* control) const
+{
+    return ifAliveM(index, [control](const DVrTreeCL& record) { record.InitTreeM(control); });
+}
+
+int DVrTreeArr::InitTreeStrM(int index, DuTreeCL* control)
+{
+    if (CheckAvailableM(index) == 1) {
+        ElementAtM(index).InitTreeStrM(control);
+    }
+    return 1;
+}
+
+int DuTreeCL::Create(CWnd* parent)
+{
+    return createdM(CTreeCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
+}
+
+BOOL DuTreeCL::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style
+        |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT;
+    create.dwExStyle |= WS_EX_CLIENTEDGE;
+    return CTreeCtrl::PreCreateWindow(create);
+}
+
+int DuTreeCL::OnCreate(LPCREATESTRUCT create)
+{
+    if (CTreeCtrl::OnCreate(create) == -1) {
+        return -1;
+    }
+    images_.DeleteImageList();
+    TreePicturesCL::CreateListM(images_);
+    SetImageList(&images_, TVSIL_NORMAL);
+    return 0;
+}
+
+void DuTreeCL::OnSetFocus(CWnd* oldFocus)
+{
+    reportFocusM(oldFocus);
+}
+
+HTREEITEM DuTreeCL::InsertItemM(
+    HTREEITEM parent, int data, const char* text, const char* selectedPicture, const char* normalPicture)
+{
+    const int selected = TreePicturesCL::AddFileM(images_, selectedPicture);
+    const int normal = selected != -1 ? TreePicturesCL::AddFileM(images_, normalPicture) : -1;
+    return insertM(parent, data, text, selected, normal);
+}
+
+HTREEITEM DuTreeCL::InsertItemM(HTREEITEM parent, int data, const char* text, const char* selectedPicture,
+    const char* normalPicture, TreePicturesCL& pictures)
+{
+    const int selected = pictures.AddM(selectedPicture);
+    const int normal = selected != -1 ? pictures.AddM(normalPicture) : -1;
+    return insertM(parent, data, text, selected, normal);
+}
+
+HTREEITEM DuTreeCL::insertM(HTREEITEM parent, int data, const char* text, int selected, int normal)
+{
+    if (normal == -1) {
+        return nullptr;
+    }
+    const HTREEITEM item = InsertItem(
+        TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, text, normal, selected, 0, 0, 0, parent, TVI_LAST);
+    if (item != nullptr) {
+        SetItemData(item, static_cast<DWORD_PTR>(data));
+    }
+    return item;
+}
+
+HTREEITEM DuTreeCL::GetCurSelM(int* data) const
+{
+    const HTREEITEM item = GetSelectedItem();
+    if (item != nullptr) {
+        *data = static_cast<int>(GetItemData(item));
+    }
+    return item;
+}
+
+void DuTreeCL::DelItemM()
+{
+    ControlCL::DelItemM();
+    destroyM();
+}
+
+void DuTreeCL::destroyM()
+{
+    images_.DeleteImageList();
+}

@@ -1,0 +1,62 @@
+#pragma once
+#include "controls/base/control.h"
+#include "controls/base/control_arr.h"
+
+class TreePicturesCL;
+
+// The pictures of a tree's items. They go with the window: a copy of the control starts without.
+class PANELKIT_API TreeImagesCL : public CImageList
+{
+public:
+    TreeImagesCL() = default;
+    TreeImagesCL(const TreeImagesCL&)
+        : CImageList()
+    {
+    }
+    TreeImagesCL& operator=(const TreeImagesCL& other)
+    {
+        if (this != &other) {
+            DeleteImageList();
+        }
+        return *this;
+    }
+};
+
+// A tree of texts, each with a picture for its normal and its selected state and a number of the application.
+class PANELKIT_API DuTreeCL : public ControlCL<CTreeCtrl>
+{
+public:
+    using ControlCL::ControlCL;
+
+    using CTreeCtrl::Create;
+    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+
+    // Adds an item below the parent, behind its other children, and its pictures, .bmp files as named, to the
+    // image list: the selected one first. Null when a picture can't be loaded or the item not be made.
+    HTREEITEM InsertItemM(
+        HTREEITEM parent, int data, const char* text, const char* selectedPicture, const char* normalPicture);
+    // The same for one of many items, whose pictures are shared.
+    HTREEITEM InsertItemM(HTREEITEM parent, int data, const char* text, const char* selectedPicture,
+        const char* normalPicture, TreePicturesCL& pictures);
+    HTREEITEM GetCurSelM(int* data) const; // Null, and data stays, when no item is selected.
+    CImageList& ImagesM() { return images_; }
+    void DelItemM(); // Destroys the window and the pictures and marks the element deleted.
+    void destroyM(); // Deletes the image list.
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    HTREEITEM insertM(HTREEITEM parent, int data, const char* text, int selected, int normal);
+
+    TreeImagesCL images_;
+};
+
+extern template class PANELKIT_API Arr<DuTreeCL>;
+
+class PANELKIT_API DuTreeArr : public ControlArr<DuTreeCL>
+{
+};

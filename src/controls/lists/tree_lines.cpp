@@ -1,0 +1,96 @@
+#include "controls/lists/tree_lines.h"
+#include <unordered_map>
+#include <vector>
+
+void TreeLinesCL::AddM(
+    const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
+{
+    const auto add
+        = [](VrStringArr& list, const char* what) { slAddText(list, what != nullptr ? what : ""); };
+    keys_.AddItemM(triple);
+    add(texts_, text);
+    add(normalPictures_, normalPicture);
+    add(selectedPictures_, selectedPicture);
+}
+
+void TreeLinesCL::DelItemM(int index)
+{
+    keys_.DelItemM(index);
+    texts_.DelItemM(index);
+    normalPictures_.DelItemM(index);
+    selectedPictures_.DelItemM(index);
+}
+
+void TreeLinesCL::DelAllM()
+{
+    keys_.DelAllM();
+    texts_.DelAllM();
+    normalPictures_.DelAllM();
+    selectedPictures_.DelAllM();
+}
+
+TreeLinesCL::LineCL TreeLinesCL::LineM(int index) const
+{
+    int triple[3] = {};
+    keys_.GetItemM(triple, index);
+    return { triple[0], triple[1], triple[2], slTextAt(texts_, index), slTextAt(normalPictures_, index),
+        slTextAt(selectedPictures_, index) };
+}
+
+void TreeLinesCL::VisitM(FieldVisitorCL& visitor, const char* name) const
+{
+    int slot = -1;
+    visitor.ListM(name, GetAvailableNumM(), [&](FieldVisitorCL& row, int number) {
+        slot = number == 0 ? GetFirstIdxM() : GetNextIdxM(slot);
+        LineCL line = LineM(slot);
+        row.IntM("parent", line.parentKey);
+        row.IntM("key", line.ownKey);
+        row.IntM("data", line.data);
+        slVisitText(row, "text", texts_, slot);
+        slVisitText(row, "normal", normalPictures_, slot);
+        slVisitText(row, "selected", selectedPictures_, slot);
+    });
+}
+
+void TreeLinesCL::GenerateM(int parentKey, void* parent, const PlaceTP& place)
+{
+    // The lines of one parent key, and how many of them are placed. Whoever comes by with that key takes the
+    // next one: a walk over all alive lines would find the same.
+    struct ChildrenCL
+    {
+        std::vector<int> lines;
+        size_t placed { 0 };
+    };
+    std::unordered_map<int, ChildrenCL> childrenOf;
+    for (int i = keys_.GetFirstIdxM(); i >= 0; i = keys_.GetNextIdxM(i)) {
+        childrenOf[keys_[i][0]].lines.push_back(i);
+    }
+    struct LevelCL
+    {
+        void* parent;
+        ChildrenCL* children;
+    };
+    // Not by recursion: a chain of lines may be as long as the file.
+    std::vector<LevelCL> levels;
+    const auto enter = [&](int key, void* below) {
+        const auto found = childrenOf.find(key);
+        if (found != childrenOf.end()) {
+            levels.push_back({ below, &found->second });
+        }
+    };
+    enter(parentKey, parent);
+    while (!levels.empty()) {
+        const LevelCL level = levels.back();
+        if (level.children->placed == level.children->lines.size()) {
+            levels.pop_back();
+            continue;
+        }
+        const int index = level.children->lines[level.children->placed++];
+        const LineCL line = LineM(index);
+        void* const made = place(level.parent, line);
+        DelItemM(index);
+        if (made != nullptr) {
+            enter(line.ownKey, made);
+        }
+    }
+}

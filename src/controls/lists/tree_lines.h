@@ -1,0 +1,40 @@
+#pragma once
+#include "baselib/int3d_arr.h"
+#include "controls/lists/record_lists.h"
+#include <functional>
+
+// The lines of a tree: parallel lists, entry k of each belongs to line k.
+class PANELKIT_API TreeLinesCL
+{
+public:
+    struct LineCL
+    {
+        int parentKey;
+        int ownKey;
+        int data;
+        const char* text;
+        const char* normalPicture;
+        const char* selectedPicture;
+    };
+
+    void AddM(const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
+    void DelItemM(int index); // The line is deleted from all lists; the others keep their index.
+    void DelAllM();
+    int GetAvailableNumM() const { return keys_.GetAvailableNumM(); }
+    int GetFirstIdxM() const { return keys_.GetFirstIdxM(); }
+    int GetNextIdxM(int from) const { return keys_.GetNextIdxM(from); }
+    void VisitM(FieldVisitorCL& visitor, const char* name) const; // Shows the alive lines as rows.
+    LineCL LineM(int index) const; // Its texts are valid until the lists change.
+
+    // Places the lines with that parent key below the parent, in order, each one's children (the lines that
+    // name its own key as their parent) before the next line. place(parent, line) returns what it made of the
+    // line, null if it failed; either way the line is deleted, so each is placed once.
+    using PlaceTP = std::function<void*(void* parent, const LineCL& line)>;
+    void GenerateM(int parentKey, void* parent, const PlaceTP& place);
+
+private:
+    OwnListCL<Int3DArr> keys_;
+    TextListCL texts_;
+    TextListCL normalPictures_;
+    TextListCL selectedPictures_;
+};

@@ -1,0 +1,38 @@
+#pragma once
+#include "toolkit/toolkit.h"
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+// Adds picture files to the image list of a tree while many items are inserted. A file is read once, however
+// often it is added; yet each time has images of its own. They come into the list together at the end:
+// one by one, the list would move all it has again and again.
+class TreePicturesCL
+{
+public:
+    explicit TreePicturesCL(CImageList& images);
+    TreePicturesCL(const TreePicturesCL&) = delete;
+    TreePicturesCL& operator=(const TreePicturesCL&) = delete;
+    ~TreePicturesCL(); // Puts the images into the list.
+
+    // The index that the first image of a .bmp file (GBK path) will have; -1 when it can't be loaded.
+    int AddM(const char* file);
+
+    // Adds the images of a file to a list, with black as the mask colour: the index of the first, or -1.
+    static int AddFileM(CImageList& images, const char* file);
+    static BOOL CreateListM(CImageList& images); // An empty one as trees have it.
+
+private:
+    struct PictureCL
+    {
+        int first { -1 };
+        int count { 0 };
+    };
+    void addStripM(size_t from, size_t to);
+
+    CImageList& images_;
+    CImageList distinct_; // The images of each file, once.
+    std::unordered_map<std::string, PictureCL> known_;
+    std::vector<int> added_; // For each image to come its index in distinct_.
+    int before_;
+};
