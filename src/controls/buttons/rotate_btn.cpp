@@ -53,6 +53,7 @@ int DuRotateBtnCL::SetRotPosM(const int position[2], const int centre[2])
         position_[i] = position[i];
         centre_[i] = centre[i];
     }
+    forgetPixelsM();
     return 1;
 }
 
@@ -75,6 +76,7 @@ int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
 {
     background_.LoadBitmapM(background);
     rotating_.LoadBitmapM(rotating);
+    forgetPixelsM();
     return 1;
 }
 
@@ -110,6 +112,7 @@ int DuRotateBtnCL::OnCreate(LPCREATESTRUCT create)
     EnableWindow(enabled_ == 1);
     width_ = rotating_.GetWidthM();
     height_ = rotating_.GetHeightM();
+    forgetPixelsM();
     return 0;
 }
 

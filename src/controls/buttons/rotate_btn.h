@@ -2,6 +2,7 @@
 #include "controls/base/control_arr.h"
 #include "controls/base/picture_static.h"
 #include "controls/buttons/image_cache.h"
+#include <vector>
 
 // A knob: a picture turned to the current angle over a background. A left or right click inside its hit
 // region turns it by a step and posts the counter. Angles are degrees, pictures GBK names of .bmp files,
@@ -50,6 +51,8 @@ private:
     void releaseM(CPoint point, Side side);
     bool stepM(Side side);
     void composeM(CDC* dc, float angle);
+    bool prepareM(CDC* dc);
+    void forgetPixelsM();
 
     int counter_ { 0 };
     float angle_ { 0 };
@@ -69,6 +72,9 @@ private:
     DVrRgnCL hitRgn_;
     DVrRgnCL windowRgn_;
     ImageCacheCL cache_;
+    // What every angle starts from, of the cache's size; empty until it is needed.
+    std::vector<std::uint32_t> base_;
+    std::vector<std::uint32_t> picture_;
 };
 
 extern template class PANELKIT_API Arr<DuRotateBtnCL>;

@@ -1,7 +1,6 @@
 // Painting of the rotate button.
 #include "controls/buttons/rotate_btn.h"
 #include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -79,10 +78,31 @@ void DuRotateBtnCL::drawRotM(CDC* dc, float angle)
 
 void DuRotateBtnCL::composeM(CDC* dc, float angle)
 {
-    if (!cache_.CreateM(dc, width_, height_)) {
+    // A copy of a knob has the pixels, but its cache starts empty.
+    if ((base_.empty() || cache_.GetDcM()->m_hDC == nullptr) && !prepareM(dc)) {
         return;
     }
+    const PixelBlockCL onto = cache_.PixelsM();
+    std::copy(base_.begin(), base_.end(), onto.pixels);
+    slDrawRotated({ picture_.data(), width_, height_ }, onto, position_, centre_, angle);
+}
+
+// Asking the system for the pixels takes longer than turning them: once for all angles.
+bool DuRotateBtnCL::prepareM(CDC* dc)
+{
+    forgetPixelsM();
+    if (!cache_.CreateM(dc, width_, height_)) {
+        return false;
+    }
     copyPart(background_, cache_.GetDcM(), width_, height_, position_[0], position_[1]);
-    std::vector<std::uint32_t> picture = pixelsOf(rotating_, dc->m_hDC, width_, height_);
-    slDrawRotated({ picture.data(), width_, height_ }, cache_.PixelsM(), position_, centre_, angle);
+    const PixelBlockCL drawn = cache_.PixelsM();
+    base_.assign(drawn.pixels, drawn.pixels + static_cast<std::ptrdiff_t>(width_) * height_);
+    picture_ = pixelsOf(rotating_, dc->m_hDC, width_, height_);
+    return true;
+}
+
+void DuRotateBtnCL::forgetPixelsM()
+{
+    base_.clear();
+    picture_.clear();
 }

@@ -147,6 +147,31 @@ TEST(RotateBtn, RepaintingWithoutAChangeOnlyCopies)
     EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), RGB(0, 0, 0));
 }
 
+TEST(RotateBtn, PicturesAndPlacesSetLaterShowAfterTheNextStep)
+{
+    const KnobCL knob("10 10 20 20 1 -1 1 -1 90 1 360 0 0 0");
+    EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), asShown(Red));
+    ClickM(knob.WindowM(), 20, 20);
+    EXPECT_EQ(knob.dialog.PixelM(11, 20, 13), asShown(Red));
+    const int position[2] = { 15, 10 };
+    const int centre[2] = { 25, 20 };
+    knob.ControlM()->SetRotPosM(position, centre);
+    ClickM(knob.WindowM(), 20, 20);
+    EXPECT_EQ(knob.dialog.PixelM(11, 18, 20), asShown(Red));
+    const SmallPictureCL ground(Green, 25, 40);
+    knob.ControlM()->SetBmpM(ground.path(), knob.pointer.path());
+    ClickM(knob.WindowM(), 20, 20);
+    EXPECT_EQ(knob.dialog.PixelM(11, 25, 26), asShown(Red));
+    EXPECT_EQ(knob.dialog.PixelM(11, 18, 20), asShown(Green));
+    EXPECT_EQ(knob.dialog.PixelM(11, 33, 15), RGB(0, 0, 0)); // The background ends before.
+    const int back[2] = { 10, 10 };
+    const int middle[2] = { 20, 20 };
+    knob.ControlM()->SetRotPosM(back, middle);
+    ClickM(knob.WindowM(), 20, 20);
+    EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), asShown(Red));
+    EXPECT_EQ(knob.dialog.PixelM(11, 22, 12), asShown(Green));
+}
+
 TEST(RotateBtn, DrawingEqualsTheStepsDonePixelByPixelOnDeviceContexts)
 {
     std::mt19937 random(5);
