@@ -1,11 +1,9 @@
 // How long 20,000 initial lines of one list box take, by a description file and line by line.
 #include "dialog/basic_dialog.h"
 #include "support/test_dialog.h"
-#include <algorithm>
-#include <chrono>
+#include "timing.h"
 #include <cstdio>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -43,17 +41,6 @@ unsigned long long checksum(HWND list)
                 ::SendMessageW(list, LB_GETITEMDATA, static_cast<WPARAM>(i), 0));
     }
     return sum + static_cast<unsigned long long>(count);
-}
-
-double secondsSince(std::chrono::steady_clock::time_point begin)
-{
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 // The whole building of the dialog, reading the file included.
