@@ -2,7 +2,6 @@
 #include "support/handles.h"
 #include "support/pump.h"
 #include "support/test_dialog.h"
-#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace testing_support;
@@ -254,45 +253,6 @@ TEST(BasicDialog, ThousandBuildsLeaveNoWindowGdiObjectOrMemoryBehind)
     // A leak of one block a round would be a thousand.
     EXPECT_LT(static_cast<double>(LiveHeapM().blocks), static_cast<double>(heap.blocks) + 100);
     EXPECT_LT(static_cast<double>(LiveHeapM().bytes), static_cast<double>(heap.bytes) + 50000);
-}
-
-namespace {
-
-// Milliseconds that a dialog of so many labels takes to build, the better of two.
-double buildTime(int count)
-{
-    std::string records;
-    for (int i = 0; i < count; ++i) {
-        records += label((i * 7919) % count, 1000 + i); // Stacked quite otherwise than created.
-    }
-    TestDialogCL dialog(labels(count, records));
-    EXPECT_EQ(childrenOf(dialog.m_hWnd), count);
-    double best = 1e30;
-    for (int round = 0; round < 2; ++round) {
-        dialog.DestroyM();
-        LARGE_INTEGER start {};
-        LARGE_INTEGER end {};
-        LARGE_INTEGER second {};
-        ::QueryPerformanceFrequency(&second);
-        ::QueryPerformanceCounter(&start);
-        dialog.InitDlgM(&dialog, 1);
-        ::QueryPerformanceCounter(&end);
-        best = std::min(best,
-            static_cast<double>(end.QuadPart - start.QuadPart) * 1000 / static_cast<double>(second.QuadPart));
-    }
-    return best;
-}
-
-} // namespace
-
-TEST(BasicDialog, TwiceTheControlsTakeAboutTwiceTheTime)
-{
-    // A look-up by id in each step of stacking and fonts would make it four times.
-    const double half = buildTime(2000);
-    const double whole = buildTime(4000);
-    RecordProperty("ms_2000", static_cast<int>(half));
-    RecordProperty("ms_4000", static_cast<int>(whole));
-    EXPECT_LT(whole, 3 * half) << half << " ms for 2000 labels, " << whole << " ms for 4000";
 }
 
 TEST(BasicDialog, BackgroundPictureIsDrawnAtTheGivenCorner)
