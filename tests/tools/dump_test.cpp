@@ -4,24 +4,9 @@
 
 namespace {
 
-std::string sample(const std::string& name)
-{
-    return PANELKIT_SAMPLES "/" + name;
-}
-
 CommandResultCL dump(const std::string& path)
 {
     return runCommand("dump \"" + path + "\"");
-}
-
-// The one line of complaint and exit 2 that wrong use gets.
-void expectComplaint(const CommandResultCL& result, const std::string& part)
-{
-    EXPECT_EQ(result.code, 2);
-    EXPECT_EQ(result.output, "");
-    EXPECT_NE(result.errors.find(part), std::string::npos) << result.errors;
-    EXPECT_EQ(result.errors.rfind("panelkit: ", 0), 0U) << result.errors;
-    EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
 }
 
 int countOf(const std::string& text, const std::string& part)
@@ -121,6 +106,9 @@ TEST(Command, WrongArgumentsGetOneClearLine)
     expectComplaint(runCommand("frobnicate x"), "");
     expectComplaint(runCommand("shot x"), "OUT.png");
     expectComplaint(runCommand("dump --nonsense x"), "--nonsense");
+    expectComplaint(runCommand("dump x --status 1 2"), "");
+    expectComplaint(runCommand("shot x y.png --status 1"), "--status");
+    expectComplaint(runCommand("shot x y.png --status 1 two"), "--status");
 }
 
 TEST(Command, VersionAndHelpAreAnswers)

@@ -5,15 +5,6 @@
 
 #ifdef _WIN32
 
-namespace {
-
-std::string sample(const std::string& name)
-{
-    return PANELKIT_SAMPLES "/" + name;
-}
-
-} // namespace
-
 TEST(Inspect, PrintsTheWindowsOfTheSampleToTheLetter)
 {
     const CommandResultCL result = runCommand("inspect \"" + sample("two_kinds.dlg") + "\"");
@@ -41,28 +32,7 @@ TEST(Inspect, ArrowsOfASpinEditHaveAKindOfTheirOwn)
 
 TEST(Inspect, MissingFileGetsExitTwo)
 {
-    EXPECT_EQ(runCommand("inspect nowhere.dlg").code, 2);
-}
-
-TEST(Shot, WritesAPictureOfTheWholeWindow)
-{
-    const TempFile picture("", ".png");
-    const CommandResultCL result
-        = runCommand("shot \"" + sample("two_kinds.dlg") + "\" \"" + picture.path() + "\"");
-    EXPECT_EQ(result.code, 0) << result.errors;
-    const std::string png = picture.bytes();
-    ASSERT_GT(png.size(), 33U);
-    EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n");
-    // The size in the picture's head is that of the window: 300 by 200.
-    EXPECT_EQ(png.substr(16, 8), std::string("\0\0\x01\x2C\0\0\0\xC8", 8));
-}
-
-TEST(Shot, PictureThatCannotBeWrittenGetsOneClearLine)
-{
-    const CommandResultCL result
-        = runCommand("shot \"" + sample("two_kinds.dlg") + "\" no/such/folder/x.png");
-    EXPECT_EQ(result.code, 2);
-    EXPECT_NE(result.errors.find("cannot write"), std::string::npos);
+    expectComplaint(runCommand("inspect nowhere.dlg"), "no such file");
 }
 
 #endif

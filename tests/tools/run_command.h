@@ -2,6 +2,7 @@
 #include "support/temp_file.h"
 #include <cstdio>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <string>
 #ifdef _WIN32
 #include <windows.h>
@@ -82,4 +83,19 @@ inline CommandResultCL runCommand(const std::string& arguments)
     result.output = wholeFile(output.path());
     result.errors = wholeFile(errors.path());
     return result;
+}
+
+// The one line of complaint and exit 2 that wrong use gets.
+inline void expectComplaint(const CommandResultCL& result, const std::string& part)
+{
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_NE(result.errors.find(part), std::string::npos) << result.errors;
+    EXPECT_EQ(result.errors.rfind("panelkit: ", 0), 0U) << result.errors;
+    EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+}
+
+inline std::string sample(const std::string& name)
+{
+    return PANELKIT_SAMPLES "/" + name;
 }

@@ -1,14 +1,20 @@
 #pragma once
 #include <string>
+#include <utility>
+#include <vector>
 
 // The subcommands. Each gets what the user typed, as UTF-8, prints its result on standard output and what is
 // wrong, in one line, on standard error; the result is the exit code.
 constexpr int CannotUse = 2; // Wrong arguments, or a file that can't be opened.
 
+// The function id of a control and the status that it is pictured in.
+using ControlStatusTP = std::pair<int, int>;
+
 int dumpCommand(const std::string& file);
 int inspectCommand(const std::string& file);
 int viewCommand(const std::string& file);
-int shotCommand(const std::string& file, const std::string& picture);
+int shotCommand(
+    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
 
 // One line on standard error; the result is CannotUse.
 int complain(const std::string& what);

@@ -24,6 +24,7 @@ int run(std::vector<std::string> arguments)
 
     std::string file;
     std::string picture;
+    std::vector<int> statuses; // In pairs: a control's id, its status.
     int result = 0;
     const auto add = [&](const char* name, const char* what) {
         CLI::App* command = app.add_subcommand(name, what);
@@ -39,7 +40,20 @@ int run(std::vector<std::string> arguments)
     add("view", "Shows the dialog of FILE.")->callback([&] { result = viewCommand(file); });
     CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
     shot->add_option("OUT.png", picture, "the picture to write")->required();
-    shot->callback([&] { result = shotCommand(file, picture); });
+    shot->add_option("--status", statuses,
+            "puts control ID in a status: of a bitmap or multi-state button, the frame of a normal "
+            "animation, "
+            "the position of a new rotate button; may be repeated")
+        ->type_name("ID STATUS")
+        ->type_size(2)
+        ->allow_extra_args(false);
+    shot->callback([&] {
+        std::vector<ControlStatusTP> pairs;
+        for (size_t i = 1; i < statuses.size(); i += 2) {
+            pairs.emplace_back(statuses[i - 1], statuses[i]);
+        }
+        result = shotCommand(file, picture, pairs);
+    });
 
     try {
         std::reverse(arguments.begin(), arguments.end()); // As the parser wants them.

@@ -2,10 +2,11 @@
 #include "commands.h"
 #include "description_file.h"
 #include "png.h"
-#include "shown_dialog.h"
+#include "preview_dialog.h"
 #include <filesystem>
 
-int shotCommand(const std::string& file, const std::string& picture)
+int shotCommand(
+    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses)
 {
     // Before the current folder changes: the picture goes where the user stands.
     const std::wstring out = std::filesystem::absolute(std::filesystem::u8path(picture)).wstring();
@@ -13,8 +14,18 @@ int shotCommand(const std::string& file, const std::string& picture)
     if (!enterFolderOf(file, &name)) {
         return CannotUse;
     }
-    ShownDialogCL dialog(name);
-    if (!dialog.BuildM() || !dialog.WaitUntilShownM()) {
+    PreviewDialogCL dialog(name);
+    if (!dialog.BuildM()) {
+        complain("the dialog of '" + file + "' did not come up");
+        return 1;
+    }
+    for (const auto& [id, status] : statuses) {
+        if (!dialog.SetStatusM(id, status)) {
+            return complain("control " + std::to_string(id) + " of '" + file + "' has no status "
+                + std::to_string(status));
+        }
+    }
+    if (!dialog.WaitUntilShownM()) {
         complain("the dialog of '" + file + "' did not come up");
         return 1;
     }

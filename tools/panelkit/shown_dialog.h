@@ -9,7 +9,12 @@ public:
     // name: the file as the library takes it, in the current folder.
     explicit ShownDialogCL(const std::string& name);
 
-    bool BuildM();          // Built, but not yet shown.
-    void RunM();            // Shown until it is closed.
-    bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
+    bool BuildM(); // Built, but not yet shown.
+
+protected:
+    const char* NameM() const { return name_.c_str(); }
+    static const DLGTEMPLATE* TemplateM(); // An empty dialog: the description file says all the rest.
+
+private:
+    std::string name_;
 };

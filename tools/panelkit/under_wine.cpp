@@ -51,22 +51,25 @@ int start(std::vector<std::string> arguments, Display display)
     return WEXITSTATUS(status);
 }
 
-// Starts a subcommand on the file in its own folder, where the Windows program needs no more than its name.
-int startOn(const char* command, const std::string& file, std::vector<std::string> more, Display display)
+// Starts a subcommand with its options on the file in its own folder, where the Windows program needs no more
+// than its name.
+int startOn(std::vector<std::string> words, const std::string& file, const std::vector<std::string>& more,
+    Display display)
 {
     std::string name;
     if (!enterFolderOf(file, &name)) {
         return CannotUse;
     }
-    more.insert(more.begin(), { command, "--", name });
-    return start(std::move(more), display);
+    words.insert(words.end(), { "--", name });
+    words.insert(words.end(), more.begin(), more.end());
+    return start(std::move(words), display);
 }
 
 } // namespace
 
 int inspectCommand(const std::string& file)
 {
-    return startOn("inspect", file, {}, Display::OurOwn);
+    return startOn({ "inspect" }, file, {}, Display::OurOwn);
 }
 
 int viewCommand(const std::string& file)
@@ -74,10 +77,15 @@ int viewCommand(const std::string& file)
     if (std::getenv("DISPLAY") == nullptr) {
         return complain("view needs a display (shot writes a picture without one)");
     }
-    return startOn("view", file, {}, Display::Users);
+    return startOn({ "view" }, file, {}, Display::Users);
 }
 
-int shotCommand(const std::string& file, const std::string& picture)
+int shotCommand(
+    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses)
 {
-    return startOn("shot", file, { "Z:" + fs::absolute(picture).string() }, Display::OurOwn);
+    std::vector<std::string> words { "shot" };
+    for (const auto& [id, status] : statuses) {
+        words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
+    }
+    return startOn(words, file, { "Z:" + fs::absolute(picture).string() }, Display::OurOwn);
 }

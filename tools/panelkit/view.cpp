@@ -1,6 +1,6 @@
 #include "commands.h"
 #include "description_file.h"
-#include "shown_dialog.h"
+#include "preview_dialog.h"
 
 int viewCommand(const std::string& file)
 {
@@ -8,6 +8,6 @@ int viewCommand(const std::string& file)
     if (!enterFolderOf(file, &name)) {
         return CannotUse;
     }
-    ShownDialogCL(name).RunM();
+    PreviewDialogCL(name).RunM();
     return 0;
 }

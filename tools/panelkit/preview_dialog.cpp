@@ -1,0 +1,135 @@
+#include "preview_dialog.h"
+#include "baselib/io.h"
+#include "controls/buttons/new_rotate_btn_record.h"
+
+namespace {
+
+constexpr UINT_PTR RepeatTimer = 1;
+constexpr UINT RepeatMilliseconds = 200;
+
+// Handles what is queued; false when nothing was.
+bool handleQueued()
+{
+    MSG message;
+    bool any = false;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+        any = true;
+    }
+    return any;
+}
+
+bool put(DuBmpButtonCL& button, int status)
+{
+    return status >= ButtonNormal && status <= ButtonDisabled
+        && button.SetBtnStatusM(static_cast<BUTTON_STATUS>(status)) == 1;
+}
+
+bool put(DuMultiStateButtonCL& button, int status)
+{
+    return button.SetCurStatusM(status) == 1;
+}
+
+bool put(DuNormalAnimateCL& animation, int frame)
+{
+    constexpr int Manual = 2;
+    return animation.SetCtrlModeM(Manual) == 1 && animation.DispBmpM(frame) == 1;
+}
+
+bool put(DuNewRotateBtnCL& button, int index)
+{
+    button.SetCurIndxM(index);
+    button.Invalidate(FALSE);
+    return true;
+}
+
+template <class ControlTP> bool isPut(CWnd* control, int status)
+{
+    auto* const one = dynamic_cast<ControlTP*>(control);
+    return one != nullptr && put(*one, status);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(PreviewDialogCL, ShownDialogCL)
+ON_WM_TIMER()
+ON_MESSAGE(QueryPermissionMsg, &PreviewDialogCL::onPermissionM)
+ON_MESSAGE(ButtonDownMsg, &PreviewDialogCL::onButtonDownM)
+END_MESSAGE_MAP()
+
+BOOL PreviewDialogCL::OnInitDialog()
+{
+    const BOOL result = ShownDialogCL::OnInitDialog();
+    AfxGetApp()->m_pMainWnd = this; // Is asked for permission.
+    addNewRotateButtonsM();
+    return result;
+}
+
+void PreviewDialogCL::addNewRotateButtonsM()
+{
+    VrIOCL io;
+    io.OpenM(NameM(), "r");
+    DVrNewRotateBtnArr records;
+    if (records.FmReadInterfaceM(&io) == 1) {
+        for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+            records.InitNewRotateBtnM(i, &newRotateButtons_.emplace_back());
+            newRotateButtons_.back().Create(this);
+        }
+    }
+}
+
+LRESULT PreviewDialogCL::onPermissionM(WPARAM wParam, LPARAM)
+{
+    *reinterpret_cast<int*>(wParam) = 1;
+    return 0;
+}
+
+LRESULT PreviewDialogCL::onButtonDownM(WPARAM, LPARAM)
+{
+    SetTimer(RepeatTimer, RepeatMilliseconds, nullptr);
+    return 0;
+}
+
+void PreviewDialogCL::OnTimer(UINT_PTR id)
+{
+    if (id == RepeatTimer) {
+        // The mouse tells who is held: a release that turns nothing is not reported.
+        auto* const held = dynamic_cast<DuNewRotateBtnCL*>(CWnd::FromHandlePermanent(::GetCapture()));
+        if (held != nullptr) {
+            held->OnTimerM();
+        } else {
+            KillTimer(RepeatTimer);
+        }
+    }
+    ShownDialogCL::OnTimer(id);
+}
+
+bool PreviewDialogCL::SetStatusM(int id, int status)
+{
+    CWnd* const control = CWnd::FromHandlePermanent(::GetDlgItem(m_hWnd, id));
+    return isPut<DuBmpButtonCL>(control, status) || isPut<DuMultiStateButtonCL>(control, status)
+        || isPut<DuNormalAnimateCL>(control, status) || isPut<DuNewRotateBtnCL>(control, status);
+}
+
+void PreviewDialogCL::RunM()
+{
+    InitModalIndirect(TemplateM(), nullptr);
+    DoModal();
+}
+
+bool PreviewDialogCL::WaitUntilShownM()
+{
+    const DWORD start = ::GetTickCount();
+    while (!IsWindowVisible()) {
+        if (::GetTickCount() - start > 10000) {
+            return false;
+        }
+        if (!handleQueued()) {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
+        }
+    }
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    handleQueued();
+    return true;
+}

@@ -1,0 +1,31 @@
+#pragma once
+#include "controls/buttons/new_rotate_btn.h"
+#include "shown_dialog.h"
+#include <deque>
+
+// The dialog as its author wants to see it: with the new rotate buttons of the file, which the library leaves
+// to the application. Here they may always be pressed, and go on turning while they are held.
+class PreviewDialogCL : public ShownDialogCL
+{
+public:
+    using ShownDialogCL::ShownDialogCL;
+
+    void RunM();            // Shown until it is closed.
+    bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
+    // Puts the control with that id in a status as an application could: the status of a bitmap button or
+    // multi-state button, the frame of a normal animation (it then stands still), the position of a new
+    // rotate button. False when there is no such control, or when it has no such status.
+    bool SetStatusM(int id, int status);
+    BOOL OnInitDialog() override;
+
+protected:
+    afx_msg LRESULT onPermissionM(WPARAM wParam, LPARAM);
+    afx_msg LRESULT onButtonDownM(WPARAM, LPARAM);
+    afx_msg void OnTimer(UINT_PTR id);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void addNewRotateButtonsM();
+
+    std::deque<DuNewRotateBtnCL> newRotateButtons_; // Must not move while they have windows.
+};
