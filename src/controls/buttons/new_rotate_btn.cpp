@@ -56,7 +56,8 @@ int DuNewRotateBtnCL::clickStepM(int step) const
 
 void DuNewRotateBtnCL::OnTimerM()
 {
-    if (pressed_ != PressedNone && moveM(pressed_ == PressedLeft ? leftStep_ : rightStep_)) {
+    // Whoever took the mouse away gets the release: without the mouse nothing is held any more.
+    if (pressed_ != PressedNone && holdsMouseM() && moveM(pressed_ == PressedLeft ? leftStep_ : rightStep_)) {
         invalidateM(false);
     }
 }

@@ -403,6 +403,27 @@ TEST(NewRotateBtn, WhileHeldEachTimerStepMovesOneStepWithoutAMessage)
         (MessageListTP { "posted 1224 w=11 l=4", "posted 1224 w=11 l=2", "sent 1225 w=11 l=2" }));
 }
 
+TEST(NewRotateBtn, StopsTurningWhenTheMouseIsTakenAway)
+{
+    SeriesCL series(8, 0);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    MoveMouseToM(series.button.m_hWnd, 5, 5);
+    PressM();
+    series.button.OnTimerM();
+    EXPECT_EQ(series.ShownM(), 1);
+    ::SetCapture(series.window.m_hWnd); // As a message box does: the release goes there.
+    series.button.OnTimerM();
+    EXPECT_EQ(series.ShownM(), 1);
+    ::ReleaseCapture();
+    ReleaseM();
+    series.button.OnTimerM();
+    EXPECT_EQ(series.ShownM(), 1);
+    ClickM(series.button.m_hWnd, 5, 5);
+    EXPECT_EQ(series.ShownM(), 2);
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1224 w=11 l=1", "posted 1224 w=11 l=1", "sent 1225 w=11 l=1" }));
+}
+
 TEST(NewRotateBtn, WithoutPermissionNothingHappens)
 {
     SeriesCL series(8, 3);
