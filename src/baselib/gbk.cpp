@@ -135,15 +135,14 @@ void slCopyText(char* to, int size, const char* from)
     if (to == nullptr || size < 1) {
         return;
     }
+    const char* const text = from != nullptr ? from : "";
     // A text need not be measured beyond what fits and the byte behind it.
     std::size_t length = 0;
-    while (from != nullptr && length <= static_cast<std::size_t>(size) && from[length] != '\0') {
+    while (length <= static_cast<std::size_t>(size) && text[length] != '\0') {
         ++length;
     }
-    const std::size_t kept = slGbkCutLength(from, length, static_cast<std::size_t>(size) - 1);
-    if (kept > 0) {
-        std::memmove(to, from, kept);
-    }
+    const std::size_t kept = slGbkCutLength(text, length, static_cast<std::size_t>(size) - 1);
+    std::memmove(to, text, kept);
     to[kept] = '\0';
 }
 

@@ -170,7 +170,8 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
         return SetItemM(item, i);
     }
     if (slotOfM(&item) >= 0) {
-        const T copy(item); // Moving the slots would change an item that lies among them.
+        // Moving the slots would change an item that lies among them.
+        const T copy(item); // NOLINT(performance-unnecessary-copy-initialization)
         return InsertItemM(copy, i);
     }
     if (bound_ == length_ && AddSizeM(increment_) == 0) {

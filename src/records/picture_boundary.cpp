@@ -33,7 +33,7 @@ public:
     {
         const std::uint64_t number = static_cast<std::uint64_t>(place[1]) * static_cast<std::uint64_t>(width_)
             + static_cast<std::uint64_t>(place[0]);
-        const std::uint64_t direction = static_cast<std::uint64_t>(dir[0] + 1 + (dir[1] + 1) * 3);
+        const auto direction = static_cast<unsigned>(dir[0] + 1 + (dir[1] + 1) * 3);
         return steps_.insert((static_cast<std::uint64_t>(place[1]) << 36 | number << 4 | direction)).second;
     }
 

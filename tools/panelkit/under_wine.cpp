@@ -35,6 +35,7 @@ int start(std::vector<std::string> arguments, Display display)
     }
     arguments.insert(arguments.begin(), { script, program });
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) {
         words.push_back(argument.data());
     }
