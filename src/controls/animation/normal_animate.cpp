@@ -9,6 +9,7 @@ ON_WM_TIMER()
 ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -201,6 +202,11 @@ void DuNormalAnimateCL::OnLButtonUp(UINT, CPoint point)
             postToParentM(AnimationClickedMsg);
         }
     });
+}
+
+void DuNormalAnimateCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
 }
 
 void DuNormalAnimateCL::OnSetFocus(CWnd* oldFocus)

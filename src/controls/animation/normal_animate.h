@@ -39,6 +39,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnSetFocus(CWnd* oldFocus);
     DECLARE_MESSAGE_MAP()
 

@@ -10,6 +10,7 @@ ON_WM_PAINT()
 ON_WM_MOUSEMOVE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -69,6 +70,9 @@ int DuBmpButtonCL::OnCreate(LPCREATESTRUCT create)
     if (buttonRgn_.GetSafeHandle() == nullptr) {
         clientRgnM(&buttonRgn_);
     }
+    if (status_ == ButtonDisabled) {
+        EnableWindow(FALSE);
+    }
     return 0;
 }
 
@@ -100,6 +104,11 @@ void DuBmpButtonCL::OnLButtonUp(UINT, CPoint)
         postToParentM(ButtonActionMsg);
         Invalidate(FALSE);
     });
+}
+
+void DuBmpButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
 }
 
 void DuBmpButtonCL::OnSetFocus(CWnd* oldFocus)

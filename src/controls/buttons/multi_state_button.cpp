@@ -10,6 +10,7 @@ ON_WM_CREATE()
 ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -171,6 +172,11 @@ void DuMultiStateButtonCL::OnLButtonUp(UINT, CPoint point)
         }
     });
     Invalidate(TRUE);
+}
+
+void DuMultiStateButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
 }
 
 void DuMultiStateButtonCL::OnSetFocus(CWnd* oldFocus)

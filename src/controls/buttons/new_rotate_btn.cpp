@@ -7,8 +7,10 @@ ON_WM_PAINT()
 ON_WM_MOUSEMOVE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_RBUTTONDOWN()
 ON_WM_RBUTTONUP()
+ON_WM_RBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 int DVrNewRotateBtnCL::InitNewRotateBtnM(DuNewRotateBtnCL* control) const
@@ -125,4 +127,14 @@ void DuNewRotateBtnCL::OnLButtonUp(UINT, CPoint)
 void DuNewRotateBtnCL::OnRButtonUp(UINT, CPoint)
 {
     releaseM(rightStep_);
+}
+
+void DuNewRotateBtnCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void DuNewRotateBtnCL::OnRButtonDblClk(UINT flags, CPoint point)
+{
+    OnRButtonDown(flags, point);
 }

@@ -10,8 +10,10 @@ ON_WM_ERASEBKGND()
 ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_RBUTTONDOWN()
 ON_WM_RBUTTONUP()
+ON_WM_RBUTTONDBLCLK()
 ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -177,6 +179,16 @@ void DuRotateBtnCL::OnLButtonUp(UINT, CPoint point)
 void DuRotateBtnCL::OnRButtonUp(UINT, CPoint point)
 {
     releaseM(point, Right);
+}
+
+void DuRotateBtnCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void DuRotateBtnCL::OnRButtonDblClk(UINT flags, CPoint point)
+{
+    OnRButtonDown(flags, point);
 }
 
 void DuRotateBtnCL::OnSetFocus(CWnd* oldFocus)

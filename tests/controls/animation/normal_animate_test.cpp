@@ -230,6 +230,14 @@ TEST(NormalAnimate, ClickInsideIsPostedAndOneThatEndsOutsideIsNot)
     EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1744 w=11 l=0", "posted 1625 w=11 l=0" }));
 }
 
+TEST(NormalAnimate, SecondOfTwoFastClicksIsAClickToo)
+{
+    AnimationDialogCL animation("1 0 0 1");
+    const MessageRecorder messages(animation.dialog.m_hWnd);
+    DoubleClickM(animation.dialog.ItemM(11), 5, 5);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1744 w=11 l=0", "posted 1744 w=11 l=0" }));
+}
+
 TEST(NormalAnimate, WithoutNotifyTheMouseGoesThrough)
 {
     AnimationDialogCL animation("1 0 0 0");

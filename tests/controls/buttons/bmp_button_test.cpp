@@ -85,6 +85,16 @@ TEST(BmpButton, DraggingOffAndReleasingOutsideStillClicks)
         (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0", "posted 1625 w=11 l=0" }));
 }
 
+TEST(BmpButton, SecondOfTwoFastClicksIsAClickToo)
+{
+    const BmpButtonCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    DoubleClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0", "posted 1224 w=11 l=0",
+            "posted 1424 w=11 l=0" }));
+}
+
 TEST(BmpButton, DisabledStatusTakesTheMouseAwayUntilAnotherIsSet)
 {
     const BmpButtonCL button;
@@ -99,6 +109,17 @@ TEST(BmpButton, DisabledStatusTakesTheMouseAwayUntilAnotherIsSet)
     EXPECT_EQ(button.PixelM(), asShown(Red));
     ClickM(button.WindowM(), 5, 5);
     EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=0", "posted 1424 w=11 l=0" }));
+}
+
+TEST(BmpButton, DisabledBeforeItHasAWindowItIsCreatedDisabled)
+{
+    PlainWindowCL parent;
+    DuBmpButtonCL button;
+    EXPECT_EQ(button.SetBtnStatusM(ButtonDisabled), 1);
+    ASSERT_EQ(button.Create(&parent), 1);
+    EXPECT_FALSE(button.IsWindowEnabled());
+    EXPECT_EQ(button.SetBtnStatusM(ButtonPressed), 1);
+    EXPECT_TRUE(button.IsWindowEnabled());
 }
 
 TEST(BmpButton, WithoutPicturesNothingIsPaintedInAnyStatus)
@@ -120,7 +141,13 @@ TEST(BmpButton, EmptyNamesLeaveThePicturesAsTheyWere)
 {
     const BmpButtonCL button;
     EXPECT_EQ(button.ControlM()->SetBtnBmpM("", nullptr, "", button.normal.path()), 1);
+    // A status without a picture would leave what was shown before.
+    button.ControlM()->SetBtnStatusM(ButtonReleased);
+    EXPECT_EQ(button.PixelM(), asShown(Blue));
+    button.ControlM()->SetBtnStatusM(ButtonNormal);
     EXPECT_EQ(button.PixelM(), asShown(Red));
+    button.ControlM()->SetBtnStatusM(ButtonPressed);
+    EXPECT_EQ(button.PixelM(), asShown(Green));
     button.ControlM()->SetBtnStatusM(ButtonDisabled);
     EXPECT_EQ(button.PixelM(), asShown(Red));
 }
@@ -189,6 +216,15 @@ TEST(MultiStateButton, ClicksGoRoundTheStatesAndPostThePosition)
     EXPECT_EQ(messages.ListM(),
         (MessageListTP { "posted 1424 w=11 l=2", "posted 1424 w=11 l=0", "posted 1424 w=11 l=1",
             "posted 1625 w=11 l=0" }));
+}
+
+TEST(MultiStateButton, SecondOfTwoFastClicksIsAClickToo)
+{
+    const MultiStateCL button;
+    const MessageRecorder messages(button.dialog.m_hWnd);
+    DoubleClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.StatusM(), 10);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1424 w=11 l=2", "posted 1424 w=11 l=0" }));
 }
 
 TEST(MultiStateButton, ReleaseOutsideGivesTheMouseBackAndChangesNothing)

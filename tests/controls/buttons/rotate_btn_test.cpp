@@ -70,6 +70,19 @@ TEST(RotateBtn, ClicksTurnWithinTheRangeAndPostTheCounter)
             "posted 1424 w=11 l=2", "posted 1625 w=11 l=0" }));
 }
 
+TEST(RotateBtn, SecondOfTwoFastClicksIsAClickToo)
+{
+    const KnobCL knob;
+    const MessageRecorder messages(knob.dialog.m_hWnd);
+    DoubleClickM(knob.WindowM(), 20, 20);
+    EXPECT_EQ(knob.ControlM()->GetAngleM(), 60.0F);
+    DoubleClickM(knob.WindowM(), 20, 20, Button::Right);
+    EXPECT_EQ(knob.ControlM()->GetAngleM(), 0.0F);
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1424 w=11 l=1", "posted 1424 w=11 l=2", "posted 1424 w=11 l=1",
+            "posted 1424 w=11 l=0" }));
+}
+
 TEST(RotateBtn, StepsAreCutToWholeDegrees)
 {
     const KnobCL knob("10 10 20 20 1 -1 5 -7 7.5 1 90 -90 0 100");
@@ -349,6 +362,21 @@ TEST(NewRotateBtn, ClickPostsThePressAndSendsTheRelease)
     EXPECT_EQ(messages.ListM(),
         (MessageListTP { "posted 1224 w=11 l=1", "sent 1225 w=11 l=1", "posted 1224 w=11 l=-1",
             "sent 1225 w=11 l=-1", "posted 1224 w=11 l=3", "sent 1225 w=11 l=3" }));
+}
+
+TEST(NewRotateBtn, SecondOfTwoFastClicksIsAClickToo)
+{
+    SeriesCL series(8, 3, 2, -1);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    DoubleClickM(series.button.m_hWnd, 5, 5);
+    EXPECT_EQ(series.ShownM(), 7);
+    DoubleClickM(series.button.m_hWnd, 5, 5, Button::Right);
+    EXPECT_EQ(series.ShownM(), 5);
+    EXPECT_EQ(series.window.queries, 4);
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1224 w=11 l=2", "sent 1225 w=11 l=2", "posted 1224 w=11 l=2",
+            "sent 1225 w=11 l=2", "posted 1224 w=11 l=-1", "sent 1225 w=11 l=-1", "posted 1224 w=11 l=-1",
+            "sent 1225 w=11 l=-1" }));
 }
 
 TEST(NewRotateBtn, LastPictureIsFollowedByTheFirstOnlyWhenCycled)
