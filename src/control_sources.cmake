@@ -23,6 +23,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/drawing/draw_2d.cpp
   controls/lists/bitmap_list_box.cpp
   controls/lists/combo_box.cpp
+  controls/lists/list_box.cpp
   controls/lists/list_control.cpp
   controls/lists/text_list_box.cpp
   controls/lists/tree.cpp

@@ -57,11 +57,6 @@ int LinePicturesCL::SlotOfLineM(int line) const
     return slot;
 }
 
-int DuBmpListBoxCL::Create(CWnd* parent)
-{
-    return createdM(CListBox::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
 BOOL DuBmpListBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | LBS_DISABLENOSCROLL
@@ -75,13 +70,7 @@ BOOL DuBmpListBoxCL::PreCreateWindow(CREATESTRUCT& create)
     if (scrollMode_ == 2 || scrollMode_ == 4) {
         create.style |= WS_VSCROLL;
     }
-    if (selMode_ == 2) {
-        create.style |= LBS_MULTIPLESEL;
-    } else if (selMode_ == 3) {
-        create.style |= LBS_EXTENDEDSEL;
-    } else if (selMode_ == 4) {
-        create.style |= LBS_NOSEL;
-    }
+    create.style |= static_cast<LONG>(selectionStyleM());
     return CListBox::PreCreateWindow(create);
 }
 
@@ -162,12 +151,6 @@ int DuBmpListBoxCL::SetScrollModeM(int mode)
     return 1;
 }
 
-int DuBmpListBoxCL::SetSelModeM(int mode)
-{
-    selMode_ = mode;
-    return 1;
-}
-
 int DuBmpListBoxCL::SetInitBmpNumM(int count)
 {
     if (count >= 1) {
@@ -209,7 +192,7 @@ int DuBmpListBoxCL::InsertItemM(int index, int data, const char* file)
 
 void DuBmpListBoxCL::DelItemM()
 {
-    ControlCL::DelItemM();
+    ListBoxCL::DelItemM();
     destroyM();
 }
 
@@ -231,23 +214,9 @@ int DuBmpListBoxCL::DelAllItemM()
     return 1;
 }
 
-int DuBmpListBoxCL::GetSelNumM(int* count)
-{
-    if (selMode_ == 1) {
-        *count = GetCurSel() != LB_ERR ? 1 : 0;
-        return 1;
-    }
-    const int selected = GetSelCount();
-    if (selected == LB_ERR) {
-        return 0;
-    }
-    *count = selected;
-    return 1;
-}
-
 int DuBmpListBoxCL::SetSelM(int index, int select)
 {
-    return (selMode_ == 1 ? SetCurSel(index) : SetSel(index, select)) != LB_ERR ? 1 : 0;
+    return (selMode_ == SelectOne ? SetCurSel(index) : SetSel(index, select)) != LB_ERR ? 1 : 0;
 }
 
 int DuBmpListBoxCL::GetFirstItemM(int* index, int* data)
@@ -258,7 +227,7 @@ int DuBmpListBoxCL::GetFirstItemM(int* index, int* data)
 int DuBmpListBoxCL::GetNextItemM(int from, int* index, int* data)
 {
     // A list box without selection marks the line clicked nevertheless.
-    const int count = selMode_ == 4 ? 0 : GetCount();
+    const int count = selMode_ == SelectNone ? 0 : GetCount();
     for (int i = std::max(from, -1); i < count - 1;) {
         ++i;
         if (GetSel(i) > 0) {

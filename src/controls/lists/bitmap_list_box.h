@@ -1,6 +1,6 @@
 #pragma once
-#include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/lists/list_box.h"
 #include "records/bitmap_record.h"
 
 // The pictures of a list box's lines. They go with the window: a copy of the control starts without.
@@ -25,18 +25,14 @@ public:
 // A list box of pictures in a grid, each framed blue while it is selected, else white. Each line has a number
 // of the application; lines count from 0. Where nothing else is said the result is 1, or 0 when the platform
 // refuses.
-class PANELKIT_API DuBmpListBoxCL : public ControlCL<CListBox>
+class PANELKIT_API DuBmpListBoxCL : public ListBoxCL
 {
 public:
-    using ControlCL::ControlCL;
-
-    using CListBox::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    using ListBoxCL::ListBoxCL;
 
     // These take effect when the window is created. Always 1.
     int SetRowColNumM(const int rowsColumns[2]); // Lines visible; below 1 counts as 1.
     int SetScrollModeM(int mode);                // 1 horizontal, 2 vertical, 4 both, else none.
-    int SetSelModeM(int mode);                   // 2 multiple, 3 extended, 4 none, else single.
     int SetInitBmpNumM(int count);               // Makes room for pictures.
 
     // Adds a line with its .bmp file, a name with extension. The picture's slot; 0 when the name is empty or
@@ -50,7 +46,6 @@ public:
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays. Always 1.
     int DelAllItemM();
 
-    int GetSelNumM(int* count);         // How many lines are selected.
     int SetSelM(int index, int select); // select 0 takes it back, except for a single selection.
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
     int GetFirstItemM(int* index, int* data);
@@ -73,7 +68,6 @@ private:
     int rows_ { 0 };
     int columns_ { 0 };
     int scrollMode_ { 2 };
-    int selMode_ { 1 };
     LinePicturesCL pictures_;
 };
 

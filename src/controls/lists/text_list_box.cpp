@@ -38,11 +38,6 @@ int DVrTextListBoxArr::InitTextListBoxStrM(int index, DuTextListBoxCL* control)
         index, [control](const DVrTextListBoxCL& record) { record.InitTextListBoxStrM(control); });
 }
 
-int DuTextListBoxCL::Create(CWnd* parent)
-{
-    return createdM(CListBox::Create(0, describedRectM(), parent, GetFunctionIDM()));
-}
-
 BOOL DuTextListBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | LBS_NOINTEGRALHEIGHT | LBS_NOTIFY;
@@ -52,13 +47,7 @@ BOOL DuTextListBoxCL::PreCreateWindow(CREATESTRUCT& create)
     if (scroll_ == 1) {
         create.style |= LBS_DISABLENOSCROLL;
     }
-    if (selMode_ == 2) {
-        create.style |= LBS_MULTIPLESEL;
-    } else if (selMode_ == 3) {
-        create.style |= LBS_EXTENDEDSEL;
-    } else if (selMode_ == 4) {
-        create.style |= LBS_NOSEL;
-    }
+    create.style |= static_cast<LONG>(selectionStyleM());
     return CListBox::PreCreateWindow(create);
 }
 
@@ -74,12 +63,6 @@ int DuTextListBoxCL::OnCreate(LPCREATESTRUCT create)
 int DuTextListBoxCL::SetScrollM(int scroll)
 {
     scroll_ = scroll;
-    return 1;
-}
-
-int DuTextListBoxCL::SetSelModeM(int mode)
-{
-    selMode_ = mode;
     return 1;
 }
 
@@ -147,20 +130,6 @@ int DuTextListBoxCL::GetItemM(int* index, int* data)
     }
     *index = selected;
     *data = number;
-    return 1;
-}
-
-int DuTextListBoxCL::GetSelNumM(int* count)
-{
-    if (selMode_ == 1) {
-        *count = GetCurSel() != LB_ERR ? 1 : 0;
-        return 1;
-    }
-    const int selected = GetSelCount();
-    if (selected == LB_ERR) {
-        return 0;
-    }
-    *count = selected;
     return 1;
 }
 

@@ -1,32 +1,27 @@
 #pragma once
 #include "controls/base/background.h"
-#include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/lists/list_box.h"
 
 // A list box of text lines, each with a number of the application. Texts are GBK, heights pixels; lines count
 // from 0. Where nothing else is said the result is 1, or 0 when the platform refuses.
-class PANELKIT_API DuTextListBoxCL : public ControlCL<CListBox>
+class PANELKIT_API DuTextListBoxCL : public ListBoxCL
 {
 public:
-    using ControlCL::ControlCL;
-
-    using CListBox::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    using ListBoxCL::ListBoxCL;
 
     // These take effect when the window is created; the colour at the next colour request.
     int SetScrollM(int scroll);           // 1: the scroll bar is always shown. Always 1.
-    int SetSelModeM(int mode);            // 2 multiple, 3 extended, 4 none, else single. Always 1.
     int SetEdgeM(int edge);               // 1: sunken edge. Always 1.
     int SetItemInitHeightM(int height);   // 0, and no change, below 1.
     int SetBkColorM(unsigned long color); // Always 1.
 
     int AddItemM(int data, const char* text); // -1, or what the platform says of setting the data.
     int InsertItemM(int index, int data, const char* text); // -1: at the end.
-    using ControlCL::DelItemM;
+    using ListBoxCL::DelItemM;
     int DelItemM(int index);
     int DelAllItemM();                   // Always 1.
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
-    int GetSelNumM(int* count);          // How many lines are selected.
     int SetSelM(int index);              // Of a multiple selection: always 0 in single selection mode.
     int SetItemHeightM(int height);      // Of all lines; 0, and no change, below 1.
     int SetItemHeightM();                // Applies the height kept, which a new font has changed.
@@ -40,7 +35,6 @@ protected:
 
 private:
     int scroll_ { 0 };
-    int selMode_ { 1 };
     int edge_ { 1 };
     int itemHeight_ { 12 };
     BackgroundCL background_ { 0xFFFFFF };

@@ -1,8 +1,8 @@
 #include "click_with.h"
 #include "controls/lists/bitmap_list_box.h"
 #include "controls/lists/bitmap_list_box_record.h"
-#include "list_pictures.h"
 #include "support/all.h"
+#include "support/small_picture.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
 
@@ -68,8 +68,8 @@ struct BoxCL
         return Pixels(box.m_hWnd);
     }
 
-    PictureFile red { 12, 10, 0xFF0000 };
-    PictureFile green { 12, 10, 0x00FF00 };
+    SmallPictureCL red { 0xFF0000, 12, 10 };
+    SmallPictureCL green { 0x00FF00, 12, 10 };
     PlainWindowCL parent { 500, 500 };
     DuBmpListBoxCL box;
 };
@@ -176,7 +176,7 @@ TEST(BitmapListBox, EmptyNameAddsNothingAndMissingPictureLeavesNoLine)
 TEST(BitmapListBox, DeletingALineDeletesThePictureOfThatLine)
 {
     BoxCL own(3, 1, 0, 1);
-    const PictureFile third(12, 10, 0x808000);
+    const SmallPictureCL third(0x808000, 12, 10);
     own.AddM(2);
     own.box.AddItemM(2, third.path());
     EXPECT_EQ(own.box.DelItemM(1), 1);
@@ -274,7 +274,7 @@ TEST(BitmapListBox, NothingCanBeSelectedInModeFour)
 
 TEST(BitmapListBox, NumbersCountTheNamesOfTheRecord)
 {
-    const PictureFile red(12, 10, 0xFF0000);
+    const SmallPictureCL red(0xFF0000, 12, 10);
     const TestDialogCL dialog(HeaderSections + std::string("[图片列表框]\n1\n0\n1 15 20 30 200 100 1 1 2 1\n")
         + "[图片列表框位图]\n4\n0\n15 " + path(red) + "\n15 null\n15 missing.bmp\n15 " + path(red) + "\n");
     auto& box = *dynamic_cast<DuBmpListBoxCL*>(CWnd::FromHandlePermanent(dialog.ItemM(15)));

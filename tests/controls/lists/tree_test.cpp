@@ -1,7 +1,7 @@
 #include "controls/lists/tree.h"
 #include "controls/lists/tree_record.h"
-#include "list_pictures.h"
 #include "support/all.h"
+#include "support/small_picture.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
 #include <utility>
@@ -74,10 +74,10 @@ struct TreeTest : testing::Test
         record.AddStringM(triple, text, selected, normal);
     }
 
-    PictureFile red { 20, 20, 0xFF0000 };
-    PictureFile green { 20, 20, 0x00FF00 };
-    PictureFile black { 20, 20, 0x000000 };
-    PictureFile wide { 40, 20, 0x0000FF };
+    SmallPictureCL red { 0xFF0000, 20, 20 };
+    SmallPictureCL green { 0x00FF00, 20, 20 };
+    SmallPictureCL black { 0x000000, 20, 20 };
+    SmallPictureCL wide { 0x0000FF, 40, 20 };
     PlainWindowCL parent;
     DuTreeCL tree;
     DVrTreeCL record { AliveTag };
@@ -245,7 +245,7 @@ TEST_F(TreeTest, NoControlIsNoError)
 
 TEST(TreeInDialog, HasTheLinesOfItsSections)
 {
-    const PictureFile picture(20, 20, 0xFF0000);
+    const SmallPictureCL picture(0xFF0000, 20, 20);
     const std::string pictures = std::string("\n") + picture.path() + "\n" + picture.path() + "\n";
     const TestDialogCL dialog(HeaderSections + std::string("[树形控件]\n1\n0\n1 16 20 30 200 100\n")
         + "[树形控件数据]\n4\n0\n16 0 1 10 根" + pictures + "16 1 2 20 叶 子" + pictures + "16 0 3 30 null"
@@ -259,7 +259,7 @@ TEST(TreeInDialog, HasTheLinesOfItsSections)
 // A dialog with one of each of these kinds, built again and again in the same window.
 TEST(ListKinds, ThousandBuildsLeaveNothingBehind)
 {
-    const PictureFile picture(20, 20, 0xFF0000);
+    const SmallPictureCL picture(0xFF0000, 20, 20);
     const std::string name = picture.path();
     TestDialogCL dialog(HeaderSections + std::string("[下拉列表框]\n1\n0\n1 12 20 30 120 150 1\n")
         + "[下拉列表框初始值]\n2\n0\n12 one\n12 two\n[列表控件]\n1\n0\n1 14 10 10 240 160 2 1\n"
@@ -274,7 +274,7 @@ TEST(ListKinds, ThousandBuildsLeaveNothingBehind)
         }
         PumpPending();
     };
-    build(3);
+    build(50); // By then the system has made the device contexts that it keeps for the next user.
     const int objects = LiveGdiObjectsM();
     const int windows = LiveWindowsM();
     const size_t bytes = LiveHeapM().bytes;

@@ -1,0 +1,40 @@
+#include "controls/lists/list_box.h"
+
+int ListBoxCL::Create(CWnd* parent)
+{
+    return createdM(CListBox::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
+}
+
+int ListBoxCL::SetSelModeM(int mode)
+{
+    selMode_ = mode;
+    return 1;
+}
+
+DWORD ListBoxCL::selectionStyleM() const
+{
+    switch (selMode_) {
+    case SelectMany:
+        return LBS_MULTIPLESEL;
+    case SelectExtended:
+        return LBS_EXTENDEDSEL;
+    case SelectNone:
+        return LBS_NOSEL;
+    default:
+        return 0;
+    }
+}
+
+int ListBoxCL::GetSelNumM(int* count)
+{
+    if (selMode_ == SelectOne) {
+        *count = GetCurSel() != LB_ERR ? 1 : 0;
+        return 1;
+    }
+    const int selected = GetSelCount();
+    if (selected == LB_ERR) {
+        return 0;
+    }
+    *count = selected;
+    return 1;
+}
