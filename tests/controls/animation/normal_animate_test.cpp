@@ -124,6 +124,26 @@ TEST(NormalAnimate, HostChoosesTheFrameInManualModeOnly)
     EXPECT_EQ(animation.ControlM()->RedrawWindowM(), 0);
 }
 
+TEST(NormalAnimate, FirstFrameIsShownOnDemand)
+{
+    AnimationDialogCL animation("2 0 0 0");
+    animation.ControlM()->DispBmpM(2);
+    EXPECT_EQ(animation.PixelM(), asShown(Blue));
+    EXPECT_EQ(animation.ControlM()->SetFirstIdxM(), 1);
+    EXPECT_EQ(animation.FrameM(), 0);
+    EXPECT_EQ(animation.PixelM(), asShown(Red));
+}
+
+TEST(NormalAnimate, ManualAnimationWithoutFramesStandsAtFrameZeroAndIsWhite)
+{
+    const PicturedDialogCL dialog(
+        "[普通动画控件]\n1\n0\n1 11 20 30 40 30 2 0 0 0\n[普通动画控件位图]\n0\n0\n");
+    int index = -1;
+    EXPECT_EQ(dialog.ControlM<DuNormalAnimateCL>(11)->GetCurIdxM(&index), 1);
+    EXPECT_EQ(index, 0);
+    EXPECT_EQ(dialog.PixelM(11, 7, 8), RGB(255, 255, 255));
+}
+
 TEST(NormalAnimate, HostReachesItById)
 {
     AnimationDialogCL animation("2 0 0 0");
@@ -152,7 +172,9 @@ TEST(NormalAnimate, DeletingTheCurrentFrameBlanksToWhite)
     ::SendMessageW(animation.dialog.ItemM(11), WM_TIMER, 0, 0); // From none the first that is left.
     EXPECT_EQ(animation.FrameM(), 2);
     EXPECT_EQ(animation.PixelM(), asShown(Blue));
+    PumpPending();
     EXPECT_EQ(animation.ControlM()->DelAllBmpM(), 1);
+    EXPECT_TRUE(::GetUpdateRect(animation.dialog.m_hWnd, nullptr, FALSE)); // What lies behind, too.
     EXPECT_EQ(animation.PixelM(), RGB(255, 255, 255));
     EXPECT_EQ(animation.ControlM()->SetFirstIdxM(), 0);
     ::SendMessageW(animation.dialog.ItemM(11), WM_TIMER, 0, 0);

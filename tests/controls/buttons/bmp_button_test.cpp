@@ -280,6 +280,14 @@ TEST(MultiStateButton, AfterDeletingAllThereIsNoStatusAndNothingIsPainted)
     EXPECT_EQ(button.ControlM()->SetCurStatusM(1), 0);
     EXPECT_EQ(button.ControlM()->SetInitStatusM(1), 1);
     EXPECT_EQ(button.ControlM()->SetInitStatusM(2), 0);
+    // What is added is not current by itself.
+    EXPECT_EQ(button.ControlM()->AddStatusM(5, button.red.path()), 1);
+    EXPECT_EQ(button.ControlM()->AddStatusM(6, button.blue.path()), 1);
+    EXPECT_EQ(button.StatusM(), -99);
+    ClickM(button.WindowM(), 5, 5);
+    EXPECT_EQ(button.StatusM(), 5);
+    EXPECT_EQ(button.PixelM(), asShown(Red));
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1424 w=11 l=0" }));
 }
 
 TEST(MultiStateButton, EqualValuesAreEntriesOfTheirOwnOfWhichASearchFindsTheFirst)

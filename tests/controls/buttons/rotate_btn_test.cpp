@@ -125,6 +125,24 @@ TEST(RotateBtn, HitRegionIsTheInscribedEllipse)
     EXPECT_EQ(messages.ListM(), MessageListTP {});
 }
 
+TEST(RotateBtn, ClickThatEndsOutsideTheHitRegionOnlyGivesTheMouseBack)
+{
+    const KnobCL knob;
+    const MessageRecorder messages(knob.dialog.m_hWnd);
+    MoveMouseToM(knob.WindowM(), 20, 20);
+    PressM();
+    EXPECT_EQ(::GetCapture(), knob.WindowM());
+    MoveMouseToM(knob.WindowM(), 2, 2);
+    ReleaseM();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    MoveMouseToM(knob.WindowM(), 100, 90); // Begins elsewhere: nobody's click.
+    PressM();
+    MoveMouseToM(knob.WindowM(), 20, 20);
+    ReleaseM();
+    EXPECT_EQ(knob.ControlM()->GetAngleM(), 0.0F);
+    EXPECT_EQ(messages.ListM(), MessageListTP {});
+}
+
 TEST(RotateBtn, TracedRegionDecidesWhereClicksCount)
 {
     const SmallPictureCL shape(0x000000, 11, 11);
@@ -462,6 +480,117 @@ TEST(NewRotateBtn, WithoutPermissionNothingHappens)
     EXPECT_EQ(series.window.queries, 1); // Asked at the press only.
     EXPECT_EQ(series.button.GetCurIndxM(), 3);
     EXPECT_EQ(messages.ListM(), MessageListTP {});
+}
+
+TEST(NewRotateBtn, SecondButtonPressedWhileTheFirstIsHeldTakesOverWithoutAReport)
+{
+    SeriesCL series(8, 0, 1, 2);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    MoveMouseToM(series.button.m_hWnd, 5, 5);
+    PressM();
+    PressM(Button::Right);
+    series.button.OnTimerM();
+    EXPECT_EQ(series.ShownM(), 2);
+    ReleaseM(Button::Right);
+    EXPECT_EQ(series.ShownM(), 4);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    ReleaseM(); // The click is over.
+    EXPECT_EQ(series.ShownM(), 4);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=1", "sent 1225 w=11 l=2" }));
+}
+
+TEST(NewRotateBtn, ReleaseAfterPermissionWasWithdrawnMovesNothing)
+{
+    SeriesCL series(8, 3);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    MoveMouseToM(series.button.m_hWnd, 5, 5);
+    PressM();
+    series.window.allows = 0;
+    PressM(Button::Right); // Asks anew.
+    ReleaseM(Button::Right);
+    ReleaseM();
+    EXPECT_EQ(series.ShownM(), 3);
+    EXPECT_EQ(series.window.queries, 2);
+    series.window.allows = 1;
+    ClickM(series.button.m_hWnd, 5, 5);
+    EXPECT_EQ(series.ShownM(), 4);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=1", "sent 1225 w=11 l=1" }));
+}
+
+namespace {
+
+// A main window that destroys its new rotate button at one of the messages it gets from it.
+class DestroyingWindowCL : public MainWindowCL
+{
+public:
+    explicit DestroyingWindowCL(UINT message)
+        : message_(message)
+    {
+        const int size[2] = { 30, 30 };
+        const int steps[2] = { 1, 1 };
+        const SmallPictureCL picture(Red, 30, 30);
+        VrStringCL name(AliveTag);
+        VrStringArr names;
+        name.AddStringM(picture.path());
+        names.AddItemM(name);
+        button_ = new (memory_) DuNewRotateBtnCL;
+        button_->SetSizeM(size);
+        button_->InitialM(steps, 0, names);
+        button_->SetIsCycledM(1);
+        button_->Create(this);
+        SettleM();
+    }
+    ~DestroyingWindowCL() override { destroyM(); }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = MainWindowCL::WindowProc(message, wParam, lParam);
+        if (message == message_) {
+            destroyM();
+        }
+        return result;
+    }
+    HWND ButtonM() const { return button_->m_hWnd; }
+    bool IsLeftAloneM() const
+    {
+        return button_ == nullptr
+            && std::all_of(std::begin(memory_), std::end(memory_), [](auto byte) { return byte == Gone; });
+    }
+
+private:
+    void destroyM()
+    {
+        if (button_ != nullptr) {
+            button_->~DuNewRotateBtnCL();
+            button_ = nullptr;
+            std::fill(std::begin(memory_), std::end(memory_), Gone);
+        }
+    }
+
+    static constexpr unsigned char Gone = 0xDD;
+    alignas(DuNewRotateBtnCL) unsigned char memory_[sizeof(DuNewRotateBtnCL)];
+    DuNewRotateBtnCL* button_;
+    UINT message_;
+};
+
+} // namespace
+
+TEST(NewRotateBtn, ButtonDestroyedByWhatItTellsIsNotTouchedAgain)
+{
+    DestroyingWindowCL released(1225);
+    ClickM(released.ButtonM(), 5, 5);
+    EXPECT_TRUE(released.IsLeftAloneM());
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(NewRotateBtn, ButtonDestroyedWhenItAsksForPermissionIsNotTouchedAgain)
+{
+    DestroyingWindowCL asked(1361);
+    MoveMouseToM(asked.ButtonM(), 5, 5);
+    PressM();
+    ReleaseM();
+    EXPECT_TRUE(asked.IsLeftAloneM());
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST(NewRotateBtn, PointerIsReportedToTheParentWithTheDescription)
