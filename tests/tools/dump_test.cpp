@@ -1,21 +1,13 @@
 #include "support/description.h"
 #include "tools/run_command.h"
 #include <gtest/gtest.h>
+#include <regex>
 
 namespace {
 
 CommandResultCL dump(const std::string& path)
 {
     return runCommand("dump \"" + path + "\"");
-}
-
-int countOf(const std::string& text, const std::string& part)
-{
-    int count = 0;
-    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
-        ++count;
-    }
-    return count;
 }
 
 } // namespace
@@ -26,6 +18,33 @@ TEST(Dump, PrintsTheSampleToTheLetter)
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.output, wholeFile(sample("two_kinds.json")));
+}
+
+TEST(Dump, EverySectionOfTheExamplesIsWhole)
+{
+    const std::vector<std::string> files = exampleFiles();
+    EXPECT_GE(files.size(), 8U);
+    for (const std::string& file : files) {
+        const CommandResultCL result = dump(file);
+        EXPECT_EQ(result.code, 0) << file;
+        EXPECT_EQ(countOf(result.output, "\"status\": \"read\"") + countOf(result.output, "\"missing\""), 19)
+            << file;
+    }
+}
+
+TEST(Dump, PicturesThatTheExamplesNameAreThere)
+{
+    const std::regex picture("\"([^\"]+\\.bmp)\"");
+    int pictures = 0;
+    for (const std::string& file : exampleFiles()) {
+        const std::string output = dump(file).output;
+        for (std::sregex_iterator it(output.begin(), output.end(), picture), end; it != end; ++it) {
+            const auto path = std::filesystem::path(file).parent_path() / (*it)[1].str();
+            EXPECT_TRUE(std::filesystem::exists(path)) << path;
+            ++pictures;
+        }
+    }
+    EXPECT_GE(pictures, 100);
 }
 
 TEST(Dump, EmptyFileHasNoDialogAndNineteenMissingSections)

@@ -12,6 +12,20 @@ TEST(Inspect, PrintsTheWindowsOfTheSampleToTheLetter)
     EXPECT_EQ(result.output, wholeFile(sample("two_kinds_inspect.json")));
 }
 
+TEST(Inspect, EveryRecordOfTheExamplesBecomesAControl)
+{
+    for (const std::string& file : exampleFiles()) {
+        const CommandResultCL dumped = runCommand("dump \"" + file + "\"");
+        const std::string sections = dumped.output.substr(0, dumped.output.find("\"relations\""));
+        const CommandResultCL result = runCommand("inspect \"" + file + "\"");
+        EXPECT_EQ(result.code, 0) << file << result.errors;
+        // The arrows of a spin edit are a control of their own.
+        EXPECT_EQ(countOf(result.output, "\"kind\": ") - countOf(result.output, "\"spin_button\""),
+            countOf(sections, "\"function_id\": "))
+            << file;
+    }
+}
+
 TEST(Inspect, EmptyFileIsADialogWithoutControls)
 {
     const TempFile file("");

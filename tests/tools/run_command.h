@@ -2,8 +2,10 @@
 #include "support/temp_file.h"
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -93,6 +95,27 @@ inline void expectComplaint(const CommandResultCL& result, const std::string& pa
     EXPECT_NE(result.errors.find(part), std::string::npos) << result.errors;
     EXPECT_EQ(result.errors.rfind("panelkit: ", 0), 0U) << result.errors;
     EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << result.errors;
+}
+
+// Every description file of examples/.
+inline std::vector<std::string> exampleFiles()
+{
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(PANELKIT_EXAMPLES)) {
+        if (entry.path().extension() == ".dlg") {
+            files.push_back(entry.path().string());
+        }
+    }
+    return files;
+}
+
+inline int countOf(const std::string& text, const std::string& part)
+{
+    int count = 0;
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
 }
 
 inline std::string sample(const std::string& name)
