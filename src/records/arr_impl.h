@@ -169,11 +169,7 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
     if (i >= bound_) {
         return SetItemM(item, i);
     }
-    if (slotOfM(&item) >= 0) {
-        // Moving the slots would change an item that lies among them.
-        const T copy(item); // NOLINT(performance-unnecessary-copy-initialization)
-        return InsertItemM(copy, i);
-    }
+    const int own = slotOfM(&item); // Growth and moving change where an item of this very array lies.
     if (bound_ == length_ && AddSizeM(increment_) == 0) {
         return 0;
     }
@@ -182,9 +178,9 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
     std::memmove(
         static_cast<void*>(slots + i + 1), static_cast<const void*>(slots + i), (bound_ - i) * sizeof(T));
     constructM(slots + i, 1);
-    slots[i] = item;
+    slots[i] = own >= 0 ? slots[own < i ? own : own + 1] : item;
     ++bound_;
-    if (item.IsAliveM()) {
+    if (slots[i].IsAliveM()) {
         ++available_;
     }
     return 1;

@@ -110,7 +110,7 @@ void DVrBitmapCL::deleteM()
 
 bool DVrBitmapCL::HoldsBitmapM() const
 {
-    return deleted_ != nullptr && !*deleted_;
+    return deleted_ != nullptr && !*deleted_ && bitmap_.m_hObject != nullptr;
 }
 
 CBitmap* DVrBitmapCL::GetBitmapM()
@@ -150,6 +150,14 @@ void DVrBitmapCL::DelItemM()
 {
     deleteM();
     VrBaseCL::DelItemM();
+}
+
+void DVrBitmapCL::DropM()
+{
+    if (deleted_.use_count() == 1) {
+        deleteM();
+    }
+    forgetM();
 }
 
 void DVrBitmapCL::SetExtraM(int first, int second)
@@ -240,6 +248,9 @@ int DVrBitmapArr::AddBitmapM(const char* file)
 
 int DVrBitmapArr::SetBitmapM(int index, const char* file)
 {
+    if (DVrBitmapCL* const old = ElementAtPM(index)) {
+        old->DropM(); // Assigning would only let it go.
+    }
     const int stored = SetItemM(DVrBitmapCL(AliveTag), index);
     DVrBitmapCL* const record = ElementAtPM(index);
     return stored == 1 && record != nullptr ? record->LoadSafeBitmapM(completeName(file).c_str()) : 0;

@@ -25,6 +25,7 @@ public:
     // when there is no source.
     int MoveBitmapM(CBitmap* source);
     void DelItemM(); // Deletes the bitmap and marks the record deleted.
+    void DropM();    // Lets the bitmap go; deletes it unless another record shares it.
 
     bool HoldsBitmapM() const;
     CBitmap* GetBitmapM(); // Null when there is none; the record keeps it.
@@ -64,8 +65,9 @@ class PANELKIT_API DVrBitmapArr : public Arr<DVrBitmapCL>
 public:
     // Appends the picture of a file, the name as given. Its slot; -1 when loading fails.
     int AddBitmapM(const char* file);
-    // Loads into a new record at index, or inserts one there. A name without extension gets ".bmp". 1, or 0
-    // when loading fails: SetBitmapM leaves an empty record there, InsertBitmapM a deleted one.
+    // Loads into a new record at index, whose old bitmap is dropped, or inserts one there. A name without
+    // extension gets ".bmp". 1, or 0 when loading fails: SetBitmapM leaves an empty record there,
+    // InsertBitmapM a deleted one.
     int SetBitmapM(int index, const char* file);
     int InsertBitmapM(int index, const char* file);
 

@@ -96,7 +96,7 @@ class PANELKIT_API CListBox : public CWnd
     DECLARE_DYNAMIC(CListBox)
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    // Indexes from 0; LB_ERR (-1) where there is none.
+    // Indexes from 0; LB_ERR (-1) where there is none, and without a window.
     int AddString(LPCSTR text);
     int InsertString(int index, LPCSTR text); // -1: at the end
     int DeleteString(UINT index) { return intM(LB_DELETESTRING, static_cast<int>(index)); }
@@ -152,7 +152,7 @@ private:
     static WPARAM word(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
     int intM(UINT message, int index = 0, LPARAM lParam = 0) const
     {
-        return static_cast<int>(SendMessage(message, word(index), lParam));
+        return m_hWnd != nullptr ? static_cast<int>(SendMessage(message, word(index), lParam)) : LB_ERR;
     }
 };
 
@@ -161,7 +161,7 @@ class PANELKIT_API CComboBox : public CWnd
     DECLARE_DYNAMIC(CComboBox)
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    // Indexes from 0; CB_ERR (-1) where there is none.
+    // Indexes from 0; CB_ERR (-1) where there is none, and without a window.
     int AddString(LPCSTR text);
     int InsertString(int index, LPCSTR text); // -1: at the end
     int DeleteString(UINT index) { return intM(CB_DELETESTRING, static_cast<int>(index)); }
@@ -206,6 +206,6 @@ private:
     static WPARAM word(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
     int intM(UINT message, int index = 0, LPARAM lParam = 0) const
     {
-        return static_cast<int>(SendMessage(message, word(index), lParam));
+        return m_hWnd != nullptr ? static_cast<int>(SendMessage(message, word(index), lParam)) : CB_ERR;
     }
 };

@@ -168,6 +168,9 @@ DWORD_PTR CListCtrl::GetItemData(int row) const
 
 int CListCtrl::GetNextItem(int after, int flags) const
 {
+    if (m_hWnd == nullptr) {
+        return -1; // A caller's loop must end.
+    }
     return static_cast<int>(SendMessage(LVM_GETNEXTITEM, word(after), MAKELPARAM(flags, 0)));
 }
 

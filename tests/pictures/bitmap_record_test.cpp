@@ -404,3 +404,46 @@ TEST(BrushRecord, HoldsNoBrushAtFirstAndDeletesItsOwn)
     }
     EXPECT_EQ(0U, ::GetObjectType(handle));
 }
+
+TEST(BitmapArr, InsertedCopyOfAnOwnPictureIsAPictureToo)
+{
+    const TestFile file("inserted.bmp", placePicture(3, 2));
+    DVrBitmapArr list;
+    list.AddBitmapM(file.path());
+    list.AddBitmapM(file.path());
+    list.InsertItemM(list[1], 0);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(list[i].HoldsBitmapM()) << i;
+    }
+    list.InsertItemM(list[0], 2);
+    EXPECT_TRUE(list[2].HoldsBitmapM());
+}
+
+TEST(BitmapRecord, RecordWhoseBitmapWasMovedAwayHoldsNone)
+{
+    const TestFile file("moved.bmp", placePicture(3, 2));
+    DVrBitmapCL from;
+    from.LoadBitmapM(file.path());
+    DVrBitmapCL to;
+    EXPECT_EQ(to.MoveBitmapM(from.GetBitmapM()), 1);
+    EXPECT_FALSE(from.HoldsBitmapM());
+    EXPECT_TRUE(to.HoldsBitmapM());
+}
+
+TEST(BitmapRecord, DroppedBitmapIsDeletedUnlessItIsShared)
+{
+    const TestFile file("dropped.bmp", placePicture(3, 2));
+    DVrBitmapCL alone;
+    alone.LoadBitmapM(file.path());
+    const HGDIOBJ handle = alone.GetBitmapM()->m_hObject;
+    alone.DropM();
+    EXPECT_FALSE(alone.HoldsBitmapM());
+    BITMAP measures {};
+    EXPECT_EQ(::GetObjectW(handle, sizeof measures, &measures), 0);
+    DVrBitmapCL first;
+    first.LoadBitmapM(file.path());
+    DVrBitmapCL second(first);
+    first.DropM();
+    EXPECT_FALSE(first.HoldsBitmapM());
+    EXPECT_EQ(second.GetWidthM(), 3);
+}
