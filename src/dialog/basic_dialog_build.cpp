@@ -21,6 +21,7 @@ int DuBasicDialogCL::initM(CWnd* parent, int mode)
     if (slReadDialogHeader(io, header_) == 0) {
         return 0;
     }
+    background_.DropM(); // Perhaps another file's.
     if (header_.background[0] != '\0') {
         background_.LoadSafeBitmapM(header_.background);
     }
@@ -55,6 +56,8 @@ template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
     if constexpr (!RowTP::Records::Secondaries.empty()) {
         count = records.GetAvailableNumM();
     }
+    // Controls of a build before this one would move while they have windows.
+    controls.DelAllM();
     const ControlTP scratch(AliveTag);
     controls.InitialSizeM(count);
     for (int i = 0; i < count; ++i) {

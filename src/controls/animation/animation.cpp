@@ -8,6 +8,12 @@ int AnimationCL::SetInitBmpNumM(int n)
     return 1;
 }
 
+void AnimationCL::DelItemM()
+{
+    PictureStaticCL::DelItemM();
+    deleteFramesM();
+}
+
 int AnimationCL::DeleteBmpM(int index)
 {
     frames_.DelItemM(index);

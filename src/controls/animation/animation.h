@@ -6,6 +6,7 @@ class PANELKIT_API AnimationCL : public PictureStaticCL
 {
 public:
     int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing. Always 1.
+    void DelItemM();           // Destroys window and frames, marks the element deleted.
     // Deletes a frame. If it is the current one there is none from then on, and the window shows so.
     // Always 1.
     int DeleteBmpM(int index);

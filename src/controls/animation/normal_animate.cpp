@@ -78,6 +78,7 @@ int DuNormalAnimateCL::SetCtrlModeM(int mode)
     controlMode_ = mode;
     if (mode == Manual) {
         current_ = 0;
+        invalidateM(true);
     }
     return 1;
 }

@@ -81,7 +81,11 @@ int DControlCommonCL::CheckLegalM(int ask)
 {
     CWnd* mainWindow = ask != 0 ? AfxGetMainWnd() : nullptr;
     if (mainWindow != nullptr) {
+        const HWND own = hasWindowM() ? window_->m_hWnd : nullptr;
         mainWindow->SendMessage(QueryPermissionMsg, reinterpret_cast<WPARAM>(&legalFlag_), 0);
+        if (own != nullptr && !::IsWindow(own)) { // The application may have destroyed this object.
+            return 0;
+        }
     }
     return legalFlag_;
 }

@@ -75,7 +75,8 @@ public:
     void UpdatePositionM();
 
     // Whether the application allows an action. ask 0: the last answer. Otherwise sends 1361 with the
-    // address of the flag to the thread's main window (no main window: the flag stays) and returns it.
+    // address of the flag to the thread's main window (no main window: the flag stays) and returns it; 0 when
+    // the control's window was destroyed meanwhile.
     int CheckLegalM(int ask);
     // Sends 3044 to the target: wParam a PointerReportCL, lParam the description. Null target: nothing.
     void OnMouseMove(CWnd* target, UINT flags, const CPoint& point);

@@ -17,6 +17,17 @@ void PictureStaticCL::PreSubclassWindow()
     CStatic::PreSubclassWindow();
 }
 
+LRESULT PictureStaticCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    if (message == WM_ENABLE) {
+        // Some platforms' statics paint themselves at once, over what the control shows.
+        ::InvalidateRect(window, nullptr, TRUE);
+    }
+    return result;
+}
+
 bool PictureStaticCL::beginClickM()
 {
     if (holdsMouseM()) {

@@ -3,6 +3,38 @@
 #include "records/bitmap_record.h"
 #include "records/rgn_record.h"
 
+// A picture as member of a control. Assigning drops the one held before: nobody else would delete it.
+class PANELKIT_API OwnPictureCL : public DVrBitmapCL
+{
+public:
+    OwnPictureCL() = default;
+    OwnPictureCL(const OwnPictureCL& other) = default;
+    OwnPictureCL& operator=(const OwnPictureCL& other)
+    {
+        if (this != &other) {
+            DropM();
+            DVrBitmapCL::operator=(other);
+        }
+        return *this;
+    }
+};
+
+// A region as member of a control: it goes with the window that it was made for, and so when the control is
+// assigned to.
+class PANELKIT_API OwnRgnCL : public DVrRgnCL
+{
+public:
+    OwnRgnCL() = default;
+    OwnRgnCL(const OwnRgnCL& other) = default;
+    OwnRgnCL& operator=(const OwnRgnCL& other)
+    {
+        if (this != &other) {
+            DeleteObject();
+        }
+        return *this;
+    }
+};
+
 // What the controls that paint themselves share: a static without text that gets the mouse, clicks that hold
 // the mouse from press to release, regions of the client rectangle.
 class PANELKIT_API PictureStaticCL : public ControlCL<CStatic>
@@ -16,6 +48,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     bool holdsMouseM() const { return m_hWnd != nullptr && ::GetCapture() == m_hWnd; }
     bool beginClickM(); // Takes the mouse; false when the window has it already.

@@ -54,8 +54,14 @@ void DuBmpButtonCL::destroyM()
     buttonRgn_.DeleteObject();
     drawRgn_.DeleteObject();
     for (DVrBitmapCL& picture : pictures_) {
-        picture = DVrBitmapCL();
+        picture.DelItemM();
     }
+}
+
+void DuBmpButtonCL::DelItemM()
+{
+    PictureStaticCL::DelItemM();
+    destroyM();
 }
 
 int DuBmpButtonCL::OnCreate(LPCREATESTRUCT create)

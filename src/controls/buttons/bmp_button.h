@@ -24,6 +24,7 @@ public:
     DVrRgnCL* GetBtnRgnM() { return &buttonRgn_; } // Never null; the control keeps it.
     DVrRgnCL* GetDrawRgnM() { return &drawRgn_; }  // The window's shape, once there is a window.
     void destroyM();                               // Deletes the regions and pictures.
+    void DelItemM();                               // Also destroys the window and marks the element deleted.
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -38,9 +39,9 @@ protected:
 private:
     static constexpr int StatusCount = 4;
     BUTTON_STATUS status_ { ButtonNormal };
-    DVrRgnCL buttonRgn_;
-    DVrRgnCL drawRgn_;
-    DVrBitmapCL pictures_[StatusCount];
+    OwnRgnCL buttonRgn_;
+    OwnRgnCL drawRgn_;
+    OwnPictureCL pictures_[StatusCount];
 };
 
 extern template class PANELKIT_API Arr<DuBmpButtonCL>;

@@ -92,6 +92,12 @@ void DuLabelCL::SetBkColorFlagM(int flag)
     bkColorFlag_ = flag;
 }
 
+void DuLabelCL::DelItemM()
+{
+    ControlCL::DelItemM();
+    destroyM();
+}
+
 void DuLabelCL::destroyM()
 {
     background_.DeleteBrushM();

@@ -21,6 +21,7 @@ public:
     int SetBkColorM(COLORREF colour);   // Always 1.
     void SetBkColorFlagM(int flag);     // 1: the background is painted in its colour.
     void destroyM();                    // Deletes the background brush.
+    void DelItemM();                    // Destroys window and brush and marks the element deleted.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

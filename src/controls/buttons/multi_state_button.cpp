@@ -98,7 +98,9 @@ int DuMultiStateButtonCL::SetCurStatusM(int status)
 
 int DuMultiStateButtonCL::GetCurStatusM(int* out) const
 {
-    statuses_.GetItemM(out, current_);
+    if (statuses_.CheckAvailableM(current_) == 1) {
+        statuses_.GetItemM(out, current_);
+    }
     return 1;
 }
 
@@ -124,6 +126,14 @@ int DuMultiStateButtonCL::DelAllM()
         invalidateInParentM();
     }
     return 1;
+}
+
+void DuMultiStateButtonCL::DelItemM()
+{
+    PictureStaticCL::DelItemM();
+    buttonRgn_.DeleteObject();
+    drawRgn_.DeleteObject();
+    DelAllM();
 }
 
 int DuMultiStateButtonCL::InitRgnM()

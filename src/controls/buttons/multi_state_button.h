@@ -19,6 +19,7 @@ public:
     int GetCurStatusM(int* out) const; // Without a current status *out keeps its value. Always 1.
     int DelStatusM(int status);        // Removes a status with its picture; 0 when there is none.
     int DelAllM();                     // There is no current status then. Always 1.
+    void DelItemM();                   // Destroys window, regions and pictures, marks the element deleted.
     int InitRgnM();                    // Both regions become the client rectangle, once. Always 1.
     DVrRgnCL* GetButtonRgnM() { return &buttonRgn_; } // Where clicks count; the control keeps it.
 
@@ -36,8 +37,8 @@ private:
     int pictureOfM(int index) const; // The picture of an entry, -1 when there is none.
 
     int current_ { 0 }; // An index of the status list, -1 for none.
-    DVrRgnCL buttonRgn_;
-    DVrRgnCL drawRgn_;
+    OwnRgnCL buttonRgn_;
+    OwnRgnCL drawRgn_;
     IntArr statuses_;
     DVrBitmapArr pictures_; // The same number of alive ones in the same order.
 };

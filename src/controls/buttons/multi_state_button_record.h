@@ -3,8 +3,8 @@
 #include "baselib/gbk_texts.h"
 #include "baselib/int_arr.h"
 #include "records/common_box_record.h"
+#include "records/own_list.h"
 #include "records/record_arr.h"
-#include "records/string_arr.h"
 
 class DuMultiStateButtonCL;
 
@@ -29,8 +29,8 @@ public:
 private:
     int initialStatus_ { 0 };
     CharArr region_;
-    IntArr statuses_; // In step with files_.
-    VrStringArr files_;
+    OwnListCL<IntArr> statuses_; // In step with files_.
+    TextListCL files_;
 };
 
 extern template class PANELKIT_API Arr<DVrMultiStateButtonCL>;

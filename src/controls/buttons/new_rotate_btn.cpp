@@ -66,9 +66,7 @@ void DuNewRotateBtnCL::OnTimerM()
 
 void DuNewRotateBtnCL::pressM(Pressed button, int step)
 {
-    const HWND window = m_hWnd;
-    // The application's answer may have destroyed this object.
-    if (CheckLegalM(1) != 1 || !::IsWindow(window)) {
+    if (CheckLegalM(1) != 1) {
         return;
     }
     pressed_ = button;
@@ -79,13 +77,10 @@ void DuNewRotateBtnCL::pressM(Pressed button, int step)
 
 void DuNewRotateBtnCL::releaseM(int step)
 {
-    if (CheckLegalM(0) != 1) {
-        return;
-    }
     endClickM([this, step] {
         const HWND window = m_hWnd;
         const int by = clickStepM(step);
-        if (moveM(by)) {
+        if (CheckLegalM(0) == 1 && moveM(by)) {
             sendToParentM(RotateReleasedMsg, by);
             if (!::IsWindow(window)) { // The parent may have destroyed this object.
                 return;

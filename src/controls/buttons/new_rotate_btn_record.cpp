@@ -109,8 +109,10 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     if (found == 0 || (count > 0 && static_cast<std::size_t>(count) > io->BytesLeftM())) {
         return 0;
     }
-    // Slots beyond the file's size are not meant.
+    // Slots beyond the file's size are not meant, nor so many empty ones that they outweigh the file by far.
     const std::size_t mostSlot = io->SizeM();
+    constexpr std::size_t SlotsPerByte = 16;
+    std::size_t slots = 0;
     io->SkipSomeLinesM(lines);
     char folder[PathSize];
     io->GetFilePathM(folder);
@@ -123,12 +125,18 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
             || static_cast<std::size_t>(numbers[2]) > mostSlot) {
             continue;
         }
+        DVrNewRotateBtnCL& button = ElementAtM(numbers[1]);
+        const std::size_t more = static_cast<std::size_t>(std::max(0, numbers[2] + 1 - button.SlotCountM()));
+        if (slots + more > SlotsPerByte * mostSlot) {
+            continue;
+        }
+        slots += more;
         char extension[PathSize];
         slGetFileExtension(name, extension);
         const std::string whole = std::strlen(extension) < 2 ? std::string(name) + ".bmp" : name;
         char path[PathSize];
         slCatFileNameWithPath(folder, whole.c_str(), path);
-        ElementAtM(numbers[1]).SetPictureM(numbers[2], path);
+        button.SetPictureM(numbers[2], path);
     }
     return found;
 }

@@ -22,6 +22,7 @@ public:
     int FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription);
     // Names the picture of a slot, anew if it has one. 0 for a negative slot.
     int SetPictureM(int slot, const char* file);
+    int SlotCountM() const { return slotCount_; } // Up to the last named one.
     VrStringArr PicturesM() const; // A name for each slot up to the last named one; "" for the others.
 
     // Copies the record into a control, which loads the pictures; always 1.

@@ -97,6 +97,17 @@ int DuRotateBtnCL::EnableButtonM(int enabled)
     return 1;
 }
 
+void DuRotateBtnCL::DelItemM()
+{
+    PictureStaticCL::DelItemM();
+    hitRgn_.DeleteObject();
+    windowRgn_.DeleteObject();
+    background_.DelItemM();
+    rotating_.DelItemM();
+    cache_.DestroyM();
+    forgetPixelsM();
+}
+
 int DuRotateBtnCL::OnCreate(LPCREATESTRUCT create)
 {
     if (CStatic::OnCreate(create) == -1) {

@@ -27,6 +27,8 @@ public:
     float GetAngleM() const { return angle_; }
     int GetCounterM() const { return counter_; }
 
+    void DelItemM(); // Destroys window, regions and pictures, marks the element deleted.
+
     void drawBkM(CDC* dc);               // The background from its corner over the client rectangle.
     void drawRotM(CDC* dc, float angle); // The turned picture; composed anew only after a change.
 
@@ -54,6 +56,7 @@ private:
     bool stepM(Side side);
     void composeM(CDC* dc, float angle);
     bool prepareM(CDC* dc);
+    void drawBehindM(CDC* dc);
     void forgetPixelsM();
 
     int counter_ { 0 };
@@ -69,10 +72,10 @@ private:
     float lower_ { 0 };
     int width_ { 0 }; // Of the rotating picture when the window was created.
     int height_ { 0 };
-    DVrBitmapCL background_;
-    DVrBitmapCL rotating_;
-    DVrRgnCL hitRgn_;
-    DVrRgnCL windowRgn_;
+    OwnPictureCL background_;
+    OwnPictureCL rotating_;
+    OwnRgnCL hitRgn_;
+    OwnRgnCL windowRgn_;
     ImageCacheCL cache_;
     // What every angle starts from, of the cache's size; empty until it is needed.
     std::vector<std::uint32_t> base_;

@@ -134,6 +134,28 @@ TEST(NormalAnimate, FirstFrameIsShownOnDemand)
     EXPECT_EQ(animation.PixelM(), asShown(Red));
 }
 
+TEST(NormalAnimate, ManualModeShowsFrameZeroAtOnce)
+{
+    AnimationDialogCL animation("1 100000000 0 0");
+    ::SendMessageW(animation.dialog.ItemM(11), WM_TIMER, 0, 0);
+    EXPECT_EQ(animation.PixelM(), asShown(Green));
+    EXPECT_EQ(animation.ControlM()->SetCtrlModeM(2), 1);
+    EXPECT_EQ(animation.PixelM(), asShown(Red));
+}
+
+TEST(NormalAnimate, FrameSetAnewLeavesNoBitmapBehind)
+{
+    const FramesCL frames;
+    DuNormalAnimateCL animation;
+    animation.AddBmpM(frames.red.path());
+    animation.SetBmpM(0, frames.green.path());
+    const int objects = LiveGdiObjectsM();
+    for (int i = 0; i < 50; ++i) {
+        EXPECT_EQ(animation.SetBmpM(0, frames.blue.path()), 1);
+    }
+    EXPECT_EQ(LiveGdiObjectsM(), objects);
+}
+
 TEST(NormalAnimate, ManualAnimationWithoutFramesStandsAtFrameZeroAndIsWhite)
 {
     const PicturedDialogCL dialog(

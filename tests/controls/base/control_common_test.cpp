@@ -350,3 +350,16 @@ TEST(CommonBox, ControlGetsIdsPlaceAndShowCondition)
     EXPECT_EQ(control.GetShowConditionM(), -1);
     EXPECT_EQ(described(control), "10 20 40 20");
 }
+
+TEST(ControlCommon, AssignmentKeepsThePermissionOfTheTarget)
+{
+    AnsweringWindowCL main;
+    TestAppCL application(&main);
+    DControlCommonCL allowed;
+    EXPECT_EQ(allowed.CheckLegalM(1), 1);
+    DControlCommonCL fresh;
+    fresh = allowed;
+    EXPECT_EQ(fresh.CheckLegalM(0), 0);
+    allowed = DControlCommonCL();
+    EXPECT_EQ(allowed.CheckLegalM(0), 1);
+}

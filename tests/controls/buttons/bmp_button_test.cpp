@@ -316,6 +316,13 @@ TEST(MultiStateButton, DeletingAStatusTakesItsPictureAlong)
     EXPECT_EQ(button.PixelM(), asShown(Green));
 }
 
+TEST(MultiStateButton, DeletedStatusIsNotCurrentAnyMore)
+{
+    const MultiStateCL button;
+    EXPECT_EQ(button.ControlM()->DelStatusM(20), 1);
+    EXPECT_EQ(button.StatusM(), -99);
+}
+
 TEST(MultiStateButton, PictureThatCannotBeLoadedDrawsNothingAndKeepsTheOthersInStep)
 {
     const MultiStateCL button;

@@ -219,9 +219,22 @@ TEST(NewRotateBtnRecord, CountMayBeTheNumberOfBytesLeft)
     EXPECT_EQ(records(4), 0);
 }
 
-TEST(NewRotateBtnRecord, FarSlotsOfManyButtonsTakeNoMemoryUntilAsked)
+TEST(MultiStateButtonRecord, CopyHasStatesOfItsOwn)
 {
-    // 2000 buttons, each with a slot as far as the file is long: sized at reading they would take gigabytes.
+    DVrMultiStateButtonCL first(AliveTag);
+    first.AddStringM(10, "a.bmp");
+    DVrMultiStateButtonCL second(first);
+    second.AddStringM(20, "b.bmp");
+    first.AddStringM(30, "c.bmp");
+    EXPECT_EQ(printedFields(first),
+        "initial_status=0 region= states=[status=10 bitmap=a.bmp][status=30 bitmap=c.bmp]");
+    EXPECT_EQ(printedFields(second),
+        "initial_status=0 region= states=[status=10 bitmap=a.bmp][status=20 bitmap=b.bmp]");
+}
+
+TEST(NewRotateBtnRecord, FarSlotsOfManyButtonsTakeNoMemoryOutOfProportion)
+{
+    // 2000 buttons, each with a slot as far as the file is long: all together they would take gigabytes.
     std::string file = Head + std::string("2000 1\n");
     for (int i = 0; i < 2000; ++i) {
         file += "1 0 1 0 0 9 9 1 1 0\n";
@@ -236,5 +249,7 @@ TEST(NewRotateBtnRecord, FarSlotsOfManyButtonsTakeNoMemoryUntilAsked)
     ASSERT_GT(io.SizeM(), 60000U);
     DVrNewRotateBtnArr records;
     EXPECT_EQ(records.FmReadInterfaceM(&io), 1);
-    EXPECT_EQ(records[1999].PicturesM().GetBoundM(), 60001);
+    EXPECT_EQ(records[0].SlotCountM(), 60001);
+    EXPECT_EQ(records[9].PicturesM().GetBoundM(), 60001);
+    EXPECT_EQ(records[1999].SlotCountM(), 0);
 }

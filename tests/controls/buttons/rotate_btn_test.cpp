@@ -175,7 +175,7 @@ TEST(RotateBtn, RepaintingWithoutAChangeOnlyCopies)
     EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), asShown(Red));
     EXPECT_EQ(knob.dialog.PixelM(11, 12, 12), asShown(Blue));
     ClickM(knob.WindowM(), 20, 20);
-    EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), RGB(0, 0, 0));
+    EXPECT_EQ(knob.dialog.PixelM(11, 26, 20), ::GetSysColor(COLOR_BTNFACE));
 }
 
 TEST(RotateBtn, PicturesAndPlacesSetLaterShowAfterTheNextStep)
@@ -194,7 +194,7 @@ TEST(RotateBtn, PicturesAndPlacesSetLaterShowAfterTheNextStep)
     ClickM(knob.WindowM(), 20, 20);
     EXPECT_EQ(knob.dialog.PixelM(11, 25, 26), asShown(Red));
     EXPECT_EQ(knob.dialog.PixelM(11, 18, 20), asShown(Green));
-    EXPECT_EQ(knob.dialog.PixelM(11, 33, 15), RGB(0, 0, 0)); // The background ends before.
+    EXPECT_EQ(knob.dialog.PixelM(11, 33, 15), ::GetSysColor(COLOR_BTNFACE)); // The background ends before.
     const int back[2] = { 10, 10 };
     const int middle[2] = { 20, 20 };
     knob.ControlM()->SetRotPosM(back, middle);
@@ -449,6 +449,21 @@ TEST(NewRotateBtn, WhileHeldEachTimerStepMovesOneStepWithoutAMessage)
         (MessageListTP { "posted 1224 w=11 l=4", "posted 1224 w=11 l=2", "sent 1225 w=11 l=2" }));
 }
 
+TEST(NewRotateBtn, ReleaseAddsAStepTimesTheMultiplierToTheHeldOnes)
+{
+    SeriesCL series(12, 0, -1, 2);
+    series.button.SetTouchWinClickAsMouseKeyM(3);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    MoveMouseToM(series.button.m_hWnd, 5, 5);
+    PressM(Button::Right);
+    series.button.OnTimerM();
+    series.button.OnTimerM();
+    EXPECT_EQ(series.ShownM(), 4);
+    ReleaseM(Button::Right);
+    EXPECT_EQ(series.ShownM(), 10);
+    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=6", "sent 1225 w=11 l=6" }));
+}
+
 TEST(NewRotateBtn, StopsTurningWhenTheMouseIsTakenAway)
 {
     SeriesCL series(8, 0);
@@ -508,6 +523,8 @@ TEST(NewRotateBtn, ReleaseAfterPermissionWasWithdrawnMovesNothing)
     series.window.allows = 0;
     PressM(Button::Right); // Asks anew.
     ReleaseM(Button::Right);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    series.button.OnTimerM(); // Not turned on for ever.
     ReleaseM();
     EXPECT_EQ(series.ShownM(), 3);
     EXPECT_EQ(series.window.queries, 2);
@@ -515,7 +532,8 @@ TEST(NewRotateBtn, ReleaseAfterPermissionWasWithdrawnMovesNothing)
     ClickM(series.button.m_hWnd, 5, 5);
     EXPECT_EQ(series.ShownM(), 4);
     EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_EQ(messages.ListM(), (MessageListTP { "posted 1224 w=11 l=1", "sent 1225 w=11 l=1" }));
+    EXPECT_EQ(messages.ListM(),
+        (MessageListTP { "posted 1224 w=11 l=1", "posted 1224 w=11 l=1", "sent 1225 w=11 l=1" }));
 }
 
 namespace {
