@@ -186,7 +186,9 @@ int DuBmpListBoxCL::InsertItemM(int index, int data, const char* file)
         return 0;
     }
     SetItemData(line, static_cast<DWORD_PTR>(data));
-    pictures_.InsertBitmapM(index, file);
+    // Deleted lines have left gaps among the slots.
+    const int slot = pictures_.SlotOfLineM(line);
+    pictures_.InsertBitmapM(slot >= 0 ? slot : pictures_.GetBoundM(), file);
     return 1;
 }
 

@@ -166,6 +166,9 @@ void DuComboBoxCL::OnSelchange()
 
 void DuComboBoxCL::OnKillfocus()
 {
+    if (NotLeavingCL::CoversM(m_hWnd)) {
+        return; // The focus only passed through.
+    }
     if (editAvailable_ == 1) {
         takeTypedTextM();
     }
@@ -183,6 +186,7 @@ void DuComboBoxCL::takeTypedTextM()
         if (currentSel_ >= 0) {
             SetItemData(currentSel_, data);
             DeleteString(static_cast<UINT>(currentSel_ + 1));
+            SetCurSel(currentSel_); // It went with the old item.
         }
     }
     SetWindowText(typed);

@@ -176,6 +176,8 @@ int DuListCtrlCL::SetSelM(int row)
     for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
         SetItemState(at, 0, AllMarks);
     }
-    SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    if (row >= 0) { // The platform takes -1 for all rows.
+        SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    }
     return 1;
 }

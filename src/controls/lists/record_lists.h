@@ -1,27 +1,9 @@
 #pragma once
 #include "baselib/char_arr.h"
 #include "records/fields.h"
-#include "records/string_arr.h"
+#include "records/own_list.h"
 
 // The lists of texts and numbers that entries of secondary sections add to a record.
-
-// A list as member of a record: copying the record copies it, while copies of a plain list share its store.
-template <class ListTP> class OwnListCL : public ListTP
-{
-public:
-    OwnListCL() = default;
-    OwnListCL(const OwnListCL& other)
-        : ListTP()
-    {
-        *this = other;
-    }
-    OwnListCL& operator=(const OwnListCL& other)
-    {
-        ListTP::operator=(other);
-        return *this;
-    }
-};
-using TextListCL = OwnListCL<VrStringArr>;
 
 // Appends an alive text. 0, and nothing is appended, for null; else 1.
 inline int slAddText(VrStringArr& texts, const char* text)

@@ -105,6 +105,12 @@ int DuTextListBoxCL::InsertItemM(int index, int data, const char* text)
     return SetItemData(position, static_cast<DWORD_PTR>(static_cast<INT_PTR>(data))) != LB_ERR ? 1 : 0;
 }
 
+void DuTextListBoxCL::DelItemM()
+{
+    ListBoxCL::DelItemM();
+    destroyM();
+}
+
 int DuTextListBoxCL::DelItemM(int index)
 {
     return DeleteString(static_cast<UINT>(index)) != LB_ERR ? 1 : 0;
@@ -120,7 +126,8 @@ int DuTextListBoxCL::DelAllItemM()
 
 int DuTextListBoxCL::GetItemM(int* index, int* data)
 {
-    const int selected = GetCurSel();
+    // A list box without selection remembers the line clicked nevertheless.
+    const int selected = selMode_ == SelectNone ? LB_ERR : GetCurSel();
     if (selected == LB_ERR) {
         return 0;
     }

@@ -18,7 +18,7 @@ public:
 
     int AddItemM(int data, const char* text); // -1, or what the platform says of setting the data.
     int InsertItemM(int index, int data, const char* text); // -1: at the end.
-    using ListBoxCL::DelItemM;
+    void DelItemM(); // Destroys window and brush and marks the element deleted.
     int DelItemM(int index);
     int DelAllItemM();                   // Always 1.
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.

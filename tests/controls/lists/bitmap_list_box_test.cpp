@@ -206,6 +206,23 @@ TEST(BitmapListBox, InsertedLineShowsItsPictureAndCompletesItsName)
     EXPECT_EQ(own.box.GetCount(), 3);
 }
 
+TEST(BitmapListBox, LineInsertedAfterADeletionShowsItsOwnPicture)
+{
+    BoxCL own(4, 1, 0, 1, 200, 80);
+    const SmallPictureCL blue(0x0000FF, 12, 10);
+    own.box.AddItemM(0, own.red.path());
+    own.box.AddItemM(1, own.red.path());
+    own.box.AddItemM(2, own.green.path());
+    own.box.DelItemM(0);
+    EXPECT_EQ(own.box.InsertItemM(1, 9, blue.path()), 1);
+    EXPECT_EQ(own.box.InsertItemM(-1, 9, blue.path()), 1); // At the end.
+    const Pixels seen = own.SeenM();
+    EXPECT_EQ(seen.AtM(5, 5), Red);
+    EXPECT_EQ(seen.AtM(5, 25), Blue);
+    EXPECT_EQ(seen.AtM(5, 45), Green);
+    EXPECT_EQ(seen.AtM(5, 65), Blue);
+}
+
 TEST(BitmapListBox, DeletingAllLeavesEverySecondLine)
 {
     BoxCL own(3, 2, 0, 1);

@@ -2,6 +2,7 @@
 #include "controls/lists/combo_box_record.h"
 #include "support/all.h"
 #include "support/test_dialog.h"
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace testing_support;
@@ -187,6 +188,18 @@ TEST(ComboBox, SelectingByDataStopsAtAnItemWithTheErrorNumber)
     EXPECT_EQ(own.combo.GetCurSel(), 0);
 }
 
+TEST(ComboBox, WithoutAWindowThereIsNoItem)
+{
+    DuComboBoxCL combo;
+    int index = 9;
+    int data = 9;
+    char text[260] = "before";
+    EXPECT_EQ(combo.GetCurItemM(&index, &data, text), 0);
+    EXPECT_EQ(index, 9);
+    EXPECT_EQ(combo.AddItemM(0, "a"), -1);
+    EXPECT_EQ(combo.DelItemM(0), 0);
+}
+
 TEST(ComboBoxArray, CreatesByTheFirstAliveThenBySlots)
 {
     PlainWindowCL parent;
@@ -286,6 +299,43 @@ TEST_F(ComboDialogTest, TypedTextReplacesTheSelectedItemAndKeepsItsData)
     EXPECT_EQ(messages.ListM()[0], "posted 8 w=12 l=0");
     EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 third=2 four=3");
     EXPECT_EQ(textOf(dialog.ItemM(12)), "third");
+}
+
+TEST_F(ComboDialogTest, VisitWithoutTypingKeepsTheSelection)
+{
+    FocusM(EditM());
+    KeyM(VK_DOWN);
+    KeyM(VK_DOWN);
+    KeyM(VK_TAB);
+    PumpPending();
+    int index = 0;
+    int data = 0;
+    char text[260];
+    EXPECT_EQ(ComboM(12).GetCurItemM(&index, &data, text), 1);
+    EXPECT_EQ(index, 1);
+    EXPECT_EQ(data, 1);
+    EXPECT_STREQ(text, "two");
+}
+
+TEST_F(ComboDialogTest, FocusThatOnlyPassesThroughIsNotLeaving)
+{
+    FocusM(EditM());
+    KeyM(VK_DOWN);
+    TypeM(L"x");
+    PumpPending();
+    const MessageRecorder messages(dialog.m_hWnd, { WM_KILLFOCUS });
+    {
+        const NotLeavingCL telling;
+        ::SetFocus(dialog.m_hWnd);
+        PumpPending();
+    }
+    EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 three=2 four=3");
+    EXPECT_EQ(std::count(messages.ListM().begin(), messages.ListM().end(), "posted 8 w=12 l=0"), 0);
+    FocusM(EditM());
+    PumpPending();
+    dialog.SetFocus(); // Now it is.
+    PumpPending();
+    EXPECT_EQ(std::count(messages.ListM().begin(), messages.ListM().end(), "posted 8 w=12 l=0"), 1);
 }
 
 TEST_F(ComboDialogTest, TypedTextWithoutASelectedItemChangesNoItem)

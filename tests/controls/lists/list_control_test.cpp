@@ -186,6 +186,24 @@ TEST(ListControl, SettingTheSelectionLeavesExactlyOneRow)
     EXPECT_EQ(selectedOf(own.table), "3=0 ");
 }
 
+TEST(ListControl, SelectingNoRowClearsTheSelection)
+{
+    TableCL own(0, TwoTitles, FiveRows);
+    own.table.SetSelM(2);
+    EXPECT_EQ(own.table.SetSelM(-1), 1);
+    EXPECT_EQ(selectedOf(own.table), "");
+}
+
+TEST(ListControl, WithoutAWindowThereIsNoRow)
+{
+    DuListCtrlCL table;
+    EXPECT_EQ(selectedOf(table), "");
+    EXPECT_EQ(table.SetSelM(1), 1);
+    int row = 5;
+    int data = 5;
+    EXPECT_EQ(table.GetFirstSelM(&row, &data), 0);
+}
+
 TEST(ListControl, ClicksWithCtrlAndShiftSelectMore)
 {
     TableCL own(0, TwoTitles, FiveRows);

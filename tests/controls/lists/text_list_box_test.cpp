@@ -282,8 +282,25 @@ TEST(TextListBox, NothingCanBeSelectedInModeFour)
     int count = 9;
     EXPECT_EQ(listOf(dialog).SetSelM(1), 0);
     EXPECT_LE(listOf(dialog).GetSelNumM(&count) == 1 ? count : 0, 0);
+    int index = 9;
+    EXPECT_EQ(listOf(dialog).GetItemM(&index, &count), 0);
+    EXPECT_EQ(index, 9);
     EXPECT_EQ(Pixels(dialog.ItemM(12)).CountM(::GetSysColor(COLOR_HIGHLIGHT)),
         before.CountM(::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
+TEST(TextListBox, WithoutAWindowThereIsNoLine)
+{
+    DuTextListBoxCL list;
+    int index = 9;
+    int data = 9;
+    EXPECT_EQ(list.GetItemM(&index, &data), 0);
+    EXPECT_EQ(list.GetSelNumM(&data), 1);
+    EXPECT_EQ(data, 0);
+    EXPECT_EQ(list.AddItemM(1, "a"), -1);
+    EXPECT_EQ(list.InsertItemM(0, 1, "a"), 0);
+    EXPECT_EQ(list.DelItemM(0), 0);
+    EXPECT_EQ(list.DelAllItemM(), 1);
 }
 
 TEST(TextListBox, BackgroundColourFillsTheList)
