@@ -51,6 +51,7 @@ BOOL DuBasicDialogCL::OnInitDialog()
 
 void DuBasicDialogCL::DestroyM()
 {
+    closing_ = nullptr;
     const NotLeavingCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
     font_.DeleteObject();

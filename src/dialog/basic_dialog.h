@@ -131,4 +131,5 @@ private:
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
     UINT_PTR timerId_ { 0 };
+    NotLeavingCL* closing_ { nullptr }; // While the application handles the wish to close the dialog.
 };

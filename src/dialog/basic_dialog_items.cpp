@@ -125,7 +125,8 @@ int DuBasicDialogCL::initItemRelationM()
     VrIOCL io;
     io.OpenM(configFile_, "r");
     int count = 0;
-    if (slOpenSection(io, RelationHeader, &count) == SectionStatus::Missing) {
+    const SectionStatus status = slOpenSection(io, RelationHeader, &count);
+    if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return 0;
     }
     SectionEntryCL entry;

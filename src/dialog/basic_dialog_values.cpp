@@ -73,10 +73,19 @@ int DuBasicDialogCL::SetValueStatusM(int status)
 int DuBasicDialogCL::CheckValueLegalM()
 {
     valueStatus_ = 0;
-    if (m_hWnd != nullptr) {
-        SetFocus();
+    const HWND window = m_hWnd;
+    if (window == nullptr) {
+        return valueStatus_;
     }
-    return valueStatus_;
+    NotLeavingCL* const closing = closing_;
+    if (closing != nullptr) {
+        closing->LiftM(true);
+    }
+    ::SetFocus(window);
+    if (closing != nullptr) {
+        closing->LiftM(false);
+    }
+    return ::IsWindow(window) ? valueStatus_ : 0; // The application may have destroyed this object.
 }
 
 LRESULT DuBasicDialogCL::onCtrlLostFocusM(WPARAM wParam, LPARAM lParam)
@@ -101,9 +110,15 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     // What the application does about closing, such as asking the user, must not check any value first.
     const bool isCancel = message == WM_COMMAND && wParam == IDCANCEL;
-    if (message == WM_CLOSE || isCancel) {
-        const NotLeavingCL closing(m_hWnd);
-        return CDialog::WindowProc(message, wParam, lParam);
+    if ((message == WM_CLOSE || isCancel) && closing_ == nullptr) {
+        const HWND window = m_hWnd;
+        NotLeavingCL closing(window);
+        closing_ = &closing;
+        const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
+        if (CWnd::FromHandlePermanent(window) == this) { // Closing may have destroyed this object.
+            closing_ = nullptr;
+        }
+        return result;
     }
     return CDialog::WindowProc(message, wParam, lParam);
 }

@@ -144,6 +144,8 @@ TEST(HostItems, WithoutRelationsTheFileHasNone)
     EXPECT_EQ(dialog.ReadRelationsM(), 0);
     ItemDialogCL empty("[相关对象信息]\n0\n");
     EXPECT_EQ(empty.ReadRelationsM(), 1);
+    ItemDialogCL broken("[相关对象信息]\n999999\n0\n11 1 2 3\n");
+    EXPECT_EQ(broken.ReadRelationsM(), 0);
 }
 
 namespace {

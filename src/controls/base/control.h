@@ -90,8 +90,10 @@ protected:
     // is only passing through (leaving.h).
     void reportFocusM(CWnd* oldFocus)
     {
+        const HWND window = this->m_hWnd;
         PlatformTP::OnSetFocus(oldFocus);
-        if (!NotLeavingCL::CoversM(this->m_hWnd)) {
+        // The parent hears of it from the platform too, and may have destroyed this object.
+        if (::IsWindow(window) && !NotLeavingCL::CoversM(window)) {
             postToParentM(FocusGainedMsg);
         }
     }

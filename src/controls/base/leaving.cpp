@@ -21,7 +21,8 @@ NotLeavingCL::~NotLeavingCL()
 bool NotLeavingCL::CoversM(HWND field)
 {
     for (const NotLeavingCL* at = innermost; at != nullptr; at = at->outer_) {
-        if (at->within_ == nullptr || at->within_ == field || ::IsChild(at->within_, field)) {
+        if (!at->isLifted_
+            && (at->within_ == nullptr || at->within_ == field || ::IsChild(at->within_, field))) {
             return true;
         }
     }

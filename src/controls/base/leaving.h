@@ -7,7 +7,8 @@
 // has not been left, and nothing happens, when it loses the focus
 // - while a message about a value is open, or because the field it is about takes the focus back: the field
 //   that the user was on the way to was never reached, so it doesn't report to have been entered either;
-// - while its parent handles the report of a bad value, or the wish to close the dialog (Esc, close button);
+// - while its parent handles the report of a bad value, or the wish to close the dialog (Esc, close button),
+//   unless the application then asks;
 // - because it or its dialog is being hidden, disabled or destroyed.
 // So one step of the user shows one message at most, however many fields are bad.
 
@@ -20,10 +21,12 @@ public:
     NotLeavingCL& operator=(const NotLeavingCL&) = delete;
     ~NotLeavingCL();
 
-    static bool CoversM(HWND field); // Whether one lives for this field.
+    static bool CoversM(HWND field); // Whether one lives for this field, and is not lifted.
+    void LiftM(bool lifted) { isLifted_ = lifted; }
 
 private:
     HWND within_;
+    bool isLifted_ { false };
     const NotLeavingCL* outer_;
 };
 

@@ -36,6 +36,12 @@ int DuMultiEditCL::Create(CWnd* parent)
     return result;
 }
 
+void DuMultiEditCL::DelItemM()
+{
+    ControlCL::DelItemM();
+    background_.DeleteBrushM();
+}
+
 BOOL DuMultiEditCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | ES_WANTRETURN | ES_MULTILINE;

@@ -14,6 +14,7 @@ public:
 
     using CEdit::Create;
     int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    void DelItemM();          // Destroys window and brush and marks the element deleted.
 
     int SetMaxNumM(int bytes);        // The limit: texts must be shorter. 0, and no change, below 1; else 1.
     int SetAlignModeM(int mode);      // 3 centred, 4 right, else left. Always 1.

@@ -37,6 +37,12 @@ int DuSingleEditCL::Create(CWnd* parent)
     return createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
 }
 
+void DuSingleEditCL::DelItemM()
+{
+    ControlCL::DelItemM();
+    background_.DeleteBrushM();
+}
+
 BOOL DuSingleEditCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | ES_AUTOHSCROLL;
@@ -239,8 +245,10 @@ void DuSingleEditCL::OnSetFocus(CWnd* oldFocus)
 
 void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
 {
+    const HWND window = m_hWnd;
     CEdit::OnKillFocus(newFocus);
-    if (!leaving_.IsLeftM(m_hWnd)) {
+    // The parent hears of it from the platform, and may have destroyed this object; so below.
+    if (!::IsWindow(window) || !leaving_.IsLeftM(window)) {
         return;
     }
     const CheckCode code = checkValueM();
@@ -252,7 +260,7 @@ void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
         value_.ForceM(code);
         DispEditM();
     }
-    if (tellM(leftTextM(code))) {
+    if (::IsWindow(window) && tellM(leftTextM(code))) {
         const NotLeavingCL reporting(::GetParent(m_hWnd));
         sendToParentM(ValueReportMsg, -1);
     }

@@ -16,6 +16,7 @@ public:
 
     using CEdit::Create;
     int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    void DelItemM();          // Destroys window and brush and marks the element deleted.
 
     int SetDataTypeM(int type, int decimals); // A ValueType; others are inert. Always 1.
     int SetAlignModeM(int mode);              // 3 centred, 4 right, else left. Always 1.

@@ -4,6 +4,8 @@
 
 BEGIN_MESSAGE_MAP(DuSpinButtonCL, CSpinButtonCtrl)
 ON_WM_SETFOCUS()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
 ON_NOTIFY_REFLECT(UDN_DELTAPOS, &DuSpinButtonCL::OnDeltapos)
 END_MESSAGE_MAP()
 
@@ -37,6 +39,34 @@ void DuSpinButtonCL::OnSetFocus(CWnd* oldFocus)
     CSpinButtonCtrl::OnSetFocus(oldFocus);
     if (!NotLeavingCL::CoversM(m_hWnd)) {
         ::PostMessageW(::GetParent(m_hWnd), FocusGainedMsg, static_cast<WPARAM>(GetFunctionIDM()), 0);
+    }
+}
+
+// The platform gives the edit the focus at a press. A field with a bad value keeps it instead: the message
+// took the release of the mouse, and the arrow would step on and on.
+bool DuSpinButtonCL::reachesEditM()
+{
+    const HWND window = m_hWnd;
+    const auto edit = reinterpret_cast<HWND>(SendMessage(UDM_GETBUDDY));
+    const HWND before = ::GetFocus();
+    if (before == edit || before == nullptr || !::IsWindowEnabled(edit)) {
+        return true;
+    }
+    ::SetFocus(edit);
+    return ::IsWindow(window) && ::GetFocus() != before;
+}
+
+void DuSpinButtonCL::OnLButtonDown(UINT flags, CPoint point)
+{
+    if (reachesEditM()) {
+        CSpinButtonCtrl::OnLButtonDown(flags, point);
+    }
+}
+
+void DuSpinButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    if (reachesEditM()) {
+        CSpinButtonCtrl::OnLButtonDblClk(flags, point);
     }
 }
 

@@ -20,8 +20,11 @@ public:
     using DControlCommonCL::OnMouseMove;
 
 protected:
+    bool reachesEditM();
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnDeltapos(NMHDR* notification, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 };

@@ -191,8 +191,10 @@ void DuSpinEditCL::OnSetFocus(CWnd* oldFocus)
 
 void DuSpinEditCL::OnKillFocus(CWnd* newFocus)
 {
+    const HWND window = m_hWnd;
     CEdit::OnKillFocus(newFocus);
-    if (leaving_.IsLeftM(m_hWnd) && tellCheckedM()) {
+    // The parent hears of it from the platform, and may have destroyed this object.
+    if (::IsWindow(window) && leaving_.IsLeftM(window) && tellCheckedM()) {
         postToParentM(WM_KILLFOCUS);
     }
 }

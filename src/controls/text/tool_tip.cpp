@@ -47,12 +47,15 @@ int uToolTipCtrl::ShowHelpM(CWnd* owner, const CRect& rect, const char* text)
     const CString newText(text);
     int result = 1;
     if (m_hWnd == nullptr) {
-        result = CreateEx(WS_EX_TOOLWINDOW, ClassName, ClassName, Style, rect, owner, 0);
+        // Created visible it would take the focus from the field that the user is typing in.
+        result = CreateEx(WS_EX_TOOLWINDOW, ClassName, ClassName, Style & ~WS_VISIBLE, rect, owner, 0);
         if (result == 1) {
+            ShowWindow(SW_SHOWNA);
             ownerWindow_ = owner != nullptr ? owner->GetSafeHwnd() : nullptr;
         }
     } else if (newText != text_) {
         MoveWindow(&rect, TRUE);
+        Invalidate(TRUE); // A longer text before this one.
     }
     text_ = newText;
     if (result != 1) {

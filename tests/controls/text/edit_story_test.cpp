@@ -275,6 +275,37 @@ TEST(EditStory, ClosingTheWindowWithABadValueShowsNoMessage)
     EXPECT_EQ(story.ToldM(), "");
 }
 
+namespace {
+
+// Asks whether the values are legal before it closes, as an application does that saves them.
+class SavingStoryCL : public EditStoryCL
+{
+public:
+    using EditStoryCL::EditStoryCL;
+    int legal { 5 };
+
+protected:
+    void OnCancel() override { legal = CheckValueLegalM(); }
+};
+
+} // namespace
+
+TEST(EditStory, ApplicationThatAsksWhileClosingIsToldOfABadValue)
+{
+    SavingStoryCL story({ integers(11) });
+    story.EnterM(11);
+    story.FillM(11, "x");
+    KeyM(VK_ESCAPE);
+    EXPECT_EQ(story.legal, -1);
+    EXPECT_EQ(story.ToldM(), BadData);
+    EXPECT_EQ(story.FocusM(), 11);
+    story.FillM(11, "5");
+    story.SendMessage(WM_CLOSE);
+    PumpPending();
+    EXPECT_EQ(story.legal, 0);
+    EXPECT_EQ(story.ToldM(), BadData);
+}
+
 TEST(EditStory, HidingDisablingOrDestroyingAFieldIsNotLeavingIt)
 {
     EditStoryCL story({ integers(11), integers(12), integers(13) });

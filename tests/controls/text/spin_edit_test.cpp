@@ -495,3 +495,43 @@ TEST(SpinEditArray, EmptyArrayReportsZeroAndOnlyAliveRecordsAreApplied)
     EXPECT_EQ(control.GetWinIdxM(), 5);
     EXPECT_EQ(control.SpinButtonM().GetFunctionIDM(), 12);
 }
+
+namespace {
+
+// A field that keeps the focus while its value is bad, as a single-line edit does.
+class KeepingEditCL : public CEdit
+{
+public:
+    int told { 0 };
+
+protected:
+    afx_msg void OnKillFocus(CWnd* next)
+    {
+        CEdit::OnKillFocus(next);
+        slTellAboutField(this, [this] { ++told; });
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(KeepingEditCL, CEdit)
+ON_WM_KILLFOCUS()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST(SpinEdit, ArrowThatTheUserDidNotReachNeitherStepsNorHoldsTheMouse)
+{
+    SpinCL spin(1, ints(0, 10), ints(1), ints(5));
+    KeepingEditCL keeping;
+    keeping.Create(WS_CHILD | WS_VISIBLE, CRect(20, 150, 120, 180), &spin.parent, 10);
+    FocusM(keeping.m_hWnd);
+    const POINT at = spin.PlaceOfArrowM(true);
+    MoveMouseToM(spin.ArrowsM(), at.x, at.y);
+    PressM();
+    EXPECT_EQ(keeping.told, 1);
+    EXPECT_EQ(::GetFocus(), keeping.m_hWnd);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(spin.TextM(), "5");
+    ReleaseM();
+    EXPECT_EQ(spin.TextM(), "5");
+}

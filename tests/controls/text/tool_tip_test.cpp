@@ -114,6 +114,31 @@ TEST(ToolTip, NewTextMovesTheWindow)
     EXPECT_EQ(tip.PlaceM(), "300 320 100 25");
 }
 
+TEST(ToolTip, LeavesTheFocusToTheFieldBeingTypedIn)
+{
+    TipCL own;
+    CEdit field;
+    field.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 30), &own.owner, 5);
+    ActivateM(own.owner.m_hWnd);
+    ASSERT_TRUE(FocusM(field.m_hWnd));
+    own.tip.ShowHelpM(&own.owner, Place, "help");
+    SettleM();
+    EXPECT_TRUE(::IsWindowVisible(own.tip.m_hWnd));
+    EXPECT_EQ(styleOf(own.tip.m_hWnd), 0x94800001U);
+    EXPECT_EQ(::GetFocus(), field.m_hWnd);
+}
+
+TEST(ToolTip, ShorterTextLeavesNothingOfALongerOne)
+{
+    TipCL own;
+    own.tip.ShowHelpM(&own.owner, Place, "MMMMMMMMMMMM");
+    PumpPending();
+    const int wide = Pixels(own.tip.m_hWnd).CountM(0xDFFFFF);
+    own.tip.ShowHelpM(&own.owner, CRect(Place.left + 5, Place.top, Place.right + 5, Place.bottom), "M");
+    PumpPending();
+    EXPECT_LT(Pixels(own.tip.m_hWnd).CountM(0xDFFFFF), wide / 4);
+}
+
 TEST(ToolTip, AnotherOwnerRecreatesTheWindow)
 {
     TipCL tip;
