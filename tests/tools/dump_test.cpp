@@ -47,6 +47,19 @@ TEST(Dump, PicturesThatTheExamplesNameAreThere)
     EXPECT_GE(pictures, 100);
 }
 
+TEST(Dump, RealsHaveNoMoreDigitsThanTheyNeed)
+{
+    const DescriptionFileCL file(
+        "[带spin的文本]\n2\n0\n1 2 0 0 9 9\n2\n0.000649 0.005473\n3 0.002596 2 0.001298 1 2 3\n"
+        "1 3 0 0 9 9\n2\n-1e23 100000\n3 0.5 2 1e-7 1 2 3\n");
+    const std::string output = dump(file.path()).output;
+    for (const char* const text :
+        { "        0.000649,", "        0.005473\n", "\"step\": 0.002596,", "\"initial\": 0.001298,",
+            "        -1e+23,", "        100000.0\n", "\"step\": 0.5,", "\"initial\": 1e-07," }) {
+        EXPECT_EQ(countOf(output, text), 1) << text;
+    }
+}
+
 TEST(Dump, EmptyFileHasNoDialogAndNineteenMissingSections)
 {
     const TempFile file("");

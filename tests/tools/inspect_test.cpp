@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #ifdef _WIN32
+#include "support/small_picture.h"
 
 TEST(Inspect, PrintsTheWindowsOfTheSampleToTheLetter)
 {
@@ -32,6 +33,22 @@ TEST(Inspect, EmptyFileIsADialogWithoutControls)
     const CommandResultCL result = runCommand("inspect \"" + std::string(file.path()) + "\"");
     EXPECT_EQ(result.code, 0);
     EXPECT_NE(result.output.find("\"controls\": []"), std::string::npos);
+}
+
+TEST(Inspect, DeepTreeIsPrintedToItsEnd)
+{
+    constexpr int Depth = 2000;
+    const SmallPictureCL picture(0, 20, 20);
+    std::string tree = HeaderSections
+        + ("[树形控件]\n1\n0\n1 16 20 30 200 100\n[树形控件数据]\n" + std::to_string(Depth)) + "\n0\n";
+    for (int i = 0; i < Depth; ++i) {
+        tree += "16 " + std::to_string(i) + " " + std::to_string(i + 1) + " 7 x\n" + picture.path() + "\n"
+            + picture.path() + "\n";
+    }
+    const DescriptionFileCL file(tree);
+    const CommandResultCL result = runCommand("inspect \"" + std::string(file.path()) + "\"");
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(countOf(result.output, "\"data\": 7"), Depth);
 }
 
 TEST(Inspect, ArrowsOfASpinEditHaveAKindOfTheirOwn)

@@ -2,26 +2,99 @@
 #include "baselib/char_arr.h"
 #include "baselib/gbk.h"
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 
 namespace {
 
-// The double whose shortest text is the shortest text of the single-precision value.
-double shortest(float value)
+// The shortest text of the single-precision value; plainly where that has no long rows of zeros.
+std::string realText(float value)
 {
+    constexpr float LeastPlain = 1e-4F;
+    constexpr float MostPlain = 1e15F;
+    const float size = std::fabs(value);
+    const bool isPlain = size == 0 || (size >= LeastPlain && size < MostPlain);
     char text[64];
-    const auto end = std::to_chars(text, text + sizeof text, value);
-    double result = 0;
-    std::from_chars(text, end.ptr, result);
-    return result;
+    const auto end = std::to_chars(
+        text, text + sizeof text, value, isPlain ? std::chars_format::fixed : std::chars_format::scientific);
+    const std::string result(text, end.ptr);
+    return result.find_first_of(".e") == std::string::npos ? result + ".0" : result;
 }
+
+// Prints as JsonTP's own dump(2) does, but for the reals, of which that prints more digits than some need,
+// and without recursion: a tree may be as deep as its file has lines.
+class PrinterCL
+{
+public:
+    void PrintM(const JsonTP& document)
+    {
+        putM(document);
+        while (!open_.empty()) {
+            goOnM();
+        }
+        text_ += '\n';
+        flushM();
+    }
+
+private:
+    struct LevelCL
+    {
+        const JsonTP* value;
+        JsonTP::const_iterator next;
+    };
+
+    void putM(const JsonTP& value)
+    {
+        if (value.is_number_float()) {
+            text_ += realText(value.get<float>());
+        } else if (!value.is_structured() || value.empty()) {
+            text_ += value.dump();
+        } else {
+            text_ += value.is_object() ? '{' : '[';
+            open_.push_back({ &value, value.begin() });
+        }
+    }
+    void goOnM()
+    {
+        LevelCL& level = open_.back();
+        const bool isObject = level.value->is_object();
+        if (level.next == level.value->end()) {
+            open_.pop_back();
+            newLineM();
+            text_ += isObject ? '}' : ']';
+            return;
+        }
+        text_ += level.next == level.value->begin() ? "" : ",";
+        newLineM();
+        if (isObject) {
+            text_ += JsonTP(level.next.key()).dump() + ": ";
+        }
+        putM(*level.next++);
+    }
+    void newLineM()
+    {
+        text_ += '\n';
+        text_.append(2 * open_.size(), ' ');
+        constexpr size_t Much = 65536;
+        if (text_.size() > Much) {
+            flushM();
+        }
+    }
+    void flushM()
+    {
+        std::fwrite(text_.data(), 1, text_.size(), stdout);
+        text_.clear();
+    }
+
+    std::vector<LevelCL> open_; // From the document down to what is being printed.
+    std::string text_;          // Not yet printed.
+};
 
 } // namespace
 
 void printJson(const JsonTP& document)
 {
-    const std::string text = document.dump(2) + "\n";
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    PrinterCL().PrintM(document);
 }
 
 std::string hexWord(unsigned long word)
@@ -47,7 +120,7 @@ void FieldPrinterCL::IntM(const char* name, int& value)
 
 void FieldPrinterCL::RealM(const char* name, float& value)
 {
-    putM(name, shortest(value));
+    putM(name, value);
 }
 
 void FieldPrinterCL::IntPairM(const char* name, int (&values)[2])
@@ -57,7 +130,7 @@ void FieldPrinterCL::IntPairM(const char* name, int (&values)[2])
 
 void FieldPrinterCL::RealPairM(const char* name, float (&values)[2])
 {
-    putM(name, JsonTP::array({ shortest(values[0]), shortest(values[1]) }));
+    putM(name, JsonTP::array({ values[0], values[1] }));
 }
 
 void FieldPrinterCL::ColourM(const char* name, ColourTP& colour, int* flag)

@@ -56,6 +56,7 @@ BEGIN_MESSAGE_MAP(PreviewDialogCL, ShownDialogCL)
 ON_WM_TIMER()
 ON_MESSAGE(QueryPermissionMsg, &PreviewDialogCL::onPermissionM)
 ON_MESSAGE(ButtonDownMsg, &PreviewDialogCL::onButtonDownM)
+ON_MESSAGE(ButtonActionMsg, &PreviewDialogCL::onButtonM)
 END_MESSAGE_MAP()
 
 BOOL PreviewDialogCL::OnInitDialog()
@@ -88,6 +89,15 @@ LRESULT PreviewDialogCL::onPermissionM(WPARAM wParam, LPARAM)
 LRESULT PreviewDialogCL::onButtonDownM(WPARAM, LPARAM)
 {
     SetTimer(RepeatTimer, RepeatMilliseconds, nullptr);
+    return 0;
+}
+
+// A button with the id of OK or Cancel gets what would close the dialog, Esc and the close box too.
+LRESULT PreviewDialogCL::onButtonM(WPARAM wParam, LPARAM)
+{
+    if (wParam == IDOK || wParam == IDCANCEL) {
+        EndDialog(static_cast<int>(wParam));
+    }
     return 0;
 }
 

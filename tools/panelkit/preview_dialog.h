@@ -14,13 +14,15 @@ public:
     bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
     // Puts the control with that id in a status as an application could: the status of a bitmap button or
     // multi-state button, the frame of a normal animation (it then stands still), the position of a new
-    // rotate button. False when there is no such control, or when it has no such status.
+    // rotate button. A frame or position without a picture shows none. False when no control has the id, or a
+    // button has no such status.
     bool SetStatusM(int id, int status);
     BOOL OnInitDialog() override;
 
 protected:
     afx_msg LRESULT onPermissionM(WPARAM wParam, LPARAM);
     afx_msg LRESULT onButtonDownM(WPARAM, LPARAM);
+    afx_msg LRESULT onButtonM(WPARAM wParam, LPARAM);
     afx_msg void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()
 
