@@ -117,6 +117,7 @@ private:
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     int initM(CWnd* parent, int mode);
     template <class RowTP> int buildKindM(CWnd* parent);
+    HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
     Int2DArr stackedM();
     int initCtrlZOrderM(CWnd* parent);
     int setItemFontM(CWnd* parent, int fontOption);
@@ -131,5 +132,6 @@ private:
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
     UINT_PTR timerId_ { 0 };
+    HWND builtIn_ { nullptr };
     NotLeavingCL* closing_ { nullptr }; // While the application handles the wish to close the dialog.
 };

@@ -4,6 +4,7 @@
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
 {
+    builtIn_ = parent->GetSafeHwnd();
     initM(parent, mode);
     slEachKindAsBuilt([this, parent](auto row) { buildKindM<decltype(row)>(parent); });
     if (mode == 1) {
@@ -12,6 +13,11 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     setItemFontM(parent, header_.fontOption);
     setTxtLstBoxItemHeightM(); // The font has changed them.
     return 1;
+}
+
+HWND DuBasicDialogCL::parentM() const
+{
+    return ::IsWindow(builtIn_) ? builtIn_ : m_hWnd;
 }
 
 int DuBasicDialogCL::initM(CWnd* parent, int mode)

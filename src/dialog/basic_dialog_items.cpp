@@ -40,11 +40,11 @@ int DuBasicDialogCL::GetNormalAnimateBmpIdxM(int id, int* index)
 int DuBasicDialogCL::ChangeNormalAnimateM(int id, int index)
 {
     int result = 0;
-    const CWnd* child = ::IsWindow(m_hWnd) ? GetDlgItem(id) : nullptr;
+    const HWND child = ::GetDlgItem(parentM(), id);
     eachControlsM([&result, child, index](auto row, auto& controls) {
         if constexpr (decltype(row)::Code == NormalAnimateCode) {
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-                if (child != nullptr && controls.ElementAtM(i).m_hWnd == child->m_hWnd) {
+                if (child != nullptr && controls.ElementAtM(i).m_hWnd == child) {
                     result = controls.ElementAtM(i).DispBmpM(index);
                 }
             }
@@ -132,7 +132,7 @@ int DuBasicDialogCL::initItemRelationM()
     SectionEntryCL entry;
     for (int i = 0; i < count; ++i) {
         slReadEntry(io, entry, 3, 0, 0);
-        CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(m_hWnd, entry.functionId));
+        CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(parentM(), entry.functionId));
         if (auto* control = dynamic_cast<DControlCommonCL*>(child)) {
             control->AddRelationItemM(entry.numbers[0], entry.numbers[1], entry.numbers[2]);
         }

@@ -73,7 +73,7 @@ int DuBasicDialogCL::SetValueStatusM(int status)
 int DuBasicDialogCL::CheckValueLegalM()
 {
     valueStatus_ = 0;
-    const HWND window = m_hWnd;
+    const HWND window = m_hWnd != nullptr ? m_hWnd : parentM();
     if (window == nullptr) {
         return valueStatus_;
     }
@@ -98,7 +98,7 @@ LRESULT DuBasicDialogCL::onCtrlLostFocusM(WPARAM wParam, LPARAM lParam)
 LRESULT DuBasicDialogCL::onCtrlSetFocusM(WPARAM wParam, LPARAM)
 {
     if (static_cast<int>(wParam) != cancelId_ && lastLeftId_ != 0) {
-        const HWND left = ::GetDlgItem(m_hWnd, lastLeftId_);
+        const HWND left = ::GetDlgItem(parentM(), lastLeftId_);
         if (left != nullptr) {
             ::SendMessageW(left, CheckValueMsg, 0, 0);
         }

@@ -211,3 +211,21 @@ TEST(FocusReport, AFieldThatIsGoneIsNotAsked)
     destroyed.DestroyM();
     EXPECT_EQ(destroyed.onCtrlSetFocusM(31, 0), 0);
 }
+
+TEST(ValueCheck, WorksInAWindowThatTheApplicationOwns)
+{
+    PlainWindowCL frame;
+    const DescriptionFileCL file(
+        HeaderSections + std::string("[单行文本]\n1\n0\n1 11 20 30 120 24 1 0 100 0 0 2\n5\n0 1 255 0 0\n"));
+    DuBasicDialogCL host;
+    host.SetConfigFileM(file.path());
+    host.InitDlgM(&frame, 0);
+    ActivateM(frame.m_hWnd);
+    const HWND edit = ::GetDlgItem(frame.m_hWnd, 11);
+    ASSERT_TRUE(FocusM(edit));
+    ::SetWindowTextW(edit, L"x");
+    MessageBoxWatcher watcher;
+    host.CheckValueLegalM(); // The frame gets the report; here nobody routes it to the host.
+    EXPECT_EQ(told(watcher), "输入数据错误,请重新输入");
+    EXPECT_EQ(::GetFocus(), edit);
+}
