@@ -169,6 +169,19 @@ TEST(BmpButton, RegionsAreTheRectangleExceptATracedOne)
     EXPECT_EQ(traced.ControlM()->GetDrawRgnM()->GetSafeHandle(), nullptr);
 }
 
+TEST(BmpButton, AssignmentDropsThePicturesAndRegionsOfBefore)
+{
+    const SmallPictureCL picture(Red, 40, 30);
+    PlainWindowCL parent;
+    DuBmpButtonCL button;
+    button.SetBtnBmpM(picture.path(), picture.path(), picture.path(), picture.path());
+    ASSERT_EQ(button.Create(&parent), 1);
+    const int objects = LiveGdiObjectsM();
+    button = DuBmpButtonCL();
+    EXPECT_LE(LiveGdiObjectsM(), objects - 6);
+    EXPECT_EQ(button.GetDrawRgnM()->GetSafeHandle(), nullptr);
+}
+
 namespace {
 
 // A multi-state button with id 11 of 40 by 30 pixels with the states 10, 20, 30 at state 20.
