@@ -1,12 +1,13 @@
 #include "toolkit/common_controls.h"
+#include "toolkit/item_text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
 namespace {
 
-// The same item with its text made wide; the text must outlive the item.
-LVITEMW wideItemM(const LVITEMA& item, std::wstring* text)
+// The same item with another text.
+LVITEMW wideItemM(const LVITEMA& item, ItemTextCL* text)
 {
     LVITEMW wide = {};
     wide.mask = item.mask;
@@ -17,13 +18,13 @@ LVITEMW wideItemM(const LVITEMA& item, std::wstring* text)
     wide.iImage = item.iImage;
     wide.lParam = item.lParam;
     wide.iIndent = item.iIndent;
-    if ((item.mask & LVIF_TEXT) != 0 && item.pszText != LPSTR_TEXTCALLBACKA) {
-        *text = GbkToWide(item.pszText);
-        wide.pszText = text->data();
-    } else {
-        wide.pszText = LPSTR_TEXTCALLBACKW;
-    }
+    wide.pszText = text->PointerM();
     return wide;
+}
+
+ItemTextCL textOfM(const LVITEMA& item)
+{
+    return ItemTextCL((item.mask & LVIF_TEXT) != 0 ? item.pszText : nullptr);
 }
 
 std::string itemTextM(HWND list, int row, int column)
@@ -107,7 +108,7 @@ int CListCtrl::InsertItem(int row, LPCSTR text, int image)
 
 int CListCtrl::InsertItem(const LVITEMA* item)
 {
-    std::wstring text;
+    ItemTextCL text = textOfM(*item);
     LVITEMW wide = wideItemM(*item, &text);
     return InsertItem(&wide);
 }
@@ -119,7 +120,7 @@ int CListCtrl::InsertItem(const LVITEMW* item)
 
 BOOL CListCtrl::SetItem(const LVITEMA* item)
 {
-    std::wstring text;
+    ItemTextCL text = textOfM(*item);
     LVITEMW wide = wideItemM(*item, &text);
     return SetItem(&wide);
 }
@@ -131,10 +132,10 @@ BOOL CListCtrl::SetItem(const LVITEMW* item)
 
 BOOL CListCtrl::SetItemText(int row, int column, LPCSTR text)
 {
-    std::wstring wide = GbkToWide(text);
+    ItemTextCL wide(text);
     LVITEMW item = {};
     item.iSubItem = column;
-    item.pszText = wide.data();
+    item.pszText = wide.PointerM();
     return SendMessage(LVM_SETITEMTEXTW, word(row), reinterpret_cast<LPARAM>(&item)) != 0;
 }
 

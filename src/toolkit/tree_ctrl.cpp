@@ -1,4 +1,5 @@
 #include "toolkit/common_controls.h"
+#include "toolkit/item_text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
@@ -23,12 +24,12 @@ HTREEITEM CTreeCtrl::InsertItem(LPCSTR text, int image, int selectedImage, HTREE
 HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCSTR text, int image, int selectedImage, UINT state,
     UINT stateMask, LPARAM param, HTREEITEM parent, HTREEITEM after)
 {
-    std::wstring wide = GbkToWide(text);
+    ItemTextCL wide(text);
     TVINSERTSTRUCTW what = {};
     what.hParent = parent;
     what.hInsertAfter = after;
     what.item.mask = mask;
-    what.item.pszText = text == LPSTR_TEXTCALLBACKA ? LPSTR_TEXTCALLBACKW : wide.data();
+    what.item.pszText = wide.PointerM();
     what.item.iImage = image;
     what.item.iSelectedImage = selectedImage;
     what.item.state = state;
@@ -39,8 +40,14 @@ HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCSTR text, int image, int selectedI
 
 HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTA* what)
 {
-    return InsertItem(what->item.mask, what->item.pszText, what->item.iImage, what->item.iSelectedImage,
-        what->item.state, what->item.stateMask, what->item.lParam, what->hParent, what->hInsertAfter);
+    const TVITEMA& item = what->item;
+    ItemTextCL text((item.mask & TVIF_TEXT) != 0 ? item.pszText : nullptr);
+    TVINSERTSTRUCTW wide = {};
+    wide.hParent = what->hParent;
+    wide.hInsertAfter = what->hInsertAfter;
+    wide.item = { item.mask, item.hItem, item.state, item.stateMask, text.PointerM(), 0, item.iImage,
+        item.iSelectedImage, item.cChildren, item.lParam };
+    return InsertItem(&wide);
 }
 
 HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTW* what)
@@ -90,11 +97,11 @@ CString CTreeCtrl::GetItemText(HTREEITEM item) const
 
 BOOL CTreeCtrl::SetItemText(HTREEITEM item, LPCSTR text)
 {
-    std::wstring wide = GbkToWide(text);
+    ItemTextCL wide(text);
     TVITEMW what = {};
     what.mask = TVIF_TEXT;
     what.hItem = item;
-    what.pszText = wide.data();
+    what.pszText = wide.PointerM();
     return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&what)) != 0;
 }
 

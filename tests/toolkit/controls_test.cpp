@@ -141,6 +141,43 @@ TEST(Controls, ListViewKeepsGbkTextsOfAnyLength)
     EXPECT_EQ(list.GetItemCount(), 1);
 }
 
+TEST(Controls, ItemsMayBeAskedForTheirTexts)
+{
+    ParentCL parent;
+    CListCtrl list;
+    ASSERT_TRUE(list.Create(WS_VISIBLE | LVS_REPORT, Place, &parent, 1));
+    list.InsertColumn(0, "a", LVCFMT_LEFT, 80);
+    list.InsertColumn(1, "b", LVCFMT_LEFT, 80, 1);
+    EXPECT_EQ(list.InsertItem(0, LPSTR_TEXTCALLBACKA), 0);
+    EXPECT_TRUE(list.SetItemText(0, 1, LPSTR_TEXTCALLBACKA));
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.Create(WS_VISIBLE, Place, &parent, 2));
+    const HTREEITEM asked = tree.InsertItem(LPSTR_TEXTCALLBACKA, TVI_ROOT, TVI_LAST);
+    EXPECT_NE(asked, nullptr);
+    EXPECT_TRUE(tree.SetItemText(asked, LPSTR_TEXTCALLBACKA));
+}
+
+TEST(Controls, TreeTakesStructuresWithoutATextAndWithChildrenToCome)
+{
+    ParentCL parent;
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.Create(WS_VISIBLE, Place, &parent, 2));
+    TVINSERTSTRUCTA what = {};
+    what.hParent = TVI_ROOT;
+    what.item.mask = TVIF_CHILDREN | TVIF_PARAM;
+    what.item.pszText = reinterpret_cast<char*>(16); // Not asked for.
+    what.item.cChildren = 1;
+    what.item.lParam = 7;
+    const HTREEITEM item = tree.InsertItem(&what);
+    ASSERT_NE(item, nullptr);
+    TVITEMW seen = {};
+    seen.mask = TVIF_CHILDREN | TVIF_PARAM | TVIF_HANDLE;
+    seen.hItem = item;
+    ::SendMessageW(tree.m_hWnd, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&seen));
+    EXPECT_EQ(seen.cChildren, 1);
+    EXPECT_EQ(seen.lParam, 7);
+}
+
 TEST(Controls, TreeShowsItsItemsWithPictures)
 {
     ParentCL parent;

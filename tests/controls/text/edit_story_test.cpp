@@ -355,3 +355,36 @@ TEST(EditStory, SwitchingToAnotherWindowAndBackTellsOnce)
     EXPECT_EQ(story.ToldM(), BadData);
     EXPECT_EQ(story.ReportsM(), "sent 1624 w=11 l=-1");
 }
+
+namespace {
+
+// Closes as soon as the platform says that a field loses the focus.
+class HastyStoryCL : public EditStoryCL
+{
+public:
+    using EditStoryCL::EditStoryCL;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        if (HIWORD(wParam) == EN_KILLFOCUS) {
+            DestroyWindow();
+        }
+        return EditStoryCL::OnCommand(wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST(EditStory, DialogDestroyedWhenAFieldLosesTheFocusTellsOfNothing)
+{
+    // More fields than an array keeps in place: their memory is given back with them.
+    HastyStoryCL story({ integers(11), integers(12), integers(13), integers(14), integers(15) });
+    story.EnterM(11);
+    story.FillM(11, "x");
+    ::SetFocus(story.ItemM(12));
+    PumpPending();
+    EXPECT_EQ(story.m_hWnd, nullptr);
+    EXPECT_EQ(story.ToldM(), "");
+    EXPECT_EQ(story.ReportsM(), "");
+}
