@@ -51,7 +51,6 @@ BOOL DuBasicDialogCL::OnInitDialog()
 
 void DuBasicDialogCL::DestroyM()
 {
-    closing_ = nullptr;
     const NotLeavingCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
     font_.DeleteObject();

@@ -40,7 +40,7 @@ public:
 
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. Always 1.
-    // Without DestroyM before, a second build uses the records of the first load.
+    // Without DestroyM before, a second build uses the records of the first load; its controls are destroyed.
     int InitDlgM(CWnd* parent, int mode);
     void DestroyM(); // Destroys all controls and records and the dialog font.
     BOOL DestroyWindow() override;
@@ -133,5 +133,4 @@ private:
     MembersOfCL<KindTable>::Type kinds_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
-    NotLeavingCL* closing_ { nullptr }; // While the application handles the wish to close the dialog.
 };

@@ -77,13 +77,9 @@ int DuBasicDialogCL::CheckValueLegalM()
     if (window == nullptr) {
         return valueStatus_;
     }
-    NotLeavingCL* const closing = closing_;
-    if (closing != nullptr) {
-        closing->LiftM(true);
-    }
-    ::SetFocus(window);
-    if (closing != nullptr) {
-        closing->LiftM(false);
+    {
+        const AskingCL asking;
+        ::SetFocus(window);
     }
     return ::IsWindow(window) ? valueStatus_ : 0; // The application may have destroyed this object.
 }
@@ -110,15 +106,9 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     // What the application does about closing, such as asking the user, must not check any value first.
     const bool isCancel = message == WM_COMMAND && wParam == IDCANCEL;
-    if ((message == WM_CLOSE || isCancel) && closing_ == nullptr) {
-        const HWND window = m_hWnd;
-        NotLeavingCL closing(window);
-        closing_ = &closing;
-        const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
-        if (CWnd::FromHandlePermanent(window) == this) { // Closing may have destroyed this object.
-            closing_ = nullptr;
-        }
-        return result;
+    if (message == WM_CLOSE || isCancel) {
+        const NotLeavingCL closing(m_hWnd, NotLeavingCL::UnlessAsked);
+        return CDialog::WindowProc(message, wParam, lParam);
     }
     return CDialog::WindowProc(message, wParam, lParam);
 }

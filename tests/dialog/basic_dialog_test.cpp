@@ -1,6 +1,8 @@
 #include "dialog/basic_dialog.h"
 #include "support/handles.h"
+#include "support/pixels.h"
 #include "support/pump.h"
+#include "support/small_picture.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
 
@@ -255,9 +257,42 @@ TEST(BasicDialog, ThousandBuildsLeaveNoWindowGdiObjectOrMemoryBehind)
     EXPECT_LT(static_cast<double>(LiveHeapM().bytes), static_cast<double>(heap.bytes) + 50000);
 }
 
-TEST(BasicDialog, BackgroundPictureIsDrawnAtTheGivenCorner)
+TEST(BasicDialog, SecondBuildWithoutDestroyingReplacesTheControlsOfManyAndOfFew)
 {
-    TestDialogCL dialog(HeaderSections);
-    CClientDC dc(&dialog);
-    EXPECT_EQ(dialog.DrawBkGroundM(&dc, 0, 0), 0);
+    std::string labels;
+    for (int i = 0; i < 6; ++i) {
+        labels += std::to_string(i) + " " + std::to_string(20 + i) + " 0 0 50 20 1\ntext\n0 -1 0 0\n";
+    }
+    TestDialogCL dialog(HeaderSections + ("[标题]\n6\n0\n" + labels));
+    const DescriptionFileCL few(HeaderSections + ("[标题]\n1\n0\n" + labels));
+    const int windows = LiveWindowsM();
+    dialog.InitDlgM(&dialog, 1);
+    EXPECT_EQ(LiveWindowsM(), windows);
+    dialog.SetConfigFileM(few.path());
+    dialog.InitDlgM(&dialog, 1);
+    EXPECT_EQ(LiveWindowsM(), windows - 5);
+    int kind = 0;
+    CWnd* const label = dialog.GetContrlPtrM(20, &kind);
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->m_hWnd, dialog.ItemM(20));
+}
+
+TEST(BasicDialog, BackgroundPictureIsDrawnAtTheGivenCornerAndGoesWithItsFile)
+{
+    const SmallPictureCL picture(0xFF0000, 60, 50);
+    const std::string before = "[版本号]\n1.0\n[对话框]\n0\n100 80\n420 260\n1\nx\n14 2 4\n";
+    const DescriptionFileCL pictured(before + picture.path() + "\n");
+    TestDialogCL dialog(before + "NULL\n");
+    CClientDC screen(&dialog);
+    EXPECT_EQ(dialog.DrawBkGroundM(&screen, 0, 0), 0);
+    dialog.SetConfigFileM(pictured.path());
+    dialog.InitDlgM(&dialog, 1);
+    dialog.ShowWindow(SW_SHOW);
+    PumpPending();
+    EXPECT_EQ(Pixels(dialog.m_hWnd).CountM(RGB(255, 0, 0)), 60 * 50);
+    EXPECT_EQ(dialog.DrawBkGroundM(&screen, 100, 90), 1);
+    EXPECT_EQ(screen.GetPixel(159, 139), RGB(255, 0, 0));
+    dialog.SetConfigFileM(dialog.PathM());
+    dialog.InitDlgM(&dialog, 1);
+    EXPECT_EQ(dialog.DrawBkGroundM(&screen, 0, 0), 0);
 }

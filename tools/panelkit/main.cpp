@@ -41,9 +41,8 @@ int run(std::vector<std::string> arguments)
     CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
     shot->add_option("OUT.png", picture, "the picture to write")->required();
     shot->add_option("--status", statuses,
-            "puts control ID in a status: of a bitmap or multi-state button, the frame of a normal "
-            "animation, "
-            "the position of a new rotate button; may be repeated")
+            "pictures control ID in a status of its own: of a bitmap or multi-state button, the frame of a "
+            "normal animation, the position of a new rotate button; may be repeated")
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);

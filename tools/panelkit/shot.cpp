@@ -15,17 +15,14 @@ int shotCommand(
         return CannotUse;
     }
     PreviewDialogCL dialog(name);
-    if (!dialog.BuildM()) {
-        complain("the dialog of '" + file + "' did not come up");
-        return 1;
-    }
+    const bool built = dialog.BuildM();
     for (const auto& [id, status] : statuses) {
-        if (!dialog.SetStatusM(id, status)) {
+        if (built && !dialog.SetStatusM(id, status)) {
             return complain("control " + std::to_string(id) + " of '" + file + "' has no status "
                 + std::to_string(status));
         }
     }
-    if (!dialog.WaitUntilShownM()) {
+    if (!built || !dialog.WaitUntilShownM()) {
         complain("the dialog of '" + file + "' did not come up");
         return 1;
     }

@@ -3,11 +3,13 @@
 namespace {
 
 thread_local const NotLeavingCL* innermost = nullptr;
+thread_local int asking = 0;
 
 } // namespace
 
-NotLeavingCL::NotLeavingCL(HWND within)
+NotLeavingCL::NotLeavingCL(HWND within, Strength strength)
     : within_(within)
+    , strength_(strength)
     , outer_(innermost)
 {
     innermost = this;
@@ -21,12 +23,22 @@ NotLeavingCL::~NotLeavingCL()
 bool NotLeavingCL::CoversM(HWND field)
 {
     for (const NotLeavingCL* at = innermost; at != nullptr; at = at->outer_) {
-        if (!at->isLifted_
-            && (at->within_ == nullptr || at->within_ == field || ::IsChild(at->within_, field))) {
+        const bool holds = at->strength_ == Always || asking == 0;
+        if (holds && (at->within_ == nullptr || at->within_ == field || ::IsChild(at->within_, field))) {
             return true;
         }
     }
     return false;
+}
+
+AskingCL::AskingCL()
+{
+    ++asking;
+}
+
+AskingCL::~AskingCL()
+{
+    --asking;
 }
 
 void LeavingCL::SeeM(HWND field, UINT message)

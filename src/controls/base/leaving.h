@@ -12,22 +12,37 @@
 // - because it or its dialog is being hidden, disabled or destroyed.
 // So one step of the user shows one message at most, however many fields are bad.
 
-// While one lives, no field in a window (null: of this thread) is left or entered. Objects live in scopes.
+// While one lives, no field in a window (null: of this thread) is left or entered; UnlessAsked: except while
+// the application asks. Objects live in scopes.
 class PANELKIT_API NotLeavingCL
 {
 public:
-    explicit NotLeavingCL(HWND within = nullptr);
+    enum Strength
+    {
+        Always,
+        UnlessAsked
+    };
+    explicit NotLeavingCL(HWND within = nullptr, Strength strength = Always);
     NotLeavingCL(const NotLeavingCL&) = delete;
     NotLeavingCL& operator=(const NotLeavingCL&) = delete;
     ~NotLeavingCL();
 
-    static bool CoversM(HWND field); // Whether one lives for this field, and is not lifted.
-    void LiftM(bool lifted) { isLifted_ = lifted; }
+    static bool CoversM(HWND field); // Whether one lives for this field.
 
 private:
     HWND within_;
-    bool isLifted_ { false };
+    Strength strength_;
     const NotLeavingCL* outer_;
+};
+
+// While one lives, the application asks whether the values are legal.
+class PANELKIT_API AskingCL
+{
+public:
+    AskingCL();
+    AskingCL(const AskingCL&) = delete;
+    AskingCL& operator=(const AskingCL&) = delete;
+    ~AskingCL();
 };
 
 // What a field knows of itself to tell being left from vanishing.

@@ -49,7 +49,8 @@ class PANELKIT_API DVrNewRotateBtnArr : public RecordArr<DVrNewRotateBtnCL>
 {
 public:
     // Reads both sections from an open file, appending. 1; 0 when one of them is missing or its count can't
-    // be meant, the records read before that stay.
+    // be meant, the records read before that stay. Pictures of slots far beyond what the file can fill are
+    // passed over.
     int FmReadInterfaceM(VrIOCL* io);
     int InitNewRotateBtnM(int index, DuNewRotateBtnCL* control) const; // 0 for an index outside, else 1.
 

@@ -39,7 +39,7 @@ public:
     // the line can't be added, -1, and no line stays, when the picture can't be loaded.
     int AddItemM(int data, const char* file);
     // Inserts a line and, at the same place, its picture; ".bmp" is added to a name without an extension. A
-    // picture that can't be loaded leaves the line.
+    // picture that can't be loaded leaves the line. index -1: at the end.
     int InsertItemM(int index, int data, const char* file);
     void DelItemM(); // Destroys the window and the pictures and marks the element deleted.
     int DelItemM(int index);

@@ -28,7 +28,7 @@ public:
     int GetFirstSelM(int* row, int* data) const;
     int GetNextSelM(int from, int* row, int* data) const;
     int GetCurSelM(int* row, int* data) const; // Without a selection the row is -1, data stays, and it is 1.
-    int SetSelM(int row);                      // Leaves no other row selected. Always 1.
+    int SetSelM(int row); // Leaves no other row selected; below 0: none at all. Always 1.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

@@ -20,11 +20,13 @@ public:
     using DControlCommonCL::OnMouseMove;
 
 protected:
-    bool reachesEditM();
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnDeltapos(NMHDR* notification, LRESULT* result);
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool reachesEditM(); // Whether a press may go on: false when another field keeps the focus.
 };
