@@ -24,7 +24,7 @@ int slIsTransparency(const unsigned char* pixel, const unsigned char* key)
 
 int slIsSamePixel4D(const unsigned char* a, const unsigned char* b)
 {
-    return a[0] == b[0] && a[1] == b[1] && a[2] == b[2] ? 1 : 0;
+    return a != nullptr && b != nullptr && a[0] == b[0] && a[1] == b[1] && a[2] == b[2] ? 1 : 0;
 }
 
 int slIsSameInt2D(const int* a, const int* b)
