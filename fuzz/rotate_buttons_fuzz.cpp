@@ -40,12 +40,11 @@ private:
 class TurnCL : public FieldVisitorCL
 {
 public:
-    void IntM(const char*, int&) override { }
     void RealM(const char* name, float& value) override { reals[name] = value; }
-    void IntPairM(const char* name, int (&values)[2]) override { pairs[name] = { values[0], values[1] }; }
-    void RealPairM(const char*, float (&)[2]) override { }
-    void ColourM(const char*, ColourTP&, int*) override { }
-    void TextM(const char*, CharArr&, NullWord) override { }
+    void IntsM(const char* name, int* values, int count) override
+    {
+        pairs[name] = { values, values + count };
+    }
 
     std::map<std::string, float> reals;
     std::map<std::string, std::vector<int>> pairs;

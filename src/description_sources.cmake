@@ -5,6 +5,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/bmp_rle.cpp
   baselib/char_arr.cpp
   baselib/file.cpp
+  baselib/file_text.cpp
   baselib/gbk.cpp
   baselib/gbk_table.cpp
   baselib/helpers.cpp
@@ -16,7 +17,6 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/string.cpp
   baselib/tagged_arr.cpp
-  controls/animation/frame_names.cpp
   controls/animation/normal_animate_record.cpp
   controls/animation/spec_animate_record.cpp
   controls/buttons/bmp_button_record.cpp
@@ -41,8 +41,10 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp
+  dialog/relation.cpp
   records/bmp_record.cpp
   records/common_box_record.cpp
+  records/field_reader.cpp
   records/fields.cpp
   records/picture_boundary.cpp
   records/picture_edges.cpp

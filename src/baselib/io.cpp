@@ -38,7 +38,10 @@ void VrIOCL::OpenM(const char* path, const char* mode)
         return;
     }
     if (reading) {
-        data_ = slReadFile(path, &size_);
+        std::size_t size = 0;
+        if (auto bytes = slReadFile(path, &size)) {
+            OpenM(std::make_shared<const FileTextCL>(std::move(bytes), size));
+        }
     } else {
         out_ = slOpenFile(path, true);
     }
@@ -48,13 +51,24 @@ void VrIOCL::OpenM(const char* path, const char* mode)
     }
 }
 
+void VrIOCL::OpenM(std::shared_ptr<const FileTextCL> text)
+{
+    CloseM();
+    text_ = std::move(text);
+    if (text_ != nullptr) {
+        data_ = text_->BytesM();
+        size_ = text_->SizeM();
+    }
+}
+
 void VrIOCL::CloseM()
 {
     if (out_ != nullptr) {
         std::fclose(out_);
         out_ = nullptr;
     }
-    data_.reset();
+    text_.reset();
+    data_ = nullptr;
     size_ = 0;
     at_ = 0;
     binary_ = false;

@@ -1,8 +1,12 @@
 #pragma once
 #include "baselib/char_arr.h"
+#include "baselib/file_text.h"
 #include <cstddef>
 #include <cstdio>
 #include <memory>
+#include <string_view>
+
+class ReadObserverCL;
 
 // Reads and writes files of numbers and GBK texts. Text mode ("r", "w"): numbers in decimal, a text to the
 // end of its line. Binary mode ("rb", "wb"): ints and reals of four bytes, low byte first, texts behind a
@@ -19,11 +23,20 @@ public:
     // Opens for reading, the file read whole, or for writing, the file emptied. path is GBK on Windows, bytes
     // as they are elsewhere. Anything but a regular file, or an unknown mode, leaves it unopened.
     void OpenM(const char* path, const char* mode);
+    // Opens a text for reading as mode "r" does a file; null closes.
+    void OpenM(std::shared_ptr<const FileTextCL> text);
     void CloseM(); // Harmless when not open.
     bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
     bool IsBinaryM() const { return binary_; }
     std::size_t BytesLeftM() const { return size_ - at_; } // Behind the read position.
     std::size_t SizeM() const { return size_; }            // Of the file read, in bytes.
+    std::size_t PositionM() const { return at_; }          // The offset of the next byte to be read.
+    // The file read; null unless open for reading.
+    const std::shared_ptr<const FileTextCL>& FileTextM() const { return text_; }
+
+    // Who is told, value by value, what reading finds; null: nobody. It must live until it is replaced.
+    void SetObserverM(ReadObserverCL* observer) { observer_ = observer; }
+    ReadObserverCL* ObserverM() const { return observer_; }
     // The directory of the open file as OpenM got it, with its separator; "" when it has none. out: 260
     // bytes.
     int GetFilePathM(char* out) const;
@@ -42,6 +55,8 @@ public:
         float* i = nullptr); // Nearest; saturates.
     int InputCM(char* a, char* b = nullptr, char* c = nullptr, char* d = nullptr, char* e = nullptr,
         char* f = nullptr, char* g = nullptr, char* h = nullptr, char* i = nullptr); // One byte each.
+    bool InputOneM(int* value); // The same for one value; false where none stands.
+    bool InputOneM(float* value);
     int InputInt2DM(int pair[2]);
     int InputInt3DM(int triple[3]);
     int InputPoint2DM(float pair[2]);
@@ -49,6 +64,7 @@ public:
     // The rest of the line from the next byte that is no blank, blanks at its end dropped; what exceeds size
     // - 1 bytes is passed over. The line end stays unread. 0 and "" at the end of the file, otherwise 1.
     int InputGetsM(char* buffer, int size);
+    bool InputItemM(std::string_view* item); // The same whole, as a part of the file; false at the end.
     int InputSM(
         char* buffer, int most, int flag); // The same with size most, 260 for -1; flag changes nothing.
     // A text as OutputTextM wrote it; the position then starts the next line. 0 and "" when none stands here.
@@ -70,8 +86,6 @@ public:
 
 private:
     template <typename T> int inputAllM(T* const (&values)[9], bool (VrIOCL::*input)(T*));
-    bool inputIntM(int* value);
-    bool inputRealM(float* value);
     bool inputCharM(char* value);
     bool inputBytesM(void* to, std::size_t count);
     std::size_t inputLengthM();
@@ -79,10 +93,12 @@ private:
     bool outputBytesM(const void* from, std::size_t count);
     int outputCountedM(const char* text, std::size_t length);
 
-    std::unique_ptr<char[]> data_; // The file read; null unless open for reading.
+    std::shared_ptr<const FileTextCL> text_; // The file read; null unless open for reading.
+    const char* data_ { nullptr };           // Its bytes.
     std::size_t size_ { 0 };
     std::size_t at_ { 0 };
     FILE* out_ { nullptr }; // The file written.
     bool binary_ { false };
     CharArr directory_;
+    ReadObserverCL* observer_ { nullptr };
 };

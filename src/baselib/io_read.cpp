@@ -8,11 +8,6 @@
 
 namespace {
 
-bool isBlank(char byte)
-{
-    return byte == ' ' || (byte >= '\t' && byte <= '\r') || byte == '\0';
-}
-
 std::uint32_t littleEndian(const unsigned char* bytes)
 {
     return bytes[0] | (std::uint32_t { bytes[1] } << 8) | (std::uint32_t { bytes[2] } << 16)
@@ -25,7 +20,7 @@ constexpr std::size_t NoLength = SIZE_MAX;
 
 void VrIOCL::skipBlanksM()
 {
-    while (at_ < size_ && isBlank(data_[at_])) {
+    while (at_ < size_ && slIsBlank(data_[at_])) {
         ++at_;
     }
 }
@@ -35,7 +30,7 @@ bool VrIOCL::inputBytesM(void* to, std::size_t count)
     if (BytesLeftM() < count) {
         return false;
     }
-    std::memcpy(to, data_.get() + at_, count);
+    std::memcpy(to, data_ + at_, count);
     at_ += count;
     return true;
 }
@@ -56,12 +51,12 @@ template <typename T> int VrIOCL::inputAllM(T* const (&values)[9], bool (VrIOCL:
 
 int VrIOCL::InputDM(int* a, int* b, int* c, int* d, int* e, int* f, int* g, int* h, int* i)
 {
-    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::inputIntM);
+    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::InputOneM);
 }
 
 int VrIOCL::InputRM(float* a, float* b, float* c, float* d, float* e, float* f, float* g, float* h, float* i)
 {
-    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::inputRealM);
+    return inputAllM({ a, b, c, d, e, f, g, h, i }, &VrIOCL::InputOneM);
 }
 
 int VrIOCL::InputCM(char* a, char* b, char* c, char* d, char* e, char* f, char* g, char* h, char* i)
@@ -84,7 +79,7 @@ int VrIOCL::InputPoint2DM(float pair[2])
     return InputRM(&pair[0], &pair[1]);
 }
 
-bool VrIOCL::inputIntM(int* value)
+bool VrIOCL::InputOneM(int* value)
 {
     if (binary_) {
         unsigned char bytes[4];
@@ -95,13 +90,13 @@ bool VrIOCL::inputIntM(int* value)
         return true;
     }
     skipBlanksM();
-    const char* const begin = data_.get() + at_;
-    const char* const numberEnd = slReadInt(begin, data_.get() + size_, value);
+    const char* const begin = data_ + at_;
+    const char* const numberEnd = slReadInt(begin, data_ + size_, value);
     at_ += numberEnd - begin;
     return numberEnd > begin;
 }
 
-bool VrIOCL::inputRealM(float* value)
+bool VrIOCL::InputOneM(float* value)
 {
     if (binary_) {
         unsigned char bytes[4];
@@ -113,8 +108,8 @@ bool VrIOCL::inputRealM(float* value)
         return true;
     }
     skipBlanksM();
-    const char* const begin = data_.get() + at_;
-    const char* const numberEnd = slReadReal(begin, data_.get() + size_, value);
+    const char* const begin = data_ + at_;
+    const char* const numberEnd = slReadReal(begin, data_ + size_, value);
     at_ += numberEnd - begin;
     return numberEnd > begin;
 }
@@ -132,7 +127,7 @@ std::size_t VrIOCL::inputLengthM()
 {
     const std::size_t start = at_;
     int length = -1;
-    bool whole = inputIntM(&length) && length >= 0;
+    bool whole = InputOneM(&length) && length >= 0;
     if (whole && !binary_) {
         char space = '\0';
         whole = inputBytesM(&space, 1) && space == ' ';
@@ -144,37 +139,47 @@ std::size_t VrIOCL::inputLengthM()
     return static_cast<std::size_t>(length);
 }
 
-int VrIOCL::InputGetsM(char* buffer, int size)
+bool VrIOCL::InputItemM(std::string_view* item)
 {
+    *item = {};
     if (binary_) {
-        CharArr text;
-        const int read = InputTextM(&text);
-        slCopyText(buffer, size, text.TextM());
-        return read;
+        const std::size_t length = inputLengthM();
+        if (length == NoLength) {
+            return false;
+        }
+        *item = { data_ + at_, length };
+        at_ += length;
+        return true;
     }
     skipBlanksM();
-    slCopyText(buffer, size, "");
     if (at_ == size_) {
-        return 0;
+        return false;
     }
-    const char* const begin = data_.get() + at_;
+    const char* const begin = data_ + at_;
     const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
-    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : data_.get() + size_;
+    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : data_ + size_;
     const char* itemEnd = lineEnd;
-    while (isBlank(itemEnd[-1])) {
+    while (slIsBlank(itemEnd[-1])) {
         --itemEnd;
     }
     if (lineFeed != nullptr && lineEnd[-1] == '\r') {
         --lineEnd;
     }
     at_ += lineEnd - begin;
+    *item = { begin, static_cast<std::size_t>(itemEnd - begin) };
+    return true;
+}
+
+int VrIOCL::InputGetsM(char* buffer, int size)
+{
+    std::string_view item;
+    const bool read = InputItemM(&item);
     if (buffer != nullptr && size > 0) {
-        const std::size_t length = static_cast<std::size_t>(itemEnd - begin);
-        const std::size_t kept = slGbkCutLength(begin, length, static_cast<std::size_t>(size) - 1);
-        std::memcpy(buffer, begin, kept);
+        const std::size_t kept = slGbkCutLength(item.data(), item.size(), static_cast<std::size_t>(size) - 1);
+        std::copy_n(item.data(), kept, buffer);
         buffer[kept] = '\0';
     }
-    return 1;
+    return read ? 1 : 0;
 }
 
 int VrIOCL::InputSM(char* buffer, int most, int)
@@ -189,7 +194,7 @@ int VrIOCL::InputTextM(CharArr* text)
         text->SetM("");
         return 0;
     }
-    text->SetM(data_.get() + at_, length);
+    text->SetM(data_ + at_, length);
     at_ += length;
     if (!binary_) {
         SkipLineM();
@@ -200,9 +205,9 @@ int VrIOCL::InputTextM(CharArr* text)
 int VrIOCL::SkipLineM()
 {
     if (at_ < size_) {
-        const char* const begin = data_.get() + at_;
+        const char* const begin = data_ + at_;
         const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
-        at_ = lineFeed != nullptr ? static_cast<const char*>(lineFeed) - data_.get() + 1 : size_;
+        at_ = lineFeed != nullptr ? static_cast<const char*>(lineFeed) - data_ + 1 : size_;
     }
     return 1;
 }

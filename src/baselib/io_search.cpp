@@ -53,13 +53,13 @@ int VrIOCL::SearchStrM(const char* text)
     for (std::size_t k = 0; k + 1 < length; ++k) {
         steps[static_cast<unsigned char>(text[k])] = length - 1 - k;
     }
-    const char* const end = data_.get() + size_;
+    const char* const end = data_ + size_;
     const char last = text[length - 1];
-    CharacterStarts starts(data_.get());
-    CharacterStarts ends(data_.get());
+    CharacterStarts starts(data_);
+    CharacterStarts ends(data_);
     std::size_t at = 0;
     while (at <= size_ - length) {
-        const char* const found = data_.get() + at;
+        const char* const found = data_ + at;
         const char byte = found[length - 1];
         if (byte == last && std::memcmp(found, text, length) == 0 && starts.isStartM(found, end)
             && ends.isStartM(found + length, end)) {

@@ -99,3 +99,18 @@ const char* slReadReal(const char* at, const char* end, float* value)
     *value = *at == '-' ? -magnitude : magnitude;
     return numberEnd;
 }
+
+bool slIntFits(const char* at, const char* end)
+{
+    const char* const digits = at < end && isSign(*at) ? at + 1 : at;
+    constexpr std::int64_t Most = INT_MAX;
+    return digitsValue(digits, end, Most + 2) <= (at < end && *at == '-' ? Most + 1 : Most);
+}
+
+bool slRealFits(const char* at, const char* end)
+{
+    const char* const digits = at < end && isSign(*at) ? at + 1 : at;
+    float magnitude = 0;
+    return std::from_chars(digits, end, magnitude).ec != std::errc::result_out_of_range
+        || !isHuge(digits, end);
+}

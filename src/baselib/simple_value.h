@@ -1,6 +1,14 @@
 #pragma once
 #include "baselib/path.h"
 
+// What a value is held as; the codes of description files.
+enum ValueType
+{
+    IntegerType = 1,
+    RealType = 2,
+    TextType = 3
+};
+
 // One typed value or one range of 260 bytes; which member is meant, the data type of its owner says.
 // Made as all zero.
 union simpleValD {

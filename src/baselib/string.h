@@ -16,6 +16,7 @@ public:
     int GetStringM(char* out) const;  // Copied into a buffer of 260 bytes, cut between characters. 1.
     int GetStringM(char* out, int size) const;          // The same for a buffer of `size` bytes.
     const char* TextM() const { return text_.TextM(); } // Never null; valid until the text changes.
+    CharArr& ValueM() { return text_; }                 // The text to change in its place.
 
     // A list's stream: tag and text, any text reading back equal. What can't be read is deleted and empty.
     void FmInputEvrFileM(VrIOCL* io) override;

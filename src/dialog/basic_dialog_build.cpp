@@ -28,14 +28,14 @@ int DuBasicDialogCL::initM(CWnd* parent, int mode)
         return 0;
     }
     background_.DropM(); // Perhaps another file's.
-    if (header_.background[0] != '\0') {
-        background_.LoadSafeBitmapM(header_.background);
+    if (!header_.background.EmptyM()) {
+        background_.LoadSafeBitmapM(header_.background.TextM());
     }
     if (mode == 1) {
         constexpr int Most = 32767; // No window is farther away or larger.
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
         if (header_.titleFlag == 1) {
-            parent->SetWindowText(header_.title);
+            parent->SetWindowText(header_.title.TextM());
         }
         parent->MoveWindow(std::clamp(header_.position[0], -Most, Most),
             std::clamp(header_.position[1], -Most, Most), std::clamp(header_.size[0], -Most, Most),

@@ -1,6 +1,6 @@
 // What the application does with controls by their function ids, values apart.
-#include "baselib/gbk_texts.h"
 #include "dialog/basic_dialog.h"
+#include "dialog/relation.h"
 #include "dialog/with_control.h"
 
 namespace {
@@ -124,18 +124,11 @@ int DuBasicDialogCL::initItemRelationM()
 {
     VrIOCL io;
     io.OpenM(configFile_, "r");
-    int count = 0;
-    const SectionStatus status = slOpenSection(io, RelationHeader, &count);
-    if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
-        return 0;
-    }
-    SectionEntryCL entry;
-    for (int i = 0; i < count; ++i) {
-        slReadEntry(io, entry, 3, 0, 0);
-        CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(parentM(), entry.functionId));
+    const SectionStatus status = slReadRelations(io, [this](const RelationCL& relation) {
+        CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(parentM(), relation.control));
         if (auto* control = dynamic_cast<DControlCommonCL*>(child)) {
-            control->AddRelationItemM(entry.numbers[0], entry.numbers[1], entry.numbers[2]);
+            control->AddRelationItemM(relation.values[0], relation.values[1], relation.values[2]);
         }
-    }
-    return 1;
+    });
+    return status == SectionStatus::Missing || status == SectionStatus::Broken ? 0 : 1;
 }

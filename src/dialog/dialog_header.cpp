@@ -1,7 +1,6 @@
 #include "dialog/dialog_header.h"
 #include "baselib/gbk_texts.h"
-#include "baselib/io.h"
-#include <climits>
+#include "records/section.h"
 
 namespace {
 
@@ -13,15 +12,22 @@ constexpr unsigned BorderStyle = 0x00800000;
 constexpr unsigned ThickFrameStyle = 0x00040000;
 constexpr unsigned DialogFrameStyle = 0x00400000;
 
-void readText(VrIOCL& io, char (&text)[TextSize])
-{
-    io.InputGetsM(text, TextSize);
-    if (slIsNullWord(text) != 0) {
-        text[0] = '\0';
-    }
-}
+constexpr ChoiceCL WindowKinds[] = { { 1, "overlapped" }, { 2, "pop-up" }, { 3, "child" } };
+constexpr ChoiceCL BorderKinds[] = { { 1, "none" }, { 2, "thin" }, { 3, "sizing" }, { 4, "dialog frame" } };
 
 } // namespace
+
+void DialogHeaderCL::EachFieldM(FieldVisitorCL& visitor)
+{
+    visitor.LengthPairM("position", position);
+    visitor.LengthPairM("size", size);
+    visitor.FlagM("title_flag", titleFlag);
+    visitor.CaptionM("title", title, NullWord::Empty);
+    visitor.LengthM("font_option", fontOption, Along::Y);
+    visitor.ChoiceM("window_kind", windowKind, WindowKinds);
+    visitor.ChoiceM("border_kind", borderKind, BorderKinds);
+    visitor.NameM("background", background, NullWord::Empty);
+}
 
 unsigned DialogHeaderCL::StyleM() const
 {
@@ -45,18 +51,15 @@ unsigned DialogHeaderCL::StyleM() const
 
 int slReadDialogHeader(VrIOCL& io, DialogHeaderCL& header)
 {
-    if (io.SearchStrM(VersionHeader) == 0 || io.SearchStrM(DialogHeader) == 0) {
+    if (SectionReaderCL(io, VersionHeader).StatusM() == SectionStatus::Missing) {
+        return 0;
+    }
+    SectionReaderCL section(io, DialogHeader);
+    if (section.StatusM() == SectionStatus::Missing) {
         return 0;
     }
     header = DialogHeaderCL();
-    int comments = 0;
-    io.InputDM(&comments);
-    io.SkipSomeLinesM(comments < INT_MAX ? comments + 1 : INT_MAX);
-    io.InputInt2DM(header.position);
-    io.InputInt2DM(header.size);
-    io.InputDM(&header.titleFlag);
-    readText(io, header.title);
-    io.InputDM(&header.fontOption, &header.windowKind, &header.borderKind);
-    readText(io, header.background);
+    section.InputCommentsM();
+    header.EachFieldM(section.RecordM(0));
     return 1;
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "baselib/api.h"
+#include "baselib/char_arr.h"
 #include "records/fields.h"
 
 class VrIOCL;
@@ -9,13 +10,14 @@ struct DialogHeaderCL
 {
     int position[2] {};
     int size[2] {};
-    int titleFlag { 0 };     // 1: a caption bar with the title.
-    char title[TextSize] {}; // GBK.
-    int fontOption { 0 };    // The height of the characters in pixels.
+    int titleFlag { 0 };  // 1: a caption bar with the title.
+    CharArr title;        // GBK.
+    int fontOption { 0 }; // The height of the characters in pixels.
     int windowKind { 0 };
     int borderKind { 0 };
-    char background[TextSize] {}; // File name of the background picture, empty for none.
+    CharArr background; // File name of the background picture, empty for none.
 
+    PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
     // The window style word that title flag, window kind and border kind make together.
     PANELKIT_API unsigned StyleM() const;
 };

@@ -1,26 +1,47 @@
 #include "records/common_box_record.h"
 #include "baselib/int2d_arr.h"
-#include "baselib/io.h"
+#include "records/field_reader.h"
+#include <algorithm>
+
+namespace {
+
+// What can't be read is 0, never what the record before left.
+class ZeroingCL : public FieldVisitorCL
+{
+public:
+    void IntM(const char*, int& value) override { value = 0; }
+    void IntsM(const char*, int* values, int count) override { std::fill_n(values, count, 0); }
+};
+
+} // namespace
 
 void DVrCommonBoxCL::EachCommonFieldM(FieldVisitorCL& visitor, int withItemIndex)
 {
-    visitor.IntM("window_index", windowIndex_);
+    visitor.IndexM("window_index", windowIndex_);
     if (withItemIndex != 0) {
-        visitor.IntM("item_index", itemIndex_);
+        visitor.IndexM("item_index", itemIndex_);
     }
-    visitor.IntM("function_id", functionId_);
-    visitor.IntPairM("position", position_);
-    visitor.IntPairM("size", size_);
+    visitor.IdM("function_id", functionId_);
+    visitor.LengthPairM("position", position_);
+    visitor.LengthPairM("size", size_);
+}
+
+// What FmInputInterfaceM reads.
+void DVrCommonBoxCL::storedFieldsM(FieldVisitorCL& visitor)
+{
+    visitor.IndexM("item_index", itemIndex_);
+    visitor.IdM("function_id", functionId_);
+    visitor.IntM("extra_value", extraValue_);
+    visitor.IntM("region_kind", regionKind_);
+    visitor.LengthPairM("position", position_);
+    visitor.LengthPairM("size", size_);
+    showConditionFieldM(visitor);
 }
 
 int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 {
-    // What can't be read is 0, never what the record before left.
-    windowIndex_ = functionId_ = 0;
-    position_[0] = position_[1] = size_[0] = size_[1] = 0;
-    if (withItemIndex != 0) {
-        itemIndex_ = 0;
-    }
+    ZeroingCL zeroing;
+    EachCommonFieldM(zeroing, withItemIndex);
     FieldReaderCL reader(io);
     EachCommonFieldM(reader, withItemIndex);
     return 1;
@@ -29,10 +50,8 @@ int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 int DVrCommonBoxCL::FmInputInterfaceM(int windowIndex, VrIOCL* io)
 {
     windowIndex_ = windowIndex;
-    io->InputDM(&itemIndex_, &functionId_, &extraValue_, &regionKind_);
-    io->InputInt2DM(position_);
-    io->InputInt2DM(size_);
-    io->InputDM(&showCondition_);
+    FieldReaderCL reader(io);
+    storedFieldsM(reader);
     return itemIndex_;
 }
 

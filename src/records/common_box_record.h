@@ -10,11 +10,7 @@ class Int2DArr;
 class PANELKIT_API DVrCommonBoxCL : public VrBaseCL
 {
 public:
-    DVrCommonBoxCL() = default;
-    explicit DVrCommonBoxCL(char tag)
-        : VrBaseCL(tag)
-    {
-    }
+    using VrBaseCL::VrBaseCL;
 
     // Reads window index, the item index only when withItemIndex is nonzero, function id, position and
     // size (pixels); the other fields keep their values. Always 1.
@@ -46,7 +42,11 @@ public:
     // The common fields of a main section, named as every other field is.
     void EachCommonFieldM(FieldVisitorCL& visitor, int withItemIndex = 0);
 
+protected:
+    void showConditionFieldM(FieldVisitorCL& visitor) { visitor.IntM("show_condition", showCondition_); }
+
 private:
+    void storedFieldsM(FieldVisitorCL& visitor);
     void setPolygonM(Int2DArr* points) const;
 
     int windowIndex_ { 0 };

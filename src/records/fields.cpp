@@ -1,64 +1,102 @@
 #include "records/fields.h"
 #include "baselib/char_arr.h"
-#include "baselib/io.h"
 #include <cstring>
-
-FieldVisitorCL::~FieldVisitorCL() = default;
-
-void FieldVisitorCL::ListM(const char*, int, const std::function<void(FieldVisitorCL&, int)>&) { }
-
-void FieldVisitorCL::StopReadingM() { }
 
 int slIsNullWord(const char* text)
 {
     return std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0;
 }
 
-void FieldReaderCL::IntM(const char*, int& value)
+FieldVisitorCL::~FieldVisitorCL() = default;
+
+void FieldVisitorCL::IntM(const char*, int&) { }
+void FieldVisitorCL::RealM(const char*, float&) { }
+void FieldVisitorCL::IntsM(const char*, int*, int) { }
+void FieldVisitorCL::RealsM(const char*, float*, int) { }
+void FieldVisitorCL::ColourM(const char*, ColourTP&, int*) { }
+void FieldVisitorCL::TextM(const char*, CharArr&, const TextFormCL&) { }
+
+void FieldVisitorCL::IdM(const char* name, int& value)
 {
-    io_->InputDM(&value);
+    IntM(name, value);
 }
 
-void FieldReaderCL::RealM(const char*, float& value)
+void FieldVisitorCL::IndexM(const char* name, int& value)
 {
-    io_->InputRM(&value);
+    IntM(name, value);
 }
 
-void FieldReaderCL::IntPairM(const char*, int (&values)[2])
+void FieldVisitorCL::CountM(const char* name, int& value)
 {
-    io_->InputInt2DM(values);
+    IntM(name, value);
 }
 
-void FieldReaderCL::RealPairM(const char*, float (&values)[2])
+void FieldVisitorCL::FlagM(const char* name, int& value)
 {
-    io_->InputPoint2DM(values);
+    IntM(name, value);
 }
 
-void FieldReaderCL::ColourM(const char*, ColourTP& colour, int* flag)
+void FieldVisitorCL::ChoiceM(const char* name, int& value, const ChoicesCL&)
 {
-    // Components that can't be read keep those of the default colour.
-    int rgb[3] = { static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-        static_cast<int>(colour >> 16 & 0xFF) };
-    const int read = io_->InputInt3DM(rgb);
-    if (flag != nullptr) {
-        if (read == 0 || rgb[0] < 0) {
-            return;
-        }
-        *flag = 1;
+    IntM(name, value);
+}
+
+void FieldVisitorCL::LengthM(const char* name, int& value, Along)
+{
+    IntM(name, value);
+}
+
+void FieldVisitorCL::LengthPairM(const char* name, int (&xy)[2])
+{
+    IntsM(name, xy, 2);
+}
+
+void FieldVisitorCL::MillisecondsM(const char* name, int& value)
+{
+    IntM(name, value);
+}
+
+void FieldVisitorCL::DegreesM(const char* name, float& value)
+{
+    RealM(name, value);
+}
+
+void FieldVisitorCL::DegreesPairM(const char* name, float (&values)[2])
+{
+    RealsM(name, values, 2);
+}
+
+void FieldVisitorCL::CaptionM(const char* name, CharArr& text, const TextFormCL& form)
+{
+    TextM(name, text, form);
+}
+
+void FieldVisitorCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
+{
+    TextM(name, file, form);
+}
+
+void FieldVisitorCL::NumberM(const char* name, int type, simpleValD& value)
+{
+    if (type == RealType) {
+        RealM(name, value.real);
+    } else if (type == TextType) {
+        CharArr text(value.text);
+        CaptionM(name, text, NullWord::Kept);
+        text.GetM(value.text, TextSize);
+    } else {
+        IntM(name, value.number);
     }
-    colour = (rgb[0] & 0xFFU) | (rgb[1] & 0xFFU) << 8 | (rgb[2] & 0xFFU) << 16;
 }
 
-void FieldReaderCL::TextM(const char*, CharArr& text, NullWord nullWord)
+void FieldVisitorCL::LimitsM(const char* name, int type, simpleValD& range)
 {
-    char line[TextSize];
-    if (io_->InputGetsM(line, TextSize) != 0) {
-        text.SetM(nullWord == NullWord::Empty && slIsNullWord(line) ? "" : line);
+    if (type == RealType) {
+        RealsM(name, range.reals, 2);
+    } else {
+        IntsM(name, range.numbers, 2);
     }
 }
 
-void FieldReaderCL::StopReadingM()
-{
-    static VrIOCL nothing; // A reader that isn't open reads nothing.
-    io_ = &nothing;
-}
+void FieldVisitorCL::ListM(const char*, int, const std::function<void(FieldVisitorCL&, int)>&) { }
+void FieldVisitorCL::StopReadingM() { }

@@ -1,9 +1,9 @@
 #pragma once
 #include "baselib/path.h"
+#include "baselib/simple_value.h"
 #include <functional>
 
 class CharArr;
-class VrIOCL;
 
 // A Windows colour value, red + green * 256 + blue * 65536, that a description file writes as R G B.
 // Only the low byte of each written component counts.
@@ -17,58 +17,93 @@ PANELKIT_API int slIsNullWord(const char* text);
 
 enum class NullWord
 {
-    Kept,
-    Empty
-}; // Kept: "NULL" and "null" are ordinary texts of this field.
+    Kept,       // "NULL" and "null" are ordinary texts of this field.
+    Empty,      // Both stand for "".
+    UpperEmpty, // Only "NULL" does.
+    SkipsEntry  // Both mean that the entry does not count.
+};
 
-// Sees the fields of one record in the order of the file. A record names each of its fields once, in
-// EachFieldM; what reads, prints or checks records are visitors of that one list.
+// How a text is written.
+struct TextFormCL
+{
+    TextFormCL(NullWord word = NullWord::Kept, int bytes = TextSize) // NOLINT: fields say just the word.
+        : nullWord(word)
+        , size(bytes)
+    {
+    }
+    NullWord nullWord;
+    int size; // With its terminator; what is longer is cut at a character.
+};
+
+// One of the values that a field may have, and what it means.
+struct ChoiceCL
+{
+    int value;
+    const char* name;
+};
+
+// All of them; any other value counts as one of these, or as nothing at all.
+struct ChoicesCL
+{
+    template <int countN>
+    constexpr ChoicesCL(const ChoiceCL (&choices)[countN]) // NOLINT: a list is what it says.
+        : first(choices)
+        , count(countN)
+    {
+    }
+    const ChoiceCL* begin() const { return first; }
+    const ChoiceCL* end() const { return first + count; }
+    const ChoiceCL* first;
+    int count;
+};
+
+enum class Along
+{
+    X,
+    Y
+};
+
+// Sees the values of one record, entry or header in the order of the file. Each of them names its values
+// once, in EachFieldM, with the verb that says what a value is; what reads, prints, checks or changes them
+// are visitors of that one list.
+//
+// A visitor overrides what it cares about: a verb not overridden hands its value to the general verb for its
+// type, and those do nothing.
 class PANELKIT_API FieldVisitorCL
 {
 public:
     virtual ~FieldVisitorCL();
-    virtual void IntM(const char* name, int& value) = 0;
-    virtual void RealM(const char* name, float& value) = 0;
-    virtual void IntPairM(const char* name, int (&values)[2]) = 0;
-    virtual void RealPairM(const char* name, float (&values)[2]) = 0;
+
+    // General: a number (or a fixed group of them) that is no more than a number; a colour; a text.
+    virtual void IntM(const char* name, int& value);
+    virtual void RealM(const char* name, float& value);
+    virtual void IntsM(const char* name, int* values, int count);
+    virtual void RealsM(const char* name, float* values, int count);
     // flag: null for a plain colour; else 1 while the colour applies, which a negative red prevents.
-    virtual void ColourM(const char* name, ColourTP& colour, int* flag = nullptr) = 0;
-    virtual void TextM(const char* name, CharArr& text, NullWord nullWord) = 0;
-    // What secondary sections added to the record: rows, each with fields of its own; a row that is just one
-    // text has a field without name. see(visitor, row) is called for each row.
+    virtual void ColourM(const char* name, ColourTP& colour, int* flag = nullptr);
+    virtual void TextM(const char* name, CharArr& text, const TextFormCL& form);
+
+    virtual void IdM(const char* name, int& value);    // The function id of a control.
+    virtual void IndexM(const char* name, int& value); // A place in an order.
+    virtual void CountM(const char* name, int& value);
+    virtual void FlagM(const char* name, int& value); // 1: yes.
+    virtual void ChoiceM(const char* name, int& value, const ChoicesCL& choices);
+    virtual void LengthM(const char* name, int& value, Along along); // Pixels.
+    virtual void LengthPairM(const char* name, int (&xy)[2]);        // Pixels, along x and along y.
+    virtual void MillisecondsM(const char* name, int& value);
+    virtual void DegreesM(const char* name, float& value);
+    virtual void DegreesPairM(const char* name, float (&values)[2]);
+    virtual void CaptionM(const char* name, CharArr& text, const TextFormCL& form); // For a person to read.
+    virtual void NameM(const char* name, CharArr& file, const TextFormCL& form);    // Of a file.
+    // An int, a real or a text, as another field says (ValueType), and two limits for such values. Of an
+    // unknown type they are ints.
+    virtual void NumberM(const char* name, int type, simpleValD& value);
+    virtual void LimitsM(const char* name, int type, simpleValD& range);
+
+    // What secondary sections added to the record: rows, each with values of its own. see(visitor, row) shows
+    // one of them, in rising order.
     virtual void ListM(
         const char* name, int rows, const std::function<void(FieldVisitorCL& visitor, int row)>& see);
     // The record turned out to be unreadable: the fields from here on keep their defaults.
     virtual void StopReadingM();
 };
-
-// Reads each field it sees from a description file. What can't be read keeps its value.
-class PANELKIT_API FieldReaderCL : public FieldVisitorCL
-{
-public:
-    explicit FieldReaderCL(VrIOCL* io)
-        : io_(io)
-    {
-    }
-    void IntM(const char* name, int& value) override;
-    void RealM(const char* name, float& value) override;
-    void IntPairM(const char* name, int (&values)[2]) override;
-    void RealPairM(const char* name, float (&values)[2]) override;
-    void ColourM(const char* name, ColourTP& colour, int* flag) override;
-    void TextM(const char* name, CharArr& text, NullWord nullWord) override;
-    void StopReadingM() override;
-
-private:
-    VrIOCL* io_;
-};
-
-// Reads one record of a main section: from its defaults (the delete tag is kept), the common fields,
-// then its own. Always 1.
-template <class RecordTP> int slReadRecord(RecordTP& record, VrIOCL* io)
-{
-    record = RecordTP(record.GetDeleteTagM());
-    record.RecordTP::DVrCommonBoxCL::FmReadInterfaceM(io, 0);
-    FieldReaderCL reader(io);
-    record.EachFieldM(reader);
-    return 1;
-}

@@ -1,9 +1,11 @@
 #pragma once
 #include "records/arr.h"
-#include "records/section.h"
+#include "records/record.h"
 #include <array>
 
 // What the record array of every kind shares. A kind with secondary sections hides Secondaries by its own.
+// Where such an array hands a call on to the record at an index, it does so only if that one is alive, and
+// the result is always 1.
 template <class RecordParamTP> class RecordArr : public Arr<RecordParamTP>
 {
 public:
@@ -11,11 +13,20 @@ public:
     static constexpr std::array<SecondarySectionCL<RecordTP>, 0> Secondaries {};
 
 protected:
-    // Lets the record at index do something, if it is alive. Always 1.
-    template <class ActionTP> int ifAliveM(int index, ActionTP&& action) const
+    // Calls an operation of the record at index.
+    template <class OperationTP, class... ArgumentsTP>
+    int ifAliveM(int index, OperationTP operation, ArgumentsTP... arguments) const
     {
         if (this->CheckAvailableM(index) == 1) {
-            action(*this->GetItemPM(index));
+            (this->GetItemPM(index)->*operation)(arguments...);
+        }
+        return 1;
+    }
+    template <class OperationTP, class... ArgumentsTP>
+    int ifAliveM(int index, OperationTP operation, ArgumentsTP... arguments)
+    {
+        if (this->CheckAvailableM(index) == 1) {
+            (this->ElementAtPM(index)->*operation)(arguments...);
         }
         return 1;
     }

@@ -1,37 +1,167 @@
 #include "records/section.h"
+#include "baselib/number_text.h"
+#include <algorithm>
 #include <climits>
+#include <cstring>
 
-SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count)
+SectionReaderCL::SectionReaderCL(VrIOCL& io, const char* header)
+    : io_(io)
+    , reader_(&io, header)
 {
-    *count = 0;
-    if (io.SearchStrM(header) == 0) {
-        return SectionStatus::Missing;
+    seen_.header = header;
+    seen_.status = io.SearchStrM(header) != 0 ? SectionStatus::Read : SectionStatus::Missing;
+    if (seen_.status == SectionStatus::Read) {
+        seen_.headerSpan = { io.PositionM() - std::strlen(header), io.PositionM() };
     }
-    int records = 0;
-    io.InputDM(&records);
-    if (records <= 0) {
-        return SectionStatus::Empty;
-    }
-    if (static_cast<size_t>(records) > io.BytesLeftM()) {
-        return SectionStatus::Broken;
-    }
-    io.SkipLineM();
-    int comments = 0;
-    io.InputDM(&comments);
-    io.SkipSomeLinesM(comments < INT_MAX ? comments + 1 : INT_MAX);
-    *count = records;
-    return SectionStatus::Read;
 }
 
-void slReadEntry(VrIOCL& io, SectionEntryCL& entry, int numberCount, int textCount, int textSize)
+SectionReaderCL::~SectionReaderCL()
 {
-    entry.functionId = 0;
-    io.InputDM(&entry.functionId);
-    for (int i = 0; i < numberCount; ++i) {
-        entry.numbers[i] = 0;
-        io.InputDM(&entry.numbers[i]);
+    if (io_.ObserverM() == nullptr) {
+        return;
     }
-    for (int i = 0; i < textCount; ++i) {
-        io.InputGetsM(entry.texts[i], textSize);
+    EndM();
+    io_.ObserverM()->SectionM(seen_);
+}
+
+SectionStatus SectionReaderCL::OpenM()
+{
+    int count = 0;
+    InputCountM(&count);
+    if (StatusM() == SectionStatus::Read && count <= 0) {
+        SetStatusM(SectionStatus::Empty);
     }
+    SetCountM(count);
+    if (StatusM() == SectionStatus::Read) {
+        io_.SkipLineM();
+        InputCommentsM();
+    }
+    return StatusM();
+}
+
+// Where the number stands; only for an observer.
+SpanCL SectionReaderCL::inputM(int* value)
+{
+    if (io_.ObserverM() == nullptr) {
+        io_.InputOneM(value);
+        return {};
+    }
+    const std::size_t begin = slNextValue(io_);
+    return { begin, io_.InputOneM(value) ? io_.PositionM() : begin };
+}
+
+void SectionReaderCL::InputCountM(int* count)
+{
+    if (StatusM() == SectionStatus::Read) {
+        seen_.countSpan = inputM(count);
+        if (io_.ObserverM() != nullptr) {
+            seen_.countLine = lineAtM(seen_.countSpan.begin);
+        }
+    }
+}
+
+void SectionReaderCL::InputCommentsM(int* lines)
+{
+    if (StatusM() == SectionStatus::Read) {
+        seen_.commentCount = inputM(lines);
+    }
+}
+
+void SectionReaderCL::InputCommentsM()
+{
+    int lines = 0;
+    InputCommentsM(&lines);
+    SkipCommentsM(lines < INT_MAX ? lines + 1 : INT_MAX);
+}
+
+void SectionReaderCL::SkipCommentsM(int lines)
+{
+    if (StatusM() != SectionStatus::Read) {
+        return;
+    }
+    std::size_t begin = io_.PositionM();
+    if (lines > 0) {
+        io_.SkipLineM();
+        begin = io_.PositionM();
+        io_.SkipSomeLinesM(lines - 1);
+    }
+    seen_.comments = { begin, io_.PositionM() };
+}
+
+void SectionReaderCL::SetCountM(int count)
+{
+    if (StatusM() != SectionStatus::Read) {
+        return;
+    }
+    seen_.count = std::max(count, 0);
+    if (count > 0 && static_cast<std::size_t>(count) > io_.BytesLeftM()) {
+        SetStatusM(SectionStatus::Broken);
+        seen_.count = 0;
+    }
+}
+
+FieldReaderCL& SectionReaderCL::RecordM(int number)
+{
+    record_ = number;
+    recordBegin_ = io_.PositionM();
+    reader_.BeginRecordM(number);
+    return reader_;
+}
+
+void SectionReaderCL::DropM(EntryFault fault)
+{
+    ReadObserverCL* const observer = io_.ObserverM();
+    if (observer != nullptr) {
+        SpanCL span { recordBegin_, io_.PositionM() };
+        while (span.begin < span.end && slIsBlank(io_.FileTextM()->BytesM()[span.begin])) {
+            ++span.begin;
+        }
+        observer->EntryDroppedM({ seen_.header, record_, span, fault });
+    }
+}
+
+void SectionReaderCL::EndM()
+{
+    if (isEnded_ || io_.ObserverM() == nullptr) {
+        return;
+    }
+    isEnded_ = true;
+    seen_.end = io_.PositionM();
+    if (StatusM() != SectionStatus::Missing) {
+        seen_.follows = { slNextValue(io_), 0 };
+        seen_.follows.end = lineAtM(seen_.follows.begin).end;
+    }
+}
+
+// The line of a byte, without its end.
+SpanCL SectionReaderCL::lineAtM(std::size_t offset) const
+{
+    const FileTextCL& file = *io_.FileTextM();
+    const auto isLineEnd = [&file](std::size_t at) { return file.BytesM()[at] == '\n'; };
+    SpanCL line { offset, offset };
+    while (line.begin > 0 && !isLineEnd(line.begin - 1)) {
+        --line.begin;
+    }
+    while (line.end < file.SizeM() && !isLineEnd(line.end)) {
+        ++line.end;
+    }
+    if (line.end > line.begin && line.end < file.SizeM() && file.BytesM()[line.end - 1] == '\r') {
+        --line.end;
+    }
+    return line;
+}
+
+void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
+{
+    functionId = 0;
+    for (int& number : numbers) {
+        number = 0;
+    }
+    for (CharArr& text : texts) {
+        if (!text.EmptyM()) {
+            text.SetM("");
+        }
+    }
+    reader.IdM("function_id", functionId);
+    fields(reader, RowM());
 }

@@ -1,53 +1,85 @@
 #pragma once
-#include "baselib/base.h"
-#include "baselib/io.h"
-#include "records/fields.h"
+#include "records/field_reader.h"
+#include "records/rows.h"
 #include <unordered_map>
 
-// What became of a counted section of a description file.
-enum class SectionStatus
+// One section of an open file: finds it, reads up to its first record, and hands out the reader of its
+// records. Tells the file's observer of the section when it goes.
+class PANELKIT_API SectionReaderCL
 {
-    Missing,    // The header stands nowhere.
-    Empty,      // The count is 0 or less, or can't be read.
-    Broken,     // The count is larger than the rest of the file has bytes: it can't be meant.
-    Incomplete, // The records were read, but a secondary section is missing or broken.
-    Read
+public:
+    // The status is Read when the header was found, else Missing; nothing of the section has been read.
+    SectionReaderCL(VrIOCL& io, const char* header);
+    SectionReaderCL(const SectionReaderCL&) = delete;
+    SectionReaderCL& operator=(const SectionReaderCL&) = delete;
+    ~SectionReaderCL();
+
+    // The usual head, if the header was found: a count, the rest of its line, the number of comment lines,
+    // those lines. CountM is the number of records or entries then, 0 unless the status is Read.
+    SectionStatus OpenM();
+    // The parts of a head, for the sections with another one. Each does nothing unless the status is Read.
+    void InputCountM(int* count);
+    void InputCommentsM(int* lines); // Only their number.
+    void InputCommentsM();           // Their number, the rest of its line, and them.
+    void SkipCommentsM(int lines);   // The rest of this line counts as one.
+    void SetCountM(int count);       // Broken, and CountM 0, for more than the file has bytes left.
+
+    SectionStatus StatusM() const { return seen_.status; }
+    void SetStatusM(SectionStatus status) { seen_.status = status; }
+    int CountM() const { return seen_.count; }
+
+    FieldReaderCL& RecordM(int number); // The reader, before record or entry `number`.
+    void DropM(EntryFault fault);       // The entry just read belongs to no record.
+    void EndM();                        // Its last record has been read; others of the file may follow.
+
+private:
+    SpanCL inputM(int* value);
+    SpanCL lineAtM(std::size_t offset) const;
+
+    VrIOCL& io_;
+    FieldReaderCL reader_;
+    SectionSeenCL seen_ {};
+    int record_ { 0 };
+    std::size_t recordBegin_ { 0 };
+    bool isEnded_ { false };
 };
 
-// Finds a counted section in an open file and reads up to its first record: header, count, comment lines.
-// *count is the number of records or entries, 0 unless the result is Read.
-PANELKIT_API SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count);
-
-// One entry of a secondary section: the function id of the record that it belongs to, numbers, texts.
-struct SectionEntryCL
-{
-    static constexpr int MostNumbers = 3;
-    static constexpr int MostTexts = 3;
-    int functionId;
-    int numbers[MostNumbers];
-    char texts[MostTexts][TextSize];
-};
-
-// How the entries of one secondary section of a kind are laid out and attached to its records.
+// What the entries of one secondary section of a kind hold, and how a record takes one.
 template <class RecordTP> struct SecondarySectionCL
 {
     const char* header;
-    int numberCount;
-    int textCount;
-    int textSize; // Bytes of each text with its terminator.
-    int (*attach)(RecordTP& record, const SectionEntryCL& entry);
+    RowFieldsTP fields;
+    void (*attach)(RecordTP& record, const RowCL& row);
 };
 
-PANELKIT_API void slReadEntry(
-    VrIOCL& io, SectionEntryCL& entry, int numberCount, int textCount, int textSize);
+// One entry, read but not yet taken by a record.
+struct SectionEntryCL
+{
+    int functionId { 0 };
+    int numbers[RowCL::MostNumbers] {};
+    CharArr texts[RowCL::MostTexts];
+
+    RowCL RowM() { return { numbers, { &texts[0], &texts[1], &texts[2] } }; }
+    PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields);
+};
+
+// Reads one record of a main section: from its defaults (the delete tag is kept), the common fields, then its
+// own. 0 when it turned out to be unreadable, else 1.
+template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& reader)
+{
+    record = RecordTP(record.GetDeleteTagM());
+    record.EachCommonFieldM(reader);
+    record.EachFieldM(reader);
+    return reader.IsStoppedM() ? 0 : 1;
+}
 
 // Reads the entries of one secondary section and gives each to the first alive record with its function id.
-// An entry whose first text is "NULL" or "null", or that no record takes, is passed over.
+// An entry that a text of it rules out, or that no record takes, is passed over.
 template <class RecordArrTP, class RecordTP>
-SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& section)
+SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
 {
-    int count = 0;
-    const SectionStatus status = slOpenSection(io, section.header, &count);
+    SectionReaderCL section(io, secondary.header);
+    const SectionStatus status = section.OpenM();
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
@@ -56,11 +88,14 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
         firstOfId.emplace(records.ElementAtM(i).GetFuncIDM(), i);
     }
     SectionEntryCL entry;
-    for (int i = 0; i < count; ++i) {
-        slReadEntry(io, entry, section.numberCount, section.textCount, section.textSize);
+    for (int i = 0; i < section.CountM(); ++i) {
+        FieldReaderCL& reader = section.RecordM(i);
+        entry.ReadM(reader, secondary.fields);
         const auto found = firstOfId.find(entry.functionId);
-        if (found != firstOfId.end() && slIsNullWord(entry.texts[0]) == 0) {
-            section.attach(records.ElementAtM(found->second), entry);
+        if (reader.IsSkippedM() || found == firstOfId.end()) {
+            section.DropM(reader.IsSkippedM() ? EntryFault::NullWord : EntryFault::UnknownId);
+        } else {
+            secondary.attach(records.ElementAtM(found->second), entry.RowM());
         }
     }
     return SectionStatus::Read;
@@ -71,20 +106,23 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
 // *count is what the count line said, 0 when nothing was read.
 template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP& records, int* count)
 {
-    const SectionStatus status = slOpenSection(io, RecordArrTP::Header, count);
+    SectionReaderCL section(io, RecordArrTP::Header);
+    const SectionStatus status = section.OpenM();
+    *count = section.CountM();
     if (status != SectionStatus::Read) {
         return status;
     }
     typename RecordArrTP::RecordTP scratch(AliveTag);
     for (int i = 0; i < *count; ++i) {
-        scratch.FmReadInterfaceM(&io);
+        slReadRecord(scratch, section.RecordM(i));
         records.AddItemM(scratch);
     }
-    for (const auto& section : RecordArrTP::Secondaries) {
-        const SectionStatus secondary = slReadSecondary(io, records, section);
-        if (secondary != SectionStatus::Read) {
-            return SectionStatus::Incomplete;
+    section.EndM();
+    for (const auto& secondary : RecordArrTP::Secondaries) {
+        if (slReadSecondary(io, records, secondary) != SectionStatus::Read) {
+            section.SetStatusM(SectionStatus::Incomplete);
+            break;
         }
     }
-    return SectionStatus::Read;
+    return section.StatusM();
 }

@@ -43,11 +43,11 @@ TEST(DialogHeader, ValuesAreReadInOrder)
     EXPECT_EQ(header.size[0], 420);
     EXPECT_EQ(header.size[1], 260);
     EXPECT_EQ(header.titleFlag, 1);
-    EXPECT_EQ(slGbkToUtf8(header.title), "参数设置");
+    EXPECT_EQ(slGbkToUtf8(header.title.TextM()), "参数设置");
     EXPECT_EQ(header.fontOption, 14);
     EXPECT_EQ(header.windowKind, 2);
     EXPECT_EQ(header.borderKind, 4);
-    EXPECT_STREQ(header.background, "back.bmp");
+    EXPECT_STREQ(header.background.TextM(), "back.bmp");
 }
 
 TEST(DialogHeader, MissingEitherSectionChangesNothing)
@@ -62,12 +62,12 @@ TEST(DialogHeader, MissingEitherSectionChangesNothing)
 
 TEST(DialogHeader, NullWordsMeanEmptyAndOtherSpellingsStay)
 {
-    EXPECT_STREQ(withTitleAndPicture("NULL", "NULL").title, "");
-    EXPECT_STREQ(withTitleAndPicture("null", "null").title, "");
-    EXPECT_STREQ(withTitleAndPicture("null", "null").background, "");
-    EXPECT_STREQ(withTitleAndPicture("NULL", "NULL").background, "");
-    EXPECT_STREQ(withTitleAndPicture("Null", "x").title, "Null");
-    EXPECT_STREQ(withTitleAndPicture("NULLx", "nullx").background, "nullx");
+    EXPECT_STREQ(withTitleAndPicture("NULL", "NULL").title.TextM(), "");
+    EXPECT_STREQ(withTitleAndPicture("null", "null").title.TextM(), "");
+    EXPECT_STREQ(withTitleAndPicture("null", "null").background.TextM(), "");
+    EXPECT_STREQ(withTitleAndPicture("NULL", "NULL").background.TextM(), "");
+    EXPECT_STREQ(withTitleAndPicture("Null", "x").title.TextM(), "Null");
+    EXPECT_STREQ(withTitleAndPicture("NULLx", "nullx").background.TextM(), "nullx");
 }
 
 TEST(DialogHeader, DialogBeforeVersionIsFoundToo)

@@ -93,23 +93,25 @@ TEST(Section, SectionBeforeTheDialogHeaderIsFound)
 namespace {
 
 // A kind with a secondary section, for the walk alone.
-class NoteCL : public DVrCommonBoxCL
+class NoteCL : public RecordCL<NoteCL>
 {
 public:
-    NoteCL() = default;
-    explicit NoteCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-    int FmReadInterfaceM(VrIOCL* io) { return slReadRecord(*this, io); }
+    using RecordCL::RecordCL;
     void EachFieldM(FieldVisitorCL&) { }
     CharArr notes;
 };
 
-int attachNote(NoteCL& record, const SectionEntryCL& entry)
+void noteRow(FieldVisitorCL& visitor, const RowCL& row)
 {
-    const std::string all = record.notes.TextM() + std::to_string(entry.numbers[0]) + entry.texts[0] + ";";
-    return record.notes.SetM(all.c_str());
+    visitor.IntM("number", row.numbers[0]);
+    visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
+}
+
+void attachNote(NoteCL& record, const RowCL& row)
+{
+    const std::string all
+        = record.notes.TextM() + std::to_string(row.numbers[0]) + row.texts[0]->TextM() + ";";
+    record.notes.SetM(all.c_str());
 }
 
 class NoteArr : public RecordArr<NoteCL>
@@ -117,7 +119,7 @@ class NoteArr : public RecordArr<NoteCL>
 public:
     static constexpr const char* Header = "[notes]";
     static constexpr std::array<SecondarySectionCL<NoteCL>, 1> Secondaries {
-        { { "[more]", 1, 1, TextSize, attachNote } }
+        { { "[more]", noteRow, attachNote } }
     };
 };
 

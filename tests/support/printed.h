@@ -12,13 +12,21 @@ class FieldTextCL : public FieldVisitorCL
 public:
     void IntM(const char* name, int& value) override { addM(name, std::to_string(value)); }
     void RealM(const char* name, float& value) override { addM(name, real(value)); }
-    void IntPairM(const char* name, int (&values)[2]) override
+    void IntsM(const char* name, int* values, int count) override
     {
-        addM(name, std::to_string(values[0]) + "," + std::to_string(values[1]));
+        std::string all;
+        for (int i = 0; i < count; ++i) {
+            all += (i > 0 ? "," : "") + std::to_string(values[i]);
+        }
+        addM(name, all);
     }
-    void RealPairM(const char* name, float (&values)[2]) override
+    void RealsM(const char* name, float* values, int count) override
     {
-        addM(name, real(values[0]) + "," + real(values[1]));
+        std::string all;
+        for (int i = 0; i < count; ++i) {
+            all += (i > 0 ? "," : "") + real(values[i]);
+        }
+        addM(name, all);
     }
     void ColourM(const char* name, ColourTP& colour, int* flag) override
     {
@@ -27,7 +35,7 @@ public:
                                           : std::to_string(colour & 0xFF) + ","
                     + std::to_string(colour >> 8 & 0xFF) + "," + std::to_string(colour >> 16));
     }
-    void TextM(const char* name, CharArr& value, NullWord) override
+    void TextM(const char* name, CharArr& value, const TextFormCL&) override
     {
         addM(name, slGbkToUtf8(value.TextM()));
     }
@@ -38,7 +46,8 @@ public:
         for (int row = 0; row < rows; ++row) {
             FieldTextCL one;
             see(one, row);
-            all += "[" + one.text + "]";
+            // A row of one field is told without its name.
+            all += "[" + (one.fields_ == 1 ? one.text.substr(one.text.find('=') + 1) : one.text) + "]";
         }
         addM(name, all);
     }
@@ -54,8 +63,11 @@ private:
     }
     void addM(const std::string& name, const std::string& value)
     {
-        text += (text.empty() ? "" : " ") + (name.empty() ? value : name + "=" + value);
+        text += (text.empty() ? "" : " ") + name + "=" + value;
+        ++fields_;
     }
+
+    int fields_ { 0 };
 };
 
 template <class RecordTP> std::string printedFields(RecordTP& record)

@@ -1,11 +1,11 @@
 // What the library reads from a description file.
 #include "baselib/gbk.h"
-#include "baselib/gbk_texts.h"
 #include "commands.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "description_file.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/relation.h"
 #include "json.h"
 
 namespace {
@@ -27,50 +27,52 @@ const char* statusName(SectionStatus status)
     return "read";
 }
 
+template <class FieldsTP> JsonTP fieldsOf(FieldsTP& fields)
+{
+    JsonTP object;
+    FieldPrinterCL printer(object);
+    fields.EachFieldM(printer);
+    return object;
+}
+
+// The alive records of an array.
+template <class RecordArrTP> JsonTP recordsOf(RecordArrTP& records, int withItemIndex)
+{
+    JsonTP list = JsonTP::array();
+    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+        JsonTP object;
+        FieldPrinterCL printer(object);
+        records.ElementAtM(i).EachCommonFieldM(printer, withItemIndex);
+        records.ElementAtM(i).EachFieldM(printer);
+        list.push_back(std::move(object));
+    }
+    return list;
+}
+
 JsonTP dialogOf(VrIOCL& io)
 {
     DialogHeaderCL header;
     if (slReadDialogHeader(io, header) == 0) {
         return nullptr;
     }
-    return { { "position", header.position }, { "size", header.size }, { "title_flag", header.titleFlag },
-        { "title", slGbkToUtf8(header.title) }, { "font_option", header.fontOption },
-        { "window_kind", header.windowKind }, { "border_kind", header.borderKind },
-        { "background", slGbkToUtf8(header.background) }, { "style", hexWord(header.StyleM()) } };
-}
-
-JsonTP section(const char* kind, const char* header, SectionStatus status)
-{
-    return { { "kind", kind }, { "header", slGbkToUtf8(header) }, { "status", statusName(status) },
-        { "records", JsonTP::array() } };
+    JsonTP object = fieldsOf(header);
+    object["style"] = hexWord(header.StyleM());
+    return object;
 }
 
 template <class RecordArrTP> JsonTP sectionOf(VrIOCL& io)
 {
     RecordArrTP records;
     int count = 0;
-    JsonTP result = section(RecordArrTP::KindName, RecordArrTP::Header, slReadSection(io, records, &count));
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        JsonTP object;
-        FieldPrinterCL printer(object);
-        records.ElementAtM(i).EachCommonFieldM(printer);
-        records.ElementAtM(i).EachFieldM(printer);
-        result["records"].push_back(std::move(object));
-    }
-    return result;
+    const SectionStatus status = slReadSection(io, records, &count);
+    return { { "kind", RecordArrTP::KindName }, { "header", slGbkToUtf8(RecordArrTP::Header) },
+        { "status", statusName(status) }, { "records", recordsOf(records, 0) } };
 }
 
 JsonTP relationsOf(VrIOCL& io)
 {
     JsonTP relations = JsonTP::array();
-    int count = 0;
-    slOpenSection(io, RelationHeader, &count);
-    for (int i = 0; i < count; ++i) {
-        int control = 0;
-        int values[3] = {};
-        io.InputDM(&control, &values[0], &values[1], &values[2]);
-        relations.push_back({ { "control", control }, { "values", values } });
-    }
+    slReadRelations(io, [&relations](RelationCL& relation) { relations.push_back(fieldsOf(relation)); });
     return relations;
 }
 
@@ -78,15 +80,7 @@ JsonTP newRotateButtonsOf(VrIOCL& io)
 {
     DVrNewRotateBtnArr records;
     records.FmReadInterfaceM(&io);
-    JsonTP buttons = JsonTP::array();
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        JsonTP object;
-        FieldPrinterCL printer(object);
-        records.ElementAtM(i).EachCommonFieldM(printer, 1);
-        records.ElementAtM(i).EachFieldM(printer);
-        buttons.push_back(std::move(object));
-    }
-    return buttons;
+    return recordsOf(records, 1);
 }
 
 } // namespace

@@ -104,47 +104,38 @@ std::string hexWord(unsigned long word)
     return text;
 }
 
-void FieldPrinterCL::putM(const char* name, JsonTP value)
-{
-    if (*name == '\0') {
-        object_ = std::move(value);
-    } else {
-        object_[name] = std::move(value);
-    }
-}
-
 void FieldPrinterCL::IntM(const char* name, int& value)
 {
-    putM(name, value);
+    object_[name] = value;
 }
 
 void FieldPrinterCL::RealM(const char* name, float& value)
 {
-    putM(name, value);
+    object_[name] = value;
 }
 
-void FieldPrinterCL::IntPairM(const char* name, int (&values)[2])
+void FieldPrinterCL::IntsM(const char* name, int* values, int count)
 {
-    putM(name, JsonTP::array({ values[0], values[1] }));
+    object_[name] = std::vector<int>(values, values + count);
 }
 
-void FieldPrinterCL::RealPairM(const char* name, float (&values)[2])
+void FieldPrinterCL::RealsM(const char* name, float* values, int count)
 {
-    putM(name, JsonTP::array({ values[0], values[1] }));
+    object_[name] = std::vector<float>(values, values + count);
 }
 
 void FieldPrinterCL::ColourM(const char* name, ColourTP& colour, int* flag)
 {
     if (flag != nullptr && *flag == 0) {
-        putM(name, nullptr);
+        object_[name] = nullptr;
     } else {
-        putM(name, JsonTP::array({ colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF }));
+        object_[name] = JsonTP::array({ colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF });
     }
 }
 
-void FieldPrinterCL::TextM(const char* name, CharArr& text, NullWord)
+void FieldPrinterCL::TextM(const char* name, CharArr& text, const TextFormCL&)
 {
-    putM(name, slGbkToUtf8(text.TextM()));
+    object_[name] = slGbkToUtf8(text.TextM());
 }
 
 void FieldPrinterCL::ListM(
@@ -155,7 +146,7 @@ void FieldPrinterCL::ListM(
         JsonTP item;
         FieldPrinterCL printer(item);
         see(printer, row);
-        list.push_back(std::move(item));
+        list.push_back(std::move(item.size() == 1 ? *item.begin() : item));
     }
-    putM(name, std::move(list));
+    object_[name] = std::move(list);
 }

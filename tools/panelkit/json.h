@@ -8,7 +8,7 @@ using JsonTP = nlohmann::ordered_json;
 void printJson(const JsonTP& document);
 std::string hexWord(unsigned long word); // "0x" and eight upper-case digits.
 
-// Writes each field that it sees as a key of an object.
+// Writes each field that it sees as a key of an object; a row of one field is that field's value alone.
 class FieldPrinterCL : public FieldVisitorCL
 {
 public:
@@ -18,15 +18,13 @@ public:
     }
     void IntM(const char* name, int& value) override;
     void RealM(const char* name, float& value) override;
-    void IntPairM(const char* name, int (&values)[2]) override;
-    void RealPairM(const char* name, float (&values)[2]) override;
+    void IntsM(const char* name, int* values, int count) override;
+    void RealsM(const char* name, float* values, int count) override;
     void ColourM(const char* name, ColourTP& colour, int* flag) override;
-    void TextM(const char* name, CharArr& text, NullWord nullWord) override;
+    void TextM(const char* name, CharArr& text, const TextFormCL& form) override;
     void ListM(const char* name, int rows,
         const std::function<void(FieldVisitorCL& visitor, int row)>& see) override;
 
 private:
-    void putM(const char* name, JsonTP value);
-
     JsonTP& object_;
 };

@@ -37,12 +37,6 @@ int DVrNormalAnimateCL::InitNormalAnimateM(DuNormalAnimateCL* control) const
     return 1;
 }
 
-int DVrNormalAnimateArr::InitNormalAnimateM(int index, DuNormalAnimateCL* control) const
-{
-    return ifAliveM(
-        index, [control](const DVrNormalAnimateCL& record) { record.InitNormalAnimateM(control); });
-}
-
 BOOL DuNormalAnimateCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE;

@@ -2,24 +2,17 @@
 
 template class PANELKIT_API Arr<DVrNormalAnimateCL>;
 
+namespace {
+
+constexpr ChoiceCL ControlModes[] = { { 1, "automatic" }, { 2, "manual" } };
+
+} // namespace
+
 void DVrNormalAnimateCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("control_mode", controlMode_);
-    visitor.IntM("time_lapse", timeLapse_);
-    visitor.IntM("sunken", sunken_);
-    visitor.IntM("notify", notify_);
-    frames_.EachNameM(visitor);
-}
-
-int DVrNormalAnimateCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
-}
-
-int DVrNormalAnimateArr::AddBmpNameM(int index, const char* file)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(file);
-    }
-    return 1;
+    visitor.ChoiceM("control_mode", controlMode_, ControlModes);
+    visitor.MillisecondsM("time_lapse", timeLapse_);
+    visitor.FlagM("sunken", sunken_);
+    visitor.FlagM("notify", notify_);
+    slVisitTexts(visitor, "bitmaps", frames_, &slPictureRow);
 }

@@ -1,24 +1,15 @@
 #pragma once
 #include "baselib/gbk_texts.h"
-#include "controls/animation/frame_names.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuNormalAnimateCL;
 
-// One animation of a description file that plays by itself or shows a frame on demand. Holds no window.
-class PANELKIT_API DVrNormalAnimateCL : public DVrCommonBoxCL
+// One animation of a description file that plays by itself or shows a frame on demand.
+class PANELKIT_API DVrNormalAnimateCL : public RecordCL<DVrNormalAnimateCL>
 {
 public:
-    DVrNormalAnimateCL() = default;
-    explicit DVrNormalAnimateCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io);                                    // Reads one record; always 1.
-    int AddBmpNameM(const char* file) { return frames_.AddNameM(file); } // The index of the new frame.
-    // Copies the record into a control without a window, which loads the frames; always 1.
+    using RecordCL::RecordCL;
+    int AddBmpNameM(const char* file) { return slAppendText(frames_, file); } // The index of the new frame.
     int InitNormalAnimateM(DuNormalAnimateCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
@@ -27,7 +18,7 @@ private:
     int timeLapse_ { 0 };
     int sunken_ { 0 };
     int notify_ { 0 };
-    FrameNamesCL frames_;
+    TextListCL frames_;
 };
 
 extern template class PANELKIT_API Arr<DVrNormalAnimateCL>;
@@ -38,12 +29,12 @@ public:
     static constexpr const char* KindName = "normal_animation";
     static constexpr const char* Header = NormalAnimateHeader;
     static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { NormalAnimateBitmapHeader,
-        0, 1, TextSize, [](RecordTP& record, const SectionEntryCL& entry) {
-            return record.AddBmpNameM(entry.texts[0]);
-        } } } };
+        &slPictureRow,
+        [](RecordTP& record, const RowCL& row) { record.AddBmpNameM(row.texts[0]->TextM()); } } } };
 
-    // Appends a frame to the record at index; nothing where none is alive. Always 1.
-    int AddBmpNameM(int index, const char* file);
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitNormalAnimateM(int index, DuNormalAnimateCL* control) const;
+    int AddBmpNameM(int index, const char* file) { return ifAliveM(index, &RecordTP::AddBmpNameM, file); }
+    int InitNormalAnimateM(int index, DuNormalAnimateCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitNormalAnimateM, control);
+    }
 };

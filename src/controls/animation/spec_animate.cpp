@@ -19,11 +19,6 @@ int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
     return 1;
 }
 
-int DVrSpecAnimateArr::InitSpecAnimateM(int index, DuSpecAnimateCL* control) const
-{
-    return ifAliveM(index, [control](const DVrSpecAnimateCL& record) { record.InitSpecAnimateM(control); });
-}
-
 BOOL DuSpecAnimateCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP;

@@ -5,19 +5,6 @@ template class PANELKIT_API Arr<DVrSpecAnimateCL>;
 void DVrSpecAnimateCL::EachFieldM(FieldVisitorCL& visitor)
 {
     visitor.IntM("type", type_);
-    visitor.IntM("sunk_mode", sunkMode_);
-    frames_.EachNameM(visitor);
-}
-
-int DVrSpecAnimateCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
-}
-
-int DVrSpecAnimateArr::AddBmpNameM(int index, const char* file)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(file);
-    }
-    return 1;
+    visitor.FlagM("sunk_mode", sunkMode_);
+    slVisitTexts(visitor, "bitmaps", frames_, &slPictureRow);
 }

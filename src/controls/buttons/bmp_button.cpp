@@ -22,11 +22,6 @@ int DVrBmpButtonCL::InitBmpButtonM(DuBmpButtonCL* control) const
     return 1;
 }
 
-int DVrBmpButtonArr::InitBmpButtonM(int index, DuBmpButtonCL* control) const
-{
-    return ifAliveM(index, [control](const DVrBmpButtonCL& record) { record.InitBmpButtonM(control); });
-}
-
 int DuBmpButtonCL::SetBtnBmpM(
     const char* normal, const char* pressed, const char* released, const char* disabled)
 {

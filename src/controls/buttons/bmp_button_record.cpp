@@ -4,14 +4,9 @@ template class PANELKIT_API Arr<DVrBmpButtonCL>;
 
 void DVrBmpButtonCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.TextM("normal", normal_, NullWord::Empty);
-    visitor.TextM("pressed", pressed_, NullWord::Empty);
-    visitor.TextM("released", released_, NullWord::Empty);
-    visitor.TextM("disabled", disabled_, NullWord::Empty);
-    visitor.TextM("region", region_, NullWord::Empty);
-}
-
-int DVrBmpButtonCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.NameM("normal", normal_, NullWord::Empty);
+    visitor.NameM("pressed", pressed_, NullWord::Empty);
+    visitor.NameM("released", released_, NullWord::Empty);
+    visitor.NameM("disabled", disabled_, NullWord::Empty);
+    visitor.NameM("region", region_, NullWord::Empty);
 }

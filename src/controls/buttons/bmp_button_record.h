@@ -1,23 +1,14 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuBmpButtonCL;
 
-// One bitmap button of a description file. Holds no window.
-class PANELKIT_API DVrBmpButtonCL : public DVrCommonBoxCL
+// One bitmap button of a description file.
+class PANELKIT_API DVrBmpButtonCL : public RecordCL<DVrBmpButtonCL>
 {
 public:
-    DVrBmpButtonCL() = default;
-    explicit DVrBmpButtonCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    // Copies the record into a control without a window, which loads the pictures; always 1.
+    using RecordCL::RecordCL;
     int InitBmpButtonM(DuBmpButtonCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
@@ -37,6 +28,8 @@ public:
     static constexpr const char* KindName = "bitmap_button";
     static constexpr const char* Header = BmpButtonHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitBmpButtonM(int index, DuBmpButtonCL* control) const;
+    int InitBmpButtonM(int index, DuBmpButtonCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitBmpButtonM, control);
+    }
 };

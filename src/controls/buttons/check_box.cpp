@@ -15,11 +15,6 @@ int DVrCheckBoxCL::InitCheckBoxM(DuCheckBoxCL* control) const
     return 1;
 }
 
-int DVrCheckBoxArr::InitCheckBoxM(int index, DuCheckBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrCheckBoxCL& record) { record.InitCheckBoxM(control); });
-}
-
 BOOL DuCheckBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX;

@@ -4,11 +4,6 @@ template class PANELKIT_API Arr<DVrCheckBoxCL>;
 
 void DVrCheckBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("checked", check_);
-    visitor.TextM("caption", text_, NullWord::Kept);
-}
-
-int DVrCheckBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.FlagM("checked", check_);
+    visitor.CaptionM("caption", text_, NullWord::Kept);
 }

@@ -1,24 +1,15 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuCheckBoxCL;
 
-// One check box of a description file. Holds no window.
-class PANELKIT_API DVrCheckBoxCL : public DVrCommonBoxCL
+// One check box of a description file.
+class PANELKIT_API DVrCheckBoxCL : public RecordCL<DVrCheckBoxCL>
 {
 public:
-    DVrCheckBoxCL() = default;
-    explicit DVrCheckBoxCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    int InitCheckBoxM(
-        DuCheckBoxCL* control) const; // Copies the record into a control without a window; always 1.
+    using RecordCL::RecordCL;
+    int InitCheckBoxM(DuCheckBoxCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
@@ -34,6 +25,8 @@ public:
     static constexpr const char* KindName = "check_box";
     static constexpr const char* Header = CheckBoxHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitCheckBoxM(int index, DuCheckBoxCL* control) const;
+    int InitCheckBoxM(int index, DuCheckBoxCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitCheckBoxM, control);
+    }
 };

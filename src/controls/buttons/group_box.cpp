@@ -15,11 +15,6 @@ int DVrGroupBoxCL::InitGroupBoxM(DuGroupBoxCL* control) const
     return 1;
 }
 
-int DVrGroupBoxArr::InitGroupBoxM(int index, DuGroupBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrGroupBoxCL& record) { record.InitGroupBoxM(control); });
-}
-
 int DuGroupBoxCL::Create(CWnd* parent)
 {
     return createdM(CButton::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));

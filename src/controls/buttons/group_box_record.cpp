@@ -4,10 +4,5 @@ template class PANELKIT_API Arr<DVrGroupBoxCL>;
 
 void DVrGroupBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.TextM("text", text_, NullWord::Kept);
-}
-
-int DVrGroupBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.CaptionM("text", text_, NullWord::Kept);
 }

@@ -1,23 +1,15 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuGroupBoxCL;
 
-// One group box of a description file. Holds no window.
-class PANELKIT_API DVrGroupBoxCL : public DVrCommonBoxCL
+// One group box of a description file.
+class PANELKIT_API DVrGroupBoxCL : public RecordCL<DVrGroupBoxCL>
 {
 public:
-    DVrGroupBoxCL() = default;
-    explicit DVrGroupBoxCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io);               // Reads one record; always 1.
-    int InitGroupBoxM(DuGroupBoxCL* control) const; // Copies the record into a control; always 1.
+    using RecordCL::RecordCL;
+    int InitGroupBoxM(DuGroupBoxCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
@@ -32,6 +24,8 @@ public:
     static constexpr const char* KindName = "group_box";
     static constexpr const char* Header = GroupBoxHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitGroupBoxM(int index, DuGroupBoxCL* control) const;
+    int InitGroupBoxM(int index, DuGroupBoxCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitGroupBoxM, control);
+    }
 };

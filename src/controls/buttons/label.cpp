@@ -15,14 +15,9 @@ int DVrLabelCL::InitLabelM(DuLabelCL* control) const
     control->SetAlignModeM(alignMode_);
     control->SetInitTextM(text_.TextM());
     control->SetEdgeM(edge_);
-    control->SetBkColorM(bkColor_);
-    control->SetBkColorFlagM(bkColorFlag_);
+    control->SetBkColorM(bkColour_);
+    control->SetBkColorFlagM(bkColourFlag_);
     return 1;
-}
-
-int DVrLabelArr::InitLabelM(int index, DuLabelCL* control) const
-{
-    return ifAliveM(index, [control](const DVrLabelCL& record) { record.InitLabelM(control); });
 }
 
 int DuLabelCL::Create(CWnd* parent)

@@ -1,16 +1,12 @@
 #include "controls/buttons/label_record.h"
+#include "controls/base/alignments.h"
 
 template class PANELKIT_API Arr<DVrLabelCL>;
 
 void DVrLabelCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("alignment", alignMode_);
-    visitor.TextM("text", text_, NullWord::Empty);
-    visitor.IntM("edge", edge_);
-    visitor.ColourM("background", bkColor_, &bkColorFlag_);
-}
-
-int DVrLabelCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.ChoiceM("alignment", alignMode_, Alignments);
+    visitor.CaptionM("text", text_, NullWord::Empty);
+    visitor.FlagM("edge", edge_);
+    visitor.ColourM("background", bkColour_, &bkColourFlag_);
 }

@@ -30,12 +30,6 @@ int DVrMultiStateButtonCL::InitMultiStateButtonM(DuMultiStateButtonCL* control) 
     return 1;
 }
 
-int DVrMultiStateButtonArr::InitMultiStateButtonM(int index, DuMultiStateButtonCL* control) const
-{
-    return ifAliveM(
-        index, [control](const DVrMultiStateButtonCL& record) { record.InitMultiStateButtonM(control); });
-}
-
 int DuMultiStateButtonCL::SetInitBmpNumM(int n)
 {
     if (n >= 1) {

@@ -5,34 +5,17 @@ template class PANELKIT_API Arr<DVrMultiStateButtonCL>;
 void DVrMultiStateButtonCL::EachFieldM(FieldVisitorCL& visitor)
 {
     visitor.IntM("initial_status", initialStatus_);
-    visitor.TextM("region", region_, NullWord::Kept);
-    visitor.ListM("states", files_.GetBoundM(), [this](FieldVisitorCL& state, int row) {
-        CharArr file(files_.GetItemPM(row)->TextM());
-        state.IntM("status", statuses_[row]);
-        state.TextM("bitmap", file, NullWord::Kept);
+    visitor.NameM("region", region_, NullWord::Kept);
+    slVisitRows(visitor, "states", files_, files_.GetAvailableNumM(), &slStateRow, [this](int slot) {
+        return RowCL { &statuses_[slot], { &files_[slot].ValueM() } };
     });
-}
-
-int DVrMultiStateButtonCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
 }
 
 int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 {
-    VrStringCL name(AliveTag);
-    name.AddStringM(file);
-    const int index = files_.AddItemM(name);
+    const int index = slAppendText(files_, file);
     if (index >= 0) {
         statuses_.AddItemM(status);
     }
     return index;
-}
-
-int DVrMultiStateButtonArr::AddStringM(int index, int status, const char* file)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(status, file);
-    }
-    return 1;
 }

@@ -1,12 +1,11 @@
 #include "controls/buttons/new_rotate_btn_record.h"
-#include "baselib/gbk.h"
-#include "baselib/io.h"
 #include "baselib/path.h"
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <unordered_map>
 
 template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
 
@@ -19,40 +18,79 @@ int magnitude(int value)
     return value == INT_MIN ? INT_MAX : std::abs(value);
 }
 
+// One entry of the section of pictures.
+struct PictureEntryCL
+{
+    int number { 0 }; // Of no use.
+    int button { 0 };
+    int slot { 0 };
+    CharArr picture;
+
+    void EachFieldM(FieldVisitorCL& visitor)
+    {
+        visitor.IntM("number", number);
+        visitor.IndexM("button", button);
+        visitor.IndexM("slot", slot);
+        visitor.NameM("picture", picture, NullWord::Kept);
+    }
+};
+
+std::string picturePath(const char* folder, const char* name)
+{
+    char extension[PathSize];
+    slGetFileExtension(name, extension);
+    const std::string whole = std::strlen(extension) < 2 ? std::string(name) + ".bmp" : name;
+    char path[PathSize];
+    slCatFileNameWithPath(folder, whole.c_str(), path);
+    return path;
+}
+
 } // namespace
 
-void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor)
+void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor, int withShowCondition, int withDescription)
 {
-    visitor.IntPairM("steps", steps_);
-    visitor.IntM("initial_index", initialIndex_);
-    int showCondition = GetShowConditionM();
-    visitor.IntM("show_condition", showCondition);
-    SetShowConditionM(showCondition);
-    visitor.TextM("description", description_, NullWord::Kept);
-    const VrStringArr pictures = PicturesM();
-    visitor.ListM("pictures", slotCount_, [&pictures](FieldVisitorCL& one, int row) {
-        CharArr name(pictures.GetItemPM(row)->TextM());
-        one.TextM("", name, NullWord::Kept);
+    visitor.IntsM("steps", steps_, 2);
+    visitor.IndexM("initial_index", initialIndex_);
+    if (withShowCondition != 0) {
+        showConditionFieldM(visitor);
+    }
+    if (withDescription != 0) {
+        visitor.CaptionM("description", description_, { NullWord::UpperEmpty, DescriptionSize });
+    }
+    visitPicturesM(visitor);
+}
+
+// A row for each slot. The last picture named for a slot counts; one that a visitor gives an empty slot
+// stays.
+void DVrNewRotateBtnCL::visitPicturesM(FieldVisitorCL& visitor)
+{
+    std::unordered_map<int, std::size_t> pictureOf;
+    for (std::size_t i = 0; i < pictures_.size(); ++i) {
+        pictureOf[pictures_[i].slot] = i;
+    }
+    visitor.ListM("pictures", slotCount_, [this, &pictureOf](FieldVisitorCL& one, int slot) {
+        const auto found = pictureOf.find(slot);
+        CharArr none;
+        CharArr& file = found != pictureOf.end() ? pictures_[found->second].file : none;
+        one.NameM("picture", file, NullWord::Kept);
+        if (!none.EmptyM()) {
+            SetPictureM(slot, none.TextM());
+        }
     });
 }
 
 int DVrNewRotateBtnCL::FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription)
 {
-    *this = DVrNewRotateBtnCL(AliveTag);
-    DVrCommonBoxCL::FmReadInterfaceM(io, 1);
-    io->InputInt2DM(steps_);
-    io->InputDM(&initialIndex_);
-    if (withShowCondition != 0) {
-        int showCondition = GetShowConditionM();
-        io->InputDM(&showCondition);
-        SetShowConditionM(showCondition);
-    }
-    if (withDescription != 0) {
-        char text[DescriptionSize];
-        io->InputGetsM(text, DescriptionSize);
-        description_.SetM(std::strcmp(text, "NULL") == 0 ? "" : text);
-    }
+    FieldReaderCL reader(io);
+    ReadM(reader, withShowCondition, withDescription);
     return 1;
+}
+
+void DVrNewRotateBtnCL::ReadM(FieldReaderCL& reader, int withShowCondition, int withDescription)
+{
+    *this = DVrNewRotateBtnCL(AliveTag);
+    EachCommonFieldM(reader, 1);
+    EachFieldM(reader, withShowCondition, withDescription);
 }
 
 int DVrNewRotateBtnCL::SetPictureM(int slot, const char* file)
@@ -80,63 +118,71 @@ VrStringArr DVrNewRotateBtnCL::PicturesM() const
 
 int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
 {
-    if (io->SearchStrM(NewRotateBtnHeader) == 0) {
-        return 0;
-    }
+    SectionReaderCL section(*io, NewRotateBtnHeader);
     int count = 0;
     int lines = 0;
-    io->InputDM(&count, &lines);
-    if (static_cast<std::size_t>(magnitude(count)) > io->BytesLeftM()) {
+    section.InputCountM(&count);
+    section.InputCommentsM(&lines);
+    section.SetCountM(magnitude(count));
+    if (section.StatusM() != SectionStatus::Read) {
         return 0;
     }
-    io->SkipSomeLinesM(magnitude(lines));
+    section.SkipCommentsM(magnitude(lines));
     DVrNewRotateBtnCL record(AliveTag);
-    for (int i = 0; i < magnitude(count); ++i) {
-        record.FmReadInterfaceM(io, lines < 0 ? 1 : 0, count < 0 ? 1 : 0);
+    for (int i = 0; i < section.CountM(); ++i) {
+        record.ReadM(section.RecordM(i), lines < 0 ? 1 : 0, count < 0 ? 1 : 0);
         AddItemM(record);
     }
-    return readPicturesM(io);
+    section.EndM();
+    const int result = readPicturesM(io);
+    if (result == 0) {
+        section.SetStatusM(SectionStatus::Incomplete);
+    }
+    return result;
 }
 
 int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
 {
-    const int found = io->SearchStrM(NewRotateBtnBitmapHeader);
+    SectionReaderCL section(*io, NewRotateBtnBitmapHeader);
     int count = 0;
     int lines = 0;
-    if (found != 0) {
-        io->InputDM(&count, &lines);
-    }
-    if (found == 0 || (count > 0 && static_cast<std::size_t>(count) > io->BytesLeftM())) {
+    section.InputCountM(&count);
+    section.InputCommentsM(&lines);
+    section.SetCountM(count);
+    if (section.StatusM() != SectionStatus::Read) {
         return 0;
     }
-    // Slots beyond the file's size are not meant, nor so many empty ones that they outweigh the file by far.
-    const std::size_t mostSlot = io->SizeM();
-    constexpr std::size_t SlotsPerByte = 16;
-    std::size_t slots = 0;
-    io->SkipSomeLinesM(lines);
+    section.SkipCommentsM(lines);
     char folder[PathSize];
     io->GetFilePathM(folder);
+    std::size_t slots = 0;
     for (int i = 0; i < count; ++i) {
-        int numbers[3] = {}; // A number of no use, the button, the slot.
-        io->InputDM(&numbers[0], &numbers[1], &numbers[2]);
-        char name[PathSize];
-        io->InputGetsM(name, PathSize);
-        if (CheckAvailableM(numbers[1]) == 0 || numbers[2] < 0
-            || static_cast<std::size_t>(numbers[2]) > mostSlot) {
-            continue;
+        PictureEntryCL entry;
+        entry.EachFieldM(section.RecordM(i));
+        if (CheckAvailableM(entry.button) == 0) {
+            section.DropM(EntryFault::UnknownId);
+        } else if (!takesSlotM(entry.button, entry.slot, io->SizeM(), &slots)) {
+            section.DropM(EntryFault::BadSlot);
+        } else {
+            ElementAtM(entry.button)
+                .SetPictureM(entry.slot, picturePath(folder, entry.picture.TextM()).c_str());
         }
-        DVrNewRotateBtnCL& button = ElementAtM(numbers[1]);
-        const std::size_t more = static_cast<std::size_t>(std::max(0, numbers[2] + 1 - button.SlotCountM()));
-        if (slots + more > SlotsPerByte * mostSlot) {
-            continue;
-        }
-        slots += more;
-        char extension[PathSize];
-        slGetFileExtension(name, extension);
-        const std::string whole = std::strlen(extension) < 2 ? std::string(name) + ".bmp" : name;
-        char path[PathSize];
-        slCatFileNameWithPath(folder, whole.c_str(), path);
-        button.SetPictureM(numbers[2], path);
     }
-    return found;
+    return 1;
+}
+
+// Whether a slot can be meant: slots beyond the file's size are not, nor so many empty ones that they
+// outweigh the file by far. *slots: how many there are by now, in all buttons.
+bool DVrNewRotateBtnArr::takesSlotM(int button, int slot, std::size_t fileSize, std::size_t* slots)
+{
+    constexpr std::size_t SlotsPerByte = 16;
+    if (slot < 0 || static_cast<std::size_t>(slot) > fileSize) {
+        return false;
+    }
+    const auto more = static_cast<std::size_t>(std::max(0, slot + 1 - ElementAtM(button).SlotCountM()));
+    if (*slots + more > SlotsPerByte * fileSize) {
+        return false;
+    }
+    *slots += more;
+    return true;
 }

@@ -1,25 +1,21 @@
 #pragma once
 #include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 #include "records/string_arr.h"
 #include <vector>
 
 class DuNewRotateBtnCL;
 
-// One new rotate button of a description file. Holds no window.
+// One new rotate button of a description file.
 class PANELKIT_API DVrNewRotateBtnCL : public DVrCommonBoxCL
 {
 public:
-    DVrNewRotateBtnCL() = default;
-    explicit DVrNewRotateBtnCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
+    using DVrCommonBoxCL::DVrCommonBoxCL;
 
-    // Reads one record, the columns that may be absent where withX is nonzero. The record is alive then. 1.
+    // Reads one record. It is alive then. 1.
     int FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription);
+    void ReadM(FieldReaderCL& reader, int withShowCondition, int withDescription); // The same.
     // Names the picture of a slot, anew if it has one. 0 for a negative slot.
     int SetPictureM(int slot, const char* file);
     int SlotCountM() const { return slotCount_; } // Up to the last named one.
@@ -27,7 +23,8 @@ public:
 
     // Copies the record into a control, which loads the pictures; always 1.
     int InitNewRotateBtnM(DuNewRotateBtnCL* control) const;
-    void EachFieldM(FieldVisitorCL& visitor);
+    // The columns that may be absent from a file only where withX is nonzero.
+    void EachFieldM(FieldVisitorCL& visitor, int withShowCondition = 1, int withDescription = 1);
 
 private:
     struct PictureCL
@@ -35,6 +32,7 @@ private:
         int slot;
         CharArr file;
     };
+    void visitPicturesM(FieldVisitorCL& visitor);
 
     int steps_[2] {}; // Left, right.
     int initialIndex_ { 0 };
@@ -56,4 +54,5 @@ public:
 
 private:
     int readPicturesM(VrIOCL* io);
+    bool takesSlotM(int button, int slot, std::size_t fileSize, std::size_t* slots);
 };

@@ -17,11 +17,6 @@ int DVrRadioBoxCL::InitRadioBoxM(DuRadioBoxCL* control) const
     return 1;
 }
 
-int DVrRadioBoxArr::InitRadioBoxM(int index, DuRadioBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrRadioBoxCL& record) { record.InitRadioBoxM(control); });
-}
-
 BOOL DuRadioBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     // No tab stop: the platform gives it to the checked button of a group.

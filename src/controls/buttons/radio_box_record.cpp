@@ -5,11 +5,6 @@ template class PANELKIT_API Arr<DVrRadioBoxCL>;
 void DVrRadioBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
     visitor.IntM("group", group_);
-    visitor.IntM("checked", check_);
-    visitor.TextM("caption", text_, NullWord::Kept);
-}
-
-int DVrRadioBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.FlagM("checked", check_);
+    visitor.CaptionM("caption", text_, NullWord::Kept);
 }

@@ -1,24 +1,15 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuRadioBoxCL;
 
-// One radio button of a description file. Holds no window.
-class PANELKIT_API DVrRadioBoxCL : public DVrCommonBoxCL
+// One radio button of a description file.
+class PANELKIT_API DVrRadioBoxCL : public RecordCL<DVrRadioBoxCL>
 {
 public:
-    DVrRadioBoxCL() = default;
-    explicit DVrRadioBoxCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    int InitRadioBoxM(
-        DuRadioBoxCL* control) const; // Copies the record into a control without a window; always 1.
+    using RecordCL::RecordCL;
+    int InitRadioBoxM(DuRadioBoxCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
@@ -35,6 +26,8 @@ public:
     static constexpr const char* KindName = "radio_button";
     static constexpr const char* Header = RadioBoxHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitRadioBoxM(int index, DuRadioBoxCL* control) const;
+    int InitRadioBoxM(int index, DuRadioBoxCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitRadioBoxM, control);
+    }
 };

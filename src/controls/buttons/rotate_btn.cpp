@@ -30,11 +30,6 @@ int DVrRotateBtnCL::InitRotateBtnM(DuRotateBtnCL* control) const
     return 1;
 }
 
-int DVrRotateBtnArr::InitRotateBtnM(int index, DuRotateBtnCL* control) const
-{
-    return ifAliveM(index, [control](const DVrRotateBtnCL& record) { record.InitRotateBtnM(control); });
-}
-
 int DuRotateBtnCL::Create(CWnd* parent)
 {
     return createdM(CStatic::Create(" ", 0, describedRectM(), parent, GetFunctionIDM()));

@@ -4,21 +4,16 @@ template class PANELKIT_API Arr<DVrRotateBtnCL>;
 
 void DVrRotateBtnCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntPairM("picture_position", picturePosition_);
-    visitor.IntPairM("centre", centre_);
-    visitor.IntPairM("step_signs", stepSigns_);
-    visitor.IntPairM("counter_increments", counterIncrements_);
-    visitor.RealM("step_angle", stepAngle_);
-    visitor.IntM("enabled", enabled_);
-    visitor.RealPairM("angle_range", angleRange_);
-    visitor.RealM("initial_angle", initialAngle_);
+    visitor.LengthPairM("picture_position", picturePosition_);
+    visitor.LengthPairM("centre", centre_);
+    visitor.IntsM("step_signs", stepSigns_, 2);
+    visitor.IntsM("counter_increments", counterIncrements_, 2);
+    visitor.DegreesM("step_angle", stepAngle_);
+    visitor.FlagM("enabled", enabled_);
+    visitor.DegreesPairM("angle_range", angleRange_);
+    visitor.DegreesM("initial_angle", initialAngle_);
     visitor.IntM("initial_counter", initialCounter_);
-    visitor.TextM("background", background_, NullWord::Empty);
-    visitor.TextM("rotating", rotating_, NullWord::Empty);
-    visitor.TextM("region", region_, NullWord::Empty);
-}
-
-int DVrRotateBtnCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.NameM("background", background_, NullWord::Empty);
+    visitor.NameM("rotating", rotating_, NullWord::Empty);
+    visitor.NameM("region", region_, NullWord::Empty);
 }

@@ -1,23 +1,14 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuRotateBtnCL;
 
-// One rotate button of a description file. Angles are degrees. Holds no window.
-class PANELKIT_API DVrRotateBtnCL : public DVrCommonBoxCL
+// One rotate button of a description file. Angles are degrees.
+class PANELKIT_API DVrRotateBtnCL : public RecordCL<DVrRotateBtnCL>
 {
 public:
-    DVrRotateBtnCL() = default;
-    explicit DVrRotateBtnCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    // Copies the record into a control without a window, which loads the pictures; always 1.
+    using RecordCL::RecordCL;
     int InitRotateBtnM(DuRotateBtnCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
@@ -44,6 +35,8 @@ public:
     static constexpr const char* KindName = "rotate_button";
     static constexpr const char* Header = RotateBtnHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitRotateBtnM(int index, DuRotateBtnCL* control) const;
+    int InitRotateBtnM(int index, DuRotateBtnCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitRotateBtnM, control);
+    }
 };

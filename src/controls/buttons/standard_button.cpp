@@ -17,12 +17,6 @@ int DVrStandardButtonCL::InitStandardButtonM(DuStandardButtonCL* control) const
     return 1;
 }
 
-int DVrStandardButtonArr::InitStandardButtonM(int index, DuStandardButtonCL* control) const
-{
-    return ifAliveM(
-        index, [control](const DVrStandardButtonCL& record) { record.InitStandardButtonM(control); });
-}
-
 int DuStandardButtonCL::Create(CWnd* parent)
 {
     const int result = createdM(CButton::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));

@@ -1,24 +1,15 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuStandardButtonCL;
 
-// One push button of a description file. Holds no window.
-class PANELKIT_API DVrStandardButtonCL : public DVrCommonBoxCL
+// One push button of a description file.
+class PANELKIT_API DVrStandardButtonCL : public RecordCL<DVrStandardButtonCL>
 {
 public:
-    DVrStandardButtonCL() = default;
-    explicit DVrStandardButtonCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    int InitStandardButtonM(
-        DuStandardButtonCL* control) const; // Copies the record into a control without a window; always 1.
+    using RecordCL::RecordCL;
+    int InitStandardButtonM(DuStandardButtonCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
@@ -34,6 +25,8 @@ public:
     static constexpr const char* KindName = "standard_button";
     static constexpr const char* Header = StandardButtonHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitStandardButtonM(int index, DuStandardButtonCL* control) const;
+    int InitStandardButtonM(int index, DuStandardButtonCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitStandardButtonM, control);
+    }
 };

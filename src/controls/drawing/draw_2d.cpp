@@ -11,13 +11,8 @@ END_MESSAGE_MAP()
 int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
 {
     InitCommonCtrlM(control);
-    control->SetBkColorM(bkColor_);
+    control->SetBkColorM(bkColour_);
     return 1;
-}
-
-int DVrDraw2DArr::InitDraw2DM(int index, DuDraw2DCL* control) const
-{
-    return ifAliveM(index, [control](const DVrDraw2DCL& record) { record.InitDraw2DM(control); });
 }
 
 int DuDraw2DCL::SetBkColorM(COLORREF colour)

@@ -4,10 +4,5 @@ template class PANELKIT_API Arr<DVrDraw2DCL>;
 
 void DVrDraw2DCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.ColourM("background", bkColor_);
-}
-
-int DVrDraw2DCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.ColourM("background", bkColour_);
 }

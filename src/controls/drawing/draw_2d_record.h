@@ -1,27 +1,19 @@
 #pragma once
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuDraw2DCL;
 
-// One drawing canvas of a description file. Holds no window.
-class PANELKIT_API DVrDraw2DCL : public DVrCommonBoxCL
+// One drawing canvas of a description file.
+class PANELKIT_API DVrDraw2DCL : public RecordCL<DVrDraw2DCL>
 {
 public:
-    DVrDraw2DCL() = default;
-    explicit DVrDraw2DCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
-    int InitDraw2DM(
-        DuDraw2DCL* control) const; // Copies the record into a control without a window; always 1.
+    using RecordCL::RecordCL;
+    int InitDraw2DM(DuDraw2DCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
-    ColourTP bkColor_ { 0 };
+    ColourTP bkColour_ { 0 };
 };
 
 extern template class PANELKIT_API Arr<DVrDraw2DCL>;
@@ -32,6 +24,8 @@ public:
     static constexpr const char* KindName = "drawing";
     static constexpr const char* Header = Draw2DHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitDraw2DM(int index, DuDraw2DCL* control) const;
+    int InitDraw2DM(int index, DuDraw2DCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitDraw2DM, control);
+    }
 };

@@ -32,16 +32,6 @@ int DVrBmpListBoxCL::InitBmpListBoxBmpM(DuBmpListBoxCL* control) const
     return 1;
 }
 
-int DVrBmpListBoxArr::InitBmpListBoxM(int index, DuBmpListBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrBmpListBoxCL& record) { record.InitBmpListBoxM(control); });
-}
-
-int DVrBmpListBoxArr::InitBmpListBoxBmpM(int index, DuBmpListBoxCL* control)
-{
-    return ifAliveM(index, [control](const DVrBmpListBoxCL& record) { record.InitBmpListBoxBmpM(control); });
-}
-
 int LinePicturesCL::SlotOfLineM(int line) const
 {
     if (line < 0 || line >= GetAvailableNumM()) {

@@ -1,30 +1,24 @@
 #include "controls/lists/bitmap_list_box_record.h"
+#include "controls/lists/selection_modes.h"
 
 template class PANELKIT_API Arr<DVrBmpListBoxCL>;
 
+namespace {
+
+constexpr ChoiceCL ScrollModes[] = { { 1, "horizontal" }, { 2, "vertical" }, { 4, "both" } };
+
+} // namespace
+
 void DVrBmpListBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("rows", rows_);
-    visitor.IntM("columns", columns_);
-    visitor.IntM("scroll_mode", scrollMode_);
-    visitor.IntM("selection_mode", selMode_);
-    slVisitTexts(visitor, "bitmaps", bitmaps_);
-}
-
-int DVrBmpListBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.CountM("rows", rows_);
+    visitor.CountM("columns", columns_);
+    visitor.ChoiceM("scroll_mode", scrollMode_, ScrollModes);
+    visitor.ChoiceM("selection_mode", selMode_, SelectionModes);
+    slVisitTexts(visitor, "bitmaps", bitmaps_, &slPictureRow);
 }
 
 int DVrBmpListBoxCL::AddBmpNameM(const char* name)
 {
     return slAddText(bitmaps_, name);
-}
-
-int DVrBmpListBoxArr::AddBmpNameM(int index, const char* name)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(name);
-    }
-    return 1;
 }

@@ -25,16 +25,6 @@ int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
     return 1;
 }
 
-int DVrComboBoxArr::InitComboBoxM(int index, DuComboBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrComboBoxCL& record) { record.InitComboBoxM(control); });
-}
-
-int DVrComboBoxArr::InitComboBoxStrM(int index, DuComboBoxCL* control)
-{
-    return ifAliveM(index, [control](const DVrComboBoxCL& record) { record.InitComboBoxStrM(control); });
-}
-
 int DuComboBoxArr::Create(CWnd* parent)
 {
     const int first = GetFirstIdxM();

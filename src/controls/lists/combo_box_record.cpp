@@ -4,24 +4,11 @@ template class PANELKIT_API Arr<DVrComboBoxCL>;
 
 void DVrComboBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("edit_available", editAvailable_);
-    slVisitTexts(visitor, "items", items_);
-}
-
-int DVrComboBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.FlagM("edit_available", editAvailable_);
+    slVisitTexts(visitor, "items", items_, &slTextRow<DVrComboBoxArr::ItemSize>);
 }
 
 int DVrComboBoxCL::AddStringM(const char* text)
 {
     return slAddText(items_, text);
-}
-
-int DVrComboBoxArr::AddStringM(int index, const char* text)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(text);
-    }
-    return 1;
 }

@@ -41,16 +41,6 @@ int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
     return 1;
 }
 
-int DVrListCtrlArr::InitListCtrlM(int index, DuListCtrlCL* control) const
-{
-    return ifAliveM(index, [control](const DVrListCtrlCL& record) { record.InitListCtrlM(control); });
-}
-
-int DVrListCtrlArr::InitListCtrlStrM(int index, DuListCtrlCL* control)
-{
-    return ifAliveM(index, [control](const DVrListCtrlCL& record) { record.InitListCtrlStrM(control); });
-}
-
 int DuListCtrlCL::Create(CWnd* parent)
 {
     return createdM(CListCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));

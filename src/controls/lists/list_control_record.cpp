@@ -3,27 +3,6 @@
 
 template class PANELKIT_API Arr<DVrListCtrlCL>;
 
-namespace {
-
-// Shows rows of two numbers and a text.
-void visitPaired(FieldVisitorCL& visitor, const char* name, const PairedTextsCL& list, const char* first,
-    const char* second)
-{
-    int pair = -1;
-    int text = -1;
-    visitor.ListM(name, list.CountM(), [&](FieldVisitorCL& row, int number) {
-        pair = number == 0 ? list.pairs.GetFirstIdxM() : list.pairs.GetNextIdxM(pair);
-        text = number == 0 ? list.texts.GetFirstIdxM() : list.texts.GetNextIdxM(text);
-        int numbers[2] = {};
-        list.pairs.GetItemM(numbers, pair);
-        row.IntM(first, numbers[0]);
-        row.IntM(second, numbers[1]);
-        slVisitText(row, "text", list.texts, text);
-    });
-}
-
-} // namespace
-
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
     const int result = slAddText(texts, text);
@@ -44,17 +23,21 @@ int PairedTextsCL::CountM() const
     return std::min(pairs.GetAvailableNumM(), texts.GetAvailableNumM());
 }
 
-void DVrListCtrlCL::EachFieldM(FieldVisitorCL& visitor)
+void PairedTextsCL::VisitM(FieldVisitorCL& visitor, const char* name, RowFieldsTP fields)
 {
-    visitor.IntM("column_count", columnCount_);
-    visitor.IntM("single_selection", singleSelection_);
-    visitPaired(visitor, "titles", titles_, "column", "width");
-    visitPaired(visitor, "cells", cells_, "row", "column");
+    int text = -1;
+    slVisitRows(visitor, name, pairs, CountM(), fields, [this, &text](int pair) {
+        text = texts.GetNextIdxM(pair == pairs.GetFirstIdxM() ? -1 : text);
+        return RowCL { pairs[pair], { &texts[text].ValueM() } };
+    });
 }
 
-int DVrListCtrlCL::FmReadInterfaceM(VrIOCL* io)
+void DVrListCtrlCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    return slReadRecord(*this, io);
+    visitor.CountM("column_count", columnCount_);
+    visitor.FlagM("single_selection", singleSelection_);
+    titles_.VisitM(visitor, "titles", &slTitleRow);
+    cells_.VisitM(visitor, "cells", &slCellRow);
 }
 
 int DVrListCtrlCL::AddTitleStringM(const int pair[2], const char* text)
@@ -71,20 +54,4 @@ void DVrListCtrlCL::destroyM()
 {
     titles_.DelAllM();
     cells_.DelAllM();
-}
-
-int DVrListCtrlArr::AddTitleStringM(int index, const int pair[2], const char* text)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddTitleStringM(pair, text);
-    }
-    return 1;
-}
-
-int DVrListCtrlArr::AddItemStringM(int index, const int pair[2], const char* text)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddItemStringM(pair, text);
-    }
-    return 1;
 }

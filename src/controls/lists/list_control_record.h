@@ -2,10 +2,24 @@
 #include "baselib/gbk_texts.h"
 #include "baselib/int2d_arr.h"
 #include "controls/lists/record_lists.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuListCtrlCL;
+
+// A heading.
+inline void slTitleRow(FieldVisitorCL& visitor, const RowCL& row)
+{
+    visitor.IndexM("column", row.numbers[0]);
+    visitor.LengthM("width", row.numbers[1], Along::X);
+    visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
+}
+
+inline void slCellRow(FieldVisitorCL& visitor, const RowCL& row)
+{
+    visitor.IndexM("row", row.numbers[0]);
+    visitor.IndexM("column", row.numbers[1]);
+    visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
+}
 
 // Texts with two numbers each: entry k of both lists belongs together.
 struct PANELKIT_API PairedTextsCL
@@ -13,28 +27,23 @@ struct PANELKIT_API PairedTextsCL
     int AddM(const int pair[2], const char* text); // 0, and nothing is appended, for null; else 1.
     void DelAllM();
     int CountM() const; // Of the shorter list's alive entries.
+    void VisitM(FieldVisitorCL& visitor, const char* name, RowFieldsTP fields); // Shows those as rows.
 
     OwnListCL<Int2DArr> pairs;
     TextListCL texts;
 };
 
-// One table of a description file with its headings and initial cells. Holds no window.
-class PANELKIT_API DVrListCtrlCL : public DVrCommonBoxCL
+// One table of a description file with its headings and initial cells.
+class PANELKIT_API DVrListCtrlCL : public RecordCL<DVrListCtrlCL>
 {
 public:
-    DVrListCtrlCL() = default;
-    explicit DVrListCtrlCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
+    using RecordCL::RecordCL;
     // pair: column index and width in pixels. 0, and nothing is appended, for a null text; else 1.
     int AddTitleStringM(const int pair[2], const char* text);
     int AddItemStringM(const int pair[2], const char* text); // pair: row and column.
     void destroyM();                                         // Empties headings and cells.
-    int InitListCtrlM(DuListCtrlCL* control) const;          // Copies the record into a control; always 1.
-    int InitListCtrlStrM(DuListCtrlCL* control) const;       // Fills a live control; always 1.
+    int InitListCtrlM(DuListCtrlCL* control) const;
+    int InitListCtrlStrM(DuListCtrlCL* control) const; // Fills a live control; always 1.
     void EachFieldM(FieldVisitorCL& visitor);
 
     PairedTextsCL& TitlesM() { return titles_; }
@@ -54,20 +63,31 @@ class PANELKIT_API DVrListCtrlArr : public RecordArr<DVrListCtrlCL>
 public:
     static constexpr const char* KindName = "list_control";
     static constexpr const char* Header = ListCtrlHeader;
-    static constexpr std::array<SecondarySectionCL<DVrListCtrlCL>, 2> Secondaries { {
-        { ListCtrlTitleHeader, 2, 1, TextSize,
-            [](DVrListCtrlCL& record, const SectionEntryCL& entry) {
-                return record.AddTitleStringM(entry.numbers, entry.texts[0]);
+    static constexpr std::array<SecondarySectionCL<RecordTP>, 2> Secondaries { {
+        { ListCtrlTitleHeader, &slTitleRow,
+            [](RecordTP& record, const RowCL& row) {
+                record.AddTitleStringM(row.numbers, row.texts[0]->TextM());
             } },
-        { ListCtrlItemHeader, 2, 1, TextSize,
-            [](DVrListCtrlCL& record, const SectionEntryCL& entry) {
-                return record.AddItemStringM(entry.numbers, entry.texts[0]);
+        { ListCtrlItemHeader, &slCellRow,
+            [](RecordTP& record, const RowCL& row) {
+                record.AddItemStringM(row.numbers, row.texts[0]->TextM());
             } },
     } };
 
-    // For the record at index, if it is alive. Always 1.
-    int InitListCtrlM(int index, DuListCtrlCL* control) const;
-    int InitListCtrlStrM(int index, DuListCtrlCL* control);
-    int AddTitleStringM(int index, const int pair[2], const char* text);
-    int AddItemStringM(int index, const int pair[2], const char* text);
+    int InitListCtrlM(int index, DuListCtrlCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitListCtrlM, control);
+    }
+    int InitListCtrlStrM(int index, DuListCtrlCL* control)
+    {
+        return ifAliveM(index, &RecordTP::InitListCtrlStrM, control);
+    }
+    int AddTitleStringM(int index, const int pair[2], const char* text)
+    {
+        return ifAliveM(index, &RecordTP::AddTitleStringM, pair, text);
+    }
+    int AddItemStringM(int index, const int pair[2], const char* text)
+    {
+        return ifAliveM(index, &RecordTP::AddItemStringM, pair, text);
+    }
 };

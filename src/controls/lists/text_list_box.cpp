@@ -15,7 +15,7 @@ int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
     control->SetItemInitHeightM(itemHeight_);
     control->SetSelModeM(selMode_);
     control->SetEdgeM(edge_);
-    control->SetBkColorM(bkColor_);
+    control->SetBkColorM(bkColour_);
     control->SetScrollM(scroll_);
     return 1;
 }
@@ -25,17 +25,6 @@ int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
     const FillingCL filling(control);
     slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
     return 1;
-}
-
-int DVrTextListBoxArr::InitTextListBoxM(int index, DuTextListBoxCL* control) const
-{
-    return ifAliveM(index, [control](const DVrTextListBoxCL& record) { record.InitTextListBoxM(control); });
-}
-
-int DVrTextListBoxArr::InitTextListBoxStrM(int index, DuTextListBoxCL* control)
-{
-    return ifAliveM(
-        index, [control](const DVrTextListBoxCL& record) { record.InitTextListBoxStrM(control); });
 }
 
 BOOL DuTextListBoxCL::PreCreateWindow(CREATESTRUCT& create)

@@ -1,20 +1,16 @@
 #include "controls/lists/text_list_box_record.h"
+#include "controls/lists/selection_modes.h"
 
 template class PANELKIT_API Arr<DVrTextListBoxCL>;
 
 void DVrTextListBoxCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("item_height", itemHeight_);
-    visitor.IntM("selection_mode", selMode_);
-    visitor.IntM("edge", edge_);
-    visitor.ColourM("background", bkColor_);
-    visitor.IntM("scroll", scroll_);
-    slVisitTexts(visitor, "items", items_);
-}
-
-int DVrTextListBoxCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
+    visitor.LengthM("item_height", itemHeight_, Along::Y);
+    visitor.ChoiceM("selection_mode", selMode_, SelectionModes);
+    visitor.FlagM("edge", edge_);
+    visitor.ColourM("background", bkColour_);
+    visitor.FlagM("scroll", scroll_);
+    slVisitTexts(visitor, "items", items_, &slTextRow<>);
 }
 
 int DVrTextListBoxCL::AddStringM(const char* text)
@@ -29,5 +25,8 @@ void DVrTextListBoxCL::destroyM()
 
 int DVrTextListBoxArr::AddStringM(int index, const char* text)
 {
-    return slChangeRecord(*this, index, [text](DVrTextListBoxCL& record) { record.AddStringM(text); });
+    if (DVrTextListBoxCL* const record = ElementAtPM(index)) {
+        record->AddStringM(text);
+    }
+    return 1;
 }

@@ -35,11 +35,6 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
     return 1;
 }
 
-int DVrTreeArr::InitTreeM(int index, DuTreeCL* control) const
-{
-    return ifAliveM(index, [control](const DVrTreeCL& record) { record.InitTreeM(control); });
-}
-
 int DVrTreeArr::InitTreeStrM(int index, DuTreeCL* control)
 {
     if (CheckAvailableM(index) == 1) {

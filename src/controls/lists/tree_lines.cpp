@@ -37,18 +37,12 @@ TreeLinesCL::LineCL TreeLinesCL::LineM(int index) const
         slTextAt(selectedPictures_, index) };
 }
 
-void TreeLinesCL::VisitM(FieldVisitorCL& visitor, const char* name) const
+void TreeLinesCL::VisitM(FieldVisitorCL& visitor, const char* name)
 {
-    int slot = -1;
-    visitor.ListM(name, GetAvailableNumM(), [&](FieldVisitorCL& row, int number) {
-        slot = number == 0 ? GetFirstIdxM() : GetNextIdxM(slot);
-        LineCL line = LineM(slot);
-        row.IntM("parent", line.parentKey);
-        row.IntM("key", line.ownKey);
-        row.IntM("data", line.data);
-        slVisitText(row, "text", texts_, slot);
-        slVisitText(row, "normal", normalPictures_, slot);
-        slVisitText(row, "selected", selectedPictures_, slot);
+    slVisitRows(visitor, name, keys_, GetAvailableNumM(), &slTreeRow, [this](int slot) {
+        return RowCL { keys_[slot],
+            { &texts_.ElementAtM(slot).ValueM(), &normalPictures_.ElementAtM(slot).ValueM(),
+                &selectedPictures_.ElementAtM(slot).ValueM() } };
     });
 }
 

@@ -3,6 +3,17 @@
 #include "controls/lists/record_lists.h"
 #include <functional>
 
+// A line: the keys are the application's own numbers.
+inline void slTreeRow(FieldVisitorCL& visitor, const RowCL& row)
+{
+    visitor.IntM("parent", row.numbers[0]);
+    visitor.IntM("key", row.numbers[1]);
+    visitor.IntM("data", row.numbers[2]);
+    visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
+    visitor.NameM("normal", *row.texts[1], NullWord::Kept);
+    visitor.NameM("selected", *row.texts[2], NullWord::Kept);
+}
+
 // The lines of a tree: parallel lists, entry k of each belongs to line k.
 class PANELKIT_API TreeLinesCL
 {
@@ -23,8 +34,8 @@ public:
     int GetAvailableNumM() const { return keys_.GetAvailableNumM(); }
     int GetFirstIdxM() const { return keys_.GetFirstIdxM(); }
     int GetNextIdxM(int from) const { return keys_.GetNextIdxM(from); }
-    void VisitM(FieldVisitorCL& visitor, const char* name) const; // Shows the alive lines as rows.
-    LineCL LineM(int index) const; // Its texts are valid until the lists change.
+    void VisitM(FieldVisitorCL& visitor, const char* name); // Shows the alive lines as rows.
+    LineCL LineM(int index) const;                          // Its texts are valid until the lists change.
 
     // Places the lines with that parent key below the parent, in order, each one's children (the lines that
     // name its own key as their parent) before the next line. place(parent, line) returns what it made of the

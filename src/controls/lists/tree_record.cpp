@@ -7,23 +7,9 @@ void DVrTreeCL::EachFieldM(FieldVisitorCL& visitor)
     lines_.VisitM(visitor, "items");
 }
 
-int DVrTreeCL::FmReadInterfaceM(VrIOCL* io)
-{
-    return slReadRecord(*this, io);
-}
-
 int DVrTreeCL::AddStringM(
     const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
     lines_.AddM(triple, text, selectedPicture, normalPicture);
-    return 1;
-}
-
-int DVrTreeArr::AddStringM(
-    int index, const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(triple, text, selectedPicture, normalPicture);
-    }
     return 1;
 }

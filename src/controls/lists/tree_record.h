@@ -1,23 +1,16 @@
 #pragma once
 #include "baselib/gbk_texts.h"
 #include "controls/lists/tree_lines.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuTreeCL;
 struct _TREEITEM; // The window system's handle of a tree item.
 
-// One tree of a description file with its flat lines. Holds no window.
-class PANELKIT_API DVrTreeCL : public DVrCommonBoxCL
+// One tree of a description file with its flat lines.
+class PANELKIT_API DVrTreeCL : public RecordCL<DVrTreeCL>
 {
 public:
-    DVrTreeCL() = default;
-    explicit DVrTreeCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io); // Reads one record; always 1.
+    using RecordCL::RecordCL;
     // Appends a line. triple: parent key (0: none), own key, item data; pictures are .bmp files. Always 1.
     int AddStringM(
         const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
@@ -28,8 +21,6 @@ public:
     // line is used up by that, also when its pictures fail: then its children stay out. Always 1.
     int genTreeM(int parentKey, _TREEITEM* parentItem, DuTreeCL* tree);
     void EachFieldM(FieldVisitorCL& visitor);
-
-    TreeLinesCL& LinesM() { return lines_; }
 
 private:
     TreeLinesCL lines_;
@@ -42,16 +33,23 @@ class PANELKIT_API DVrTreeArr : public RecordArr<DVrTreeCL>
 public:
     static constexpr const char* KindName = "tree";
     static constexpr const char* Header = TreeHeader;
-    static constexpr std::array<SecondarySectionCL<DVrTreeCL>, 1> Secondaries { {
-        { TreeDataHeader, 3, 3, TextSize,
-            [](DVrTreeCL& record, const SectionEntryCL& entry) {
-                return record.AddStringM(entry.numbers, entry.texts[0], entry.texts[2], entry.texts[1]);
-            } },
-    } };
+    static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { TreeDataHeader, &slTreeRow,
+        [](RecordTP& record, const RowCL& row) {
+            record.AddStringM(
+                row.numbers, row.texts[0]->TextM(), row.texts[2]->TextM(), row.texts[1]->TextM());
+        } } } };
 
-    // For the record at index, if it is alive. Always 1.
-    int InitTreeM(int index, DuTreeCL* control) const;
-    int InitTreeStrM(int index, DuTreeCL* control);
+    int InitTreeM(int index, DuTreeCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitTreeM, control);
+    }
+    int InitTreeStrM(int index, DuTreeCL* control)
+    {
+        return ifAliveM(index, &RecordTP::InitTreeStrM, control);
+    }
     int AddStringM(int index, const int triple[3], const char* text, const char* selectedPicture,
-        const char* normalPicture);
+        const char* normalPicture)
+    {
+        return ifAliveM(index, &RecordTP::AddStringM, triple, text, selectedPicture, normalPicture);
+    }
 };

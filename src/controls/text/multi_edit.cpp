@@ -18,13 +18,8 @@ int DVrMultiEditCL::InitMultiEditM(DuMultiEditCL* control) const
     control->SetInitTextM(text_.TextM());
     control->SetReadOnlyM(readOnly_);
     control->SetEdgeM(edge_);
-    control->SetBkColorM(bkColor_);
+    control->SetBkColorM(bkColour_);
     return 1;
-}
-
-int DVrMultiEditArr::InitMultiEditM(int index, DuMultiEditCL* control) const
-{
-    return ifAliveM(index, [control](const DVrMultiEditCL& record) { record.InitMultiEditM(control); });
 }
 
 int DuMultiEditCL::Create(CWnd* parent)

@@ -1,23 +1,15 @@
 #pragma once
-#include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
-#include "records/common_box_record.h"
 #include "records/record_arr.h"
 
 class DuMultiEditCL;
 
-// One multi-line edit of a description file. Holds no window.
-class PANELKIT_API DVrMultiEditCL : public DVrCommonBoxCL
+// One multi-line edit of a description file.
+class PANELKIT_API DVrMultiEditCL : public RecordCL<DVrMultiEditCL>
 {
 public:
-    DVrMultiEditCL() = default;
-    explicit DVrMultiEditCL(char tag)
-        : DVrCommonBoxCL(tag)
-    {
-    }
-
-    int FmReadInterfaceM(VrIOCL* io);                 // Reads one record; always 1.
-    int InitMultiEditM(DuMultiEditCL* control) const; // Copies the record into a control; always 1.
+    using RecordCL::RecordCL;
+    int InitMultiEditM(DuMultiEditCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
@@ -25,7 +17,7 @@ private:
     int alignMode_ { 1 };
     int readOnly_ { 0 };
     int edge_ { 1 };
-    ColourTP bkColor_ { 0xFFFFFF };
+    ColourTP bkColour_ { 0xFFFFFF };
     CharArr text_;
 };
 
@@ -37,6 +29,8 @@ public:
     static constexpr const char* KindName = "multi_edit";
     static constexpr const char* Header = MultiEditHeader;
 
-    // Copies the record at index, if it is alive, into the control. Always 1.
-    int InitMultiEditM(int index, DuMultiEditCL* control) const;
+    int InitMultiEditM(int index, DuMultiEditCL* control) const
+    {
+        return ifAliveM(index, &RecordTP::InitMultiEditM, control);
+    }
 };

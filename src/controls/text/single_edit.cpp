@@ -27,11 +27,6 @@ int DVrSingleEditCL::InitSingleEditM(DuSingleEditCL* control) const
     return 1; // The colour is for applications to apply; the control stays white.
 }
 
-int DVrSingleEditArr::InitSingleEditM(int index, DuSingleEditCL* control) const
-{
-    return ifAliveM(index, [control](const DVrSingleEditCL& record) { record.InitSingleEditM(control); });
-}
-
 int DuSingleEditCL::Create(CWnd* parent)
 {
     return createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));

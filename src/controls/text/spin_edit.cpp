@@ -28,11 +28,6 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
     return 1;
 }
 
-int DVrSpinEditArr::InitSpinEditM(int index, DuSpinEditCL* control) const
-{
-    return ifAliveM(index, [control](const DVrSpinEditCL& record) { record.InitSpinEditM(control); });
-}
-
 int DuSpinEditArr::Create(CWnd* parent)
 {
     int result = 0;

@@ -1,26 +1,27 @@
 #include "controls/text/spin_edit_record.h"
+#include "controls/base/alignments.h"
 
 template class PANELKIT_API Arr<DVrSpinEditCL>;
 
+namespace {
+
+constexpr ChoiceCL SpinDataTypes[] = { { IntegerType, "integer" }, { RealType, "real" } };
+
+} // namespace
+
 void DVrSpinEditCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntM("data_type", dataType_);
-    if (!isTypeKnownM()) {
+    visitor.ChoiceM("data_type", dataType_, SpinDataTypes);
+    if (dataType_ != IntegerType && dataType_ != RealType) {
         visitor.StopReadingM();
     }
     const int type = dataType_ == RealType ? RealType : IntegerType; // No texts here.
-    slTypedRangeField(visitor, "range", type, range_);
-    visitor.IntM("decimals", decimals_);
-    slTypedField(visitor, "step", type, step_);
-    visitor.IntM("alignment", alignMode_);
-    slTypedField(visitor, "initial", type, initial_);
-    visitor.IntM("edit_window_index", editWindowIndex_);
-    visitor.IntM("spin_function_id", spinFunctionId_);
-    visitor.IntM("spin_width", spinWidth_);
-}
-
-int DVrSpinEditCL::FmReadInterfaceM(VrIOCL* io)
-{
-    slReadRecord(*this, io);
-    return isTypeKnownM() ? 1 : 0;
+    visitor.LimitsM("range", type, range_);
+    visitor.CountM("decimals", decimals_);
+    visitor.NumberM("step", type, step_);
+    visitor.ChoiceM("alignment", alignMode_, Alignments);
+    visitor.NumberM("initial", type, initial_);
+    visitor.IndexM("edit_window_index", editWindowIndex_);
+    visitor.IdM("spin_function_id", spinFunctionId_);
+    visitor.LengthM("spin_width", spinWidth_, Along::X);
 }

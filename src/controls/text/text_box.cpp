@@ -5,15 +5,6 @@
 #include <cstdarg>
 #include <cstdio>
 
-namespace {
-
-bool isBlank(char byte)
-{
-    return byte == ' ' || (byte >= '\t' && byte <= '\r');
-}
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(DuTextBox, CEdit)
 ON_WM_CHAR()
 END_MESSAGE_MAP()
@@ -52,7 +43,7 @@ int DuTextBox::getM(const char* (*read)(const char* at, const char* end, NumberT
 {
     char text[BufferSize];
     const char* const end = text + GetWindowText(text, BufferSize);
-    const char* const begin = std::find_if_not(static_cast<const char*>(text), end, isBlank);
+    const char* const begin = std::find_if_not(static_cast<const char*>(text), end, slIsBlank);
     if (begin == end) {
         return -1;
     }
@@ -116,10 +107,10 @@ void DuTextBox::showM(const char* format, ...)
 bool DuTextBox::isTakenM(UINT character) const
 {
     const bool number = (character >= '0' && character <= '9') || character == VK_BACK;
-    switch (static_cast<int>(editType_)) {
-    case 0:
+    switch (editType_) {
+    case IntegerCharacters:
         return number;
-    case 2:
+    case RealCharacters:
         return number || character == '-' || character == '.';
     default:
         return true;

@@ -2,9 +2,12 @@
 #include "baselib/base.h"
 #include "toolkit/toolkit.h"
 
-// Which characters a text box takes: 0 digits, 2 those of reals, any other value all.
+// Which characters a text box takes; any other value: all.
 enum EditConstant : int
 {
+    IntegerCharacters = 0,
+    RealCharacters = 2,
+    AllCharacters = 4
 };
 
 // An edit field for programs that make their own windows: filters what is typed, reads and writes its text as
@@ -51,7 +54,7 @@ private:
     bool isTakenM(UINT character) const;
     void showM(const char* format, ...); // Null: nothing.
 
-    EditConstant editType_ { 4 };
+    EditConstant editType_ { AllCharacters };
     int intLimits_[2] {};
     float realLimits_[2] {};
 };

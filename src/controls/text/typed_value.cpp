@@ -1,5 +1,4 @@
 #include "controls/text/typed_value.h"
-#include "baselib/char_arr.h"
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
@@ -15,11 +14,6 @@ constexpr unsigned EditCommands[] = { 1, 3, 22, 24, 26 }; // Ctrl with A, C, V, 
 bool isNumberType(int type)
 {
     return type == IntegerType || type == RealType;
-}
-
-bool isBlank(char byte)
-{
-    return byte == ' ' || (byte >= '\t' && byte <= '\r');
 }
 
 } // namespace
@@ -123,7 +117,7 @@ CheckCode TypedValueCL::ReadM(const char* text)
         slTripDot(line, decimals_);
     }
     const char* const end = line + std::strlen(line);
-    const char* const begin = std::find_if_not(static_cast<const char*>(line), end, isBlank);
+    const char* const begin = std::find_if_not(static_cast<const char*>(line), end, slIsBlank);
     if (type_ == IntegerType && slReadInt(begin, end, &value_.number) > begin) {
         return judgeM(value_.number, range_.numbers);
     }
@@ -195,27 +189,4 @@ std::string TypedValueCL::FaultTextM(CheckCode code) const
         start = isLow ? FloatTooSmallText : FloatTooLargeText;
     }
     return start + LimitTextM(code) + MessageEnd;
-}
-
-void slTypedField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& value)
-{
-    if (type == RealType) {
-        visitor.RealM(name, value.real);
-    } else if (type == TextType) {
-        CharArr text;
-        text.SetM(value.text);
-        visitor.TextM(name, text, NullWord::Kept);
-        slCopyText(value.text, TextSize, text.TextM());
-    } else {
-        visitor.IntM(name, value.number);
-    }
-}
-
-void slTypedRangeField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& range)
-{
-    if (type == RealType) {
-        visitor.RealPairM(name, range.reals);
-    } else {
-        visitor.IntPairM(name, range.numbers);
-    }
 }

@@ -3,14 +3,6 @@
 #include "records/fields.h"
 #include <string>
 
-// What a value is held as; the codes of description files.
-enum ValueType
-{
-    IntegerType = 1,
-    RealType = 2,
-    TextType = 3
-};
-
 // How a text was judged.
 enum CheckCode
 {
@@ -30,7 +22,6 @@ class PANELKIT_API TypedValueCL
 {
 public:
     int GetTypeM() const { return type_; }
-    int GetDecimalsM() const { return decimals_; }
     void SetTypeM(int type, int decimals); // decimals: of a real; below 0 counts as 0.
 
     // Both take, by type, ints, reals or a text, for a text type the limits as ints: 1; 0 for an unknown
@@ -75,8 +66,3 @@ private:
 
 // Cuts a real's text behind the given number of decimals, not rounding; the point itself stays.
 PANELKIT_API void slTripDot(char* text, int decimals);
-
-// A value or a range of a record as a field that goes by the data type; zeros for an unknown type, which ends
-// the reading of a record before it comes to them.
-PANELKIT_API void slTypedField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& value);
-PANELKIT_API void slTypedRangeField(FieldVisitorCL& visitor, const char* name, int type, simpleValD& range);

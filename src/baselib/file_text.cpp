@@ -1,0 +1,60 @@
+#include "baselib/file_text.h"
+#include "baselib/gbk.h"
+#include <algorithm>
+#include <cstring>
+
+FileTextCL::FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size)
+    : bytes_(std::move(bytes))
+    , size_(size)
+{
+}
+
+FileTextCL::FileTextCL(std::string_view bytes)
+    : FileTextCL(std::make_unique<char[]>(bytes.size() + 1), bytes.size())
+{
+    std::copy(bytes.begin(), bytes.end(), bytes_.get());
+}
+
+std::string_view FileTextCL::CutM(SpanCL span) const
+{
+    const std::size_t end = std::min(span.end, size_);
+    const std::size_t begin = std::min(span.begin, end);
+    return { bytes_.get() + begin, end - begin };
+}
+
+PlaceCL FileTextCL::PlaceM(std::size_t offset) const
+{
+    const char* const bytes = bytes_.get();
+    if (lineStarts_.empty()) {
+        lineStarts_.push_back(0);
+        for (const char *at = bytes, *end = bytes + size_;
+             (at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at))))
+             != nullptr;) {
+            lineStarts_.push_back(static_cast<std::size_t>(++at - bytes));
+        }
+    }
+    offset = std::min(offset, size_);
+    const auto next = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
+    const auto line = static_cast<std::size_t>(next - lineStarts_.begin());
+    const std::size_t start = *(next - 1);
+    std::size_t end = next != lineStarts_.end() ? *next - 1 : size_;
+    if (next != lineStarts_.end() && end > start && bytes[end - 1] == '\r') {
+        --end;
+    }
+    if (line != last_.line || offset < lastStart_) {
+        last_ = { line, 1 };
+        lastStart_ = start;
+    }
+    const char* at = bytes + lastStart_;
+    const char* const wanted = bytes + std::min(offset, end);
+    while (at < wanted) {
+        const int length = slGbkCharLength(at, bytes + end);
+        if (at + length > wanted) {
+            break;
+        }
+        at += length;
+        ++last_.column;
+    }
+    lastStart_ = static_cast<std::size_t>(at - bytes);
+    return last_;
+}

@@ -1,0 +1,165 @@
+#include "records/field_reader.h"
+#include "baselib/gbk.h"
+#include "baselib/number_text.h"
+#include <cstring>
+
+ReadObserverCL::~ReadObserverCL() = default;
+void ReadObserverCL::ValueM(const ValueSeenCL&) { }
+void ReadObserverCL::EntryDroppedM(const EntryDroppedCL&) { }
+void ReadObserverCL::SectionM(const SectionSeenCL&) { }
+
+namespace {
+
+bool numberFits(std::string_view number, int)
+{
+    return slIntFits(number.data(), number.data() + number.size());
+}
+
+bool numberFits(std::string_view number, float)
+{
+    return slRealFits(number.data(), number.data() + number.size());
+}
+
+std::size_t wordEnd(const FileTextCL& file, std::size_t at)
+{
+    while (at < file.SizeM() && !slIsBlank(file.BytesM()[at])) {
+        ++at;
+    }
+    return at;
+}
+
+bool standsForNothing(const CharArr& text, NullWord rule)
+{
+    return rule == NullWord::UpperEmpty ? std::strcmp(text.TextM(), "NULL") == 0
+                                        : rule != NullWord::Kept && slIsNullWord(text.TextM()) != 0;
+}
+
+} // namespace
+
+std::size_t slNextValue(const VrIOCL& io)
+{
+    std::size_t at = io.PositionM();
+    if (const FileTextCL* const file = io.FileTextM().get()) {
+        while (at < file->SizeM() && slIsBlank(file->BytesM()[at])) {
+            ++at;
+        }
+    }
+    return at;
+}
+
+void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
+{
+    observer_->ValueM({ section_, record_, name, part, span, fate });
+}
+
+template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
+{
+    if (observer_ == nullptr && !isStopped_) {
+        return io_->InputOneM(&value);
+    }
+    return readObservedM(name, part, value);
+}
+
+template <class T> bool FieldReaderCL::readObservedM(const char* name, int part, T& value)
+{
+    const std::size_t begin = slNextValue(*io_);
+    const bool isRead = !isStopped_ && io_->InputOneM(&value);
+    const FileTextCL* const file = io_->FileTextM().get();
+    if (observer_ == nullptr || file == nullptr) {
+        return isRead;
+    }
+    SpanCL span { begin, isRead ? io_->PositionM() : begin };
+    Fate fate = Fate::Read;
+    if (isStopped_) {
+        fate = Fate::NotLookedAt;
+    } else if (isRead) {
+        fate = numberFits(file->CutM(span), value) ? Fate::Read : Fate::Saturated;
+    } else if (begin == file->SizeM()) {
+        fate = Fate::Missing;
+    } else {
+        fate = Fate::NotANumber;
+        span.end = wordEnd(*file, begin);
+    }
+    tellM(name, part, span, fate);
+    return isRead;
+}
+
+template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int count)
+{
+    for (int part = 0; part < count; ++part) {
+        readM(name, part, values[part]);
+    }
+}
+
+void FieldReaderCL::IntM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::RealM(const char* name, float& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::IntsM(const char* name, int* values, int count)
+{
+    readAllM(name, values, count);
+}
+
+void FieldReaderCL::RealsM(const char* name, float* values, int count)
+{
+    readAllM(name, values, count);
+}
+
+void FieldReaderCL::ColourM(const char* name, ColourTP& colour, int* flag)
+{
+    // Components that can't be read keep those of the default colour.
+    int rgb[3] = { static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+        static_cast<int>(colour >> 16 & 0xFF) };
+    const bool hasRed = readM(name, 0, rgb[0]);
+    readM(name, 1, rgb[1]);
+    readM(name, 2, rgb[2]);
+    if (flag != nullptr) {
+        if (!hasRed || rgb[0] < 0) {
+            return;
+        }
+        *flag = 1;
+    }
+    colour = (rgb[0] & 0xFFU) | (rgb[1] & 0xFFU) << 8 | (rgb[2] & 0xFFU) << 16;
+}
+
+void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& form)
+{
+    std::string_view item;
+    if (isStopped_ || !io_->InputItemM(&item)) {
+        if (observer_ != nullptr) {
+            const std::size_t at = slNextValue(*io_);
+            tellM(name, 0, { at, at }, isStopped_ ? Fate::NotLookedAt : Fate::Missing);
+        }
+        return;
+    }
+    const auto most = static_cast<std::size_t>(form.size) - 1;
+    text.SetM(item.data(), slGbkCutLength(item.data(), item.size(), most));
+    const bool isNullWord = standsForNothing(text, form.nullWord);
+    if (observer_ != nullptr) {
+        const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
+        const bool isWhole = text.LengthM() == item.size();
+        tellM(name, 0, { begin, begin + item.size() },
+            isNullWord    ? Fate::NullWord
+                : isWhole ? Fate::Read
+                          : Fate::Cut);
+    }
+    if (!isNullWord) {
+        return;
+    }
+    if (form.nullWord == NullWord::SkipsEntry) {
+        isSkipped_ = true;
+    } else {
+        text.SetM("");
+    }
+}
+
+void FieldReaderCL::StopReadingM()
+{
+    isStopped_ = true;
+}

@@ -1,0 +1,50 @@
+#pragma once
+#include "baselib/io.h"
+#include "records/fields.h"
+#include "records/read_observer.h"
+
+// Reads each value it sees from a description file. What can't be read keeps its value.
+class PANELKIT_API FieldReaderCL : public FieldVisitorCL
+{
+public:
+    // section: the header of what is read, for the reader's observer; "" for a single record.
+    explicit FieldReaderCL(VrIOCL* io, const char* section = "")
+        : io_(io)
+        , observer_(io->ObserverM())
+        , section_(section)
+    {
+    }
+    // One reader serves all records or entries of a section; the next one begins.
+    void BeginRecordM(int number)
+    {
+        record_ = number;
+        isStopped_ = false;
+        isSkipped_ = false;
+    }
+    bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
+    bool IsSkippedM() const { return isSkipped_; } // A text said that the entry doesn't count.
+
+    void IntM(const char* name, int& value) override;
+    void RealM(const char* name, float& value) override;
+    void IntsM(const char* name, int* values, int count) override;
+    void RealsM(const char* name, float* values, int count) override;
+    void ColourM(const char* name, ColourTP& colour, int* flag) override;
+    void TextM(const char* name, CharArr& text, const TextFormCL& form) override;
+    void StopReadingM() override;
+
+private:
+    template <class T> bool readM(const char* name, int part, T& value);
+    template <class T> bool readObservedM(const char* name, int part, T& value);
+    template <class T> void readAllM(const char* name, T* values, int count);
+    void tellM(const char* name, int part, SpanCL span, Fate fate);
+
+    VrIOCL* io_;
+    ReadObserverCL* observer_;
+    const char* section_;
+    int record_ { 0 };
+    bool isStopped_ { false };
+    bool isSkipped_ { false };
+};
+
+// Where the next value would begin: the offset of the next byte of the open file that is no blank.
+PANELKIT_API std::size_t slNextValue(const VrIOCL& io);

@@ -1,0 +1,77 @@
+#pragma once
+#include "baselib/file_text.h"
+
+// What became of a counted section of a description file.
+enum class SectionStatus
+{
+    Missing,    // The header stands nowhere.
+    Empty,      // The count is 0 or less, or can't be read.
+    Broken,     // The count is larger than the rest of the file has bytes: it can't be meant.
+    Incomplete, // The records were read, but a secondary section is missing or broken.
+    Read
+};
+
+// What became of a value. All but Read, Saturated, Cut and NullWord leave the value that it had before.
+enum class Fate
+{
+    Read,
+    Saturated,  // A number beyond the range of its type became the nearest limit.
+    Cut,        // The text is longer than its field holds, or goes on behind a NUL.
+    NullWord,   // "NULL" or "null" where that stands for no text, or for no entry.
+    NotANumber, // Something else stands there; the next value starts at the same place.
+    Missing,    // The file ends before it.
+    NotLookedAt // The record was given up before it.
+};
+
+// One value: where it belongs, where it stands, what became of it.
+struct ValueSeenCL
+{
+    const char* section; // The header of its section, GBK; "" for a record read on its own.
+    int record;          // The number of its record or entry in the section, from 0.
+    const char* field;
+    int part; // Its number, from 0, among the values of a field with several: x and y, red, green and blue.
+    SpanCL span; // What was found, up to the next blank where it is no number; empty where nothing stands.
+    Fate fate;
+};
+
+// Why an entry belongs to no record.
+enum class EntryFault
+{
+    UnknownId, // No record has the function id, or the number, that it names.
+    NullWord,  // Its text says that it doesn't count.
+    BadSlot    // It names a slot below 0, or one so far that it can't be meant.
+};
+
+struct EntryDroppedCL
+{
+    const char* section;
+    int entry;   // Its number in the section, from 0.
+    SpanCL span; // All its values.
+    EntryFault fault;
+};
+
+// One section as a whole. Spans of what isn't there are empty.
+struct SectionSeenCL
+{
+    const char* header;
+    SectionStatus status;
+    int count; // Records or entries that were read.
+    SpanCL headerSpan;
+    SpanCL countSpan;    // The number of records.
+    SpanCL countLine;    // All of that number's line.
+    SpanCL commentCount; // The number of comment lines.
+    SpanCL comments;     // Those lines.
+    std::size_t end;     // Behind the last value.
+    SpanCL follows;      // The next text behind it, to the end of its line.
+};
+
+// Is told what the reading of a description file finds, as it goes; see VrIOCL::SetObserverM. Names and spans
+// hold for as long as the file's text does (VrIOCL::FileTextM). The reading itself takes no notice.
+class PANELKIT_API ReadObserverCL
+{
+public:
+    virtual ~ReadObserverCL();
+    virtual void ValueM(const ValueSeenCL& value);
+    virtual void EntryDroppedM(const EntryDroppedCL& entry);
+    virtual void SectionM(const SectionSeenCL& section); // When all of it was read, its secondary ones too.
+};

@@ -1,0 +1,73 @@
+#pragma once
+#include "baselib/char_arr.h"
+#include "records/fields.h"
+#include "records/own_list.h"
+
+// The values of one entry of a secondary section, wherever they are kept.
+struct RowCL
+{
+    static constexpr int MostNumbers = 3;
+    static constexpr int MostTexts = 3;
+    int* numbers;
+    CharArr* texts[MostTexts];
+};
+
+// Names the values of an entry behind its function id, as EachFieldM does those of a record.
+using RowFieldsTP = void (*)(FieldVisitorCL& visitor, const RowCL& row);
+
+// The fields of entries that are one text, at most sizeN - 1 bytes, or one picture.
+template <int sizeN = TextSize> void slTextRow(FieldVisitorCL& visitor, const RowCL& row)
+{
+    visitor.CaptionM("text", *row.texts[0], { NullWord::SkipsEntry, sizeN });
+}
+
+inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
+{
+    visitor.NameM("bitmap", *row.texts[0], NullWord::SkipsEntry);
+}
+
+// Appends an alive text, empty for null. Its index; -1, and nothing is appended, when there is no memory.
+inline int slAppendText(VrStringArr& texts, const char* text)
+{
+    const int index = texts.AddItemM(VrStringCL(AliveTag));
+    if (index >= 0) {
+        texts.ElementAtM(index).AddStringM(text);
+    }
+    return index;
+}
+
+// The same. 0, and nothing is appended, for null; else 1.
+inline int slAddText(VrStringArr& texts, const char* text)
+{
+    if (text != nullptr) {
+        slAppendText(texts, text);
+    }
+    return text != nullptr ? 1 : 0;
+}
+
+// Shows rows to a visitor, which may change their values: the alive items of `first` in their order.
+// rowAt(slot) is the RowCL of one of them.
+template <class ListTP, class RowAtTP>
+void slVisitRows(FieldVisitorCL& visitor, const char* name, const ListTP& first, int rows, RowFieldsTP fields,
+    RowAtTP&& rowAt)
+{
+    struct WalkCL
+    {
+        const ListTP& list;
+        RowFieldsTP fields;
+        RowAtTP& rowAt;
+        int slot;
+    } walk { first, fields, rowAt, -1 };
+    visitor.ListM(name, rows, [&walk](FieldVisitorCL& seer, int number) {
+        walk.slot = walk.list.GetNextIdxM(number == 0 ? -1 : walk.slot);
+        walk.fields(seer, walk.rowAt(walk.slot));
+    });
+}
+
+// The same for rows that are one text.
+inline void slVisitTexts(FieldVisitorCL& visitor, const char* name, VrStringArr& texts, RowFieldsTP fields)
+{
+    slVisitRows(visitor, name, texts, texts.GetAvailableNumM(), fields, [&texts](int slot) {
+        return RowCL { nullptr, { &texts.ElementAtM(slot).ValueM() } };
+    });
+}
