@@ -125,13 +125,13 @@ int DuBasicDialogCL::initItemRelationM()
     VrIOCL io;
     io.OpenM(configFile_, "r");
     int count = 0;
-    const SectionStatus status = slOpenSection(io, RelationHeader, &count);
+    const SectionStatus status = slOpenEntries(io, RelationHeader, RelationNumbers, 0, &count);
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return 0;
     }
     SectionEntryCL entry;
     for (int i = 0; i < count; ++i) {
-        slReadEntry(io, entry, 3, 0, 0);
+        slReadEntry(io, entry, RelationNumbers, 0, 0);
         CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(parentM(), entry.functionId));
         if (auto* control = dynamic_cast<DControlCommonCL*>(child)) {
             control->AddRelationItemM(entry.numbers[0], entry.numbers[1], entry.numbers[2]);

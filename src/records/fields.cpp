@@ -14,6 +14,16 @@ int slIsNullWord(const char* text)
     return std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0;
 }
 
+namespace {
+
+bool meansNoText(const char* text, NullWord nullWord)
+{
+    return nullWord == NullWord::CapitalsEmpty ? std::strcmp(text, "NULL") == 0
+                                               : nullWord == NullWord::Empty && slIsNullWord(text) != 0;
+}
+
+} // namespace
+
 void FieldReaderCL::IntM(const char*, int& value)
 {
     io_->InputDM(&value);
@@ -53,7 +63,7 @@ void FieldReaderCL::TextM(const char*, CharArr& text, NullWord nullWord)
 {
     char line[TextSize];
     if (io_->InputGetsM(line, TextSize) != 0) {
-        text.SetM(nullWord == NullWord::Empty && slIsNullWord(line) ? "" : line);
+        text.SetM(meansNoText(line, nullWord) ? "" : line);
     }
 }
 
@@ -61,4 +71,35 @@ void FieldReaderCL::StopReadingM()
 {
     static VrIOCL nothing; // A reader that isn't open reads nothing.
     io_ = &nothing;
+}
+
+void FieldCounterCL::IntM(const char*, int& value)
+{
+    value = 0;
+    addM(1);
+}
+
+void FieldCounterCL::RealM(const char*, float&)
+{
+    addM(1);
+}
+
+void FieldCounterCL::IntPairM(const char*, int (&)[2])
+{
+    addM(2);
+}
+
+void FieldCounterCL::RealPairM(const char*, float (&)[2])
+{
+    addM(2);
+}
+
+void FieldCounterCL::ColourM(const char*, ColourTP&, int*)
+{
+    addM(3);
+}
+
+void FieldCounterCL::TextM(const char*, CharArr&, NullWord)
+{
+    addM(1);
 }

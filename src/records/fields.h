@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/base.h"
 #include "baselib/path.h"
 #include <functional>
 
@@ -15,11 +16,13 @@ constexpr int TextSize = PathSize;
 // 1 when the text is exactly "NULL" or "null", the words that stand for no text or no file.
 PANELKIT_API int slIsNullWord(const char* text);
 
+// Which words mean no text to a field: none, "NULL" and "null", or "NULL" alone.
 enum class NullWord
 {
     Kept,
-    Empty
-}; // Kept: "NULL" and "null" are ordinary texts of this field.
+    Empty,
+    CapitalsEmpty
+};
 
 // Sees the fields of one record in the order of the file. A record names each of its fields once, in
 // EachFieldM; what reads, prints or checks records are visitors of that one list.
@@ -61,6 +64,37 @@ public:
 private:
     VrIOCL* io_;
 };
+
+// Counts the values, numbers and texts, that a record takes in a file at least: each number it sees becomes
+// 0, a data type among them that says that nothing more follows.
+class PANELKIT_API FieldCounterCL : public FieldVisitorCL
+{
+public:
+    int CountM() const { return count_; }
+    void IntM(const char* name, int& value) override;
+    void RealM(const char* name, float& value) override;
+    void IntPairM(const char* name, int (&values)[2]) override;
+    void RealPairM(const char* name, float (&values)[2]) override;
+    void ColourM(const char* name, ColourTP& colour, int* flag) override;
+    void TextM(const char* name, CharArr& text, NullWord nullWord) override;
+    void StopReadingM() override { isCounting_ = false; }
+
+private:
+    void addM(int values) { count_ += isCounting_ ? values : 0; }
+
+    int count_ { 0 };
+    bool isCounting_ { true };
+};
+
+// The values of the shortest record of a main section.
+template <class RecordTP> int slFewestValues()
+{
+    RecordTP record(AliveTag);
+    FieldCounterCL counter;
+    record.EachCommonFieldM(counter);
+    record.EachFieldM(counter);
+    return counter.CountM();
+}
 
 // Reads one record of a main section: from its defaults (the delete tag is kept), the common fields,
 // then its own. Always 1.

@@ -1,7 +1,16 @@
 #include "records/section.h"
 #include <climits>
 
-SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count)
+bool slCanHold(std::size_t bytes, int count, int values)
+{
+    constexpr int smallCount = 1000;
+    constexpr std::size_t valueSize = 2; // A digit and a blank.
+    const std::size_t most
+        = count > smallCount ? bytes / (valueSize * static_cast<std::size_t>(values)) : bytes;
+    return count <= 0 || static_cast<std::size_t>(count) <= most;
+}
+
+SectionStatus slOpenSection(VrIOCL& io, const char* header, int values, int* count)
 {
     *count = 0;
     if (io.SearchStrM(header) == 0) {
@@ -12,7 +21,7 @@ SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count)
     if (records <= 0) {
         return SectionStatus::Empty;
     }
-    if (static_cast<size_t>(records) > io.BytesLeftM()) {
+    if (!slCanHold(io.BytesLeftM(), records, values)) {
         return SectionStatus::Broken;
     }
     io.SkipLineM();
@@ -21,6 +30,11 @@ SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count)
     io.SkipSomeLinesM(comments < INT_MAX ? comments + 1 : INT_MAX);
     *count = records;
     return SectionStatus::Read;
+}
+
+SectionStatus slOpenEntries(VrIOCL& io, const char* header, int numberCount, int textCount, int* count)
+{
+    return slOpenSection(io, header, 1 + numberCount + textCount, count);
 }
 
 void slReadEntry(VrIOCL& io, SectionEntryCL& entry, int numberCount, int textCount, int textSize)

@@ -2,6 +2,7 @@
 #include "baselib/base.h"
 #include "baselib/io.h"
 #include "records/fields.h"
+#include <cstddef>
 #include <unordered_map>
 
 // What became of a counted section of a description file.
@@ -9,14 +10,19 @@ enum class SectionStatus
 {
     Missing,    // The header stands nowhere.
     Empty,      // The count is 0 or less, or can't be read.
-    Broken,     // The count is larger than the rest of the file has bytes: it can't be meant.
+    Broken,     // The count can't be meant: the rest of the file is too short for it.
     Incomplete, // The records were read, but a secondary section is missing or broken.
     Read
 };
 
+// Whether so many bytes can hold `count` records or entries, each of at least `values` numbers and texts. A
+// small count may leave much to the defaults; a large one only serves to make the reader waste memory.
+PANELKIT_API bool slCanHold(std::size_t bytes, int count, int values);
+
 // Finds a counted section in an open file and reads up to its first record: header, count, comment lines.
-// *count is the number of records or entries, 0 unless the result is Read.
-PANELKIT_API SectionStatus slOpenSection(VrIOCL& io, const char* header, int* count);
+// *count is the number of records or entries, each of at least `values` numbers and texts; 0 unless the
+// result is Read.
+PANELKIT_API SectionStatus slOpenSection(VrIOCL& io, const char* header, int values, int* count);
 
 // One entry of a secondary section: the function id of the record that it belongs to, numbers, texts.
 struct SectionEntryCL
@@ -28,6 +34,9 @@ struct SectionEntryCL
     char texts[MostTexts][TextSize];
 };
 
+// How many numbers an entry of the relations between controls has. It has no text.
+constexpr int RelationNumbers = 3;
+
 // How the entries of one secondary section of a kind are laid out and attached to its records.
 template <class RecordTP> struct SecondarySectionCL
 {
@@ -38,6 +47,9 @@ template <class RecordTP> struct SecondarySectionCL
     int (*attach)(RecordTP& record, const SectionEntryCL& entry);
 };
 
+// The same for a section whose entries have so many numbers and texts behind the function id.
+PANELKIT_API SectionStatus slOpenEntries(
+    VrIOCL& io, const char* header, int numberCount, int textCount, int* count);
 PANELKIT_API void slReadEntry(
     VrIOCL& io, SectionEntryCL& entry, int numberCount, int textCount, int textSize);
 
@@ -47,7 +59,8 @@ template <class RecordArrTP, class RecordTP>
 SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& section)
 {
     int count = 0;
-    const SectionStatus status = slOpenSection(io, section.header, &count);
+    const SectionStatus status
+        = slOpenEntries(io, section.header, section.numberCount, section.textCount, &count);
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
@@ -71,7 +84,8 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
 // *count is what the count line said, 0 when nothing was read.
 template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP& records, int* count)
 {
-    const SectionStatus status = slOpenSection(io, RecordArrTP::Header, count);
+    const SectionStatus status
+        = slOpenSection(io, RecordArrTP::Header, slFewestValues<typename RecordArrTP::RecordTP>(), count);
     if (status != SectionStatus::Read) {
         return status;
     }

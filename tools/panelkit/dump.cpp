@@ -7,6 +7,7 @@
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "json.h"
+#include <vector>
 
 namespace {
 
@@ -64,12 +65,12 @@ JsonTP relationsOf(VrIOCL& io)
 {
     JsonTP relations = JsonTP::array();
     int count = 0;
-    slOpenSection(io, RelationHeader, &count);
+    slOpenEntries(io, RelationHeader, RelationNumbers, 0, &count);
+    SectionEntryCL entry;
     for (int i = 0; i < count; ++i) {
-        int control = 0;
-        int values[3] = {};
-        io.InputDM(&control, &values[0], &values[1], &values[2]);
-        relations.push_back({ { "control", control }, { "values", values } });
+        slReadEntry(io, entry, RelationNumbers, 0, 0);
+        const std::vector<int> values(entry.numbers, entry.numbers + RelationNumbers);
+        relations.push_back({ { "control", entry.functionId }, { "values", values } });
     }
     return relations;
 }

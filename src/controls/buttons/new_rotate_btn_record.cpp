@@ -13,6 +13,7 @@ template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
 namespace {
 
 constexpr int DescriptionSize = 125;
+constexpr int PictureValues = 4; // Of a line of the pictures' section.
 
 int magnitude(int value)
 {
@@ -23,12 +24,7 @@ int magnitude(int value)
 
 void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor)
 {
-    visitor.IntPairM("steps", steps_);
-    visitor.IntM("initial_index", initialIndex_);
-    int showCondition = GetShowConditionM();
-    visitor.IntM("show_condition", showCondition);
-    SetShowConditionM(showCondition);
-    visitor.TextM("description", description_, NullWord::Kept);
+    EachColumnM(visitor, 1, 1);
     const VrStringArr pictures = PicturesM();
     visitor.ListM("pictures", slotCount_, [&pictures](FieldVisitorCL& one, int row) {
         CharArr name(pictures.GetItemPM(row)->TextM());
@@ -36,22 +32,29 @@ void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor)
     });
 }
 
+void DVrNewRotateBtnCL::EachColumnM(FieldVisitorCL& visitor, int withShowCondition, int withDescription)
+{
+    visitor.IntPairM("steps", steps_);
+    visitor.IntM("initial_index", initialIndex_);
+    if (withShowCondition != 0) {
+        int showCondition = GetShowConditionM();
+        visitor.IntM("show_condition", showCondition);
+        SetShowConditionM(showCondition);
+    }
+    if (withDescription != 0) {
+        visitor.TextM("description", description_, NullWord::CapitalsEmpty);
+    }
+}
+
 int DVrNewRotateBtnCL::FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription)
 {
     *this = DVrNewRotateBtnCL(AliveTag);
     DVrCommonBoxCL::FmReadInterfaceM(io, 1);
-    io->InputInt2DM(steps_);
-    io->InputDM(&initialIndex_);
-    if (withShowCondition != 0) {
-        int showCondition = GetShowConditionM();
-        io->InputDM(&showCondition);
-        SetShowConditionM(showCondition);
-    }
-    if (withDescription != 0) {
-        char text[DescriptionSize];
-        io->InputGetsM(text, DescriptionSize);
-        description_.SetM(std::strcmp(text, "NULL") == 0 ? "" : text);
-    }
+    FieldReaderCL reader(io);
+    EachColumnM(reader, withShowCondition, withDescription);
+    char text[DescriptionSize];
+    slCopyText(text, DescriptionSize, description_.TextM());
+    description_.SetM(text);
     return 1;
 }
 
@@ -86,13 +89,18 @@ int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
     int count = 0;
     int lines = 0;
     io->InputDM(&count, &lines);
-    if (static_cast<std::size_t>(magnitude(count)) > io->BytesLeftM()) {
+    const int withShowCondition = lines < 0 ? 1 : 0;
+    const int withDescription = count < 0 ? 1 : 0;
+    DVrNewRotateBtnCL record(AliveTag);
+    FieldCounterCL values;
+    record.EachCommonFieldM(values, 1);
+    record.EachColumnM(values, withShowCondition, withDescription);
+    if (!slCanHold(io->BytesLeftM(), magnitude(count), values.CountM())) {
         return 0;
     }
     io->SkipSomeLinesM(magnitude(lines));
-    DVrNewRotateBtnCL record(AliveTag);
     for (int i = 0; i < magnitude(count); ++i) {
-        record.FmReadInterfaceM(io, lines < 0 ? 1 : 0, count < 0 ? 1 : 0);
+        record.FmReadInterfaceM(io, withShowCondition, withDescription);
         AddItemM(record);
     }
     return readPicturesM(io);
@@ -106,7 +114,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     if (found != 0) {
         io->InputDM(&count, &lines);
     }
-    if (found == 0 || (count > 0 && static_cast<std::size_t>(count) > io->BytesLeftM())) {
+    if (found == 0 || !slCanHold(io->BytesLeftM(), count, PictureValues)) {
         return 0;
     }
     // Slots beyond the file's size are not meant, nor so many empty ones that they outweigh the file by far.

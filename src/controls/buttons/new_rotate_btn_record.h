@@ -28,6 +28,9 @@ public:
     // Copies the record into a control, which loads the pictures; always 1.
     int InitNewRotateBtnM(DuNewRotateBtnCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
+    // The fields that stand in the file behind the common ones, the columns that may be absent where withX is
+    // nonzero.
+    void EachColumnM(FieldVisitorCL& visitor, int withShowCondition, int withDescription);
 
 private:
     struct PictureCL
