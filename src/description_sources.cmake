@@ -44,6 +44,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/relation.cpp
   records/bmp_record.cpp
   records/common_box_record.cpp
+  records/field_counter.cpp
   records/field_reader.cpp
   records/fields.cpp
   records/picture_boundary.cpp

@@ -72,6 +72,7 @@ void VrIOCL::CloseM()
     size_ = 0;
     at_ = 0;
     binary_ = false;
+    outputLineBegun_ = false;
     directory_.SetM("");
 }
 

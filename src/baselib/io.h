@@ -72,6 +72,9 @@ public:
 
     int SkipLineM();           // To just past the next LF, or the end of the file. 1.
     int SkipSomeLinesM(int n); // The same n times; n below 1: nothing. 1.
+    // Passes over the line that ends a list, and before it over the rest of the line that the last value read
+    // stands on, unless that line was read to its end. 1.
+    int SkipEndLineM();
 
     // Each writes one value, followed in text mode by a space; a real so that it reads back the same, in text
     // mode an infinity as the largest number and what is no number as 0. 1 when written.
@@ -83,6 +86,8 @@ public:
     // Writes any text so that InputTextM gives it back: in text mode its length, a space, its bytes, a line
     // end.
     int OutputTextM(const char* text);
+    // In text mode ends the line that was begun, if one was. 1 when written or not needed.
+    int EndBegunLineM();
 
 private:
     template <typename T> int inputAllM(T* const (&values)[9], bool (VrIOCL::*input)(T*));
@@ -90,6 +95,7 @@ private:
     bool inputBytesM(void* to, std::size_t count);
     std::size_t inputLengthM();
     void skipBlanksM();
+    bool isLineBegunM() const;
     bool outputBytesM(const void* from, std::size_t count);
     int outputCountedM(const char* text, std::size_t length);
 
@@ -98,6 +104,7 @@ private:
     std::size_t size_ { 0 };
     std::size_t at_ { 0 };
     FILE* out_ { nullptr }; // The file written.
+    bool outputLineBegun_ { false };
     bool binary_ { false };
     CharArr directory_;
     ReadObserverCL* observer_ { nullptr };

@@ -219,3 +219,18 @@ int VrIOCL::SkipSomeLinesM(int n)
     }
     return 1;
 }
+
+// Whether anything but blanks stands between the line's beginning and the read position.
+bool VrIOCL::isLineBegunM() const
+{
+    std::size_t at = at_;
+    while (at > 0 && data_[at - 1] != '\n' && slIsBlank(data_[at - 1])) {
+        --at;
+    }
+    return at > 0 && data_[at - 1] != '\n';
+}
+
+int VrIOCL::SkipEndLineM()
+{
+    return SkipSomeLinesM(isLineBegunM() ? 2 : 1);
+}

@@ -22,7 +22,13 @@ void toLittleEndian(std::uint32_t bits, unsigned char (&bytes)[4])
 
 bool VrIOCL::outputBytesM(const void* from, std::size_t count)
 {
-    return out_ != nullptr && std::fwrite(from, 1, count, out_) == count;
+    if (out_ == nullptr || std::fwrite(from, 1, count, out_) != count) {
+        return false;
+    }
+    if (count > 0) {
+        outputLineBegun_ = static_cast<const char*>(from)[count - 1] != '\n';
+    }
+    return true;
 }
 
 int VrIOCL::OutputDM(int value)
@@ -64,6 +70,11 @@ int VrIOCL::OutputSM(const char* text, int most, int flag)
     }
     const bool written = outputBytesM(from, length) && (flag == 0 || outputBytesM("\n", 1));
     return written ? 1 : 0;
+}
+
+int VrIOCL::EndBegunLineM()
+{
+    return binary_ || !outputLineBegun_ || outputBytesM("\n", 1) ? 1 : 0;
 }
 
 int VrIOCL::OutputTextM(const char* text)

@@ -9,10 +9,13 @@ void RelationCL::EachFieldM(FieldVisitorCL& visitor)
 
 SectionStatus slReadRelations(VrIOCL& io, const std::function<void(RelationCL& relation)>& see)
 {
+    RelationCL relation;
+    FieldCounterCL values;
+    relation.EachFieldM(values);
     SectionReaderCL section(io, RelationHeader);
-    section.OpenM();
+    section.OpenM(values.ValuesM());
     for (int i = 0; i < section.CountM(); ++i) {
-        RelationCL relation;
+        relation = RelationCL();
         relation.EachFieldM(section.RecordM(i));
         see(relation);
     }

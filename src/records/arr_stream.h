@@ -27,6 +27,7 @@ template <class T> void Arr<T>::FmOutputEvrLstM(VrIOCL* io, const char* name) co
         slots[k].FmOutputEvrFileM(io);
     }
     slGetArrEndStr(label, name);
+    io->EndBegunLineM();
     io->OutputSM(label, -1, 1);
 }
 
@@ -46,9 +47,7 @@ template <class T> void Arr<T>::FmInputEvrLstM(VrIOCL* io)
         }
     }
     if (!io->IsBinaryM()) {
-        char first = 0;
-        io->InputCM(&first); // Where the last element didn't end its line, the end line is one further on.
-        io->SkipLineM();
+        io->SkipEndLineM();
     }
 }
 
@@ -80,5 +79,6 @@ template <class T> void Arr<T>::outputLabelledM(VrIOCL* io, int number, const ch
 {
     char line[LabelSize + 16];
     std::snprintf(line, sizeof line, "%d, %s", number, label);
+    io->EndBegunLineM();
     io->OutputSM(line, -1, 1);
 }

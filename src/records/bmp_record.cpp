@@ -69,6 +69,6 @@ int DVrBmpArr::FmInputScpFileM(VrIOCL* io, IntArr* map)
             setCountsM(bound + count, bound + count);
         }
     }
-    io->SkipLineM();
+    io->SkipEndLineM();
     return result;
 }

@@ -38,7 +38,8 @@ public:
     unsigned char* GetBmpContentM(int index, int* w, int* h) const;
 
     // Appends a list from a file: a count, then for each picture a number (not used) and its name, then a
-    // line that ends the list. map[k] becomes the slot of the file's picture k. All slots of the array then
-    // count as available. A count beyond the bytes left is no list. 1, or 0 when there is no memory.
+    // line that ends the list, whatever it says. map[k] becomes the slot of the file's picture k. All slots
+    // of the array then count as available. A count beyond the bytes left is no list. 1, or 0 when there is
+    // no memory.
     int FmInputScpFileM(VrIOCL* io, IntArr* map);
 };

@@ -6,7 +6,7 @@ enum class SectionStatus
 {
     Missing,    // The header stands nowhere.
     Empty,      // The count is 0 or less, or can't be read.
-    Broken,     // The count is larger than the rest of the file has bytes: it can't be meant.
+    Broken,     // The count can't be meant: the rest of the file is too short for it.
     Incomplete, // The records were read, but a secondary section is missing or broken.
     Read
 };

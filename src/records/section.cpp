@@ -24,14 +24,23 @@ SectionReaderCL::~SectionReaderCL()
     io_.ObserverM()->SectionM(seen_);
 }
 
-SectionStatus SectionReaderCL::OpenM()
+bool slCanHold(std::size_t bytes, int count, int values)
+{
+    constexpr int smallCount = 1000;
+    constexpr std::size_t valueSize = 2; // A digit and a blank.
+    const std::size_t most
+        = count > smallCount ? bytes / (valueSize * static_cast<std::size_t>(values)) : bytes;
+    return count <= 0 || static_cast<std::size_t>(count) <= most;
+}
+
+SectionStatus SectionReaderCL::OpenM(int values)
 {
     int count = 0;
     InputCountM(&count);
     if (StatusM() == SectionStatus::Read && count <= 0) {
         SetStatusM(SectionStatus::Empty);
     }
-    SetCountM(count);
+    SetCountM(count, values);
     if (StatusM() == SectionStatus::Read) {
         io_.SkipLineM();
         InputCommentsM();
@@ -88,13 +97,13 @@ void SectionReaderCL::SkipCommentsM(int lines)
     seen_.comments = { begin, io_.PositionM() };
 }
 
-void SectionReaderCL::SetCountM(int count)
+void SectionReaderCL::SetCountM(int count, int values)
 {
     if (StatusM() != SectionStatus::Read) {
         return;
     }
     seen_.count = std::max(count, 0);
-    if (count > 0 && static_cast<std::size_t>(count) > io_.BytesLeftM()) {
+    if (!slCanHold(io_.BytesLeftM(), count, values)) {
         SetStatusM(SectionStatus::Broken);
         seen_.count = 0;
     }
@@ -162,6 +171,11 @@ void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
             text.SetM("");
         }
     }
-    reader.IdM("function_id", functionId);
-    fields(reader, RowM());
+    EachFieldM(reader, fields);
+}
+
+void SectionEntryCL::EachFieldM(FieldVisitorCL& visitor, RowFieldsTP fields)
+{
+    visitor.IdM("function_id", functionId);
+    fields(visitor, RowM());
 }

@@ -1,7 +1,13 @@
 #pragma once
+#include "records/field_counter.h"
 #include "records/field_reader.h"
 #include "records/rows.h"
+#include <cstddef>
 #include <unordered_map>
+
+// Whether so many bytes can hold `count` records or entries, each of at least `values` numbers and texts. A
+// small count may leave much to the defaults; a large one only serves to make the reader waste memory.
+PANELKIT_API bool slCanHold(std::size_t bytes, int count, int values);
 
 // One section of an open file: finds it, reads up to its first record, and hands out the reader of its
 // records. Tells the file's observer of the section when it goes.
@@ -15,14 +21,15 @@ public:
     ~SectionReaderCL();
 
     // The usual head, if the header was found: a count, the rest of its line, the number of comment lines,
-    // those lines. CountM is the number of records or entries then, 0 unless the status is Read.
-    SectionStatus OpenM();
+    // those lines. CountM is the number of records or entries then, each of at least `values` numbers and
+    // texts; 0 unless the status is Read.
+    SectionStatus OpenM(int values);
     // The parts of a head, for the sections with another one. Each does nothing unless the status is Read.
     void InputCountM(int* count);
-    void InputCommentsM(int* lines); // Only their number.
-    void InputCommentsM();           // Their number, the rest of its line, and them.
-    void SkipCommentsM(int lines);   // The rest of this line counts as one.
-    void SetCountM(int count);       // Broken, and CountM 0, for more than the file has bytes left.
+    void InputCommentsM(int* lines);       // Only their number.
+    void InputCommentsM();                 // Their number, the rest of its line, and them.
+    void SkipCommentsM(int lines);         // The rest of this line counts as one.
+    void SetCountM(int count, int values); // Broken, and CountM 0, for more than the bytes left can hold.
 
     SectionStatus StatusM() const { return seen_.status; }
     void SetStatusM(SectionStatus status) { seen_.status = status; }
@@ -60,7 +67,8 @@ struct SectionEntryCL
     CharArr texts[RowCL::MostTexts];
 
     RowCL RowM() { return { numbers, { &texts[0], &texts[1], &texts[2] } }; }
-    PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields);
+    PANELKIT_API void EachFieldM(FieldVisitorCL& visitor, RowFieldsTP fields);
+    PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields); // What can't be read is 0 or "".
 };
 
 // Reads one record of a main section: from its defaults (the delete tag is kept), the common fields, then its
@@ -78,8 +86,11 @@ template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& read
 template <class RecordArrTP, class RecordTP>
 SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
 {
+    SectionEntryCL entry;
+    FieldCounterCL values;
+    entry.EachFieldM(values, secondary.fields);
     SectionReaderCL section(io, secondary.header);
-    const SectionStatus status = section.OpenM();
+    const SectionStatus status = section.OpenM(values.ValuesM());
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
@@ -87,7 +98,6 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
     for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
         firstOfId.emplace(records.ElementAtM(i).GetFuncIDM(), i);
     }
-    SectionEntryCL entry;
     for (int i = 0; i < section.CountM(); ++i) {
         FieldReaderCL& reader = section.RecordM(i);
         entry.ReadM(reader, secondary.fields);
@@ -107,7 +117,7 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
 template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP& records, int* count)
 {
     SectionReaderCL section(io, RecordArrTP::Header);
-    const SectionStatus status = section.OpenM();
+    const SectionStatus status = section.OpenM(slFewestValues<typename RecordArrTP::RecordTP>());
     *count = section.CountM();
     if (status != SectionStatus::Read) {
         return status;

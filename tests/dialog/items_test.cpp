@@ -148,6 +148,16 @@ TEST(HostItems, WithoutRelationsTheFileHasNone)
     EXPECT_EQ(broken.ReadRelationsM(), 0);
 }
 
+TEST(HostItems, ManyRelationsTakeTwoBytesForEachOfTheirFourNumbers)
+{
+    const auto read = [](std::size_t left) {
+        ItemDialogCL dialog("[相关对象信息]\n1001\n0" + std::string(left - 2, '\n'));
+        return dialog.ReadRelationsM();
+    };
+    EXPECT_EQ(read(8008), 1);
+    EXPECT_EQ(read(8007), 0);
+}
+
 namespace {
 
 // A list box with id 1 and three lines: its id is also the index of a line.

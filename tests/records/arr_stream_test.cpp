@@ -228,6 +228,38 @@ TEST(ArrTextStream, LastElementMayLeaveItsLineEndUnread)
     EXPECT_EQ(shown(arr), "5");
 }
 
+TEST(ArrTextStream, WhatStandsBehindTheLastValueGoesWithItsLine)
+{
+    Arr<CountedCL> arr;
+    EXPECT_EQ(readFrom("1, b\n0, i\n31 5 remark\nend\nnext", "r", &arr), "next");
+    EXPECT_EQ(shown(arr), "5");
+    Arr<LineCL> lines;
+    EXPECT_EQ(readFrom("1, b\n0, i\n31 5 remark\nend\nnext", "r", &lines), "next");
+    EXPECT_EQ(readFrom("0, b\nend\nnext", "r", &lines), "next");
+}
+
+TEST(ArrTextStream, EndLineMayBeEmptyOrIndented)
+{
+    Arr<CountedCL> arr;
+    EXPECT_EQ(readFrom("1, b\n0, i\n31 5\n\nnext", "r", &arr), "next");
+    EXPECT_EQ(readFrom("1, b\n0, i\n31 5\n  end\nnext", "r", &arr), "next");
+    EXPECT_EQ(readFrom("2, b\n0, i\n31 5\n  end\nnext", "r", &arr), "next"); // Short of an element.
+}
+
+TEST(ArrTextStream, LabelsStandOnLinesOfTheirOwnBehindElementsThatLeaveTheirsOpen)
+{
+    TempFile file;
+    Arr<CountedCL> arr;
+    fill(&arr, { 8, 9 });
+    {
+        VrIOCL io;
+        io.OpenM(file.path(), "w");
+        io.OutputDM(7);
+        arr.FmOutputEvrLstM(&io, "list");
+    }
+    EXPECT_EQ(file.bytes(), "7 \n2, Begin list\n0, Item list\n31 8 \n1, Item list\n31 9 \nEnd list\n");
+}
+
 TEST(ArrTextStream, ElementOutsideTheListIsReadAndDropped)
 {
     Arr<LineCL> arr;

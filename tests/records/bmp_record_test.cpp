@@ -76,6 +76,7 @@ TEST(BmpRecordList, NamesReadStandInTheDirectoryOfTheirFile)
     DVrBmpArr list;
     list.AddItemM(DVrBmpCL(AliveTag));
     const ListRead read("2\n7 first.bmp\n5 sub/second one.bmp \nend of list\n42\n", &list);
+    EXPECT_EQ(42, read.following);
     EXPECT_EQ(1, read.result);
     EXPECT_FALSE(read.directory.empty());
     EXPECT_EQ(3, list.GetBoundM());
@@ -91,11 +92,12 @@ TEST(BmpRecordList, NamesReadStandInTheDirectoryOfTheirFile)
 TEST(BmpRecordList, EndLineIsPassedOver)
 {
     DVrBmpArr list;
-    // The last name's own line end is the one skipped.
-    EXPECT_EQ(42, ListRead("1\n0 a.bmp\n42\n", &list).following);
-    EXPECT_EQ(42, ListRead("0 nothing follows\n42\n", &list).following);
-    EXPECT_EQ(42, ListRead("-5\n42\n", &list).following);
-    EXPECT_EQ(1, list.GetBoundM());
+    // Behind the rest of the line of the last value, which is the count where no name is.
+    EXPECT_EQ(42, ListRead("1\n0 a.bmp\nend 7\n42\n", &list).following);
+    EXPECT_EQ(42, ListRead("1\r\n0 a.bmp\r\n\r\n42\r\n", &list).following);
+    EXPECT_EQ(42, ListRead("0 nothing follows\nend\n42\n", &list).following);
+    EXPECT_EQ(42, ListRead("-5\nend\n42\n", &list).following);
+    EXPECT_EQ(2, list.GetBoundM());
 }
 
 TEST(BmpRecordList, AllSlotsCountAsAvailableAfterReading)
@@ -126,7 +128,7 @@ TEST(BmpRecordList, ShortListHasAsManyAsItsCountAndAnImpossibleCountNone)
     EXPECT_EQ(read.directory + "a.bmp", nameOf(list, 0));
     EXPECT_EQ(read.directory, nameOf(list, 2));
     DVrBmpArr none;
-    const ListRead broken("2000000000 a\n42\n", &none);
+    const ListRead broken("2000000000 a\nend\n42\n", &none);
     EXPECT_EQ(1, broken.result);
     EXPECT_EQ(0, none.GetBoundM());
     EXPECT_EQ(0, broken.map.GetBoundM());

@@ -123,14 +123,19 @@ int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
     int lines = 0;
     section.InputCountM(&count);
     section.InputCommentsM(&lines);
-    section.SetCountM(magnitude(count));
+    const int withShowCondition = lines < 0 ? 1 : 0;
+    const int withDescription = count < 0 ? 1 : 0;
+    DVrNewRotateBtnCL record(AliveTag);
+    FieldCounterCL values;
+    record.EachCommonFieldM(values, 1);
+    record.EachFieldM(values, withShowCondition, withDescription);
+    section.SetCountM(magnitude(count), values.ValuesM());
     if (section.StatusM() != SectionStatus::Read) {
         return 0;
     }
     section.SkipCommentsM(magnitude(lines));
-    DVrNewRotateBtnCL record(AliveTag);
     for (int i = 0; i < section.CountM(); ++i) {
-        record.ReadM(section.RecordM(i), lines < 0 ? 1 : 0, count < 0 ? 1 : 0);
+        record.ReadM(section.RecordM(i), withShowCondition, withDescription);
         AddItemM(record);
     }
     section.EndM();
@@ -148,7 +153,10 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     int lines = 0;
     section.InputCountM(&count);
     section.InputCommentsM(&lines);
-    section.SetCountM(count);
+    PictureEntryCL entry;
+    FieldCounterCL values;
+    entry.EachFieldM(values);
+    section.SetCountM(count, values.ValuesM());
     if (section.StatusM() != SectionStatus::Read) {
         return 0;
     }
@@ -157,7 +165,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     io->GetFilePathM(folder);
     std::size_t slots = 0;
     for (int i = 0; i < count; ++i) {
-        PictureEntryCL entry;
+        entry = PictureEntryCL();
         entry.EachFieldM(section.RecordM(i));
         if (CheckAvailableM(entry.button) == 0) {
             section.DropM(EntryFault::UnknownId);

@@ -141,6 +141,22 @@ TEST(NewRotateBtnRecord, NegativeCountSwitchesTheDescriptionOnOfWhichOnlyCapital
     EXPECT_EQ(described(std::string(200, 'y')), std::string(124, 'y'));
 }
 
+TEST(NewRotateBtnRecord, EveryReaderOfItsFieldsTakesCapitalNullAloneForNoDescription)
+{
+    const auto described = [](const std::string& text) {
+        const DescriptionFileCL file("1 -1 4 9 " + text);
+        VrIOCL io;
+        io.OpenM(file.path(), "r");
+        FieldReaderCL reader(&io);
+        DVrNewRotateBtnCL record(AliveTag);
+        record.EachFieldM(reader);
+        return printedFields(record);
+    };
+    const std::string before = "steps=1,-1 initial_index=4 show_condition=9 description=";
+    EXPECT_EQ(described("NULL"), before + " pictures=");
+    EXPECT_EQ(described("null"), before + "null pictures=");
+}
+
 TEST(NewRotateBtnRecord, BothNegativeReadTheShowConditionBeforeTheDescription)
 {
     EXPECT_EQ(newRotate(Head + std::string("-1 -2\n说明\n1 7 11 2 3 40 50 1 -1 4 5 音量\n") + NoPictures),
