@@ -143,3 +143,17 @@ make_private_prefix() { # prefix
   printf '\n[Software\\\\Wine\\\\X11 Driver] 1\n"Managed"="N"\n' >>"$1.new/user.reg"
   mv "$1.new" "$1"
 }
+
+# A copy of another commit's sources with its native command and library built; prints the folder.
+build_other() { # commit
+  local commit folder
+  commit=$(git -C "$root" rev-parse --verify --short "$1^{commit}")
+  folder="$root/build/other/$commit"
+  if [ ! -x "$folder/build/host/bin/panelkit" ]; then
+    mkdir -p "$folder"
+    git -C "$root" archive "$commit" | tar x -C "$folder"
+    (cd "$folder" && cmake --preset host && CCACHE_BASEDIR=$folder cmake --build --preset host --target panelkit_command) \
+      >"$folder.log" 2>&1 </dev/null || { say "building $commit failed (log: $folder.log)"; return 1; }
+  fi
+  echo "$folder"
+}

@@ -1,5 +1,6 @@
 #include "support/description.h"
 #include "tools/run_command.h"
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <regex>
 
@@ -12,12 +13,17 @@ CommandResultCL dump(const std::string& path)
 
 } // namespace
 
-TEST(Dump, PrintsTheSampleToTheLetter)
+TEST(Dump, PrintsEverySampleToTheLetter)
 {
-    const CommandResultCL result = dump(sample("two_kinds.dlg"));
-    EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.errors, "");
-    EXPECT_EQ(result.output, wholeFile(sample("two_kinds.json")));
+    const std::vector<std::string> files = descriptionFiles(PANELKIT_SAMPLES);
+    EXPECT_GE(files.size(), 3U);
+    for (const std::string& file : files) {
+        const CommandResultCL result = dump(file);
+        EXPECT_EQ(result.code, 0) << file;
+        EXPECT_EQ(result.errors, "") << file;
+        const std::string expected = std::filesystem::path(file).replace_extension(".json").string();
+        EXPECT_EQ(result.output, wholeFile(expected)) << file;
+    }
 }
 
 TEST(Dump, EverySectionOfTheExamplesIsWhole)

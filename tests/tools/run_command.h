@@ -1,8 +1,8 @@
 #pragma once
+#include "support/description_files.h"
 #include "support/temp_file.h"
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -19,19 +19,6 @@ struct CommandResultCL
     std::string output; // Standard output.
     std::string errors; // Standard error.
 };
-
-inline std::string wholeFile(const std::string& path)
-{
-    std::string bytes;
-    if (FILE* file = std::fopen(path.c_str(), "rb")) {
-        char block[4096];
-        for (size_t read = 0; (read = std::fread(block, 1, sizeof block, file)) > 0;) {
-            bytes.append(block, read);
-        }
-        std::fclose(file);
-    }
-    return bytes;
-}
 
 #ifdef _WIN32
 
@@ -100,13 +87,7 @@ inline void expectComplaint(const CommandResultCL& result, const std::string& pa
 // Every description file of examples/.
 inline std::vector<std::string> exampleFiles()
 {
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(PANELKIT_EXAMPLES)) {
-        if (entry.path().extension() == ".dlg") {
-            files.push_back(entry.path().string());
-        }
-    }
-    return files;
+    return descriptionFiles(PANELKIT_EXAMPLES);
 }
 
 inline int countOf(const std::string& text, const std::string& part)
