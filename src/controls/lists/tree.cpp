@@ -35,14 +35,6 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
     return 1;
 }
 
-int DVrTreeArr::InitTreeStrM(int index, DuTreeCL* control)
-{
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).InitTreeStrM(control);
-    }
-    return 1;
-}
-
 int DuTreeCL::Create(CWnd* parent)
 {
     return createdM(CTreeCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
