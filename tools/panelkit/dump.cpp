@@ -65,7 +65,8 @@ template <class RecordArrTP> JsonTP sectionOf(VrIOCL& io)
     RecordArrTP records;
     int count = 0;
     const SectionStatus status = slReadSection(io, records, &count);
-    return { { "kind", RecordArrTP::KindName }, { "header", slGbkToUtf8(RecordArrTP::Header) },
+    const char* const kind = RecordArrTP::KindName; // The constant itself isn't exported.
+    return { { "kind", kind }, { "header", slGbkToUtf8(RecordArrTP::Header) },
         { "status", statusName(status) }, { "records", recordsOf(records, 0) } };
 }
 
