@@ -447,3 +447,51 @@ TEST(BitmapRecord, DroppedBitmapIsDeletedUnlessItIsShared)
     EXPECT_FALSE(first.HoldsBitmapM());
     EXPECT_EQ(second.GetWidthM(), 3);
 }
+
+TEST(BitmapRecord, MovingKeepsTheOtherHoldersOfTheBitmapSafe)
+{
+    const TestFile file("moved.bmp", placePicture(3, 2));
+    Canvas canvas(8, 8, Grey);
+    DVrBitmapCL third;
+    HGDIOBJ shared = nullptr;
+    {
+        DVrBitmapCL first;
+        first.LoadBitmapM(file.path());
+        DVrBitmapCL second(first);
+        third = first;
+        shared = handleOf(&third);
+        EXPECT_EQ(1, first.MoveBitmapM(second.GetBitmapM()));
+        EXPECT_FALSE(second.HoldsBitmapM());
+        EXPECT_EQ(shared, handleOf(&first));
+        EXPECT_EQ(3, third.GetWidthM());
+    }
+    EXPECT_FALSE(isBitmap(shared));
+    EXPECT_FALSE(third.HoldsBitmapM());
+    EXPECT_EQ(0, third.DrawBitmapM(&canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(0, third.BlendBitmapM(&canvas.dc));
+    // The system gives the handle to something else: nobody touches it.
+    HGDIOBJ other = nullptr;
+    for (int i = 0; i < 100000 && other != shared; ++i) {
+        ::DeleteObject(other);
+        other = ::CreateBitmap(1, 1, 1, 32, nullptr);
+    }
+    ASSERT_EQ(other, shared);
+    EXPECT_EQ(0, third.GetWidthM());
+    third.DelItemM();
+    EXPECT_TRUE(isBitmap(other));
+    ::DeleteObject(other);
+}
+
+TEST(BitmapRecord, MovingADeadBitmapGivesNone)
+{
+    const TestFile file("moved.bmp", placePicture(3, 2));
+    DVrBitmapCL first;
+    first.LoadBitmapM(file.path());
+    DVrBitmapCL second(first);
+    CBitmap* const source = second.GetBitmapM();
+    first.DelItemM();
+    DVrBitmapCL third;
+    EXPECT_EQ(1, third.MoveBitmapM(source));
+    EXPECT_FALSE(third.HoldsBitmapM());
+    EXPECT_FALSE(second.HoldsBitmapM());
+}
