@@ -107,7 +107,6 @@ int slGenerateRgnFromBitmapM(const char* file, const unsigned char* key, int mod
 
 int slReadRgn(const char* file, Int2DArr* pts)
 {
-    pts->DelAllM();
     VrIOCL io;
     io.OpenM(file, "r");
     int count = 0;
