@@ -372,3 +372,12 @@ TEST(RegionByBoundary, LowestRowIsTheFirstForTheWalk)
     slGenerateRgnFromBitmapM(picture.w, picture.h, picture.bytes.data(), White.data(), 107, &rgn);
     EXPECT_TRUE(isRect(rgn, 1, 4, 4, 6));
 }
+
+TEST(RegionPixelExact, OfAFlawedPictureIsWhatIsShown)
+{
+    BmpFile picture = codedBmp(8, 5, 2, { 5, 1, 0, 0, 7, 2, 0, 0 });
+    const TestFile coded("region_test.bmp", picture);
+    CRgn rgn;
+    slCreatRgnByPixel(coded.path(), White.data(), &rgn);
+    EXPECT_TRUE(isRect(rgn, 0, 0, 5, 2));
+}
