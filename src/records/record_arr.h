@@ -19,4 +19,11 @@ protected:
         }
         return 1;
     }
+    template <class ActionTP> int ifAliveM(int index, ActionTP&& action)
+    {
+        if (this->CheckAvailableM(index) == 1) {
+            action(*this->ElementAtPM(index));
+        }
+        return 1;
+    }
 };

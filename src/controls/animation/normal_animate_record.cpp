@@ -18,8 +18,5 @@ int DVrNormalAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrNormalAnimateArr::AddBmpNameM(int index, const char* file)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(file);
-    }
-    return 1;
+    return ifAliveM(index, [file](DVrNormalAnimateCL& record) { record.AddBmpNameM(file); });
 }

@@ -16,8 +16,5 @@ int DVrSpecAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrSpecAnimateArr::AddBmpNameM(int index, const char* file)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(file);
-    }
-    return 1;
+    return ifAliveM(index, [file](DVrSpecAnimateCL& record) { record.AddBmpNameM(file); });
 }

@@ -31,8 +31,6 @@ int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 
 int DVrMultiStateButtonArr::AddStringM(int index, int status, const char* file)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(status, file);
-    }
-    return 1;
+    return ifAliveM(
+        index, [status, file](DVrMultiStateButtonCL& record) { record.AddStringM(status, file); });
 }

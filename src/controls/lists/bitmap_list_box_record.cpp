@@ -23,8 +23,5 @@ int DVrBmpListBoxCL::AddBmpNameM(const char* name)
 
 int DVrBmpListBoxArr::AddBmpNameM(int index, const char* name)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddBmpNameM(name);
-    }
-    return 1;
+    return ifAliveM(index, [name](DVrBmpListBoxCL& record) { record.AddBmpNameM(name); });
 }

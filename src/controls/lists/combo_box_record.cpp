@@ -20,8 +20,5 @@ int DVrComboBoxCL::AddStringM(const char* text)
 
 int DVrComboBoxArr::AddStringM(int index, const char* text)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(text);
-    }
-    return 1;
+    return ifAliveM(index, [text](DVrComboBoxCL& record) { record.AddStringM(text); });
 }

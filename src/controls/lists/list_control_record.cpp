@@ -5,17 +5,15 @@ template class PANELKIT_API Arr<DVrListCtrlCL>;
 
 namespace {
 
-// Shows rows of two numbers and a text.
+// Shows the rows of two numbers and a text that fill a table.
 void visitPaired(FieldVisitorCL& visitor, const char* name, const PairedTextsCL& list, const char* first,
     const char* second)
 {
-    int pair = -1;
     int text = -1;
     visitor.ListM(name, list.CountM(), [&](FieldVisitorCL& row, int number) {
-        pair = number == 0 ? list.pairs.GetFirstIdxM() : list.pairs.GetNextIdxM(pair);
         text = number == 0 ? list.texts.GetFirstIdxM() : list.texts.GetNextIdxM(text);
         int numbers[2] = {};
-        list.pairs.GetItemM(numbers, pair);
+        list.pairs.GetItemM(numbers, number);
         row.IntM(first, numbers[0]);
         row.IntM(second, numbers[1]);
         slVisitText(row, "text", list.texts, text);
@@ -75,16 +73,10 @@ void DVrListCtrlCL::destroyM()
 
 int DVrListCtrlArr::AddTitleStringM(int index, const int pair[2], const char* text)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddTitleStringM(pair, text);
-    }
-    return 1;
+    return ifAliveM(index, [pair, text](DVrListCtrlCL& record) { record.AddTitleStringM(pair, text); });
 }
 
 int DVrListCtrlArr::AddItemStringM(int index, const int pair[2], const char* text)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddItemStringM(pair, text);
-    }
-    return 1;
+    return ifAliveM(index, [pair, text](DVrListCtrlCL& record) { record.AddItemStringM(pair, text); });
 }

@@ -48,13 +48,3 @@ inline void slVisitTexts(FieldVisitorCL& visitor, const char* name, const VrStri
         slVisitText(row, "", texts, slot);
     });
 }
-
-// Lets a record of an array take something; nothing outside the array. Always 1.
-template <class RecordTP, class ActionTP>
-int slChangeRecord(Arr<RecordTP>& records, int index, ActionTP&& action)
-{
-    if (RecordTP* const record = records.ElementAtPM(index)) {
-        action(*record);
-    }
-    return 1;
-}

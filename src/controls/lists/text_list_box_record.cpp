@@ -29,5 +29,5 @@ void DVrTextListBoxCL::destroyM()
 
 int DVrTextListBoxArr::AddStringM(int index, const char* text)
 {
-    return slChangeRecord(*this, index, [text](DVrTextListBoxCL& record) { record.AddStringM(text); });
+    return ifAliveM(index, [text](DVrTextListBoxCL& record) { record.AddStringM(text); });
 }

@@ -42,10 +42,7 @@ int DVrTreeArr::InitTreeM(int index, DuTreeCL* control) const
 
 int DVrTreeArr::InitTreeStrM(int index, DuTreeCL* control)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).InitTreeStrM(control);
-    }
-    return 1;
+    return ifAliveM(index, [control](DVrTreeCL& record) { record.InitTreeStrM(control); });
 }
 
 int DuTreeCL::Create(CWnd* parent)

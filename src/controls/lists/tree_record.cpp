@@ -22,8 +22,7 @@ int DVrTreeCL::AddStringM(
 int DVrTreeArr::AddStringM(
     int index, const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
-    if (CheckAvailableM(index) == 1) {
-        ElementAtM(index).AddStringM(triple, text, selectedPicture, normalPicture);
-    }
-    return 1;
+    return ifAliveM(index, [triple, text, selectedPicture, normalPicture](DVrTreeCL& record) {
+        record.AddStringM(triple, text, selectedPicture, normalPicture);
+    });
 }
