@@ -1,4 +1,5 @@
 // Feeds broken .bmp files to the reader; run by scripts/fuzz or by hand with the corpus in fuzz/corpus/bmp.
+#include "baselib/bmp_header.h"
 #include "baselib/bmp_reader.h"
 #include "baselib/helpers.h"
 #include <cstdint>
@@ -22,5 +23,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         static_cast<void>(last);
     }
     slFree(pixels);
+    slCanPlatformLoadBmp(BmpBytes { data, size });
     return 0;
 }

@@ -41,6 +41,7 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_values.cpp
   records/bitmap_record.cpp
   records/brush_record.cpp
+  records/picture_loader.cpp
   records/region_functions.cpp
   records/region_pixels.cpp
   records/rgn_record.cpp

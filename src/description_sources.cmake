@@ -1,6 +1,7 @@
 set(PANELKIT_DESCRIPTION_SOURCES
   baselib/base.cpp
   baselib/bmp_header.cpp
+  baselib/bmp_indices.cpp
   baselib/bmp_reader.cpp
   baselib/bmp_rle.cpp
   baselib/char_arr.cpp

@@ -33,9 +33,9 @@ bool isKnownCoding(const BmpHeader& header)
     case BmpCoding::Rgb:
         return true;
     case BmpCoding::Rle8:
-        return header.bits == 8 && !header.topDown;
+        return header.bits == 8;
     case BmpCoding::Rle4:
-        return header.bits == 4 && !header.topDown;
+        return header.bits == 4;
     case BmpCoding::BitFields:
     case BmpCoding::AlphaBitFields:
         return header.bits == 16 || header.bits == 32;
@@ -105,18 +105,17 @@ bool readFields(const BmpBytes& file, std::uint32_t headerSize, BmpHeader* heade
     return true;
 }
 
-// The colours stand between the headers and the pixels; fewer than announced may fit there.
+// The colours announced stand behind the headers, even where pixels already begin there.
 void readPalette(
     const BmpBytes& file, std::size_t at, std::size_t entrySize, std::uint32_t announced, BmpHeader* header)
 {
     const std::size_t most = std::size_t { 1 } << header->bits;
-    std::size_t count = announced == 0 ? most : std::min<std::size_t>(announced, most);
-    count = std::min(count, (header->pixelsAt - at) / entrySize);
-    for (std::size_t i = 0; i < count; ++i) {
-        const unsigned char* entry = file.data + at + i * entrySize;
-        header->palette[i] = BmpColour { entry[2], entry[1], entry[0] };
+    const std::size_t count = announced == 0 ? most : std::min<std::size_t>(announced, most);
+    for (std::size_t i = 0; i < count; ++i, at += entrySize) {
+        const auto byte = [&](std::size_t k) { return file.holds(at + k, 1) ? file.data[at + k] : 0; };
+        header->palette[i] = BmpColour { static_cast<unsigned char>(byte(2)),
+            static_cast<unsigned char>(byte(1)), static_cast<unsigned char>(byte(0)) };
     }
-    header->paletteSize = static_cast<int>(count);
 }
 
 // Sizes and coding; false when a size is 0 or has no counterpart among the positive numbers.
@@ -131,6 +130,7 @@ bool readShape(const InfoReader& info, BmpHeader* header)
         header->height = static_cast<std::int32_t>(info.dword(8));
         header->bits = info.word(14);
         header->coding = static_cast<BmpCoding>(info.dword(16));
+        header->codesSize = info.dword(20);
     }
     if (header->width < 1 || header->height == 0 || header->height == INT_MIN) {
         return false;
@@ -181,4 +181,33 @@ bool slReadBmpHeader(const BmpBytes& file, BmpHeader* header)
         readPalette(file, headersEnd, entrySize, info.dword(32), header);
     }
     return true;
+}
+
+bool slCanPlatformLoadBmp(const BmpBytes& file)
+{
+    const std::uint32_t headerSize = file.holds(0, FileHeaderSize + 4) ? file.dword(FileHeaderSize) : 0;
+    const bool known = headerSize == InfoHeaderSize || headerSize == 108 || headerSize == LongestHeaderSize;
+    if (!known || !file.holds(FileHeaderSize, headerSize)) {
+        return false;
+    }
+    const InfoReader info { file, headerSize };
+    BmpHeader header;
+    readShape(info, &header); // Whatever the coding is, it takes the room of plain rows.
+    if (header.width < 1 || header.height < 1 || header.topDown || !isKnownDepth(header.bits)
+        || header.coding == BmpCoding::AlphaBitFields) {
+        return false;
+    }
+    std::size_t colours = std::min<std::size_t>(info.dword(32), 256);
+    if (colours == 0 && header.bits <= 8) {
+        colours = std::size_t { 1 } << header.bits;
+    }
+    const std::size_t masks = header.coding == BmpCoding::BitFields && headerSize == InfoHeaderSize ? 12 : 0;
+    const std::size_t headersEnd = FileHeaderSize + headerSize + masks + colours * 4;
+    const std::uint32_t offset = file.dword(10);
+    header.pixelsAt = offset == 0 || offset == FileHeaderSize ? headersEnd : offset;
+    if (headersEnd > file.size || header.pixelsAt < FileHeaderSize || header.pixelsAt > file.size) {
+        return false;
+    }
+    return header.isRunCoded() ? header.codesSize != 0 && file.holds(header.pixelsAt, header.codesSize)
+                               : header.holdsRows(file);
 }

@@ -45,13 +45,29 @@ struct BmpHeader
     bool topDown { false };
     int bits { 0 }; // 1, 4, 8, 16, 24 or 32 a pixel.
     BmpCoding coding { BmpCoding::Rgb };
-    std::size_t pixelsAt { 0 }; // Behind the headers, within the file.
-    BmpField fields[3];         // Red, green, blue; for 16 and 32 bits.
-    BmpColour palette[256];
-    int paletteSize { 0 }; // An index at or above it is broken.
+    std::size_t pixelsAt { 0 };  // Behind the headers, within the file.
+    BmpField fields[3];          // Red, green, blue; for 16 and 32 bits.
+    std::size_t codesSize { 0 }; // Bytes of the runs as the header says; 0: it doesn't.
+    BmpColour palette[256];      // Black for indices without a colour.
+
+    bool isRunCoded() const { return coding == BmpCoding::Rle8 || coding == BmpCoding::Rle4; }
+    // Bytes of a row of pixels that aren't run-length coded, and whether the file holds them all.
+    std::size_t stride() const
+    {
+        return (static_cast<std::size_t>(width) * static_cast<std::size_t>(bits) + 31) / 32 * 4;
+    }
+    bool holdsRows(const BmpBytes& file) const
+    {
+        return stride() <= (file.size - pixelsAt) / static_cast<std::size_t>(height);
+    }
 };
 
 // Reads the file header and any of the information headers: 12 bytes (OS/2 1), 16 to 64 bytes (OS/2 2 and
 // the usual 40), 108 and 124 bytes (versions 4 and 5). Returns false when the file cannot be a picture of a
 // kind that is read here, or when its numbers contradict each other or the file's size.
 bool slReadBmpHeader(const BmpBytes& file, BmpHeader* header);
+
+// Whether the platform's loader can be given the file: it reads what the headers announce without asking for
+// the file's end, and doesn't know pictures stored from the top, runs of unknown size and the headers of
+// OS/2. Less strict than slReadBmpHeader where the loader makes something of it, e.g. of masks with gaps.
+bool slCanPlatformLoadBmp(const BmpBytes& file);

@@ -1,6 +1,6 @@
 #include "baselib/bmp_reader.h"
 #include "baselib/bmp_header.h"
-#include "baselib/bmp_rle.h"
+#include "baselib/bmp_indices.h"
 #include "baselib/file.h"
 #include "baselib/helpers.h"
 #include <climits>
@@ -8,10 +8,6 @@
 #include <vector>
 
 namespace {
-
-// A few codes may announce a large empty picture: no more pixels than these for a file are believed.
-constexpr std::uint64_t RunPixelsAtLeast = 1U << 20;
-constexpr std::uint64_t RunPixelsPerByte = 256;
 
 struct BufferDeleter
 {
@@ -50,65 +46,58 @@ public:
         if (pixels > INT_MAX / 3) {
             return nullptr;
         }
-        return isRunCoded() ? decodeRuns(pixels) : decodeRows(pixels);
+        return header_.bits <= 8 ? decodeIndices(pixels) : decodeRows(pixels);
     }
 
 private:
-    bool isRunCoded() const { return header_.coding == BmpCoding::Rle8 || header_.coding == BmpCoding::Rle4; }
     static Buffer allocate(std::uint64_t pixels)
     {
         return Buffer(static_cast<unsigned char*>(slMalloc(static_cast<std::size_t>(pixels) * 3)));
     }
 
-    Buffer decodeRuns(std::uint64_t pixels) const
+    Buffer decodeIndices(std::uint64_t pixels) const
     {
-        if (pixels > RunPixelsAtLeast + RunPixelsPerByte * file_.size) {
-            return nullptr;
-        }
-        std::vector<unsigned char> indices(static_cast<std::size_t>(pixels));
-        if (!slDecodeBmpRuns(file_, header_, indices.data())) {
+        std::vector<unsigned char> indices;
+        if (!slDecodeBmpIndices(file_, header_, &indices)) {
             return nullptr;
         }
         Buffer buffer = allocate(pixels);
         unsigned char* to = buffer.get();
-        for (unsigned char index : indices) {
-            if (to == nullptr || !putIndex(index, to)) {
-                return nullptr;
-            }
-            to += 3;
+        if (to == nullptr) {
+            return nullptr;
+        }
+        for (const unsigned char index : indices) {
+            const BmpColour& colour = header_.palette[index];
+            *to++ = colour.red;
+            *to++ = colour.green;
+            *to++ = colour.blue;
         }
         return buffer;
     }
 
     Buffer decodeRows(std::uint64_t pixels) const
     {
-        const std::size_t stride = (width_ * static_cast<std::size_t>(header_.bits) + 31) / 32 * 4;
-        if (stride > (file_.size - header_.pixelsAt) / height_) {
+        if (!header_.holdsRows(file_)) {
             return nullptr;
         }
         Buffer buffer = allocate(pixels);
-        for (std::size_t y = 0; y < height_; ++y) {
-            const unsigned char* from = file_.data + header_.pixelsAt + y * stride;
+        for (std::size_t y = 0; buffer != nullptr && y < height_; ++y) {
+            const unsigned char* from = file_.data + header_.pixelsAt + y * header_.stride();
             const std::size_t row = header_.topDown ? height_ - 1 - y : y;
-            if (buffer == nullptr || !decodeRow(from, buffer.get() + row * width_ * 3)) {
-                return nullptr;
-            }
+            decodeRow(from, buffer.get() + row * width_ * 3);
         }
         return buffer;
     }
 
-    bool decodeRow(const unsigned char* from, unsigned char* to) const
+    void decodeRow(const unsigned char* from, unsigned char* to) const
     {
-        if (header_.bits <= 8) {
-            return decodeIndices(from, to);
-        }
         if (header_.bits == 24) {
             for (const unsigned char* const end = to + width_ * 3; to != end; to += 3, from += 3) {
                 to[0] = from[2];
                 to[1] = from[1];
                 to[2] = from[0];
             }
-            return true;
+            return;
         }
         const std::size_t size = static_cast<std::size_t>(header_.bits) / 8;
         for (std::size_t x = 0; x < width_; ++x, to += 3) {
@@ -118,30 +107,6 @@ private:
                 to[i] = component(value, header_.fields[i]);
             }
         }
-        return true;
-    }
-
-    bool decodeIndices(const unsigned char* from, unsigned char* to) const
-    {
-        const std::size_t bits = static_cast<std::size_t>(header_.bits);
-        for (std::size_t x = 0; x < width_; ++x, to += 3) {
-            const unsigned place = static_cast<unsigned>(8 - bits - x * bits % 8);
-            if (!putIndex(from[x * bits / 8] >> place & ((1 << bits) - 1), to)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool putIndex(int index, unsigned char* to) const
-    {
-        if (index >= header_.paletteSize) {
-            return false;
-        }
-        to[0] = header_.palette[index].red;
-        to[1] = header_.palette[index].green;
-        to[2] = header_.palette[index].blue;
-        return true;
     }
 
     const BmpBytes& file_;

@@ -9,8 +9,10 @@
 // order too; w*3 bytes a row without padding; the picture's lowest row first, whatever the order in the file.
 // The buffer belongs to the caller, who releases it with slFree.
 //
-// A file that is missing, cut short or broken in any way (a size of 0, a palette index without a colour, a
-// run past its row's end, an offset outside the file, ...) gives 0 with *w = *h = 0 and *pixels null.
+// A file that is missing, cut short or broken (a size of 0, an offset outside the file, masks that overlap,
+// ...) gives 0 with *w = *h = 0 and *pixels null. What the platform's loader shows in spite of a flaw is read
+// as it shows it: an index without a colour is black, runs end with their row or with the picture, and where
+// codes end without an end mark, what follows their last mark is left out.
 
 // file: GBK path. Returns 1, or 0 when there is no such picture.
 PANELKIT_API int slLoadBmpTexture(const char* file, int* w, int* h, unsigned char** pixels);

@@ -1,4 +1,5 @@
 #include "baselib/bmp_rle.h"
+#include <algorithm>
 
 namespace {
 
@@ -15,87 +16,100 @@ public:
         , header_(header)
         , indices_(indices)
         , at_(header.pixelsAt)
+        , end_(file.size)
     {
+        if (header.codesSize != 0 && file.holds(at_, header.codesSize)) {
+            end_ = at_ + header.codesSize;
+        }
     }
 
     bool decode()
     {
-        while (file_.holds(at_, 2)) {
+        while (!done_ && holds(2)) {
             const int first = file_.data[at_];
             const int second = file_.data[at_ + 1];
             at_ += 2;
-            bool good = true;
             if (first != 0) {
-                good = repeat(first, second);
-            } else if (second == EndOfPicture) {
-                return true;
-            } else if (second == EndOfRow) {
-                good = moveTo(0, y_ + 1);
-            } else if (second == Move) {
-                good = move();
+                repeat(first, second);
+            } else if (second > Move) {
+                copy(second);
             } else {
-                good = copy(second);
-            }
-            if (!good) {
-                return false;
+                mark(second);
             }
         }
-        return false;
+        if (done_) {
+            return true;
+        }
+        std::fill(row() + marked_, row() + x_, static_cast<unsigned char>(0));
+        return header_.codesSize <= file_.size - header_.pixelsAt;
     }
 
 private:
-    bool fits(int count) const { return y_ < header_.height && count <= header_.width - x_; }
+    bool holds(std::size_t count) const { return count <= end_ - at_; }
+
     void put(int index)
     {
-        indices_[static_cast<std::size_t>(y_) * static_cast<std::size_t>(header_.width)
-            + static_cast<std::size_t>(x_)]
-            = static_cast<unsigned char>(index);
-        ++x_;
+        if (x_ < header_.width) {
+            row()[x_] = static_cast<unsigned char>(index);
+            ++x_;
+        }
+    }
+    unsigned char* row() const
+    {
+        const int fromBelow = header_.topDown ? header_.height - 1 - y_ : y_;
+        return indices_ + static_cast<std::size_t>(fromBelow) * static_cast<std::size_t>(header_.width);
     }
 
-    bool moveTo(int x, int y)
+    void mark(int code)
+    {
+        marked_ = x_;
+        if (code == EndOfRow) {
+            moveTo(0, 1);
+        } else if (code == EndOfPicture) {
+            done_ = true;
+        } else if (holds(2)) {
+            const int right = file_.data[at_];
+            const int up = file_.data[at_ + 1];
+            at_ += 2;
+            // Compared before adding: the sizes may reach the limit of int.
+            moveTo(right < header_.width - x_ ? x_ + right : header_.width, up);
+        } else {
+            at_ = end_;
+        }
+    }
+
+    void moveTo(int x, int up)
     {
         x_ = x;
-        y_ = y;
-        return x_ <= header_.width && y_ <= header_.height;
+        marked_ = x;
+        if (up < header_.height - y_) {
+            y_ += up;
+        } else {
+            done_ = true;
+        }
     }
 
-    bool move()
+    void repeat(int count, int pixel)
     {
-        if (!file_.holds(at_, 2)) {
-            return false;
-        }
-        const int right = file_.data[at_];
-        const int up = file_.data[at_ + 1];
-        at_ += 2;
-        // Compared before adding: the sizes may reach the limit of int.
-        return right <= header_.width - x_ && up <= header_.height - y_ && moveTo(x_ + right, y_ + up);
-    }
-
-    bool repeat(int count, int pixel)
-    {
-        if (!fits(count)) {
-            return false;
-        }
         for (int i = 0; i < count; ++i) {
             put(header_.bits == 8 ? pixel : nibble(pixel, i));
         }
-        return true;
     }
 
     // Single pixels, filled up to a whole number of 16-bit words.
-    bool copy(int count)
+    void copy(int count)
     {
         const std::size_t bytes = static_cast<std::size_t>(header_.bits == 8 ? count : (count + 1) / 2);
-        if (!fits(count) || !file_.holds(at_, bytes)) {
-            return false;
+        const std::size_t filled = bytes + bytes % 2;
+        if (!holds(filled)) {
+            at_ = end_;
+            return;
         }
         for (int i = 0; i < count; ++i) {
             put(header_.bits == 8 ? file_.data[at_ + static_cast<std::size_t>(i)]
                                   : nibble(file_.data[at_ + static_cast<std::size_t>(i / 2)], i));
         }
-        at_ += bytes + bytes % 2;
-        return true;
+        at_ += filled;
     }
 
     static int nibble(int byte, int i) { return i % 2 == 0 ? byte >> 4 : byte & 15; }
@@ -104,8 +118,11 @@ private:
     const BmpHeader& header_;
     unsigned char* indices_;
     std::size_t at_;
-    int x_ { 0 };
-    int y_ { 0 }; // From the lowest row.
+    std::size_t end_;  // Of the codes.
+    int x_ { 0 };      // Up to the width.
+    int y_ { 0 };      // In the order of the file, always a row of the picture.
+    int marked_ { 0 }; // Pixels of the row from here on stand behind the last mark.
+    bool done_ { false };
 };
 
 } // namespace

@@ -37,9 +37,10 @@ int DuBasicDialogCL::initM(CWnd* parent, int mode)
         if (header_.titleFlag == 1) {
             parent->SetWindowText(header_.title.TextM());
         }
-        parent->MoveWindow(std::clamp(header_.position[0], -Most, Most),
+        // The style may have another frame, of which a window of the same size would not hear.
+        parent->SetWindowPos(nullptr, std::clamp(header_.position[0], -Most, Most),
             std::clamp(header_.position[1], -Most, Most), std::clamp(header_.size[0], -Most, Most),
-            std::clamp(header_.size[1], -Most, Most), TRUE);
+            std::clamp(header_.size[1], -Most, Most), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     }
     return 1;
 }

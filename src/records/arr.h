@@ -105,6 +105,7 @@ private:
     static constexpr int LabelSize = 260; // What the texts around a list's elements need.
 
     static void constructM(T* slots, int n);
+    static void letGoM(T* slots, int n);
     static T& spareM();
     int slotOfM(const T* item) const;
     void dropHeapStoreM();

@@ -56,7 +56,8 @@ template <class T> Arr<T>& Arr<T>::operator=(const Arr& other)
         }
     }
     if (heapStore_ != nullptr && heapStore_ == other.heapStore_) {
-        returnToInlineM(); // Deleting the items would delete those about to be copied.
+        letGoM(inlineStore_, InlineLength); // Deleting the items would delete those about to be copied.
+        returnToInlineM();
     }
     DelAllM();
     if (block != nullptr) {
@@ -174,11 +175,21 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
         return 0;
     }
     T* slots = getCurrentItemPrtM();
+    T overwritten; // For an item that lies in the slot at the bound.
+    const T* source = &item;
+    if (own == bound_) {
+        overwritten = slots[own];
+        source = &overwritten;
+    } else if (own >= 0) {
+        source = slots + (own < i || own > bound_ ? own : own + 1);
+    }
+    letGoM(slots + bound_, 1);
     slots[bound_].~T(); // The moved bytes overwrite it.
     std::memmove(
         static_cast<void*>(slots + i + 1), static_cast<const void*>(slots + i), (bound_ - i) * sizeof(T));
     constructM(slots + i, 1);
-    slots[i] = own >= 0 ? slots[own < i ? own : own + 1] : item;
+    slots[i] = *source;
+    letGoM(&overwritten, 1);
     ++bound_;
     if (slots[i].IsAliveM()) {
         ++available_;
@@ -211,6 +222,13 @@ template <class T> void Arr<T>::constructM(T* slots, int n)
     for (int k = 0; k < n; ++k) {
         ::new (static_cast<void*>(slots + k)) T();
     }
+}
+
+// Empties slots before they are destroyed or marked deleted, as storing over them would: what they share with
+// an alive item, such as a bitmap, must not be deleted with them.
+template <class T> void Arr<T>::letGoM(T* slots, int n)
+{
+    std::fill_n(slots, n, T());
 }
 
 // The slot in which an item lies, -1 for an item from elsewhere.

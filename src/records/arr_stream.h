@@ -55,7 +55,9 @@ template <class T> void Arr<T>::inputElementsM(VrIOCL* io, int n)
 {
     T* slots = getCurrentItemPrtM();
     for (int k = 0; k < n; ++k) {
-        slots[k].DelItemM(); // A slot that the file doesn't fill must not show what it held long ago.
+        // A slot that the file doesn't fill must not show what it held long ago. Only marked: what it shares
+        // with others isn't deleted.
+        slots[k].SetDeleteTagM(DeletedTag);
     }
     bound_ = n;
     for (int read = 0; read < n; ++read) {

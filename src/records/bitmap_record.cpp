@@ -54,69 +54,70 @@ BITMAP measure(const CBitmap& bitmap)
 
 } // namespace
 
+void DVrBitmapCL::SharedCL::OwnM(HGDIOBJ bitmap)
+{
+    ForgetM();
+    if (bitmap != nullptr) {
+        Attach(bitmap);
+        deleted_ = std::make_shared<bool>(false);
+    }
+}
+
+void DVrBitmapCL::SharedCL::ShareM(const SharedCL& other)
+{
+    ForgetM();
+    if (other.IsAliveM()) {
+        Attach(other.m_hObject);
+        deleted_ = other.deleted_;
+    }
+}
+
+void DVrBitmapCL::SharedCL::ForgetM()
+{
+    Detach();
+    deleted_.reset();
+}
+
+void DVrBitmapCL::SharedCL::DeleteM()
+{
+    if (IsAliveM()) {
+        DeleteObject();
+        *deleted_ = true;
+    }
+    ForgetM();
+}
+
 DVrBitmapCL::DVrBitmapCL(const DVrBitmapCL& other)
     : VrBaseCL(other)
 {
-    shareM(other);
+    bitmap_.ShareM(other.bitmap_);
+    SetExtraM(other.extra_[0], other.extra_[1]);
 }
 
 DVrBitmapCL& DVrBitmapCL::operator=(const DVrBitmapCL& other)
 {
     if (this != &other) {
         VrBaseCL::operator=(other);
-        forgetM();
-        shareM(other);
+        bitmap_.ShareM(other.bitmap_);
+        SetExtraM(other.extra_[0], other.extra_[1]);
     }
     return *this;
 }
 
 DVrBitmapCL::~DVrBitmapCL()
 {
-    deleteM();
-}
-
-void DVrBitmapCL::shareM(const DVrBitmapCL& other)
-{
-    extra_[0] = other.extra_[0];
-    extra_[1] = other.extra_[1];
-    if (other.HoldsBitmapM()) {
-        bitmap_.Attach(other.bitmap_.m_hObject);
-        deleted_ = other.deleted_;
-    }
-}
-
-void DVrBitmapCL::attachM(HBITMAP bitmap)
-{
-    if (bitmap != nullptr) {
-        bitmap_.Attach(bitmap);
-        deleted_ = std::make_shared<bool>(false);
-    }
-}
-
-void DVrBitmapCL::forgetM()
-{
-    bitmap_.Detach();
-    deleted_.reset();
-}
-
-void DVrBitmapCL::deleteM()
-{
-    if (HoldsBitmapM()) {
-        bitmap_.DeleteObject();
-        *deleted_ = true;
-    }
-    forgetM();
+    bitmap_.DeleteM();
 }
 
 bool DVrBitmapCL::HoldsBitmapM() const
 {
-    return deleted_ != nullptr && !*deleted_ && bitmap_.m_hObject != nullptr;
+    return bitmap_.IsAliveM();
 }
 
 CBitmap* DVrBitmapCL::GetBitmapM()
 {
     if (!HoldsBitmapM()) {
-        forgetM();
+        bitmap_.ForgetM();
         return nullptr;
     }
     return &bitmap_;
@@ -124,10 +125,10 @@ CBitmap* DVrBitmapCL::GetBitmapM()
 
 void DVrBitmapCL::LoadBitmapM(const char* file)
 {
-    deleteM();
+    bitmap_.DeleteM();
     CBitmap loaded;
     slLoadPicture(&loaded, file);
-    attachM(static_cast<HBITMAP>(loaded.Detach()));
+    bitmap_.OwnM(loaded.Detach());
 }
 
 int DVrBitmapCL::LoadSafeBitmapM(const char* file)
@@ -141,23 +142,27 @@ int DVrBitmapCL::MoveBitmapM(CBitmap* source)
     if (source == nullptr || source == &bitmap_) {
         return 0;
     }
-    forgetM();
-    attachM(static_cast<HBITMAP>(source->Detach()));
+    if (auto* const shared = dynamic_cast<SharedCL*>(source)) {
+        bitmap_.ShareM(*shared);
+        shared->ForgetM();
+    } else {
+        bitmap_.OwnM(source->Detach());
+    }
     return 1;
 }
 
 void DVrBitmapCL::DelItemM()
 {
-    deleteM();
+    bitmap_.DeleteM();
     VrBaseCL::DelItemM();
 }
 
 void DVrBitmapCL::DropM()
 {
-    if (deleted_.use_count() == 1) {
-        deleteM();
+    if (!bitmap_.IsSharedM()) {
+        bitmap_.DeleteM();
     }
-    forgetM();
+    bitmap_.ForgetM();
 }
 
 void DVrBitmapCL::SetExtraM(int first, int second)

@@ -21,8 +21,9 @@ public:
 
     void LoadBitmapM(const char* file);    // Deletes the bitmap first; stays empty when loading fails.
     int LoadSafeBitmapM(const char* file); // The same; 1 when loaded, otherwise 0.
-    // Takes over the source's bitmap and leaves the source empty; its own is let go, not deleted. 1, or 0
-    // when there is no source.
+    // Takes over the source's bitmap and leaves the source empty; its own is let go, not deleted. A source
+    // that is another record's (GetBitmapM) hands over its part in a shared bitmap. 1, or 0 when there is no
+    // source.
     int MoveBitmapM(CBitmap* source);
     void DelItemM(); // Deletes the bitmap and marks the record deleted.
     void DropM();    // Lets the bitmap go; deletes it unless another record shares it.
@@ -46,16 +47,24 @@ public:
     void SetExtraM(int first, int second);
 
 private:
-    void attachM(HBITMAP bitmap);
-    void shareM(const DVrBitmapCL& other);
-    void forgetM();
-    void deleteM();
+    // A handle and whether it is deleted, known to all that share it: the system may give a deleted handle's
+    // value to another object.
+    class PANELKIT_API SharedCL : public CBitmap
+    {
+    public:
+        bool IsAliveM() const { return deleted_ != nullptr && !*deleted_ && m_hObject != nullptr; }
+        bool IsSharedM() const { return deleted_.use_count() > 1; }
+        void OwnM(HGDIOBJ bitmap); // As its first holder; null: none.
+        void ShareM(const SharedCL& other);
+        void ForgetM();
+        void DeleteM();
 
-    CBitmap bitmap_;
+    private:
+        std::shared_ptr<bool> deleted_;
+    };
+
+    SharedCL bitmap_;
     int extra_[2] { 0, 0 };
-    // Whether the handle is deleted, known to all that share it. The system may give a deleted handle's value
-    // to another object.
-    std::shared_ptr<bool> deleted_;
 };
 
 extern template class PANELKIT_API Arr<DVrBitmapCL>;

@@ -96,7 +96,6 @@ int slGetNextPntOnBound(const unsigned char* colour, int w, int h, const unsigne
 int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colour, int w, int h,
     const unsigned char* pixels, Int2DArr* out)
 {
-    out->DelAllM();
     int first[2] = { NoPlace, NoPlace };
     if (slGetFirstPntOnBound(colour, w, h, pixels, first) == 0) {
         return 1;
@@ -108,12 +107,13 @@ int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colou
     int dir[2] = { 1, 0 };
     // Each pixel is entered at most once from each side; only places beyond a row's end could exceed that.
     const std::int64_t most = static_cast<std::int64_t>(w) * h * 4;
+    std::int64_t count = 1;
     WalkMemory memory(w);
     bool fresh = true;
     while (fresh && slIsSameInt2D(next, first) == 0
         && slGetNextPntOnBound(colour, w, h, pixels, prev, current, dir, next) != 0) {
         out->AddItemM(next);
-        fresh = memory.remember(next, dir) && out->GetBoundM() <= most;
+        fresh = memory.remember(next, dir) && ++count <= most;
         for (int i = 0; i < 2; ++i) {
             prev[i] = current[i];
             current[i] = next[i];

@@ -20,7 +20,7 @@ PANELKIT_API int slGetNextPntOnBound(const unsigned char* colour, int w, int h, 
     const int* prev, const int* current, int* dir, int* next);
 
 // The walk from the first pixel until it is there again, which repeats that pixel at the list's end, or until
-// no place follows. A walk that comes to go round elsewhere for ever ends where it would repeat itself. out
-// is emptied first. key: not used. 1.
+// no place follows. A walk that comes to go round elsewhere for ever ends where it would repeat itself. The
+// places are appended to out. key: not used. 1.
 PANELKIT_API int slGenBitMapBoundary(const unsigned char* key, const unsigned char* colour, int w, int h,
     const unsigned char* pixels, Int2DArr* out);

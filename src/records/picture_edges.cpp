@@ -26,29 +26,30 @@ struct View
     }
 };
 
-// Appends the ends of a line of pixels that begins at `at` and continues in steps.
-void addEnds(
-    const View& view, const int (&at)[2], const int (&step)[2], int length, Int2DArr* first, Int2DArr* last)
+// Stores the ends of a line of pixels that begins at `at` and continues in steps. Returns whether it has any.
+bool storeEnds(const View& view, const int (&at)[2], const int (&step)[2], int length, int index,
+    Int2DArr* first, Int2DArr* last)
 {
     const auto isTransparent
         = [&](int i) { return view.isTransparent(at[0] + i * step[0], at[1] + i * step[1]); };
-    const auto add = [&](int i, Int2DArr* to) {
+    const auto store = [&](int i, Int2DArr* to) {
         const int place[2] = { at[0] + i * step[0], at[1] + i * step[1] };
-        to->AddItemM(place);
+        to->SetItemM(place, index);
     };
     int begin = 0;
     while (begin < length && isTransparent(begin)) {
         ++begin;
     }
     if (begin == length) {
-        return;
+        return false;
     }
     int end = length - 1;
     while (isTransparent(end)) {
         --end;
     }
-    add(begin, first);
-    add(end, last);
+    store(begin, first);
+    store(end, last);
+    return true;
 }
 
 using FindEdge = int (*)(int, int, const unsigned char*, const unsigned char*, Int2DArr*, Int2DArr*);
@@ -69,11 +70,10 @@ int findInFile(FindEdge find, const char* file, const unsigned char* key, Int2DA
 int slFindHorizonEdgeM(
     int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* left, Int2DArr* right)
 {
-    left->DelAllM();
-    right->DelAllM();
     const View view { w, h, pixels, key };
+    int count = 0;
     for (int y = 0; y < h && !view.isEmpty(); ++y) {
-        addEnds(view, { 0, y }, { 1, 0 }, w, left, right);
+        count += storeEnds(view, { 0, y }, { 1, 0 }, w, count, left, right) ? 1 : 0;
     }
     return 1;
 }
@@ -86,11 +86,10 @@ int slFindHorizonEdgeM(const char* file, const unsigned char* key, Int2DArr* lef
 int slFindVerticalEdgeM(
     int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* first, Int2DArr* last)
 {
-    first->DelAllM();
-    last->DelAllM();
     const View view { w, h, pixels, key };
+    int count = 0;
     for (int x = 0; x < w && !view.isEmpty(); ++x) {
-        addEnds(view, { x, 0 }, { 0, 1 }, h, first, last);
+        count += storeEnds(view, { x, 0 }, { 0, 1 }, h, count, first, last) ? 1 : 0;
     }
     return 1;
 }

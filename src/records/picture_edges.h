@@ -6,8 +6,8 @@
 // the top left. A pixel is transparent by slIsTransparency. A null buffer or a size below 1 is a picture
 // without pixels; so is a file that can't be read as one (file: GBK path of a .bmp).
 
-// The first and the last opaque pixel of each row, from the top, that is not wholly transparent. The lists
-// are emptied first. 1.
+// The first and the last opaque pixel of each row, from the top, that is not wholly transparent. They are
+// stored from index 0 on: longer lists keep the rest of their places. 1.
 PANELKIT_API int slFindHorizonEdgeM(
     int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* left, Int2DArr* right);
 PANELKIT_API int slFindHorizonEdgeM(

@@ -1,8 +1,8 @@
 #include "records/region_functions.h"
 #include "baselib/bmp_reader.h"
-#include "baselib/gbk.h"
 #include "baselib/helpers.h"
 #include "baselib/io.h"
+#include "records/picture_loader.h"
 #include <cstddef>
 #include <vector>
 
@@ -26,8 +26,7 @@ void attachPolygon(const std::vector<POINT>& points, CRgn* rgn)
 int slLoadPicture(CBitmap* bitmap, const char* file)
 {
     bitmap->DeleteObject();
-    bitmap->Attach(::LoadImageW(nullptr, slGbkToWide(file).c_str(), IMAGE_BITMAP, 0, 0,
-        LR_LOADFROMFILE | LR_CREATEDIBSECTION | LR_DEFAULTSIZE));
+    bitmap->Attach(slMakeBitmap(file));
     return 1;
 }
 
@@ -107,7 +106,6 @@ int slGenerateRgnFromBitmapM(const char* file, const unsigned char* key, int mod
 
 int slReadRgn(const char* file, Int2DArr* pts)
 {
-    pts->DelAllM();
     VrIOCL io;
     io.OpenM(file, "r");
     int count = 0;

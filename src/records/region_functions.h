@@ -13,8 +13,8 @@ constexpr int RgnByRows = 107;
 constexpr int RgnByColumns = 108;
 constexpr int RgnByBoundary = 110;
 
-// Deletes the bitmap's object, then loads the .bmp file as a device-independent section; none when that
-// fails.
+// Deletes the bitmap's object, then loads the .bmp file as a device-independent section of the file's depth;
+// none when the file is missing, cut short or no picture.
 PANELKIT_API int slLoadPicture(CBitmap* bitmap, const char* file);
 
 // The polygon of all points of a, then all of b backwards; attached without deleting what the region held.
@@ -39,8 +39,8 @@ PANELKIT_API int slGenerateRgnFromBitmapM(
 // By rows, by columns, by the boundary, or, for any other mode, pixel by pixel.
 PANELKIT_API int slGenerateRgnFromBitmapM(const char* file, const unsigned char* key, int mode, CRgn* rgn);
 
-// The points of a region file: a count, then pairs x y; what can't be read is 0. The list is emptied first; a
-// count beyond the bytes left is no list.
+// The points of a region file: a count, then pairs x y; what can't be read is 0. They are stored from index 0
+// on: a longer list keeps the rest of its points. A count beyond the bytes left is no list.
 PANELKIT_API int slReadRgn(const char* file, Int2DArr* pts);
 // Combines the region with the polygon of a region file (see slCreateRgn); mode: RGN_AND, RGN_OR, RGN_XOR,
 // RGN_DIFF or RGN_COPY. Without a polygon the region stays as it is.

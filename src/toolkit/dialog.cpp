@@ -28,7 +28,7 @@ LPCDLGTEMPLATE CDialog::findTemplateM(LPCWSTR name) const
 
 BOOL CDialog::createM(LPCDLGTEMPLATE dialogTemplate, HWND owner)
 {
-    if (dialogTemplate == nullptr) {
+    if (dialogTemplate == nullptr || !letGoOfWindowM()) {
         return FALSE;
     }
     LifeCL life(this);

@@ -88,10 +88,19 @@ BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
     return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
 }
 
+bool CWnd::letGoOfWindowM()
+{
+    LifeCL life(this);
+    DestroyWindow();
+    return life.IsAliveM() && m_hWnd == nullptr;
+}
+
 BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
     int height, HWND parent, HMENU idOrMenu, LPVOID param)
 {
-    ASSERT(m_hWnd == nullptr);
+    if (!letGoOfWindowM()) {
+        return FALSE;
+    }
     std::wstring wideClass = GbkToWide(className);
     std::wstring wideTitle = GbkToWide(title);
     CREATESTRUCT cs = {};

@@ -37,7 +37,8 @@ public:
     BOOL SubclassDlgItem(UINT id, CWnd* parent);
     HWND UnsubclassWindow() { return Detach(); }
 
-    // Texts are GBK. FALSE: PreCreateWindow or WM_CREATE refused, or the system did.
+    // A window that the object still has is destroyed first. Texts are GBK. FALSE: PreCreateWindow or
+    // WM_CREATE refused, or the system did.
     BOOL CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
         int height, HWND parent, HMENU idOrMenu, LPVOID param = nullptr);
     BOOL CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, const RECT& rect, CWnd* parent,
@@ -187,7 +188,10 @@ protected:
     // A notification of this control, before its parent sees it. TRUE: the parent doesn't.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual void PostNcDestroy() { } // the window is gone; may delete the object
-    LRESULT Default();               // what would happen to the current message without a handler
+    // Destroys a window that the object still has, before it gets another. False: the object went along, or
+    // the window stays.
+    bool letGoOfWindowM();
+    LRESULT Default(); // what would happen to the current message without a handler
 
     // Unless they say otherwise, handlers of the base hand the current message on as it came.
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return static_cast<BOOL>(Default()); }

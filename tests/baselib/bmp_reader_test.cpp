@@ -60,20 +60,6 @@ BmpFile twoByTwo(int bits)
     return file;
 }
 
-BmpFile runs(int bits, int width, int height, std::vector<unsigned char> codes)
-{
-    BmpFile file;
-    file.width = width;
-    file.height = height;
-    file.bits = bits;
-    file.coding = bits == 8 ? 1 : 2;
-    for (std::uint32_t i = 0; i < 1U << bits; ++i) {
-        file.palette.push_back(i << 16 | 0x4000 | i);
-    }
-    file.pixels = std::move(codes);
-    return file;
-}
-
 std::uint32_t colour(std::uint32_t index)
 {
     return index << 16 | 0x4000 | index;
@@ -202,8 +188,8 @@ TEST(BmpReader, HeadersOfOs2)
 TEST(BmpReader, RunsOfEightBits)
 {
     // A run; three single pixels (one byte of filling) and a run; a move; the rest left out.
-    const Picture picture
-        = decode(runs(8, 5, 4, { 5, 7, 0, 0, 0, 3, 1, 2, 3, 0, 2, 9, 0, 0, 0, 2, 2, 1, 1, 8, 0, 1 }).bytes());
+    const Picture picture = decode(
+        codedBmp(8, 5, 4, { 5, 7, 0, 0, 0, 3, 1, 2, 3, 0, 2, 9, 0, 0, 0, 2, 2, 1, 1, 8, 0, 1 }).bytes());
     ASSERT_EQ(1, picture.result);
     const std::uint32_t expected[4][5]
         = { { 0, 0, 8, 0, 0 }, { 0, 0, 0, 0, 0 }, { 1, 2, 3, 9, 9 }, { 7, 7, 7, 7, 7 } };
@@ -217,7 +203,7 @@ TEST(BmpReader, RunsOfEightBits)
 TEST(BmpReader, RunsOfFourBitsAlternateTwoColours)
 {
     const Picture picture
-        = decode(runs(4, 7, 2, { 7, 0x12, 0, 0, 0, 5, 0x34, 0x56, 0x70, 0, 2, 0x89, 0, 1 }).bytes());
+        = decode(codedBmp(4, 7, 2, { 7, 0x12, 0, 0, 0, 5, 0x34, 0x56, 0x70, 0, 2, 0x89, 0, 1 }).bytes());
     ASSERT_EQ(1, picture.result);
     const std::uint32_t expected[2][7] = { { 3, 4, 5, 6, 7, 8, 9 }, { 1, 2, 1, 2, 1, 2, 1 } };
     for (int y = 0; y < 2; ++y) {
@@ -227,58 +213,115 @@ TEST(BmpReader, RunsOfFourBitsAlternateTwoColours)
     }
 }
 
-TEST(BmpReader, RunsPastTheEndAreBroken)
+namespace {
+
+// The indices of a coded picture, rows from the top; empty when there is no picture.
+std::string indicesOf(const BmpFile& file)
 {
-    expectEmpty(decode(runs(8, 5, 2, { 6, 1, 0, 1 }).bytes()), "a run past its row");
-    expectEmpty(decode(runs(8, 5, 2, { 3, 1, 3, 1, 0, 1 }).bytes()), "two runs past their row");
-    expectEmpty(
-        decode(runs(8, 5, 2, { 0, 6, 1, 2, 3, 4, 5, 6, 0, 1 }).bytes()), "single pixels past the row");
-    expectEmpty(decode(runs(8, 5, 2, { 0, 0, 0, 0, 1, 1, 0, 1 }).bytes()), "a pixel above the picture");
-    expectEmpty(decode(runs(8, 5, 2, { 0, 0, 0, 0, 0, 0, 0, 1 }).bytes()), "a row above the picture");
-    expectEmpty(decode(runs(8, 5, 2, { 0, 2, 6, 0, 0, 1 }).bytes()), "a move past the row");
-    expectEmpty(decode(runs(8, 5, 2, { 0, 2, 0, 3, 0, 1 }).bytes()), "a move above the picture");
-    expectEmpty(decode(runs(8, 5, 2, { 5, 1, 0, 0, 5, 1 }).bytes()), "no end mark");
-    expectEmpty(decode(runs(8, 5, 2, { 0, 5, 1, 2 }).bytes()), "single pixels past the file");
-    expectEmpty(decode(runs(4, 5, 2, { 6, 0x11, 0, 1 }).bytes()), "a run of 4 bits past its row");
+    const Picture picture = decode(file.bytes());
+    std::string rows;
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            rows += static_cast<char>('0' + picture.at(x, y) % 256);
+        }
+        rows += y + 1 < picture.height ? "/" : "";
+    }
+    return rows;
+}
+
+} // namespace
+
+TEST(BmpReader, RunsPastARowOrThePictureAreCutOff)
+{
+    EXPECT_EQ("22000/11111", indicesOf(codedBmp(8, 5, 2, { 6, 1, 0, 0, 2, 2, 0, 1 }))) << "a run";
+    EXPECT_EQ("00000/11122", indicesOf(codedBmp(8, 5, 2, { 3, 1, 3, 2, 0, 1 }))) << "two runs";
+    EXPECT_EQ("90000/12345", indicesOf(codedBmp(8, 5, 2, { 0, 6, 1, 2, 3, 4, 5, 6, 0, 0, 1, 9, 0, 1 })))
+        << "single pixels";
+    EXPECT_EQ("00000/33000", indicesOf(codedBmp(8, 5, 2, { 2, 3, 0, 0, 0, 0, 1, 1, 0, 1 })))
+        << "a pixel above the picture";
+    EXPECT_EQ("00000/00000", indicesOf(codedBmp(8, 5, 2, { 0, 2, 6, 0, 1, 9, 0, 1 })))
+        << "a move past the row";
+    EXPECT_EQ("00000/70000", indicesOf(codedBmp(8, 5, 2, { 1, 7, 0, 2, 0, 3, 1, 9, 0, 1 })))
+        << "a move above the picture";
+    EXPECT_EQ("34300/12121", indicesOf(codedBmp(4, 5, 2, { 6, 0x12, 0, 0, 3, 0x34, 0, 1 })))
+        << "a run of 4 bits";
+}
+
+TEST(BmpReader, CodesWithoutAnEndMarkGoAsFarAsTheirLastMark)
+{
+    EXPECT_EQ("00000/11111", indicesOf(codedBmp(8, 5, 2, { 5, 1, 0, 0 })));
+    EXPECT_EQ("00000/11111", indicesOf(codedBmp(8, 5, 2, { 5, 1, 0, 0, 5, 2 })));
+    EXPECT_EQ("00000/11111", indicesOf(codedBmp(8, 5, 2, { 5, 1, 0, 0, 5, 2, 3 })));
+    EXPECT_EQ("22222/11111", indicesOf(codedBmp(8, 5, 2, { 5, 1, 0, 0, 5, 2, 0, 0 })));
+    EXPECT_EQ("00000/30000", indicesOf(codedBmp(8, 5, 2, { 1, 3, 0, 2, 2, 0, 1, 4 })));
+    EXPECT_EQ("00000/33330", indicesOf(codedBmp(8, 5, 2, { 4, 3, 0, 0, 0, 5, 1, 2 })))
+        << "single pixels past the file";
+}
+
+TEST(BmpReader, CodesEndWhereTheHeaderSays)
+{
+    BmpFile file = codedBmp(8, 5, 2, { 5, 1, 0, 0, 5, 2, 0, 1 });
+    file.codesSize = 8;
+    EXPECT_EQ("22222/11111", indicesOf(file));
+    file.codesSize = 5;
+    EXPECT_EQ("00000/11111", indicesOf(file));
+    file.codesSize = 100; // Wrong, but an end mark stands there.
+    EXPECT_EQ("22222/11111", indicesOf(file));
+    file.pixels.resize(6);
+    expectEmpty(decode(file.bytes()), "codes cut short");
+}
+
+TEST(BmpReader, RunsMayBeStoredFromTheTop)
+{
+    BmpFile file = codedBmp(8, 5, -2, { 5, 1, 0, 0, 2, 2, 0, 1 });
+    EXPECT_EQ("11111/22000", indicesOf(file));
 }
 
 TEST(BmpReader, RunsMayEndTheLastRowBeforeTheEndMark)
 {
-    EXPECT_EQ(1, decode(runs(8, 5, 1, { 5, 1, 0, 0, 0, 1 }).bytes()).result);
+    EXPECT_EQ(1, decode(codedBmp(8, 5, 1, { 5, 1, 0, 0, 0, 1 }).bytes()).result);
 }
 
 TEST(BmpReader, FewRunsCannotAnnounceAHugePicture)
 {
-    expectEmpty(decode(runs(8, 20000, 20000, { 0, 1 }).bytes()), "400 million pixels in some bytes");
-    EXPECT_EQ(1, decode(runs(8, 1000, 1000, { 0, 1 }).bytes()).result);
+    expectEmpty(decode(codedBmp(8, 20000, 20000, { 0, 1 }).bytes()), "400 million pixels in some bytes");
+    EXPECT_EQ(1, decode(codedBmp(8, 1000, 1000, { 0, 1 }).bytes()).result);
 }
 
-TEST(BmpReader, IndexWithoutAColourIsBroken)
+TEST(BmpReader, IndexWithoutAColourIsBlack)
 {
     BmpFile file = twoByTwo(8);
     file.palette = { 1, 2, 3 };
     file.coloursUsed = 3;
     file.addRow({ 0, 1 });
-    file.addRow({ 2, 2 });
-    EXPECT_EQ(1, decode(file.bytes()).result);
-    file.pixels[4] = 3;
-    expectEmpty(decode(file.bytes()), "index 3 of 3 colours");
-    BmpFile coded = runs(8, 2, 1, { 2, 200, 0, 1 });
-    EXPECT_EQ(1, decode(coded.bytes()).result);
+    file.addRow({ 2, 200 });
+    const Picture picture = decode(file.bytes());
+    ASSERT_EQ(1, picture.result);
+    EXPECT_EQ(3U, picture.at(0, 0));
+    EXPECT_EQ(0U, picture.at(1, 0));
+    BmpFile coded = codedBmp(8, 2, 1, { 1, 199, 1, 200, 0, 1 });
     coded.palette.resize(200);
     coded.coloursUsed = 200;
-    expectEmpty(decode(coded.bytes()), "index 200 of 200 colours in a run");
+    const Picture runs = decode(coded.bytes());
+    ASSERT_EQ(1, runs.result);
+    EXPECT_EQ(colour(199), runs.at(0, 0));
+    EXPECT_EQ(0U, runs.at(1, 0));
 }
 
-TEST(BmpReader, PaletteEndsWherePixelsBegin)
+TEST(BmpReader, ColoursAreReadBehindTheHeadersWhereverPixelsBegin)
 {
-    BmpFile file = twoByTwo(8);
-    file.palette = { 1, 2, 3 }; // 256 are announced.
-    file.addRow({ 0, 1 });
-    file.addRow({ 2, 2 });
-    EXPECT_EQ(1, decode(file.bytes()).result);
-    file.pixels[4] = 3;
-    expectEmpty(decode(file.bytes()), "index 3 of 3 colours");
+    BmpFile file = twoByTwo(1);
+    file.addRow({ 0, 1 }); // 40 00 00 00: the colour of 0.
+    file.addRow({ 1, 0 }); // 80 00 00 00
+    const Picture none = decode(file.bytes());
+    ASSERT_EQ(1, none.result);
+    EXPECT_EQ(0x80U, none.at(0, 0));
+    EXPECT_EQ(0x40U, none.at(1, 0));
+    file.palette = { 0x123456 };
+    const Picture one = decode(file.bytes());
+    ASSERT_EQ(1, one.result);
+    EXPECT_EQ(0x40U, one.at(0, 0));
+    EXPECT_EQ(0x123456U, one.at(1, 0));
 }
 
 TEST(BmpReader, EveryTruncationIsEmpty)
@@ -286,7 +329,11 @@ TEST(BmpReader, EveryTruncationIsEmpty)
     for (const auto& kind : allBmpKinds()) {
         const std::vector<unsigned char> bytes = kind.second.bytes();
         ASSERT_EQ(1, decode(bytes).result) << kind.first;
-        for (std::size_t size = 0; size < bytes.size(); ++size) {
+        // Runs go as far as there are any.
+        const std::size_t least = kind.second.coding == 1 || kind.second.coding == 2
+            ? bytes.size() - kind.second.pixels.size() + 1
+            : bytes.size();
+        for (std::size_t size = 0; size < least; ++size) {
             expectEmpty(decode({ bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size) }),
                 kind.first + " cut to " + std::to_string(size));
         }
@@ -312,7 +359,7 @@ TEST(BmpReader, SizesThatNoPictureHasAreEmpty)
             expectEmpty(decode(file.bytes()), kind.first + " of width " + std::to_string(size));
             file.width = kind.second.width;
             file.height = size;
-            if (size != -1 || coded) { // One row from the top is a picture.
+            if (size != -1) { // One row from the top is a picture.
                 expectEmpty(decode(file.bytes()), kind.first + " of height " + std::to_string(size));
             }
         }
@@ -364,9 +411,6 @@ TEST(BmpReader, UnknownKindsAreEmpty)
     std::vector<unsigned char> bytes = file.bytes();
     bytes[1] = 'A';
     expectEmpty(decode(bytes), "another mark");
-    BmpFile topDownRuns = runs(8, 2, 1, { 2, 1, 0, 1 });
-    topDownRuns.height = -1;
-    expectEmpty(decode(topDownRuns.bytes()), "runs from the top");
 }
 
 TEST(BmpReader, MasksThatOverlapHaveGapsOrAreMissingAreEmpty)

@@ -277,6 +277,34 @@ TEST(BasicDialog, SecondBuildWithoutDestroyingReplacesTheControlsOfManyAndOfFew)
     EXPECT_EQ(label->m_hWnd, dialog.ItemM(20));
 }
 
+TEST(BasicDialog, SecondBuildOfEqualSizeHasTheFrameOfItsOwnHeader)
+{
+    const auto header = [](int title, int border) {
+        return "[版本号]\n1\n[对话框]\n0\n10 20\n300 200\n" + std::to_string(title) + "\nx\n14 2 "
+            + std::to_string(border) + "\nNULL\n";
+    };
+    const auto clientOf = [](HWND window) {
+        RECT client {};
+        ::GetClientRect(window, &client);
+        return std::to_string(client.right) + " " + std::to_string(client.bottom);
+    };
+    TestDialogCL dialog(header(1, 4));
+    const std::string framed = clientOf(dialog.m_hWnd);
+    ASSERT_NE(framed, "300 200");
+    const DescriptionFileCL bare(header(0, 0));
+    const std::string firstFile = dialog.PathM();
+    const auto rebuild = [&dialog](const char* path) {
+        dialog.SetConfigFileM(path);
+        dialog.DestroyM();
+        dialog.InitDlgM(&dialog, 1);
+        EXPECT_EQ(screenPlaceOf(dialog.m_hWnd), "10 20 300 200");
+    };
+    rebuild(bare.path());
+    EXPECT_EQ(clientOf(dialog.m_hWnd), "300 200");
+    rebuild(firstFile.c_str());
+    EXPECT_EQ(clientOf(dialog.m_hWnd), framed);
+}
+
 TEST(BasicDialog, BackgroundPictureIsDrawnAtTheGivenCornerAndGoesWithItsFile)
 {
     const SmallPictureCL picture(0xFF0000, 60, 50);

@@ -1,3 +1,4 @@
+#include "baselib/io.h"
 #include "records/bitmap_record.h"
 #include "records/brush_record.h"
 #include "records/region_functions.h"
@@ -446,4 +447,142 @@ TEST(BitmapRecord, DroppedBitmapIsDeletedUnlessItIsShared)
     first.DropM();
     EXPECT_FALSE(first.HoldsBitmapM());
     EXPECT_EQ(second.GetWidthM(), 3);
+}
+
+TEST(BitmapRecord, MovingKeepsTheOtherHoldersOfTheBitmapSafe)
+{
+    const TestFile file("moved.bmp", placePicture(3, 2));
+    Canvas canvas(8, 8, Grey);
+    DVrBitmapCL third;
+    HGDIOBJ shared = nullptr;
+    {
+        DVrBitmapCL first;
+        first.LoadBitmapM(file.path());
+        DVrBitmapCL second(first);
+        third = first;
+        shared = handleOf(&third);
+        EXPECT_EQ(1, first.MoveBitmapM(second.GetBitmapM()));
+        EXPECT_FALSE(second.HoldsBitmapM());
+        EXPECT_EQ(shared, handleOf(&first));
+        EXPECT_EQ(3, third.GetWidthM());
+    }
+    EXPECT_FALSE(isBitmap(shared));
+    EXPECT_FALSE(third.HoldsBitmapM());
+    EXPECT_EQ(0, third.DrawBitmapM(&canvas.dc, 0, 0, nullptr));
+    EXPECT_EQ(0, third.BlendBitmapM(&canvas.dc));
+    // The system gives the handle to something else: nobody touches it.
+    HGDIOBJ other = nullptr;
+    for (int i = 0; i < 100000 && other != shared; ++i) {
+        ::DeleteObject(other);
+        other = ::CreateBitmap(1, 1, 1, 32, nullptr);
+    }
+    ASSERT_EQ(other, shared);
+    EXPECT_EQ(0, third.GetWidthM());
+    third.DelItemM();
+    EXPECT_TRUE(isBitmap(other));
+    ::DeleteObject(other);
+}
+
+TEST(BitmapRecord, MovingADeadBitmapGivesNone)
+{
+    const TestFile file("moved.bmp", placePicture(3, 2));
+    DVrBitmapCL first;
+    first.LoadBitmapM(file.path());
+    DVrBitmapCL second(first);
+    CBitmap* const source = second.GetBitmapM();
+    first.DelItemM();
+    DVrBitmapCL third;
+    EXPECT_EQ(1, third.MoveBitmapM(source));
+    EXPECT_FALSE(third.HoldsBitmapM());
+    EXPECT_FALSE(second.HoldsBitmapM());
+}
+
+namespace {
+
+// The widths of the pictures below the bound; 0 for one that is gone.
+std::vector<int> widthsOf(const DVrBitmapArr& list)
+{
+    std::vector<int> widths;
+    for (int i = 0; i < list.GetBoundM(); ++i) {
+        widths.push_back(list.GetItemPM(i)->GetWidthM());
+    }
+    return widths;
+}
+
+// Pictures 1, 2, ... pixels wide.
+void addPictures(DVrBitmapArr* list, int count)
+{
+    for (int w = 1; w <= count; ++w) {
+        const TestFile file("listed.bmp", placePicture(w, 2));
+        ASSERT_NE(-1, list->AddBitmapM(file.path()));
+    }
+}
+
+} // namespace
+
+TEST(BitmapArr, InsertingAfterAPurgeLeavesThePicturesOfTheMovedItems)
+{
+    for (const int count : { 4, 7 }) { // Inside the list and in a block of its own.
+        DVrBitmapArr list;
+        addPictures(&list, count);
+        list.DelItemM(0);
+        list.DelItemM(1);
+        list.PurgeDeletedItemM();
+        std::vector<int> expected;
+        for (int w = 3; w <= count; ++w) {
+            expected.push_back(w);
+        }
+        EXPECT_EQ(expected, widthsOf(list));
+        for (int i = 0; i < 2; ++i) {
+            list.InsertItemM(DVrBitmapCL(AliveTag), 0);
+            expected.insert(expected.begin(), 0);
+            EXPECT_EQ(expected, widthsOf(list)) << count;
+        }
+    }
+}
+
+TEST(BitmapArr, SlotBehindTheBoundCanBeInserted)
+{
+    DVrBitmapArr list;
+    addPictures(&list, 7);
+    list.DelItemM(0);
+    list.DelItemM(1);
+    list.PurgeDeletedItemM(); // 3 4 5 6 7, then 6 and 7 again.
+    list.InsertItemM(list[5], 1);
+    EXPECT_EQ((std::vector<int> { 3, 6, 4, 5, 6, 7 }), widthsOf(list));
+    list.DelItemM(5);
+    list.DelItemM(4);
+    DVrBitmapCL seventh;
+    const TestFile file("listed.bmp", placePicture(9, 2));
+    seventh.LoadBitmapM(file.path());
+    list[7] = seventh; // The last slot of the store.
+    list.InsertItemM(list[7], 0);
+    EXPECT_EQ((std::vector<int> { 9, 3, 0, 4, 5 }), widthsOf(list));
+}
+
+TEST(BitmapArr, AssignedToItsCopyKeepsItsPictures)
+{
+    DVrBitmapArr list;
+    addPictures(&list, 6);
+    DVrBitmapArr copy(list);
+    copy = list;
+    EXPECT_EQ((std::vector<int> { 1, 2, 3, 4, 5, 6 }), widthsOf(list));
+    EXPECT_EQ((std::vector<int> { 1, 2, 3, 4, 5, 6 }), widthsOf(copy));
+}
+
+TEST(BitmapArr, ReadingAListLeavesPicturesThatSlotsBehindTheBoundShare)
+{
+    DVrBitmapArr list;
+    addPictures(&list, 2);
+    const DVrBitmapCL kept = list[1];
+    list.DelItemM(0);
+    list.PurgeDeletedItemM();
+    list.SetItemM(DVrBitmapCL(AliveTag), 0); // Now only the slot behind the bound shares it.
+    const TestFile file("listed.txt", std::string("3\n0\n1\n2\n"));
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    list.FmInputEvrLstM(&io);
+    EXPECT_EQ(3, list.GetBoundM());
+    EXPECT_EQ(0, list.GetAvailableNumM());
+    EXPECT_EQ(2, kept.GetWidthM());
 }

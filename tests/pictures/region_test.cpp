@@ -193,12 +193,23 @@ TEST(RegionFile, MissingOrBrokenFileChangesNothing)
     EXPECT_TRUE(isRect(rgn, 0, 0, 10, 10));
     Int2DArr points = pointList({ { 1, 1 } });
     slReadRgn(huge.path(), &points);
-    EXPECT_EQ(0, points.GetBoundM());
+    EXPECT_EQ(1, points.GetBoundM());
     const TestFile shorter("region_short.txt", std::string("3 5 6 7            "));
     slReadRgn(shorter.path(), &points);
     ASSERT_EQ(3, points.GetBoundM());
     EXPECT_EQ(5, points.GetItemPM(0)[0]);
     EXPECT_EQ(0, points.GetItemPM(2)[0]);
+}
+
+TEST(RegionFile, PointsAreStoredFromTheFirstIndexOnAndLeaveTheRest)
+{
+    const TestFile file("region_test.txt", std::string("2\n1 2\n3 4\n"));
+    Int2DArr points = pointList({ { 9, 9 }, { 9, 9 }, { 7, 8 } });
+    slReadRgn(file.path(), &points);
+    ASSERT_EQ(3, points.GetBoundM());
+    EXPECT_EQ(1, points.GetItemPM(0)[0]);
+    EXPECT_EQ(4, points.GetItemPM(1)[1]);
+    EXPECT_EQ(7, points.GetItemPM(2)[0]);
 }
 
 TEST(RegionOfAPicture, ByRowsFillsBetweenTheOutermostPixels)
@@ -360,4 +371,13 @@ TEST(RegionByBoundary, LowestRowIsTheFirstForTheWalk)
     EXPECT_TRUE(isRect(rgn, 1, 1, 4, 3));
     slGenerateRgnFromBitmapM(picture.w, picture.h, picture.bytes.data(), White.data(), 107, &rgn);
     EXPECT_TRUE(isRect(rgn, 1, 4, 4, 6));
+}
+
+TEST(RegionPixelExact, OfAFlawedPictureIsWhatIsShown)
+{
+    BmpFile picture = codedBmp(8, 5, 2, { 5, 1, 0, 0, 7, 2, 0, 0 });
+    const TestFile coded("region_test.bmp", picture);
+    CRgn rgn;
+    slCreatRgnByPixel(coded.path(), White.data(), &rgn);
+    EXPECT_TRUE(isRect(rgn, 0, 0, 5, 2));
 }

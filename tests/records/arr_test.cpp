@@ -196,6 +196,11 @@ TEST(Arr, ItemOfTheSameArrayCanBeStoredAndInserted)
         "42...3");
     arr.InsertItemM(arr[arr.GetBoundM()], 1); // The slot that the moved ones overwrite.
     EXPECT_EQ(shown(arr), "3.132342...3");
+    arr[arr.GetBoundM()] = HeapCL(8);
+    arr.InsertItemM(arr[arr.GetBoundM()], 0);
+    arr[arr.GetLengthM() - 1] = HeapCL(7);
+    arr.InsertItemM(arr[arr.GetLengthM() - 1], 0);
+    EXPECT_EQ(shown(arr), "783.132342...3");
 }
 
 TEST(Arr, AddingByIndexRevivesADeletedSlotInPlace)

@@ -14,8 +14,6 @@ const Colour White { 255, 255, 255 };
 Points trace(const Pixels& picture, const Colour& colour = Black)
 {
     Int2DArr list;
-    const int stale[2] = { 5, 5 };
-    list.AddItemM(stale);
     EXPECT_EQ(1,
         slGenBitMapBoundary(White.data(), colour.data(), picture.w, picture.h, picture.bytes.data(), &list));
     Points points;
@@ -188,6 +186,29 @@ TEST(PictureBoundary, NoPixelOfTheColourGivesAnEmptyList)
 {
     EXPECT_TRUE(trace(Pixels(4, 4)).empty());
     EXPECT_TRUE(trace(Pixels()).empty());
+}
+
+TEST(PictureBoundary, WalkIsAppendedToTheList)
+{
+    const Pixels picture = Pixels::fromRows({ "....", ".##.", ".##.", "...." });
+    const Points walk = trace(picture);
+    Int2DArr list;
+    for (int i = 0; i < 100; ++i) { // More than the walk may be long.
+        const int before[2] = { i, -i };
+        list.AddItemM(before);
+    }
+    slGenBitMapBoundary(White.data(), Black.data(), picture.w, picture.h, picture.bytes.data(), &list);
+    ASSERT_EQ(100 + static_cast<int>(walk.size()), list.GetBoundM());
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(i, list.GetItemPM(i)[0]);
+    }
+    for (std::size_t i = 0; i < walk.size(); ++i) {
+        const int* const place = list.GetItemPM(100 + static_cast<int>(i));
+        EXPECT_EQ(walk[i], Point(place[0], place[1]));
+    }
+    const Colour red { 255, 0, 0 };
+    slGenBitMapBoundary(White.data(), red.data(), picture.w, picture.h, picture.bytes.data(), &list);
+    EXPECT_EQ(100 + static_cast<int>(walk.size()), list.GetBoundM());
 }
 
 TEST(PictureBoundary, SinglePixelIsTheWholeWalk)

@@ -132,8 +132,6 @@ TEST(PictureEdges, OutermostOpaquePixelsOfRowsFromTheTop)
     const Pixels picture = Pixels::fromRows({ ".....", ".#.#.", "..#..", "....." }).upsideDown();
     Int2DArr left;
     Int2DArr right;
-    const int stale[2] = { 9, 9 };
-    left.SetItemM(stale, 7);
     slFindHorizonEdgeM(picture.w, picture.h, picture.bytes.data(), White.data(), &left, &right);
     EXPECT_EQ((Points { { 1, 1 }, { 2, 2 } }), pointsOf(left));
     EXPECT_EQ((Points { { 3, 1 }, { 2, 2 } }), pointsOf(right));
@@ -149,23 +147,35 @@ TEST(PictureEdges, OutermostOpaquePixelsOfColumnsFromTheLeft)
     EXPECT_EQ((Points { { 1, 1 }, { 3, 3 } }), pointsOf(last));
 }
 
+TEST(PictureEdges, AreStoredFromTheFirstIndexOnAndLeaveTheRest)
+{
+    const Pixels picture = Pixels::fromRows({ "..", ".#", "##" }).upsideDown();
+    Int2DArr lists[4];
+    for (Int2DArr& list : lists) {
+        for (int i = 5; i < 8; ++i) {
+            const int before[2] = { i, i };
+            list.AddItemM(before);
+        }
+    }
+    slFindHorizonEdgeM(2, 3, picture.bytes.data(), White.data(), &lists[0], &lists[1]);
+    slFindVerticalEdgeM(2, 3, picture.bytes.data(), White.data(), &lists[2], &lists[3]);
+    EXPECT_EQ((Points { { 1, 1 }, { 0, 2 }, { 7, 7 } }), pointsOf(lists[0]));
+    EXPECT_EQ((Points { { 1, 1 }, { 1, 2 }, { 7, 7 } }), pointsOf(lists[1]));
+    EXPECT_EQ((Points { { 0, 2 }, { 1, 1 }, { 7, 7 } }), pointsOf(lists[2]));
+    EXPECT_EQ((Points { { 0, 2 }, { 1, 2 }, { 7, 7 } }), pointsOf(lists[3]));
+}
+
 TEST(PictureEdges, WhollyTransparentOrMissingPictureHasNone)
 {
     const Pixels picture(5, 4);
     Int2DArr a;
     Int2DArr b;
     for (int round = 0; round < 3; ++round) {
-        const int stale[2] = { 1, 1 };
-        a.AddItemM(stale);
         const unsigned char* pixels = round == 0 ? picture.bytes.data() : nullptr;
         slFindHorizonEdgeM(round == 2 ? 0 : 5, 4, pixels, White.data(), &a, &b);
-        EXPECT_EQ(0, a.GetBoundM() + b.GetBoundM());
-        a.AddItemM(stale);
         slFindVerticalEdgeM(5, round == 2 ? 0 : 4, pixels, White.data(), &a, &b);
-        EXPECT_EQ(0, a.GetBoundM() + b.GetBoundM());
     }
     slFindHorizonEdgeM("no such picture.bmp", White.data(), &a, &b);
-    EXPECT_EQ(0, a.GetBoundM() + b.GetBoundM());
     slFindVerticalEdgeM("no such picture.bmp", White.data(), &a, &b);
     EXPECT_EQ(0, a.GetBoundM() + b.GetBoundM());
 }
@@ -188,14 +198,18 @@ TEST(PictureEdges, OfAFileEqualThoseOfItsPixels)
     slFindHorizonEdgeM(path.c_str(), White.data(), &a, &b);
     EXPECT_EQ((Points { { 0, 0 }, { 1, 1 } }), pointsOf(a));
     EXPECT_EQ((Points { { 1, 0 }, { 1, 1 } }), pointsOf(b));
+    a.DelAllM();
+    b.DelAllM();
     slFindVerticalEdgeM(path.c_str(), White.data(), &a, &b);
     EXPECT_EQ((Points { { 0, 0 }, { 1, 0 } }), pointsOf(a));
     EXPECT_EQ((Points { { 0, 0 }, { 1, 1 } }), pointsOf(b));
     // The key is red, green, blue too: only the blue of 0x102030 reaches it.
     const Colour key { 0x11, 0x20, 0x30 };
+    a.DelAllM();
     slFindHorizonEdgeM(path.c_str(), key.data(), &a, &b);
     EXPECT_EQ(2, a.GetBoundM());
     const Colour reached { 0x10, 0x20, 0x30 };
+    a.DelAllM();
     slFindHorizonEdgeM(path.c_str(), reached.data(), &a, &b);
     EXPECT_EQ(0, a.GetBoundM());
     const Colour reversed { 0x30, 0x20, 0x10 };

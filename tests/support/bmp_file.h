@@ -12,6 +12,7 @@ struct BmpFile
     std::int32_t height { 1 }; // Negative: top-down.
     int bits { 24 };
     std::uint32_t coding { 0 };
+    std::uint32_t codesSize { 0 }; // What the header says of the bytes of its pixels.
     std::uint32_t coloursUsed { 0 };
     std::vector<std::uint32_t> masks;   // Red, green, blue (and alpha).
     std::vector<std::uint32_t> palette; // 0xRRGGBB.
@@ -79,7 +80,7 @@ private:
         put(out, 1, 2);
         put(out, static_cast<std::uint32_t>(bits), 2);
         put(out, coding, 4);
-        put(out, 0, 4);
+        put(out, codesSize, 4);
         put(out, 2835, 4);
         put(out, 2835, 4);
         put(out, coloursUsed, 4);
@@ -92,6 +93,21 @@ private:
         out->resize(begin + headerSize);
     }
 };
+
+// A run-length coded picture of 4 or 8 bits in which each index has a colour of its own.
+inline BmpFile codedBmp(int bits, int width, int height, std::vector<unsigned char> codes)
+{
+    BmpFile file;
+    file.width = width;
+    file.height = height;
+    file.bits = bits;
+    file.coding = bits == 8 ? 1 : 2;
+    for (std::uint32_t i = 0; i < 1U << bits; ++i) {
+        file.palette.push_back(i << 16 | 0x4000 | i);
+    }
+    file.pixels = std::move(codes);
+    return file;
+}
 
 // Good files of every kind that is read, with their names: for comparisons, truncation and fuzzing.
 inline std::vector<std::pair<std::string, BmpFile>> allBmpKinds(int width = 13, int height = 7)

@@ -73,6 +73,21 @@ int DuBmpListBoxCL::OnCreate(LPCREATESTRUCT create)
     return 0;
 }
 
+// However a line goes, by an operation or by a message of the platform, its picture goes along.
+LRESULT DuBmpListBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    if (message == LB_RESETCONTENT || message == WM_DESTROY) {
+        pictures_.DelAllM();
+    }
+    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    // The parent may have destroyed this object.
+    if (message == LB_DELETESTRING && result != LB_ERR && CWnd::FromHandlePermanent(window) == this) {
+        pictures_.DelItemM(pictures_.SlotOfLineM(static_cast<int>(wParam)));
+    }
+    return result;
+}
+
 void DuBmpListBoxCL::OnSetFocus(CWnd* oldFocus)
 {
     reportFocusM(oldFocus);
@@ -190,11 +205,7 @@ void DuBmpListBoxCL::DelItemM()
 
 int DuBmpListBoxCL::DelItemM(int index)
 {
-    if (DeleteString(static_cast<UINT>(index)) == LB_ERR) {
-        return 0;
-    }
-    pictures_.DelItemM(pictures_.SlotOfLineM(index));
-    return 1;
+    return DeleteString(static_cast<UINT>(index)) != LB_ERR ? 1 : 0;
 }
 
 int DuBmpListBoxCL::DelAllItemM()
@@ -208,7 +219,10 @@ int DuBmpListBoxCL::DelAllItemM()
 
 int DuBmpListBoxCL::SetSelM(int index, int select)
 {
-    return (selMode_ == SelectOne ? SetCurSel(index) : SetSel(index, select)) != LB_ERR ? 1 : 0;
+    if (selMode_ == SelectOne) {
+        return SetCurSel(index) != LB_ERR ? 1 : 0;
+    }
+    return selectM(index, select);
 }
 
 int DuBmpListBoxCL::GetFirstItemM(int* index, int* data)

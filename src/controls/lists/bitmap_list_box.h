@@ -46,7 +46,8 @@ public:
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays. Always 1.
     int DelAllItemM();
 
-    int SetSelM(int index, int select); // select 0 takes it back, except for a single selection.
+    // select 0 takes it back, except for a single selection. 0 in modes other than 1, 2 and 3.
+    int SetSelM(int index, int select);
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
     int GetFirstItemM(int* index, int* data);
     int GetNextItemM(int from, int* index, int* data);
@@ -57,6 +58,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSetFocus(CWnd* oldFocus);
     DECLARE_MESSAGE_MAP()

@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "controls/lists/combo_box_record.h"
 #include "controls/lists/filling.h"
+#include <cstring>
 
 template class PANELKIT_API Arr<DuComboBoxCL>;
 
@@ -40,7 +41,6 @@ int DuComboBoxArr::Create(CWnd* parent)
 
 int DuComboBoxCL::Create(CWnd* parent)
 {
-    DestroyWindow(); // The walk of the array may come by twice.
     return createdM(CComboBox::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
 }
 
@@ -141,6 +141,47 @@ int DuComboBoxCL::SetDataSelM(int data)
     return 0;
 }
 
+LRESULT DuComboBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    // The parent may have destroyed this object.
+    if (CWnd::FromHandlePermanent(window) == this) {
+        followSelectionM(message, static_cast<int>(wParam), static_cast<int>(result));
+    }
+    return result;
+}
+
+// Keeps the item last selected known through what a message has just done to the list.
+void DuComboBoxCL::followSelectionM(UINT message, int index, int result)
+{
+    switch (message) {
+    case CB_SETCURSEL:
+        currentSel_ = result >= 0 ? result : GetCurSel();
+        break;
+    case CB_SELECTSTRING:
+        currentSel_ = result >= 0 ? result : currentSel_; // Nothing found: the selection stays.
+        break;
+    case CB_ADDSTRING:
+    case CB_INSERTSTRING:
+        if (result >= 0 && result <= currentSel_) {
+            ++currentSel_;
+        }
+        break;
+    case CB_DELETESTRING:
+        if (result >= 0 && index <= currentSel_) {
+            currentSel_ = index < currentSel_ ? currentSel_ - 1 : -1;
+        }
+        break;
+    case CB_RESETCONTENT:
+    case WM_CREATE:
+        currentSel_ = -1;
+        break;
+    default:
+        break;
+    }
+}
+
 void DuComboBoxCL::OnSetFocus(CWnd* oldFocus)
 {
     reportFocusM(oldFocus);
@@ -165,19 +206,33 @@ void DuComboBoxCL::OnKillfocus()
     postToParentM(WM_KILLFOCUS);
 }
 
-// What stands in the edit field replaces the text of the selected item, which keeps its data.
+// What stands in the edit field replaces the text of the item last selected.
 void DuComboBoxCL::takeTypedTextM()
 {
     char typed[TextSize];
     GetWindowText(typed, TextSize);
-    if (currentSel_ >= 0 && currentSel_ < GetCount()) {
-        const DWORD_PTR data = GetItemData(currentSel_);
-        currentSel_ = InsertString(currentSel_, typed);
-        if (currentSel_ >= 0) {
-            SetItemData(currentSel_, data);
-            DeleteString(static_cast<UINT>(currentSel_ + 1));
-            SetCurSel(currentSel_); // It went with the old item.
+    const int item = currentSel_;
+    if (item >= 0 && item < GetCount()) {
+        CString kept;
+        GetLBText(item, kept);
+        char text[TextSize];
+        slCopyText(text, TextSize, kept); // Cut like what is typed.
+        if (std::strcmp(text, typed) != 0) {
+            replaceItemM(item, typed);
+        } else if (GetCurSel() == item) {
+            return; // Nobody typed.
         }
+        SetCurSel(item); // Typing makes the list forget it; it also went with the old item.
     }
     SetWindowText(typed);
+}
+
+// The item keeps its data.
+void DuComboBoxCL::replaceItemM(int item, const char* text)
+{
+    const DWORD_PTR data = GetItemData(item);
+    if (InsertString(item, text) >= 0) {
+        SetItemData(item, data);
+        DeleteString(static_cast<UINT>(item + 1));
+    }
 }

@@ -31,16 +31,20 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg void OnSelchange();
     afx_msg void OnKillfocus();
     DECLARE_MESSAGE_MAP()
 
 private:
+    void followSelectionM(UINT message, int index, int result);
     void takeTypedTextM();
+    void replaceItemM(int item, const char* text);
 
     int editAvailable_ { 0 };
-    // The item last selected by the user: typing into the edit field makes the list forget it.
+    // The item last selected by anybody: the list itself forgets it when something is typed. It goes along
+    // when lines before it come and go; -1 once it is cleared or gone.
     int currentSel_ { -1 };
 };
 

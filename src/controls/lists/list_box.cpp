@@ -25,6 +25,13 @@ DWORD ListBoxCL::selectionStyleM() const
     }
 }
 
+int ListBoxCL::selectM(int line, BOOL select)
+{
+    // Some platforms accept the message of multiple selections everywhere.
+    const bool many = (GetStyle() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+    return many && SetSel(line, select) != LB_ERR ? 1 : 0;
+}
+
 int ListBoxCL::GetSelNumM(int* count)
 {
     if (selMode_ == SelectOne) {

@@ -16,6 +16,7 @@ public:
 
 protected:
     DWORD selectionStyleM() const;
+    int selectM(int line, BOOL select); // In a list that selects several lines; 0 in any other.
 
     static constexpr int SelectOne = 1;
     static constexpr int SelectMany = 2;

@@ -25,9 +25,9 @@ int PairedTextsCL::CountM() const
 
 void PairedTextsCL::VisitM(FieldVisitorCL& visitor, const char* name, RowFieldsTP fields)
 {
-    int text = -1;
-    slVisitRows(visitor, name, pairs, CountM(), fields, [this, &text](int pair) {
-        text = texts.GetNextIdxM(pair == pairs.GetFirstIdxM() ? -1 : text);
+    int pair = -1;
+    slVisitRows(visitor, name, texts, CountM(), fields, [this, &pair](int text) {
+        pair = text == texts.GetFirstIdxM() ? 0 : pair + 1;
         return RowCL { pairs[pair], { &texts[text].ValueM() } };
     });
 }

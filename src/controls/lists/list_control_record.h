@@ -21,7 +21,7 @@ inline void slCellRow(FieldVisitorCL& visitor, const RowCL& row)
     visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
 }
 
-// Texts with two numbers each: entry k of both lists belongs together.
+// Texts with two numbers each: pair k, deleted or not, belongs to the k-th alive text.
 struct PANELKIT_API PairedTextsCL
 {
     int AddM(const int pair[2], const char* text); // 0, and nothing is appended, for null; else 1.

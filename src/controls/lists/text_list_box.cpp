@@ -131,9 +131,7 @@ int DuTextListBoxCL::GetItemM(int* index, int* data)
 
 int DuTextListBoxCL::SetSelM(int index)
 {
-    // Some platforms accept the message of multiple selections everywhere.
-    const bool many = (GetStyle() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
-    return many && SetSel(index) != LB_ERR ? 1 : 0;
+    return selectM(index, TRUE);
 }
 
 int DuTextListBoxCL::SetItemHeightM(int height)

@@ -22,11 +22,3 @@ void DVrTextListBoxCL::destroyM()
 {
     items_.DelAllM();
 }
-
-int DVrTextListBoxArr::AddStringM(int index, const char* text)
-{
-    if (DVrTextListBoxCL* const record = ElementAtPM(index)) {
-        record->AddStringM(text);
-    }
-    return 1;
-}

@@ -45,5 +45,5 @@ public:
     {
         return ifAliveM(index, &RecordTP::InitTextListBoxStrM, control);
     }
-    int AddStringM(int index, const char* text); // Also to a record that is deleted.
+    int AddStringM(int index, const char* text) { return ifAliveM(index, &RecordTP::AddStringM, text); }
 };

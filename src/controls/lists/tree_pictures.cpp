@@ -40,6 +40,9 @@ int TreePicturesCL::AddFileM(CImageList& images, const char* file)
 
 int TreePicturesCL::AddM(const char* file)
 {
+    if (images_.GetSafeHandle() == nullptr) {
+        return -1;
+    }
     const auto [entry, isNew] = known_.try_emplace(file);
     PictureCL& picture = entry->second;
     if (isNew) {

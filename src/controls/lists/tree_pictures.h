@@ -15,7 +15,8 @@ public:
     TreePicturesCL& operator=(const TreePicturesCL&) = delete;
     ~TreePicturesCL(); // Puts the images into the list.
 
-    // The index that the first image of a .bmp file (GBK path) will have; -1 when it can't be loaded.
+    // The index that the first image of a .bmp file (GBK path) will have; -1 when it can't be loaded, or
+    // there is no list.
     int AddM(const char* file);
 
     // Adds the images of a file to a list, with black as the mask colour: the index of the first, or -1.

@@ -106,7 +106,7 @@ int DuMultiEditCL::SetTextM(const char* text)
 {
     const int stored = storeM(text, 0);
     if (stored == 1 && m_hWnd != nullptr) {
-        SetWindowText(text_.TextM()); // A multi-line window does not report this change.
+        SetWindowText(text_.TextM());
     }
     return stored;
 }
@@ -115,6 +115,18 @@ int DuMultiEditCL::GetTextM(char* text) const
 {
     std::strcpy(text, text_.TextM());
     return 1;
+}
+
+LRESULT DuMultiEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    // The platform reports every change of a multi-line window but a whole new text.
+    const bool isNewText = message == WM_SETTEXT || message == EM_SETHANDLE;
+    if (isNewText && CWnd::FromHandlePermanent(window) == this) {
+        OnChange();
+    }
+    return result;
 }
 
 void DuMultiEditCL::OnChange()

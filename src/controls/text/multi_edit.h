@@ -4,9 +4,9 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 
-// A text of many lines, with a copy that follows every change on the screen. Texts are GBK, lengths count
-// bytes. The limit holds for texts that the program sets, not for typing. Setters without a window take
-// effect when it is created; the colour at the next colour request.
+// A text of many lines, with a copy that follows every change on the screen, whoever makes it. Texts are GBK,
+// lengths count bytes. The limit holds for texts that the program sets, not for typing. Setters without a
+// window take effect when it is created; the colour at the next colour request.
 class PANELKIT_API DuMultiEditCL : public ControlCL<CEdit>
 {
 public:
@@ -29,6 +29,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnChange();
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);

@@ -43,7 +43,8 @@ int DuSpinEditArr::Create(CWnd* parent)
 
 int DuSpinEditCL::Create(CWnd* parent)
 {
-    isWarning_ = false; // Perhaps the window before was destroyed beneath its message.
+    spinButton_.DestroyWindow(); // They belong to the window before.
+    isWarning_ = false;          // Perhaps the window before was destroyed beneath its message.
     if (createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM()))) != 1) {
         return 0;
     }

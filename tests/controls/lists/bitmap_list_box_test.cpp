@@ -289,6 +289,48 @@ TEST(BitmapListBox, NothingCanBeSelectedInModeFour)
     EXPECT_EQ(own.SelectedM(), "");
 }
 
+TEST(BitmapListBox, SelectingFailsInEveryModeThatSelectsNoSeveral)
+{
+    for (const int mode : { 0, 4, 5, -1 }) {
+        BoxCL own(3, 2, 0, mode);
+        own.AddM(2);
+        EXPECT_EQ(own.box.SetSelM(0, 1), 0) << mode;
+        EXPECT_EQ(own.SelectedM(), "") << mode;
+    }
+}
+
+TEST(BitmapListBox, LinesThatAreGoneByAnyWayTakeTheirPicturesAlong)
+{
+    BoxCL own(3, 1, 0, 1);
+    const int before = LiveGdiObjectsM();
+    const auto firstColour = [&own] { return own.SeenM().AtM(5, 5); };
+    const auto expectEmpty = [&own, before, &firstColour](const char* what) {
+        EXPECT_EQ(LiveGdiObjectsM(), before) << what;
+        EXPECT_GE(own.box.AddItemM(0, own.green.path()), 0);
+        EXPECT_EQ(firstColour(), Green) << what;
+        own.box.DeleteString(0);
+        EXPECT_EQ(LiveGdiObjectsM(), before) << what;
+    };
+    own.AddM(2);
+    own.box.ResetContent();
+    expectEmpty("emptied");
+    own.AddM(2);
+    own.box.SendMessage(LB_RESETCONTENT);
+    expectEmpty("emptied by message");
+    own.AddM(2);
+    own.box.DestroyWindow();
+    EXPECT_EQ(LiveGdiObjectsM(), before);
+    ASSERT_EQ(own.box.Create(&own.parent), 1);
+    expectEmpty("destroyed and created anew");
+    own.AddM(2);
+    ASSERT_EQ(own.box.Create(&own.parent), 1);
+    expectEmpty("created anew");
+    own.AddM(2);
+    EXPECT_EQ(own.box.SendMessage(LB_DELETESTRING, 0), 1);
+    EXPECT_EQ(own.box.SendMessage(LB_DELETESTRING, 7), LB_ERR);
+    EXPECT_EQ(firstColour(), Green);
+}
+
 TEST(BitmapListBox, NumbersCountTheNamesOfTheRecord)
 {
     const SmallPictureCL red(0xFF0000, 12, 10);

@@ -54,6 +54,26 @@ struct ComboDialogTest : testing::Test
         return *dynamic_cast<DuComboBoxCL*>(CWnd::FromHandlePermanent(dialog.ItemM(id)));
     }
     HWND EditM() { return ::GetWindow(dialog.ItemM(12), GW_CHILD); }
+    // Selects an item of the editable one as the user does.
+    void SelectM(int item)
+    {
+        ASSERT_TRUE(FocusM(EditM()));
+        ComboM(12).SetSelM(-1);
+        for (int step = 0; step < 9 && ComboM(12).GetCurSel() != item; ++step) {
+            KeyM(ComboM(12).GetCurSel() > item ? VK_UP : VK_DOWN);
+            PumpPending();
+        }
+        ASSERT_EQ(ComboM(12).GetCurSel(), item);
+    }
+    // Types over the whole text of the editable one and leaves it.
+    void LeaveWithM(const wchar_t* text)
+    {
+        ASSERT_TRUE(FocusM(EditM()));
+        ::SendMessageW(EditM(), EM_SETSEL, 0, -1);
+        TypeM(text);
+        KeyM(VK_TAB);
+        PumpPending();
+    }
     void SetUp() override
     {
         dialog.ShowWindow(SW_SHOW);
@@ -360,6 +380,120 @@ TEST_F(ComboDialogTest, ItemsThatAreGoneAreNotReplaced)
     KeyM(VK_TAB);
     PumpPending();
     EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1");
+}
+
+TEST_F(ComboDialogTest, ItemSelectedByTheProgramIsReplaced)
+{
+    EXPECT_EQ(ComboM(12).SetSelM(2), 1);
+    LeaveWithM(L"c");
+    EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 c=2 four=3");
+    EXPECT_EQ(ComboM(12).GetCurSel(), 2);
+    EXPECT_EQ(ComboM(12).SetDataSelM(3), 1);
+    LeaveWithM(L"d");
+    EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 c=2 d=3");
+    ComboM(12).SendMessage(CB_SETCURSEL, 0, 0);
+    LeaveWithM(L"a");
+    EXPECT_EQ(itemsOf(ComboM(12)), "a=0 two=1 c=2 d=3");
+    EXPECT_EQ(ComboM(12).SelectString(-1, "tw"), 1);
+    EXPECT_EQ(ComboM(12).SelectString(-1, "nothing"), CB_ERR); // The selection stays.
+    LeaveWithM(L"b");
+    EXPECT_EQ(itemsOf(ComboM(12)), "a=0 b=1 c=2 d=3");
+}
+
+TEST_F(ComboDialogTest, SelectedItemIsFoundAgainWhenLinesComeAndGo)
+{
+    ComboM(12).SetSelM(2);
+    ComboM(12).InsertItemM(0, 9, "first");
+    ComboM(12).InsertItemM(3, 9, "before"); // Just before it.
+    ComboM(12).InsertItemM(5, 9, "after");
+    ComboM(12).AddItemM(9, "last");
+    EXPECT_EQ(ComboM(12).DelItemM(1), 1);
+    EXPECT_EQ(ComboM(12).DelItemM(5), 1);
+    EXPECT_EQ(ComboM(12).DelItemM(77), 0);
+    EXPECT_EQ(itemsOf(ComboM(12)), "first=9 two=1 before=9 three=2 after=9 last=9");
+    LeaveWithM(L"c");
+    EXPECT_EQ(itemsOf(ComboM(12)), "first=9 two=1 before=9 c=2 after=9 last=9");
+    EXPECT_EQ(ComboM(12).GetCurSel(), 3);
+}
+
+TEST_F(ComboDialogTest, DeletingAllKeepsTheSelectedItemThatItLeaves)
+{
+    ComboM(12).SetSelM(3);
+    ComboM(12).DelAllItemM();
+    ASSERT_EQ(itemsOf(ComboM(12)), "two=1 four=3");
+    LeaveWithM(L"d");
+    EXPECT_EQ(itemsOf(ComboM(12)), "two=1 d=3");
+}
+
+TEST_F(ComboDialogTest, NoItemIsReplacedOnceTheSelectedOneIsGone)
+{
+    const std::string all = "one=0 two=1 three=2 four=3";
+    const auto expectKept = [this](const char* what, const std::string& items) {
+        LeaveWithM(L"x");
+        EXPECT_EQ(itemsOf(ComboM(12)), items) << what;
+    };
+    SelectM(1);
+    ComboM(12).SetSelM(-1);
+    expectKept("cleared by index", all);
+    SelectM(1);
+    ComboM(12).SetDataSelM(77);
+    expectKept("cleared by data", all);
+    SelectM(2);
+    ComboM(12).DelItemM(2);
+    expectKept("deleted", "one=0 two=1 four=3");
+    SelectM(0);
+    ComboM(12).DelAllItemM();
+    expectKept("deleted with every second one", "two=1");
+    SelectM(0);
+    ComboM(12).ResetContent();
+    ComboM(12).AddItemM(5, "new");
+    expectKept("emptied", "new=5");
+    SelectM(0);
+    ComboM(12).Create(&dialog);
+    ComboM(12).AddItemM(6, "newer");
+    expectKept("created anew", "newer=6");
+}
+
+TEST(ComboBox, ItemOfASortedOneIsFoundAgainBehindLinesAdded)
+{
+    PlainWindowCL parent;
+    DuComboBoxCL combo;
+    combo.SetEditAvailableM(1);
+    ASSERT_TRUE(combo.Create(CBS_SORT, CRect(10, 20, 130, 170), &parent, 12));
+    combo.AddItemM(1, "m");
+    combo.SetSelM(0);
+    combo.AddItemM(2, "a");
+    combo.AddItemM(3, "z");
+    ASSERT_TRUE(ActivateM(parent.m_hWnd));
+    ASSERT_TRUE(FocusM(::GetWindow(combo.m_hWnd, GW_CHILD)));
+    combo.SetWindowText("n");
+    ::SetFocus(parent.m_hWnd);
+    EXPECT_EQ(itemsOf(combo), "a=2 n=1 z=3");
+}
+
+TEST_F(ComboDialogTest, PassingThroughSendsNothingThatChangesItems)
+{
+    const std::set<UINT> changes { CB_INSERTSTRING, CB_DELETESTRING, CB_SETITEMDATA, CB_SETCURSEL };
+    for (const int selected : { -1, 1 }) {
+        SelectM(selected);
+        const MessageRecorder messages(dialog.ItemM(12), changes);
+        ASSERT_TRUE(FocusM(EditM()));
+        KeyM(VK_TAB);
+        PumpPending();
+        EXPECT_EQ(messages.ListM(), std::vector<std::string>()) << selected;
+        EXPECT_EQ(ComboM(12).GetCurSel(), selected);
+    }
+}
+
+TEST_F(ComboDialogTest, TextTypedAsTheItemHasItInsertsNothingAndSelectsTheItem)
+{
+    ComboM(12).SetSelM(1);
+    const MessageRecorder messages(dialog.ItemM(12), { CB_INSERTSTRING, CB_DELETESTRING });
+    LeaveWithM(L"two");
+    EXPECT_EQ(messages.ListM(), std::vector<std::string>());
+    EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 three=2 four=3");
+    EXPECT_EQ(ComboM(12).GetCurSel(), 1);
+    EXPECT_EQ(textOf(dialog.ItemM(12)), "two");
 }
 
 TEST_F(ComboDialogTest, FixedOneKeepsItsItemsAndReportsTheLostFocus)

@@ -135,6 +135,23 @@ TEST(ListControlRecord, NullTextAppendsNothingAndCopiesAreIndependent)
     EXPECT_EQ(printedFields(copy), "column_count=0 single_selection=1 titles= cells=[row=1 column=2 text=x]");
 }
 
+TEST(ListControlRecord, ShowsThePairsAndTextsThatFillATable)
+{
+    DVrListCtrlCL record(AliveTag);
+    const char* const texts[3] = { "a", "b", "c" };
+    for (int i = 0; i < 3; ++i) {
+        const int pair[2] = { i, 10 * i };
+        record.AddTitleStringM(pair, texts[i]);
+        record.AddItemStringM(pair, texts[i]);
+    }
+    // Pairs are taken by their place, texts by the order of the alive ones.
+    record.TitlesM().pairs.DelItemM(0);
+    record.CellsM().texts.DelItemM(0);
+    EXPECT_EQ(printedFields(record),
+        "column_count=0 single_selection=1 titles=[column=0 width=0 text=a][column=1 width=10 text=b] "
+        "cells=[row=0 column=0 text=b][row=1 column=10 text=c]");
+}
+
 TEST(BitmapListBoxRecord, FieldsDefaultsAndPictures)
 {
     EXPECT_EQ(printed<DVrBmpListBoxCL>("1 15 2 3 4 5 2 3 4 3"),

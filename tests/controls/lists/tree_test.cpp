@@ -132,6 +132,32 @@ TEST_F(TreeTest, MissingPictureDropsTheItemAndItsSubtree)
     EXPECT_EQ(imagesOf(tree, tree.GetRootItem()), "2 1");
 }
 
+TEST_F(TreeTest, PictureCutShortDropsTheItem)
+{
+    BmpFile picture;
+    picture.width = 200;
+    picture.height = 200;
+    picture.pixels.resize(1000);
+    const std::vector<unsigned char> bytes = picture.bytes();
+    const TempFile cut(std::string(bytes.begin(), bytes.end()), ".bmp");
+    AddM(0, 1, 1, "A", cut.path(), red.path());
+    AddM(0, 2, 2, "B");
+    record.InitTreeStrM(&tree);
+    EXPECT_EQ(allOf(tree), "B=2");
+    EXPECT_EQ(tree.InsertItemM(TVI_ROOT, 3, "C", red.path(), cut.path()), nullptr);
+}
+
+TEST_F(TreeTest, NothingIsInsertedWithoutAnImageList)
+{
+    tree.destroyM();
+    EXPECT_EQ(tree.InsertItemM(TVI_ROOT, 1, "A", red.path(), red.path()), nullptr);
+    AddM(0, 1, 10, "A");
+    AddM(1, 2, 20, "B");
+    record.InitTreeStrM(&tree);
+    EXPECT_EQ(allOf(tree), "");
+    EXPECT_EQ(tree.GetRootItem(), nullptr);
+}
+
 TEST_F(TreeTest, EachItemAddsTwoImagesTheSelectedOneFirst)
 {
     AddM(0, 1, 1, "A");

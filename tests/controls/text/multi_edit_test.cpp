@@ -3,6 +3,7 @@
 #include "support/all.h"
 #include "support/test_dialog.h"
 #include <chrono>
+#include <cstring>
 #include <gtest/gtest.h>
 
 using namespace testing_support;
@@ -130,6 +131,27 @@ TEST(MultiEdit, CopyFollowsTypingInGbkAlsoBeyondTheLimit)
     EXPECT_EQ(typed.StoredM(), slUtf8ToGbk("ab中文cd"));
     KeyM(VK_BACK);
     EXPECT_EQ(typed.StoredM(), slUtf8ToGbk("ab中文c"));
+}
+
+TEST(MultiEdit, CopyFollowsTextsThatTheProgramGivesTheWindow)
+{
+    TypedCL typed;
+    typed.edit.SetWindowText("longer than the limit");
+    EXPECT_EQ(typed.StoredM(), "longer than the limit");
+    typed.parent.SetDlgItemText(7, "\xD6\xD0\xCE\xC4");
+    EXPECT_EQ(typed.StoredM(), "\xD6\xD0\xCE\xC4");
+    typed.edit.SetWindowText("");
+    EXPECT_EQ(typed.StoredM(), "");
+    typed.edit.ReplaceSel("placed", TRUE);
+    EXPECT_EQ(typed.StoredM(), "placed");
+    typed.edit.Undo();
+    EXPECT_EQ(typed.StoredM(), "");
+    const HLOCAL memory = ::LocalAlloc(LMEM_MOVEABLE, 4 * sizeof(wchar_t));
+    std::memcpy(::LocalLock(memory), L"own", 4 * sizeof(wchar_t));
+    ::LocalUnlock(memory);
+    typed.edit.SendMessage(EM_SETHANDLE, reinterpret_cast<WPARAM>(memory));
+    EXPECT_EQ(textOf(typed.edit.m_hWnd), "own");
+    EXPECT_EQ(typed.StoredM(), "own");
 }
 
 TEST(MultiEdit, EnterMakesALineAlsoInADialog)
