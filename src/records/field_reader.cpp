@@ -20,12 +20,15 @@ bool numberFits(std::string_view number, float)
     return slRealFits(number.data(), number.data() + number.size());
 }
 
+// Where the word ends, or a text's length of it: many values may be looked for at the same long word.
 std::size_t wordEnd(const FileTextCL& file, std::size_t at)
 {
-    while (at < file.SizeM() && !slIsBlank(file.BytesM()[at])) {
-        ++at;
+    const std::string_view word = file.CutM({ at, at + TextSize });
+    std::size_t length = 0;
+    while (length < word.size() && !slIsBlank(word[length])) {
+        ++length;
     }
-    return at;
+    return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
 bool standsForNothing(const CharArr& text, NullWord rule)

@@ -30,7 +30,7 @@ struct ValueSeenCL
     int record;          // The number of its record or entry in the section, from 0.
     const char* field;
     int part; // Its number, from 0, among the values of a field with several: x and y, red, green and blue.
-    SpanCL span; // What was found, up to the next blank where it is no number; empty where nothing stands.
+    SpanCL span; // What was found; what is no number to the next blank, at most 259 bytes. Or empty.
     Fate fate;
 };
 

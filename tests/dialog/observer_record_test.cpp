@@ -177,3 +177,9 @@ TEST(ReadObserver, WhatIsReadIsTheSameWithAndWithoutOne)
     SeenFileCL seen;
     EXPECT_EQ(read(nullptr), read(&seen));
 }
+
+TEST(ReadObserver, LongWordIsToldShortForEachOfTheManyValuesLookedForThere)
+{
+    const ToldCL told = toldOf<DVrLabelArr>("[标题]\n1\n0\n" + std::string(3000000, 'w'));
+    EXPECT_EQ(told.valueM(LabelHeader, 0, "size", 1), "4:1 not a number '" + std::string(259, 'w') + "'");
+}

@@ -14,7 +14,7 @@ public:
     void destroyM() { bitmaps_.DelAllM(); } // Drops the names.
     int InitBmpListBoxM(DuBmpListBoxCL* control) const;
     // Loads the pictures into a control with its window. Their numbers count the names, so one that can't be
-    // loaded leaves a gap. Always 1.
+    // loaded leaves a gap.
     int InitBmpListBoxBmpM(DuBmpListBoxCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 

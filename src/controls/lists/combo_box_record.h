@@ -13,7 +13,7 @@ public:
     int AddStringM(const char* text);     // Appends an item; 0 for null, else 1.
     void destroyM() { items_.DelAllM(); } // Empties the items.
     int InitComboBoxM(DuComboBoxCL* control) const;
-    int InitComboBoxStrM(DuComboBoxCL* control) const; // Adds the items to a live control; always 1.
+    int InitComboBoxStrM(DuComboBoxCL* control) const; // Adds the items to a live control.
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:

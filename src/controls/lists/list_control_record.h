@@ -43,7 +43,7 @@ public:
     int AddItemStringM(const int pair[2], const char* text); // pair: row and column.
     void destroyM();                                         // Empties headings and cells.
     int InitListCtrlM(DuListCtrlCL* control) const;
-    int InitListCtrlStrM(DuListCtrlCL* control) const; // Fills a live control; always 1.
+    int InitListCtrlStrM(DuListCtrlCL* control) const; // Fills a live control.
     void EachFieldM(FieldVisitorCL& visitor);
 
     PairedTextsCL& TitlesM() { return titles_; }

@@ -15,8 +15,8 @@ public:
     int AddStringM(
         const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
     void destroyM() { lines_.DelAllM(); }   // Empties the lines.
-    int InitTreeM(DuTreeCL* control) const; // Copies the record into a control, if there is one; always 1.
-    int InitTreeStrM(DuTreeCL* control);    // Inserts all lines from parent key 0 on; always 1.
+    int InitTreeM(DuTreeCL* control) const; // The control may be null.
+    int InitTreeStrM(DuTreeCL* control);    // Inserts all lines from parent key 0 on into a live control.
     // Inserts the lines with that parent key below the item, each followed by its own children, in order. A
     // line is used up by that, also when its pictures fail: then its children stay out. Always 1.
     int genTreeM(int parentKey, _TREEITEM* parentItem, DuTreeCL* tree);

@@ -10,7 +10,7 @@ class PANELKIT_API DVrSingleEditCL : public RecordCL<DVrSingleEditCL>
 {
 public:
     using RecordCL::RecordCL;
-    // Copies the record, but not its colour, into a control without a window. Always 1.
+    // Copies all but the colour.
     int InitSingleEditM(DuSingleEditCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
