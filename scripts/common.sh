@@ -40,7 +40,8 @@ show_steps() { # what log
   local line said=
   while IFS= read -r line; do
     printf '%s\n' "$line"
-    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+    # Looking for new files is a count of its own.
+    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] && $line != *globbed* ]] || continue
     if [ -t 2 ]; then
       printf '\r%s %s/%s\e[K' "$1" "${BASH_REMATCH[1]}" "${BASH_REMATCH[2]}" >&2
     elif [ -z "$said" ]; then

@@ -6,8 +6,7 @@ namespace {
 
 DWORD WINAPI waitForEnd(void* thread)
 {
-    while (std::getchar() != EOF) {
-    }
+    while (std::getchar() != EOF) { }
     ::PostThreadMessageW(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(thread)), WM_QUIT, 0, 0);
     return 0;
 }
