@@ -18,10 +18,10 @@ say() { echo "$*" >&2; }
 
 # Runs a command that may take long: on a terminal with a line that tells for how long, else after one plain line.
 with_clock() { # what command...
-  local what=$1 clock= code=0
+  local what=$1 clock= code=0 began=$SECONDS
   shift
   if [ -t 2 ]; then
-    (trap 'exit 0' TERM; while printf '\r%s %d s\e[K' "$what" "$SECONDS" >&2; do sleep 1 7>&- 9>&-; done) 7>&- 9>&- &
+    (trap 'exit 0' TERM; while printf '\r%s %d s\e[K' "$what" $((SECONDS - began)) >&2; do sleep 1; done) 7>&- 9>&- &
     clock=$!
   else
     say "$what"
@@ -72,6 +72,7 @@ install_missing() { # packages...
   done
   [ ${#missing[@]} -eq 0 ] && return 0
   say "installing: ${missing[*]}"
+  as_root true # A password, if it takes one, is asked for before a line moves.
   with_clock "reading the lists of packages" as_root apt-get -qq -o DPkg::Lock::Timeout=300 update >&2 </dev/null
   with_clock "installing ${#missing[@]} packages" apt_install "${missing[@]}"
 }
