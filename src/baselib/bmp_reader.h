@@ -10,7 +10,8 @@
 // The buffer belongs to the caller, who releases it with slFree.
 //
 // A file that is missing, cut short or broken in any way (a size of 0, a palette index without a colour, a
-// run past its row's end, an offset outside the file, ...) gives 0 with *w = *h = 0 and *pixels null.
+// run past its row's end, an offset outside the file, ...) gives 0 with *w = *h = 0 and *pixels null. Without
+// one of these places to write to the result is 0.
 
 // file: GBK path. Returns 1, or 0 when there is no such picture.
 PANELKIT_API int slLoadBmpTexture(const char* file, int* w, int* h, unsigned char** pixels);

@@ -11,11 +11,11 @@ public:
     static constexpr std::array<SecondarySectionCL<RecordTP>, 0> Secondaries {};
 
 protected:
-    // Lets the record at index do something, if it is alive. Always 1.
+    // Lets the record at index do something, if it is alive: the action's result, else 1.
     template <class ActionTP> int ifAliveM(int index, ActionTP&& action) const
     {
         if (this->CheckAvailableM(index) == 1) {
-            action(*this->GetItemPM(index));
+            return action(*this->GetItemPM(index));
         }
         return 1;
     }

@@ -18,6 +18,9 @@ int DVrNormalAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrNormalAnimateArr::AddBmpNameM(int index, const char* file)
 {
+    if (file == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddBmpNameM(file);
     }

@@ -16,6 +16,9 @@ int DVrSpecAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrSpecAnimateArr::AddBmpNameM(int index, const char* file)
 {
+    if (file == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddBmpNameM(file);
     }

@@ -23,6 +23,9 @@ int DVrBmpListBoxCL::AddBmpNameM(const char* name)
 
 int DVrBmpListBoxArr::AddBmpNameM(int index, const char* name)
 {
+    if (name == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddBmpNameM(name);
     }

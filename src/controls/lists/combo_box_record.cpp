@@ -20,6 +20,9 @@ int DVrComboBoxCL::AddStringM(const char* text)
 
 int DVrComboBoxArr::AddStringM(int index, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddStringM(text);
     }

@@ -27,6 +27,9 @@ DWORD ListBoxCL::selectionStyleM() const
 
 int ListBoxCL::GetSelNumM(int* count)
 {
+    if (count == nullptr) {
+        return 0;
+    }
     if (selMode_ == SelectOne) {
         *count = GetCurSel() != LB_ERR ? 1 : 0;
         return 1;

@@ -26,6 +26,9 @@ void visitPaired(FieldVisitorCL& visitor, const char* name, const PairedTextsCL&
 
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
+    if (pair == nullptr) {
+        return 0;
+    }
     const int result = slAddText(texts, text);
     if (result != 0) {
         pairs.AddItemM(pair);
@@ -75,6 +78,9 @@ void DVrListCtrlCL::destroyM()
 
 int DVrListCtrlArr::AddTitleStringM(int index, const int pair[2], const char* text)
 {
+    if (pair == nullptr || text == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddTitleStringM(pair, text);
     }
@@ -83,6 +89,9 @@ int DVrListCtrlArr::AddTitleStringM(int index, const int pair[2], const char* te
 
 int DVrListCtrlArr::AddItemStringM(int index, const int pair[2], const char* text)
 {
+    if (pair == nullptr || text == nullptr) {
+        return 0;
+    }
     if (CheckAvailableM(index) == 1) {
         ElementAtM(index).AddItemStringM(pair, text);
     }
