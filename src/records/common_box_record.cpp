@@ -15,6 +15,9 @@ void DVrCommonBoxCL::EachCommonFieldM(FieldVisitorCL& visitor, int withItemIndex
 
 int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     // What can't be read is 0, never what the record before left.
     windowIndex_ = functionId_ = 0;
     position_[0] = position_[1] = size_[0] = size_[1] = 0;
@@ -28,6 +31,9 @@ int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 
 int DVrCommonBoxCL::FmInputInterfaceM(int windowIndex, VrIOCL* io)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     windowIndex_ = windowIndex;
     io->InputDM(&itemIndex_, &functionId_, &extraValue_, &regionKind_);
     io->InputInt2DM(position_);

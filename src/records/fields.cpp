@@ -11,7 +11,7 @@ void FieldVisitorCL::StopReadingM() { }
 
 int slIsNullWord(const char* text)
 {
-    return std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0;
+    return text != nullptr && (std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0);
 }
 
 namespace {
@@ -23,6 +23,14 @@ bool meansNoText(const char* text, NullWord nullWord)
 }
 
 } // namespace
+
+FieldReaderCL::FieldReaderCL(VrIOCL* io)
+    : io_(io)
+{
+    if (io_ == nullptr) {
+        FieldReaderCL::StopReadingM();
+    }
+}
 
 void FieldReaderCL::IntM(const char*, int& value)
 {

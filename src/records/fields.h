@@ -49,10 +49,7 @@ public:
 class PANELKIT_API FieldReaderCL : public FieldVisitorCL
 {
 public:
-    explicit FieldReaderCL(VrIOCL* io)
-        : io_(io)
-    {
-    }
+    explicit FieldReaderCL(VrIOCL* io); // Null: nothing can be read.
     void IntM(const char* name, int& value) override;
     void RealM(const char* name, float& value) override;
     void IntPairM(const char* name, int (&values)[2]) override;
@@ -97,9 +94,12 @@ template <class RecordTP> int slFewestValues()
 }
 
 // Reads one record of a main section: from its defaults (the delete tag is kept), the common fields,
-// then its own. Always 1.
+// then its own. 1; 0, and no change, without a file.
 template <class RecordTP> int slReadRecord(RecordTP& record, VrIOCL* io)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     record = RecordTP(record.GetDeleteTagM());
     record.RecordTP::DVrCommonBoxCL::FmReadInterfaceM(io, 0);
     FieldReaderCL reader(io);

@@ -2,6 +2,9 @@
 
 int FrameNamesCL::AddNameM(const char* file)
 {
+    if (file == nullptr) {
+        return -1;
+    }
     VrStringCL name(AliveTag);
     name.AddStringM(file);
     return AddItemM(name);

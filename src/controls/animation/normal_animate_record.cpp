@@ -18,5 +18,8 @@ int DVrNormalAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrNormalAnimateArr::AddBmpNameM(int index, const char* file)
 {
+    if (file == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [file](DVrNormalAnimateCL& record) { record.AddBmpNameM(file); });
 }

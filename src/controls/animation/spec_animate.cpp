@@ -9,7 +9,9 @@ END_MESSAGE_MAP()
 
 int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitBmpNumM(frames_.GetAvailableNumM());
     for (int i = frames_.GetFirstIdxM(); i >= 0; i = frames_.GetNextIdxM(i)) {
         control->AddBmpM(frames_.GetItemPM(i)->TextM());
@@ -21,7 +23,8 @@ int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
 
 int DVrSpecAnimateArr::InitSpecAnimateM(int index, DuSpecAnimateCL* control) const
 {
-    return ifAliveM(index, [control](const DVrSpecAnimateCL& record) { record.InitSpecAnimateM(control); });
+    return ifAliveM(
+        index, [control](const DVrSpecAnimateCL& record) { return record.InitSpecAnimateM(control); });
 }
 
 BOOL DuSpecAnimateCL::PreCreateWindow(CREATESTRUCT& create)

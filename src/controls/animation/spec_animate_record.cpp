@@ -16,5 +16,8 @@ int DVrSpecAnimateCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrSpecAnimateArr::AddBmpNameM(int index, const char* file)
 {
+    if (file == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [file](DVrSpecAnimateCL& record) { record.AddBmpNameM(file); });
 }

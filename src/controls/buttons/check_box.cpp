@@ -9,7 +9,9 @@ END_MESSAGE_MAP()
 
 int DVrCheckBoxCL::InitCheckBoxM(DuCheckBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitCheckM(check_);
     control->SetTextM(text_.TextM());
     return 1;
@@ -17,7 +19,7 @@ int DVrCheckBoxCL::InitCheckBoxM(DuCheckBoxCL* control) const
 
 int DVrCheckBoxArr::InitCheckBoxM(int index, DuCheckBoxCL* control) const
 {
-    return ifAliveM(index, [control](const DVrCheckBoxCL& record) { record.InitCheckBoxM(control); });
+    return ifAliveM(index, [control](const DVrCheckBoxCL& record) { return record.InitCheckBoxM(control); });
 }
 
 BOOL DuCheckBoxCL::PreCreateWindow(CREATESTRUCT& create)

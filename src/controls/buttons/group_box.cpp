@@ -10,14 +10,16 @@ END_MESSAGE_MAP()
 
 int DVrGroupBoxCL::InitGroupBoxM(DuGroupBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitTextM(text_.TextM());
     return 1;
 }
 
 int DVrGroupBoxArr::InitGroupBoxM(int index, DuGroupBoxCL* control) const
 {
-    return ifAliveM(index, [control](const DVrGroupBoxCL& record) { record.InitGroupBoxM(control); });
+    return ifAliveM(index, [control](const DVrGroupBoxCL& record) { return record.InitGroupBoxM(control); });
 }
 
 int DuGroupBoxCL::Create(CWnd* parent)
@@ -42,12 +44,18 @@ int DuGroupBoxCL::OnCreate(LPCREATESTRUCT create)
 
 int DuGroupBoxCL::SetInitTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     return 1;
 }
 
 int DuGroupBoxCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     if (m_hWnd != nullptr) {
         SetWindowText(text_);

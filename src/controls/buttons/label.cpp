@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrLabelCL::InitLabelM(DuLabelCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetInitTextM(text_.TextM());
     control->SetEdgeM(edge_);
@@ -22,7 +24,7 @@ int DVrLabelCL::InitLabelM(DuLabelCL* control) const
 
 int DVrLabelArr::InitLabelM(int index, DuLabelCL* control) const
 {
-    return ifAliveM(index, [control](const DVrLabelCL& record) { record.InitLabelM(control); });
+    return ifAliveM(index, [control](const DVrLabelCL& record) { return record.InitLabelM(control); });
 }
 
 int DuLabelCL::Create(CWnd* parent)
@@ -62,6 +64,9 @@ int DuLabelCL::SetInitTextM(const char* text)
 
 int DuLabelCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     if (m_hWnd != nullptr) {
         SetWindowText(text_);

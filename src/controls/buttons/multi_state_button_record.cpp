@@ -20,6 +20,9 @@ int DVrMultiStateButtonCL::FmReadInterfaceM(VrIOCL* io)
 
 int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 {
+    if (file == nullptr) {
+        return -1;
+    }
     VrStringCL name(AliveTag);
     name.AddStringM(file);
     const int index = files_.AddItemM(name);
@@ -31,6 +34,9 @@ int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 
 int DVrMultiStateButtonArr::AddStringM(int index, int status, const char* file)
 {
+    if (file == nullptr) {
+        return 0;
+    }
     return ifAliveM(
         index, [status, file](DVrMultiStateButtonCL& record) { record.AddStringM(status, file); });
 }

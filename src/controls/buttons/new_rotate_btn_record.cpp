@@ -48,6 +48,9 @@ void DVrNewRotateBtnCL::EachColumnM(FieldVisitorCL& visitor, int withShowConditi
 
 int DVrNewRotateBtnCL::FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     *this = DVrNewRotateBtnCL(AliveTag);
     DVrCommonBoxCL::FmReadInterfaceM(io, 1);
     FieldReaderCL reader(io);
@@ -60,7 +63,7 @@ int DVrNewRotateBtnCL::FmReadInterfaceM(VrIOCL* io, int withShowCondition, int w
 
 int DVrNewRotateBtnCL::SetPictureM(int slot, const char* file)
 {
-    if (slot < 0 || slot == INT_MAX) {
+    if (slot < 0 || slot == INT_MAX || file == nullptr) {
         return 0;
     }
     pictures_.push_back({ slot, CharArr(file) });
@@ -83,6 +86,9 @@ VrStringArr DVrNewRotateBtnCL::PicturesM() const
 
 int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     if (io->SearchStrM(NewRotateBtnHeader) == 0) {
         return 0;
     }

@@ -10,7 +10,9 @@ END_MESSAGE_MAP()
 
 int DVrRadioBoxCL::InitRadioBoxM(DuRadioBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetGroupNoM(group_);
     control->SetInitCheckM(check_);
     control->SetTextM(text_.TextM());
@@ -19,7 +21,7 @@ int DVrRadioBoxCL::InitRadioBoxM(DuRadioBoxCL* control) const
 
 int DVrRadioBoxArr::InitRadioBoxM(int index, DuRadioBoxCL* control) const
 {
-    return ifAliveM(index, [control](const DVrRadioBoxCL& record) { record.InitRadioBoxM(control); });
+    return ifAliveM(index, [control](const DVrRadioBoxCL& record) { return record.InitRadioBoxM(control); });
 }
 
 BOOL DuRadioBoxCL::PreCreateWindow(CREATESTRUCT& create)
@@ -45,6 +47,9 @@ int DuRadioBoxCL::SetGroupNoM(int group)
 
 int DuRadioBoxCL::GetGroupNoM(int* out) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     *out = group_;
     return 1;
 }

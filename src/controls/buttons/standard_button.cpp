@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrStandardButtonCL::InitStandardButtonM(DuStandardButtonCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetDefaultM(default_);
     control->SetTextM(text_.TextM());
     return 1;
@@ -20,7 +22,7 @@ int DVrStandardButtonCL::InitStandardButtonM(DuStandardButtonCL* control) const
 int DVrStandardButtonArr::InitStandardButtonM(int index, DuStandardButtonCL* control) const
 {
     return ifAliveM(
-        index, [control](const DVrStandardButtonCL& record) { record.InitStandardButtonM(control); });
+        index, [control](const DVrStandardButtonCL& record) { return record.InitStandardButtonM(control); });
 }
 
 int DuStandardButtonCL::Create(CWnd* parent)
@@ -61,6 +63,9 @@ int DuStandardButtonCL::SetDefaultM(int flag)
 
 int DuStandardButtonCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     return 1;
 }

@@ -10,14 +10,16 @@ END_MESSAGE_MAP()
 
 int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetBkColorM(bkColor_);
     return 1;
 }
 
 int DVrDraw2DArr::InitDraw2DM(int index, DuDraw2DCL* control) const
 {
-    return ifAliveM(index, [control](const DVrDraw2DCL& record) { record.InitDraw2DM(control); });
+    return ifAliveM(index, [control](const DVrDraw2DCL& record) { return record.InitDraw2DM(control); });
 }
 
 int DuDraw2DCL::SetBkColorM(COLORREF colour)

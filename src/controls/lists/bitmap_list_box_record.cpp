@@ -23,5 +23,8 @@ int DVrBmpListBoxCL::AddBmpNameM(const char* name)
 
 int DVrBmpListBoxArr::AddBmpNameM(int index, const char* name)
 {
+    if (name == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [name](DVrBmpListBoxCL& record) { record.AddBmpNameM(name); });
 }

@@ -14,13 +14,18 @@ END_MESSAGE_MAP()
 
 int DVrComboBoxCL::InitComboBoxM(DuComboBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetEditAvailableM(editAvailable_);
     return 1;
 }
 
 int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     const FillingCL filling(control);
     slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
     return 1;
@@ -28,12 +33,13 @@ int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
 
 int DVrComboBoxArr::InitComboBoxM(int index, DuComboBoxCL* control) const
 {
-    return ifAliveM(index, [control](const DVrComboBoxCL& record) { record.InitComboBoxM(control); });
+    return ifAliveM(index, [control](const DVrComboBoxCL& record) { return record.InitComboBoxM(control); });
 }
 
 int DVrComboBoxArr::InitComboBoxStrM(int index, DuComboBoxCL* control)
 {
-    return ifAliveM(index, [control](const DVrComboBoxCL& record) { record.InitComboBoxStrM(control); });
+    return ifAliveM(
+        index, [control](const DVrComboBoxCL& record) { return record.InitComboBoxStrM(control); });
 }
 
 int DuComboBoxArr::Create(CWnd* parent)
@@ -73,12 +79,18 @@ int DuComboBoxCL::SetEditAvailableM(int available)
 
 int DuComboBoxCL::AddItemM(int data, const char* text)
 {
+    if (text == nullptr) {
+        return -1;
+    }
     const int position = AddString(text);
     return position < 0 ? -1 : SetItemData(position, static_cast<DWORD_PTR>(data));
 }
 
 int DuComboBoxCL::InsertItemM(int index, int data, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     const int position = InsertString(index, text);
     return position >= 0 && SetItemData(position, static_cast<DWORD_PTR>(data)) != CB_ERR ? 1 : 0;
 }
@@ -99,6 +111,9 @@ int DuComboBoxCL::DelAllItemM()
 
 int DuComboBoxCL::GetCurItemM(int* index, int* data, char* text)
 {
+    if (index == nullptr || data == nullptr || text == nullptr) {
+        return 0;
+    }
     const int selected = GetCurSel();
     if (selected == CB_ERR) {
         char typed[TextSize];

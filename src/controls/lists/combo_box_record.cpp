@@ -20,5 +20,8 @@ int DVrComboBoxCL::AddStringM(const char* text)
 
 int DVrComboBoxArr::AddStringM(int index, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [text](DVrComboBoxCL& record) { record.AddStringM(text); });
 }

@@ -24,6 +24,9 @@ void visitPaired(FieldVisitorCL& visitor, const char* name, const PairedTextsCL&
 
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
+    if (pair == nullptr) {
+        return 0;
+    }
     const int result = slAddText(texts, text);
     if (result != 0) {
         pairs.AddItemM(pair);
@@ -73,10 +76,16 @@ void DVrListCtrlCL::destroyM()
 
 int DVrListCtrlArr::AddTitleStringM(int index, const int pair[2], const char* text)
 {
+    if (pair == nullptr || text == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [pair, text](DVrListCtrlCL& record) { record.AddTitleStringM(pair, text); });
 }
 
 int DVrListCtrlArr::AddItemStringM(int index, const int pair[2], const char* text)
 {
+    if (pair == nullptr || text == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [pair, text](DVrListCtrlCL& record) { record.AddItemStringM(pair, text); });
 }

@@ -29,5 +29,8 @@ void DVrTextListBoxCL::destroyM()
 
 int DVrTextListBoxArr::AddStringM(int index, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [text](DVrTextListBoxCL& record) { record.AddStringM(text); });
 }

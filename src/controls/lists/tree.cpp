@@ -12,14 +12,15 @@ END_MESSAGE_MAP()
 
 int DVrTreeCL::InitTreeM(DuTreeCL* control) const
 {
-    if (control != nullptr) {
-        InitCommonCtrlM(control);
-    }
+    InitCommonCtrlM(control); // A tree without a control is none to fill.
     return 1;
 }
 
 int DVrTreeCL::InitTreeStrM(DuTreeCL* control)
 {
+    if (control == nullptr) {
+        return 0;
+    }
     return genTreeM(0, TVI_ROOT, control);
 }
 
@@ -37,11 +38,14 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
 
 int DVrTreeArr::InitTreeM(int index, DuTreeCL* control) const
 {
-    return ifAliveM(index, [control](const DVrTreeCL& record) { record.InitTreeM(control); });
+    return ifAliveM(index, [control](const DVrTreeCL& record) { return record.InitTreeM(control); });
 }
 
 int DVrTreeArr::InitTreeStrM(int index, DuTreeCL* control)
 {
+    if (control == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [control](DVrTreeCL& record) { record.InitTreeStrM(control); });
 }
 
@@ -77,6 +81,9 @@ void DuTreeCL::OnSetFocus(CWnd* oldFocus)
 HTREEITEM DuTreeCL::InsertItemM(
     HTREEITEM parent, int data, const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return nullptr;
+    }
     const int selected = TreePicturesCL::AddFileM(images_, selectedPicture);
     const int normal = selected != -1 ? TreePicturesCL::AddFileM(images_, normalPicture) : -1;
     return insertM(parent, data, text, selected, normal);
@@ -85,6 +92,9 @@ HTREEITEM DuTreeCL::InsertItemM(
 HTREEITEM DuTreeCL::InsertItemM(HTREEITEM parent, int data, const char* text, const char* selectedPicture,
     const char* normalPicture, TreePicturesCL& pictures)
 {
+    if (text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return nullptr;
+    }
     const int selected = pictures.AddM(selectedPicture);
     const int normal = selected != -1 ? pictures.AddM(normalPicture) : -1;
     return insertM(parent, data, text, selected, normal);
@@ -105,6 +115,9 @@ HTREEITEM DuTreeCL::insertM(HTREEITEM parent, int data, const char* text, int se
 
 HTREEITEM DuTreeCL::GetCurSelM(int* data) const
 {
+    if (data == nullptr) {
+        return nullptr;
+    }
     const HTREEITEM item = GetSelectedItem();
     if (item != nullptr) {
         *data = static_cast<int>(GetItemData(item));

@@ -15,6 +15,9 @@ int DVrTreeCL::FmReadInterfaceM(VrIOCL* io)
 int DVrTreeCL::AddStringM(
     const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (triple == nullptr || text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return 0;
+    }
     lines_.AddM(triple, text, selectedPicture, normalPicture);
     return 1;
 }
@@ -22,6 +25,9 @@ int DVrTreeCL::AddStringM(
 int DVrTreeArr::AddStringM(
     int index, const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (triple == nullptr || text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return 0;
+    }
     return ifAliveM(index, [triple, text, selectedPicture, normalPicture](DVrTreeCL& record) {
         record.AddStringM(triple, text, selectedPicture, normalPicture);
     });

@@ -20,6 +20,5 @@ void DVrSingleEditCL::EachFieldM(FieldVisitorCL& visitor)
 
 int DVrSingleEditCL::FmReadInterfaceM(VrIOCL* io)
 {
-    slReadRecord(*this, io);
-    return isTypeKnownM() ? 1 : 0;
+    return slReadRecord(*this, io) == 1 && isTypeKnownM() ? 1 : 0;
 }

@@ -16,7 +16,9 @@ END_MESSAGE_MAP()
 
 int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
     control->SetRangeM(range_);
@@ -30,7 +32,7 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
 
 int DVrSpinEditArr::InitSpinEditM(int index, DuSpinEditCL* control) const
 {
-    return ifAliveM(index, [control](const DVrSpinEditCL& record) { record.InitSpinEditM(control); });
+    return ifAliveM(index, [control](const DVrSpinEditCL& record) { return record.InitSpinEditM(control); });
 }
 
 int DuSpinEditArr::Create(CWnd* parent)

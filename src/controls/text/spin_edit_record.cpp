@@ -21,6 +21,5 @@ void DVrSpinEditCL::EachFieldM(FieldVisitorCL& visitor)
 
 int DVrSpinEditCL::FmReadInterfaceM(VrIOCL* io)
 {
-    slReadRecord(*this, io);
-    return isTypeKnownM() ? 1 : 0;
+    return slReadRecord(*this, io) == 1 && isTypeKnownM() ? 1 : 0;
 }
