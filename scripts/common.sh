@@ -5,14 +5,52 @@ export CCACHE_BASEDIR="$root"
 wine64=/usr/lib/wine/wine64
 wineserver=/usr/lib/wine/wineserver
 
+# What building and showing need, and what the tests need besides.
 packages=(
-  cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest libcli11-dev nlohmann-json3-dev ccache
-  wine wine64 fonts-wine xvfb fonts-wqy-zenhei clang-format
+  cmake ninja-build g++ g++-mingw-w64-x86-64-posix libcli11-dev nlohmann-json3-dev
+  wine wine64 fonts-wine xvfb fonts-wqy-zenhei
   # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
   libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
+test_packages=(googletest clang-format ccache)
 
 say() { echo "$*" >&2; }
+
+# Runs a command that may take long: on a terminal with a line that tells for how long, else after one plain line.
+with_clock() { # what command...
+  local what=$1 clock= code=0 began=$SECONDS
+  shift
+  if [ -t 2 ]; then
+    (trap 'exit 0' TERM; while printf '\r%s %d s\e[K' "$what" $((SECONDS - began)) >&2; do sleep 1; done) 7>&- 9>&- &
+    clock=$!
+  else
+    say "$what"
+  fi
+  "$@" || code=$?
+  if [ -n "$clock" ]; then
+    kill "$clock" 2>/dev/null || true
+    wait "$clock" 2>/dev/null || true
+    printf '\r\e[K' >&2
+  fi
+  return "$code"
+}
+
+# Copies ninja's lines to a log. Tells how far it is: a line that moves on a terminal, else one plain line.
+show_steps() { # what log
+  local line said=
+  while IFS= read -r line; do
+    printf '%s\n' "$line"
+    # Looking for new files is a count of its own.
+    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] && $line != *globbed* ]] || continue
+    if [ -t 2 ]; then
+      printf '\r%s %s/%s\e[K' "$1" "${BASH_REMATCH[1]}" "${BASH_REMATCH[2]}" >&2
+    elif [ -z "$said" ]; then
+      say "$1 (${BASH_REMATCH[2]} steps)"
+    fi
+    said=1
+  done >"$2"
+  [ -z "$said" ] || [ ! -t 2 ] || printf '\r\e[K' >&2
+}
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then
@@ -34,9 +72,14 @@ install_missing() { # packages...
   done
   [ ${#missing[@]} -eq 0 ] && return 0
   say "installing: ${missing[*]}"
-  as_root apt-get -qq -o DPkg::Lock::Timeout=300 update >&2 </dev/null
+  as_root true # A password, if it takes one, is asked for before a line moves.
+  with_clock "reading the lists of packages" as_root apt-get -qq -o DPkg::Lock::Timeout=300 update >&2 </dev/null
+  with_clock "installing ${#missing[@]} packages" apt_install "${missing[@]}"
+}
+
+apt_install() { # packages...
   as_root env DEBIAN_FRONTEND=noninteractive apt-get -y -qq -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 \
-    install --no-install-recommends "${missing[@]}" >"${TMPDIR:-/tmp}/panelkit-apt.$$" 2>&1 </dev/null || {
+    install --no-install-recommends "$@" >"${TMPDIR:-/tmp}/panelkit-apt.$$" 2>&1 </dev/null || {
     cat "${TMPDIR:-/tmp}/panelkit-apt.$$" >&2
     say "installing failed (output above)"
     return 1
@@ -46,18 +89,22 @@ install_missing() { # packages...
 
 # Ninja builds only what changed. Two callers in one checkout take turns.
 build() { # preset [target...]
-  local preset=$1 log="$root/build/$1.log" cache="$root/build/$1/CMakeCache.txt"
+  local preset=$1 what="building $1${2:+: ${2#bin/}}" log="$root/build/$1.log" cache="$root/build/$1/CMakeCache.txt"
   shift
   mkdir -p "$root/build"
   (
     flock 7
     cd "$root"
-    if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ]; then
-      cmake --preset "$preset"
-      touch "$cache"
-    fi
-    cmake --build --preset "$preset" ${1:+--target "$@"}
-  ) 7>"$root/build/$preset.lock" >"$log" 2>&1 </dev/null || {
+    {
+      # Configured before the test library was installed, it has no tests.
+      if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ] ||
+        { [ -f /usr/src/googletest/CMakeLists.txt ] && [ ! -f "build/$preset/gtest_programs.txt" ]; }; then
+        cmake --preset "$preset" || exit 1
+        touch "$cache"
+      fi
+      cmake --build --preset "$preset" ${1:+--target "$@"}
+    } 2>&1 </dev/null | show_steps "$what" "$log"
+  ) 7>"$root/build/$preset.lock" || {
     # The errors alone when ninja marks them; everything otherwise.
     if grep -q '^FAILED: ' "$log"; then sed -n '/^FAILED: /,$p' "$log" >&2; else cat "$log" >&2; fi
     say "the $preset build failed (whole log: build/$preset.log)"
@@ -103,6 +150,8 @@ set_fonts() { # prefix, its server stopped
   } >>"$1/user.reg"
 }
 
+wine_boot() { timeout -k 5 150 "$wine64" wineboot --init >"$root/build/wineboot.log" 2>&1 </dev/null; }
+
 # Makes build/wine once. Now and then a first start of Wine hangs: then it says so and begins anew, once.
 make_prefix() {
   local prefix="$root/build/wine" attempt
@@ -117,7 +166,7 @@ make_prefix() {
     for attempt in 1 2; do
       mkdir -p "$prefix"
       # Stopping the server in order makes it write the registry, whoever had started it.
-      if timeout -k 5 150 "$wine64" wineboot --init >"$root/build/wineboot.log" 2>&1 </dev/null 7>&- &&
+      if with_clock "making the Wine prefix" wine_boot 7>&- &&
         { timeout -k 5 60 "$wineserver" -k 7>&- || true; } && timeout 30 "$wineserver" -w 7>&- &&
         [ -f "$prefix/system.reg" ]; then
         set_fonts "$prefix"

@@ -1,4 +1,15 @@
 #pragma once
 
-// The whole library: the host brings the headers of every kind it builds.
+// The whole library: the host brings the headers of every kind it builds, the others are for programs that
+// make their own windows, read their own files or shape their own regions.
+#include "baselib/bmp_reader.h"
+#include "baselib/gbk.h"
+#include "baselib/number_text.h"
+#include "controls/buttons/new_rotate_btn.h"
+#include "controls/buttons/new_rotate_btn_record.h"
+#include "controls/lists/filling.h"
+#include "controls/text/text_box.h"
+#include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
+#include "records/bmp_record.h"
+#include "records/region_functions.h"

@@ -119,10 +119,13 @@ private:
 
 int slDecodeBmp(const void* data, std::size_t size, int* w, int* h, unsigned char** pixels)
 {
+    if (w == nullptr || h == nullptr || pixels == nullptr) {
+        return 0;
+    }
     *w = 0;
     *h = 0;
     *pixels = nullptr;
-    const BmpBytes file { static_cast<const unsigned char*>(data), size };
+    const BmpBytes file { static_cast<const unsigned char*>(data), data != nullptr ? size : 0 };
     BmpHeader header;
     if (!slReadBmpHeader(file, &header)) {
         return 0;

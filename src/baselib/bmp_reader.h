@@ -13,6 +13,7 @@
 // ...) gives 0 with *w = *h = 0 and *pixels null. What the platform's loader shows in spite of a flaw is read
 // as it shows it: an index without a colour is black, runs end with their row or with the picture, and where
 // codes end without an end mark, what follows their last mark is left out.
+// Without one of these places to write to the result is 0.
 
 // file: GBK path. Returns 1, or 0 when there is no such picture.
 PANELKIT_API int slLoadBmpTexture(const char* file, int* w, int* h, unsigned char** pixels);

@@ -15,6 +15,9 @@ int CharArr::SetM(const char* text)
 
 int CharArr::SetM(const char* bytes, std::size_t length)
 {
+    if (bytes == nullptr) {
+        length = 0;
+    }
     const void* const nul = length > 0 ? std::memchr(bytes, '\0', length) : nullptr;
     const std::size_t kept = nul != nullptr ? static_cast<const char*>(nul) - bytes : length;
     std::unique_ptr<char[]> made;
@@ -29,6 +32,9 @@ int CharArr::SetM(const char* bytes, std::size_t length)
 
 int CharArr::GetM(char* out, int size) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     slCopyText(out, size, TextM());
     return 1;
 }

@@ -18,7 +18,8 @@ public:
     int SetM(const char* text); // Null counts as empty; may be a part of the text held. 1.
     int SetM(const char* bytes, std::size_t length); // The bytes up to the first NUL among them. 1.
     const char* TextM() const { return text_ ? text_.get() : ""; } // Never null; valid until set anew.
-    int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1.
+    int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1;
+                                         // 0 without one.
     std::size_t LengthM() const;         // Bytes without the terminator.
     bool EmptyM() const { return *TextM() == '\0'; }
 

@@ -117,6 +117,9 @@ std::uint32_t takeUtf8(const char*& at, const char* end)
 
 std::size_t slGbkCutLength(const char* text, std::size_t length, std::size_t most)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     if (length <= most) {
         return length;
     }
@@ -161,7 +164,7 @@ std::u16string slGbkToUtf16(const char* text)
 std::u16string slGbkToUtf16(const char* text, std::size_t length)
 {
     std::u16string out;
-    decode(text, length, [&out](char16_t code) { out += code; });
+    decode(text, text != nullptr ? length : 0, [&out](char16_t code) { out += code; });
     return out;
 }
 
@@ -173,7 +176,7 @@ std::string slGbkToUtf8(const char* text)
 std::string slGbkToUtf8(const char* text, std::size_t length)
 {
     std::string out;
-    decode(text, length, [&out](char16_t code) {
+    decode(text, text != nullptr ? length : 0, [&out](char16_t code) {
         const bool privateUse = code >= 0xE000 && code <= 0xF8FF;
         appendUtf8(out, privateUse ? Replacement : code);
     });
@@ -184,7 +187,7 @@ std::string slUtf16ToGbk(const char16_t* text, std::size_t length, int* lost)
 {
     std::string out;
     int missing = 0;
-    for (std::size_t k = 0; k < length; ++k) {
+    for (std::size_t k = 0; text != nullptr && k < length; ++k) {
         const bool high = text[k] >= 0xD800 && text[k] <= 0xDBFF;
         missing += appendGbk(out, text[k]) ? 0 : 1;
         if (high && k + 1 < length && text[k + 1] >= 0xDC00 && text[k + 1] <= 0xDFFF) {

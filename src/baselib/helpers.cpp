@@ -11,6 +11,9 @@ namespace {
 
 int arrText(char* buffer, const char* word, const char* name)
 {
+    if (buffer == nullptr) {
+        return 0;
+    }
     std::string text = word;
     text += name != nullptr ? name : "";
     std::replace(text.begin(), text.end(), '\n', ' ');

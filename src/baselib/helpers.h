@@ -10,7 +10,7 @@ PANELKIT_API void* slMalloc(std::size_t bytes);
 PANELKIT_API void slFree(void* block); // Null is harmless.
 
 // The texts around and in a list's text form, made of its name into a buffer of 260 bytes; cut between
-// characters. Line ends in the name become spaces. Null counts as empty. 1.
+// characters. Line ends in the name become spaces. Null counts as empty. 1; 0 without a buffer.
 PANELKIT_API int slGetArrBeginStr(char* buffer, const char* name);
 PANELKIT_API int slGetArrIndexStr(char* buffer, const char* name);
 PANELKIT_API int slGetArrEndStr(char* buffer, const char* name);

@@ -78,6 +78,9 @@ void VrIOCL::CloseM()
 
 int VrIOCL::GetFilePathM(char* out) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     slCopyText(out, PathSize, directory_.TextM());
     return IsOpenM() ? 1 : 0;
 }

@@ -66,16 +66,25 @@ int VrIOCL::InputCM(char* a, char* b, char* c, char* d, char* e, char* f, char* 
 
 int VrIOCL::InputInt2DM(int pair[2])
 {
+    if (pair == nullptr) {
+        return 0;
+    }
     return InputDM(&pair[0], &pair[1]);
 }
 
 int VrIOCL::InputInt3DM(int triple[3])
 {
+    if (triple == nullptr) {
+        return 0;
+    }
     return InputDM(&triple[0], &triple[1], &triple[2]);
 }
 
 int VrIOCL::InputPoint2DM(float pair[2])
 {
+    if (pair == nullptr) {
+        return 0;
+    }
     return InputRM(&pair[0], &pair[1]);
 }
 
@@ -189,6 +198,9 @@ int VrIOCL::InputSM(char* buffer, int most, int)
 
 int VrIOCL::InputTextM(CharArr* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     const std::size_t length = inputLengthM();
     if (length == NoLength) {
         text->SetM("");

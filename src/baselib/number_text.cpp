@@ -75,6 +75,9 @@ bool isHuge(const char* at, const char* end)
 
 const char* slReadInt(const char* at, const char* end, int* value)
 {
+    if (value == nullptr) {
+        return at;
+    }
     const char* const digits = at < end && isSign(*at) ? at + 1 : at;
     const char* const digitsEnd = skipDigits(digits, end);
     if (digitsEnd == digits) {
@@ -87,6 +90,9 @@ const char* slReadInt(const char* at, const char* end, int* value)
 
 const char* slReadReal(const char* at, const char* end, float* value)
 {
+    if (value == nullptr) {
+        return at;
+    }
     const char* const digits = at < end && isSign(*at) ? at + 1 : at;
     const char* const numberEnd = realEnd(digits, end);
     if (numberEnd == digits) {

@@ -22,6 +22,9 @@ const char* slGetFileName(const char* path)
 
 int slGetFileExtension(const char* file, char* out)
 {
+    if (out == nullptr) {
+        return 0;
+    }
     const char* const point
         = std::strrchr(slGetFileName(file), '.'); // A point is no part of a longer character.
     slCopyText(out, PathSize, point != nullptr ? point + 1 : "");
@@ -30,6 +33,9 @@ int slGetFileExtension(const char* file, char* out)
 
 int slCatFileNameWithPath(const char* path, const char* file, char* out)
 {
+    if (out == nullptr) {
+        return 0;
+    }
     std::string joined = path != nullptr ? path : "";
     // A drive alone ("C:") means its current directory, another place than its root.
     if (*slGetFileName(path) != '\0' && joined.back() != ':') {

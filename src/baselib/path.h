@@ -4,7 +4,7 @@
 constexpr int PathSize = 260; // Buffers of file names and of a line's text, terminator included.
 
 // File names are GBK; both '/' and '\\' separate, unless the byte belongs to a character. Null counts as
-// empty.
+// empty; without a buffer the result is 0.
 
 // The last component of a path, a part of it: "" when it ends with a separator.
 PANELKIT_API const char* slGetFileName(const char* path);

@@ -19,6 +19,9 @@ int VrStringCL::GetStringM(char* out, int size) const
 
 void VrStringCL::FmInputEvrFileM(VrIOCL* io)
 {
+    if (io == nullptr) {
+        return;
+    }
     int tag = DeletedTag;
     io->InputDM(&tag);
     const bool read = io->InputTextM(&text_) != 0;
@@ -27,6 +30,9 @@ void VrStringCL::FmInputEvrFileM(VrIOCL* io)
 
 void VrStringCL::FmOutputEvrFileM(VrIOCL* io) const
 {
+    if (io == nullptr) {
+        return;
+    }
     io->OutputDM(GetDeleteTagM());
     io->OutputTextM(TextM());
 }

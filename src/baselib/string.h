@@ -13,7 +13,8 @@ public:
     }
 
     int AddStringM(const char* text); // Replaces the text, the tag stays. 1; 0 and unchanged for null.
-    int GetStringM(char* out) const;  // Copied into a buffer of 260 bytes, cut between characters. 1.
+    int GetStringM(
+        char* out) const; // Copied into a buffer of 260 bytes, cut between characters. 1; 0 for null.
     int GetStringM(char* out, int size) const;          // The same for a buffer of `size` bytes.
     const char* TextM() const { return text_.TextM(); } // Never null; valid until the text changes.
     CharArr& ValueM() { return text_; }                 // The text to change in its place.

@@ -64,6 +64,9 @@ BOOL DuBasicDialogCL::DestroyWindow()
 
 int DuBasicDialogCL::DrawBkGroundM(CDC* dc, int x, int y)
 {
+    if (dc == nullptr) {
+        return 0;
+    }
     if (background_.GetWidthM() == 0) {
         return 0;
     }

@@ -23,7 +23,7 @@
 #include "records/bitmap_record.h"
 
 // The dialog host: owns the records and controls of every kind and builds them from a description file.
-// Applications derive from it.
+// Applications derive from it. Null where a pointer is wanted is refused: nothing happens, the result is 0.
 class PANELKIT_API DuBasicDialogCL : public CDialog
 {
     DECLARE_DYNCREATE(DuBasicDialogCL)
@@ -39,7 +39,7 @@ public:
     int SetCancelIdM(int id); // The control that takes the focus without a value check. Always 1.
 
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
-    // is restyled, titled, placed and stacked; otherwise a window that keeps all that. Always 1.
+    // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
     // Without DestroyM before, a second build uses the records of the first load; its controls are destroyed.
     int InitDlgM(CWnd* parent, int mode);
     void DestroyM(); // Destroys all controls and records and the dialog font.
@@ -69,6 +69,7 @@ public:
     // GetCurValM.
     int SetSingleEditValM(int id, int value);
     int SetSingleEditValM(int id, float value);
+    int SetSingleEditValM(int id, double value) { return SetSingleEditValM(id, static_cast<float>(value)); }
     int SetSingleEditValM(int id, const char* text);
     int SetSingleEditValM(int id, simpleValD value);
     int GetSingleEditValM(int id, int* value);

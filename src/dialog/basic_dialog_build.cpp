@@ -4,6 +4,9 @@
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
 {
+    if (parent == nullptr) {
+        return 0;
+    }
     builtIn_ = parent->GetSafeHwnd();
     initM(parent, mode);
     slEachKindAsBuilt([this, parent](auto row) { buildKindM<decltype(row)>(parent); });

@@ -14,6 +14,9 @@ constexpr bool holdsItems(int kind)
 
 CWnd* DuBasicDialogCL::GetContrlPtrM(int id, int* kind)
 {
+    if (kind == nullptr) {
+        return nullptr;
+    }
     CWnd* found = nullptr;
     withControlM(id, [&found, kind](auto row, auto& control) {
         found = &control;
@@ -24,6 +27,9 @@ CWnd* DuBasicDialogCL::GetContrlPtrM(int id, int* kind)
 
 int DuBasicDialogCL::GetNormalAnimateBmpIdxM(int id, int* index)
 {
+    if (index == nullptr) {
+        return 0;
+    }
     int result = 0;
     withControlM(id, [&result, index](auto row, auto& control) {
         if constexpr (decltype(row)::Code == NormalAnimateCode) {
@@ -84,6 +90,9 @@ void DuBasicDialogCL::ShowObjectM(int kind, int index, bool show)
 
 int DuBasicDialogCL::AddItemM(int id, int position, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     int result = 0;
     withControlM(id, [&result, position, text](auto row, auto& control) {
         if constexpr (holdsItems(decltype(row)::Code)) {

@@ -9,7 +9,8 @@ class VrIOCL;
 // valid until a purge; iteration passes over whatever is not alive.
 //
 // Elements are moved by their bytes: none may hold a pointer into itself. An index is a slot number from 0;
-// the result is 1 unless said otherwise. Pointers given must not be null unless said otherwise.
+// the result is 1 unless said otherwise. A null pointer is refused unless said otherwise: nothing happens and
+// the result is 0, or null, or -1 where an index is reported.
 // When there is no memory, or a store would reach 2 GB, what needed it changes nothing and reports 0 (-1
 // where an index is reported).
 //

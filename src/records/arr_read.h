@@ -57,6 +57,9 @@ template <class T> int Arr<T>::CheckAvailableM(int i) const
 
 template <class T> int Arr<T>::GetItemM(T* out, int i) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     if (const T* slot = GetItemPM(i)) {
         *out = *slot;
     } else {
@@ -82,6 +85,9 @@ template <class T> T& Arr<T>::ElementAtM(int i)
 
 template <class T> int Arr<T>::GetNextM(T* out, int* idx, int from) const
 {
+    if (out == nullptr || idx == nullptr) {
+        return -1;
+    }
     if (const T* slot = GetNextPM(idx, from)) {
         *out = *slot;
     }
@@ -90,12 +96,18 @@ template <class T> int Arr<T>::GetNextM(T* out, int* idx, int from) const
 
 template <class T> const T* Arr<T>::GetNextPM(int* idx, int from) const
 {
+    if (idx == nullptr) {
+        return nullptr;
+    }
     *idx = GetNextIdxM(from);
     return GetItemPM(*idx);
 }
 
 template <class T> const T* Arr<T>::GetLastPM(int* idx) const
 {
+    if (idx == nullptr) {
+        return nullptr;
+    }
     *idx = bound_ - 1;
     while (*idx >= 0 && CheckAvailableM(*idx) == 0) {
         --*idx;

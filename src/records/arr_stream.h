@@ -10,6 +10,9 @@
 
 template <class T> void Arr<T>::FmOutputEvrLstM(VrIOCL* io, const char* name) const
 {
+    if (io == nullptr) {
+        return;
+    }
     const T* slots = getCurrentItemPrtM();
     if (io->IsBinaryM()) {
         io->OutputDM(bound_);
@@ -33,6 +36,9 @@ template <class T> void Arr<T>::FmOutputEvrLstM(VrIOCL* io, const char* name) co
 
 template <class T> void Arr<T>::FmInputEvrLstM(VrIOCL* io)
 {
+    if (io == nullptr) {
+        return;
+    }
     int n = 0;
     io->InputDM(&n);
     if (!io->IsBinaryM()) {

@@ -183,7 +183,7 @@ int DVrBitmapCL::GetHeightM() const
 
 int DVrBitmapCL::DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2])
 {
-    if (!HoldsBitmapM()) {
+    if (!HoldsBitmapM() || dc == nullptr) {
         return 0;
     }
     BitmapContext source(dc, &bitmap_);
@@ -202,7 +202,7 @@ int DVrBitmapCL::DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2])
 
 int DVrBitmapCL::DrawStretchBitmapM(CDC* dc, int x, int y, int w, int h)
 {
-    if (!HoldsBitmapM()) {
+    if (!HoldsBitmapM() || dc == nullptr) {
         return 0;
     }
     BitmapContext source(dc, &bitmap_);
@@ -283,7 +283,7 @@ int DVrBitmapArr::DrawBitmapM(int index, CDC* dc, int x, int y, const int (*size
 
 int DVrBitmapArr::GetBmpSizeM(int index, int* size) const
 {
-    if (CheckAvailableM(index) == 0) {
+    if (CheckAvailableM(index) == 0 || size == nullptr) {
         return 0;
     }
     const DVrBitmapCL* const record = GetItemPM(index);

@@ -10,6 +10,9 @@ template class PANELKIT_API Arr<DVrBmpCL>;
 
 void DVrBmpCL::FmInputEvrFileM(VrIOCL* io)
 {
+    if (io == nullptr) {
+        return;
+    }
     SetDeleteTagM(AliveTag);
     char name[PathSize] {};
     char directory[PathSize] {};
@@ -20,6 +23,9 @@ void DVrBmpCL::FmInputEvrFileM(VrIOCL* io)
 
 int DVrBmpCL::GetBmpNameM(char* out) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     slCopyText(out, PathSize, name_);
     return 1;
 }
@@ -51,6 +57,9 @@ unsigned char* DVrBmpArr::GetBmpContentM(int index, int* w, int* h) const
 
 int DVrBmpArr::FmInputScpFileM(VrIOCL* io, IntArr* map)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     int count = 0;
     io->InputDM(&count);
     int result = 1;

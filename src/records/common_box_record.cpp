@@ -40,6 +40,9 @@ void DVrCommonBoxCL::storedFieldsM(FieldVisitorCL& visitor)
 
 int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     ZeroingCL zeroing;
     EachCommonFieldM(zeroing, withItemIndex);
     FieldReaderCL reader(io);
@@ -49,6 +52,9 @@ int DVrCommonBoxCL::FmReadInterfaceM(VrIOCL* io, int withItemIndex)
 
 int DVrCommonBoxCL::FmInputInterfaceM(int windowIndex, VrIOCL* io)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     windowIndex_ = windowIndex;
     FieldReaderCL reader(io);
     storedFieldsM(reader);

@@ -6,7 +6,9 @@ class DControlCommonCL;
 class DVrRgnCL;
 class Int2DArr;
 
-// The fields that open every control record, and the default shapes of a control.
+// The fields that open every control record, and the default shapes of a control. Here and with the records
+// of every kind and their arrays, null where a pointer is wanted is refused: nothing happens, the result is
+// 0, -1 where an index is reported.
 class PANELKIT_API DVrCommonBoxCL : public VrBaseCL
 {
 public:

@@ -65,12 +65,12 @@ template <class T> bool FieldReaderCL::readM(const char* name, int part, T& valu
 
 template <class T> bool FieldReaderCL::readObservedM(const char* name, int part, T& value)
 {
+    if (observer_ == nullptr || io_->FileTextM() == nullptr) {
+        return !isStopped_ && io_->InputOneM(&value);
+    }
+    const FileTextCL* const file = io_->FileTextM().get();
     const std::size_t begin = slNextValue(*io_);
     const bool isRead = !isStopped_ && io_->InputOneM(&value);
-    const FileTextCL* const file = io_->FileTextM().get();
-    if (observer_ == nullptr || file == nullptr) {
-        return isRead;
-    }
     SpanCL span { begin, isRead ? io_->PositionM() : begin };
     Fate fate = Fate::Read;
     if (isStopped_) {

@@ -7,18 +7,20 @@
 class PANELKIT_API FieldReaderCL : public FieldVisitorCL
 {
 public:
-    // section: the header of what is read, for the reader's observer; "" for a single record.
+    // io: null reads nothing. section: the header of what is read, for the reader's observer; "" for a single
+    // record.
     explicit FieldReaderCL(VrIOCL* io, const char* section = "")
         : io_(io)
-        , observer_(io->ObserverM())
+        , observer_(io != nullptr ? io->ObserverM() : nullptr)
         , section_(section)
+        , isStopped_(io == nullptr)
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
     void BeginRecordM(int number)
     {
         record_ = number;
-        isStopped_ = false;
+        isStopped_ = io_ == nullptr;
         isSkipped_ = false;
     }
     bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
@@ -42,7 +44,7 @@ private:
     ReadObserverCL* observer_;
     const char* section_;
     int record_ { 0 };
-    bool isStopped_ { false };
+    bool isStopped_;
     bool isSkipped_ { false };
 };
 

@@ -4,7 +4,7 @@
 
 int slIsNullWord(const char* text)
 {
-    return std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0;
+    return text != nullptr && (std::strcmp(text, "NULL") == 0 || std::strcmp(text, "null") == 0);
 }
 
 FieldVisitorCL::~FieldVisitorCL() = default;

@@ -12,7 +12,7 @@ constexpr int Tries = 8;
 // Null when p lies outside the buffer.
 const unsigned char* pixelAt(const int* p, int w, int h, const unsigned char* pixels)
 {
-    if (pixels == nullptr || w < 1 || h < 1 || p[0] < 0 || p[1] < 0) {
+    if (pixels == nullptr || p == nullptr || w < 1 || h < 1 || p[0] < 0 || p[1] < 0) {
         return nullptr;
     }
     const std::int64_t number = static_cast<std::int64_t>(p[1]) * w + p[0];
@@ -46,6 +46,9 @@ private:
 
 int slGetFirstPntOnBound(const unsigned char* colour, int w, int h, const unsigned char* pixels, int* first)
 {
+    if (first == nullptr) {
+        return 0;
+    }
     for (int y = 0; y < h && pixels != nullptr; ++y) {
         for (int x = 0; x < w; ++x) {
             const int place[2] = { x, y };
@@ -81,6 +84,9 @@ int slIsOnBound(const int* p, const unsigned char* /*key*/, const unsigned char*
 int slGetNextPntOnBound(const unsigned char* colour, int w, int h, const unsigned char* pixels,
     const int* prev, const int* current, int* dir, int* next)
 {
+    if (prev == nullptr || current == nullptr || dir == nullptr || next == nullptr) {
+        return 0;
+    }
     for (int i = 0; i < Tries; ++i, slGetNextAxisDirect(dir)) {
         const int place[2] = { current[0] + dir[0], current[1] + dir[1] };
         if (slIsAvailPosi(place, w, h) != 0 && slIsSameInt2D(place, prev) == 0
@@ -96,6 +102,9 @@ int slGetNextPntOnBound(const unsigned char* colour, int w, int h, const unsigne
 int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colour, int w, int h,
     const unsigned char* pixels, Int2DArr* out)
 {
+    if (out == nullptr) {
+        return 0;
+    }
     int first[2] = { NoPlace, NoPlace };
     if (slGetFirstPntOnBound(colour, w, h, pixels, first) == 0) {
         return 1;

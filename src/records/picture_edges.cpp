@@ -17,7 +17,7 @@ struct View
     {
         return pixels + static_cast<std::size_t>(h - 1 - y) * static_cast<std::size_t>(w) * 3;
     }
-    bool isEmpty() const { return w < 1 || h < 1 || pixels == nullptr; }
+    bool isEmpty() const { return w < 1 || h < 1 || pixels == nullptr || key == nullptr; }
     bool isTransparent(int x, int y) const
     {
         // As slIsTransparency says, without a call for each pixel.
@@ -70,6 +70,9 @@ int findInFile(FindEdge find, const char* file, const unsigned char* key, Int2DA
 int slFindHorizonEdgeM(
     int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* left, Int2DArr* right)
 {
+    if (key == nullptr || left == nullptr || right == nullptr) {
+        return 0;
+    }
     const View view { w, h, pixels, key };
     int count = 0;
     for (int y = 0; y < h && !view.isEmpty(); ++y) {
@@ -86,6 +89,9 @@ int slFindHorizonEdgeM(const char* file, const unsigned char* key, Int2DArr* lef
 int slFindVerticalEdgeM(
     int w, int h, const unsigned char* pixels, const unsigned char* key, Int2DArr* first, Int2DArr* last)
 {
+    if (key == nullptr || first == nullptr || last == nullptr) {
+        return 0;
+    }
     const View view { w, h, pixels, key };
     int count = 0;
     for (int x = 0; x < w && !view.isEmpty(); ++x) {

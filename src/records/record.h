@@ -14,6 +14,9 @@ public:
     // be unreadable: what follows then keeps its defaults.
     int FmReadInterfaceM(VrIOCL* io)
     {
+        if (io == nullptr) {
+            return 0;
+        }
         FieldReaderCL reader(io);
         return slReadRecord(static_cast<RecordTP&>(*this), reader);
     }

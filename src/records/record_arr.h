@@ -4,8 +4,8 @@
 #include <array>
 
 // What the record array of every kind shares. A kind with secondary sections hides Secondaries by its own.
-// Where such an array hands a call on to the record at an index, it does so only if that one is alive, and
-// the result is always 1.
+// Where such an array hands a call on to the record at an index, it does so only if that one is alive; the
+// result is 1 unless a null pointer was refused.
 template <class RecordParamTP> class RecordArr : public Arr<RecordParamTP>
 {
 public:
@@ -13,21 +13,32 @@ public:
     static constexpr std::array<SecondarySectionCL<RecordTP>, 0> Secondaries {};
 
 protected:
-    // Calls an operation of the record at index.
-    template <class OperationTP, class... ArgumentsTP>
-    int ifAliveM(int index, OperationTP operation, ArgumentsTP... arguments) const
+    // Lets the record at index fill a control: the record's result, 1 if it is not alive.
+    template <class OperationTP, class ControlTP>
+    int ifAliveM(int index, OperationTP operation, ControlTP* control) const
     {
-        if (this->CheckAvailableM(index) == 1) {
-            (this->GetItemPM(index)->*operation)(arguments...);
-        }
-        return 1;
+        return this->CheckAvailableM(index) == 1 ? (this->GetItemPM(index)->*operation)(control) : 1;
     }
-    template <class OperationTP, class... ArgumentsTP>
-    int ifAliveM(int index, OperationTP operation, ArgumentsTP... arguments)
+    template <class OperationTP, class ControlTP>
+    int ifAliveM(int index, OperationTP operation, ControlTP* control)
     {
+        return this->CheckAvailableM(index) == 1 ? (this->ElementAtPM(index)->*operation)(control) : 1;
+    }
+
+    // Lets the record at index take something: 0 for a null pointer, else 1.
+    template <class OperationTP, class... ArgumentsTP>
+    int addM(int index, OperationTP operation, ArgumentsTP... arguments)
+    {
+        if ((isNullM(arguments) || ...)) {
+            return 0;
+        }
         if (this->CheckAvailableM(index) == 1) {
             (this->ElementAtPM(index)->*operation)(arguments...);
         }
         return 1;
     }
+
+private:
+    static bool isNullM(const void* argument) { return argument == nullptr; }
+    static bool isNullM(int) { return false; }
 };

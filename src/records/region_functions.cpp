@@ -25,6 +25,9 @@ void attachPolygon(const std::vector<POINT>& points, CRgn* rgn)
 
 int slLoadPicture(CBitmap* bitmap, const char* file)
 {
+    if (bitmap == nullptr) {
+        return 0;
+    }
     bitmap->DeleteObject();
     bitmap->Attach(slMakeBitmap(file));
     return 1;
@@ -32,6 +35,9 @@ int slLoadPicture(CBitmap* bitmap, const char* file)
 
 int slCreateRgnM(const Int2DArr& a, const Int2DArr& b, CRgn* rgn)
 {
+    if (rgn == nullptr) {
+        return 0;
+    }
     std::vector<POINT> points;
     for (int i = 0; i < a.GetBoundM(); ++i) {
         addPoint(a, i, &points);
@@ -45,6 +51,9 @@ int slCreateRgnM(const Int2DArr& a, const Int2DArr& b, CRgn* rgn)
 
 int slCreateRgn(const Int2DArr& pts, CRgn* rgn)
 {
+    if (rgn == nullptr) {
+        return 0;
+    }
     std::vector<POINT> points;
     for (int i = 0; i < pts.GetBoundM() - 1; ++i) {
         addPoint(pts, i, &points);
@@ -55,6 +64,9 @@ int slCreateRgn(const Int2DArr& pts, CRgn* rgn)
 
 int slCreateRgnAny(int w, int h, const unsigned char* pixels, const unsigned char* key, CRgn* rgn)
 {
+    if (rgn == nullptr) {
+        return 0;
+    }
     static constexpr unsigned char Black[3] = { 0, 0, 0 };
     rgn->DeleteObject();
     Int2DArr points;
@@ -64,6 +76,9 @@ int slCreateRgnAny(int w, int h, const unsigned char* pixels, const unsigned cha
 
 int slCreateRgnAny(const char* file, const unsigned char* key, CRgn* rgn)
 {
+    if (rgn == nullptr) {
+        return 0;
+    }
     int w = 0;
     int h = 0;
     unsigned char* pixels = nullptr;
@@ -78,6 +93,9 @@ int slGenerateRgnFromBitmapM(
 {
     if (mode != RgnByRows && mode != RgnByColumns) {
         return slCreateRgnAny(w, h, pixels, key, rgn);
+    }
+    if (key == nullptr || rgn == nullptr) {
+        return 0;
     }
     Int2DArr a;
     Int2DArr b;
@@ -99,13 +117,16 @@ int slGenerateRgnFromBitmapM(const char* file, const unsigned char* key, int mod
     int h = 0;
     unsigned char* pixels = nullptr;
     slLoadBmpPicture3D(file, &w, &h, &pixels);
-    slGenerateRgnFromBitmapM(w, h, pixels, key, mode, rgn);
+    const int result = slGenerateRgnFromBitmapM(w, h, pixels, key, mode, rgn);
     slFree(pixels);
-    return 1;
+    return result;
 }
 
 int slReadRgn(const char* file, Int2DArr* pts)
 {
+    if (pts == nullptr) {
+        return 0;
+    }
     VrIOCL io;
     io.OpenM(file, "r");
     int count = 0;
@@ -123,6 +144,9 @@ int slReadRgn(const char* file, Int2DArr* pts)
 
 int slCombineRgnFromFile(const char* file, CRgn* rgn, int mode)
 {
+    if (rgn == nullptr) {
+        return 0;
+    }
     Int2DArr points;
     slReadRgn(file, &points);
     CRgn polygon;

@@ -5,8 +5,9 @@
 #include "toolkit/toolkit.h"
 
 // Regions made of pictures and of region files. Pictures, keys and files are those of picture_edges.h.
-// Nothing reports failure, the result is always 1: a picture that can't be loaded, or too few points, give an
-// empty region or none. Regions belong to the CRgn given.
+// Without a region or list to write to, or a key where one is used, nothing happens and the result is 0.
+// Nothing else reports failure, the result is then 1: a picture that can't be loaded, or too few points, give
+// an empty region or none. Regions belong to the CRgn given.
 
 // Ways to make a region of a picture; any other number: see slGenerateRgnFromBitmapM.
 constexpr int RgnByRows = 107;

@@ -78,6 +78,9 @@ private:
 
 int slCreatRgnByPixel(int w, int h, const unsigned char* pixels, const unsigned char* key, CRgn* rgn)
 {
+    if (key == nullptr || rgn == nullptr) {
+        return 0;
+    }
     rgn->DeleteObject();
     const std::vector<PictureRect> rects = slFindOpaqueRects(w, h, pixels, key);
     UnionTree tree;
@@ -94,7 +97,7 @@ int slCreatRgnByPixel(const char* file, const unsigned char* key, CRgn* rgn)
     int h = 0;
     unsigned char* pixels = nullptr;
     slLoadBmpPicture3D(file, &w, &h, &pixels);
-    slCreatRgnByPixel(w, h, pixels, key, rgn);
+    const int result = slCreatRgnByPixel(w, h, pixels, key, rgn);
     slFree(pixels);
-    return 1;
+    return result;
 }

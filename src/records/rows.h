@@ -26,10 +26,10 @@ inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
     visitor.NameM("bitmap", *row.texts[0], NullWord::SkipsEntry);
 }
 
-// Appends an alive text, empty for null. Its index; -1, and nothing is appended, when there is no memory.
+// Appends an alive text. Its index; -1, and nothing is appended, for null or when there is no memory.
 inline int slAppendText(VrStringArr& texts, const char* text)
 {
-    const int index = texts.AddItemM(VrStringCL(AliveTag));
+    const int index = text != nullptr ? texts.AddItemM(VrStringCL(AliveTag)) : -1;
     if (index >= 0) {
         texts.ElementAtM(index).AddStringM(text);
     }
@@ -39,9 +39,7 @@ inline int slAppendText(VrStringArr& texts, const char* text)
 // The same. 0, and nothing is appended, for null; else 1.
 inline int slAddText(VrStringArr& texts, const char* text)
 {
-    if (text != nullptr) {
-        slAppendText(texts, text);
-    }
+    slAppendText(texts, text);
     return text != nullptr ? 1 : 0;
 }
 

@@ -153,27 +153,44 @@ LRESULT CALLBACK CreationHookCL::procM(int code, WPARAM wParam, LPARAM lParam)
         wchar_t className[8] = {};
         ::GetClassNameW(reinterpret_cast<HWND>(wParam), className, 8);
         if (::lstrcmpiW(className, L"IME") != 0) {
-            hook->catchM(reinterpret_cast<HWND>(wParam));
-            return 0;
+            return hook->catchM(wParam, lParam);
         }
     }
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-void CreationHookCL::catchM(HWND hWnd)
+LRESULT CreationHookCL::catchM(WPARAM wParam, LPARAM lParam)
 {
-    // Only this one window: what it creates in turn is not ours.
-    ::UnhookWindowsHookEx(std::exchange(hook_, nullptr));
-    if (wnd_ == nullptr) {
-        return;
+    // Only this one window: what it or a hook of the application creates in turn is not ours.
+    const HHOOK own = std::exchange(hook_, nullptr);
+    const LRESULT refusal = ::CallNextHookEx(own, HCBT_CREATEWND, wParam, lParam);
+    ::UnhookWindowsHookEx(own);
+    if (wnd_ == nullptr || refusal != 0) {
+        return refusal;
     }
     hasCaught_ = true;
     try {
-        wnd_->SubclassWindow(hWnd);
+        wnd_->SubclassWindow(reinterpret_cast<HWND>(wParam));
     } catch (...) {
         AfxLogFailure("PreSubclassWindow", nullptr);
     }
+    return 0;
 }
+
+// What the window procedure does with the members of a window's object. As a function it could not be their
+// friend without losing its import.
+struct WindowMessageCL
+{
+    static LRESULT HandleM(CWnd* wnd, const LifeCL& life, const MSG& message)
+    {
+        const HWND hWnd = message.hwnd;
+        const LRESULT result = wnd->WindowProc(message.message, message.wParam, message.lParam);
+        if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == hWnd) {
+            wnd->CWnd::OnNcDestroy(); // its own handler didn't pass the message on
+        }
+        return result;
+    }
+};
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -189,10 +206,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     {
         LifeCL life(wnd);
         try {
-            result = wnd->WindowProc(message, wParam, lParam);
-            if (message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == hWnd) {
-                wnd->CWnd::OnNcDestroy(); // its own handler didn't pass the message on
-            }
+            result = WindowMessageCL::HandleM(wnd, life, { hWnd, message, wParam, lParam, 0, {} });
         } catch (...) {
             // The window system's frames below cannot carry an exception.
             AfxLogFailure("a message handler threw an exception", nullptr);

@@ -114,7 +114,7 @@ private:
     friend struct ThreadStateCL;
     friend class CWnd;
     static LRESULT CALLBACK procM(int code, WPARAM wParam, LPARAM lParam);
-    void catchM(HWND hWnd);
+    LRESULT catchM(WPARAM wParam, LPARAM lParam); // The hook's answer.
     CWnd* wnd_;
     HWND parent_;
     UINT id_;

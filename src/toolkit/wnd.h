@@ -246,7 +246,7 @@ protected:
 
 private:
     friend class CreationHookCL;
-    friend LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    friend struct WindowMessageCL;
     explicit CWnd(HWND place)
         : m_hWnd(place)
     {

@@ -229,3 +229,13 @@ TEST(ValueCheck, WorksInAWindowThatTheApplicationOwns)
     EXPECT_EQ(told(watcher), "输入数据错误,请重新输入");
     EXPECT_EQ(::GetFocus(), edit);
 }
+
+TEST(HostValues, DoubleIsTakenAsFloat)
+{
+    TestDialogCL dialog(
+        HeaderSections + std::string("[单行文本]\n1\n0\n1 13 0 0 80 20 2 0 9 2 0 2 5 0 1 255 255 255\n"));
+    EXPECT_EQ(dialog.SetSingleEditValM(13, 2.25), 1);
+    float value = 0;
+    EXPECT_EQ(dialog.GetSingleEditValM(13, &value), 1);
+    EXPECT_EQ(value, 2.25F);
+}

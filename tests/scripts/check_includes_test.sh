@@ -12,6 +12,8 @@ fresh() {
   echo '#include "baselib/io.h"' >"$tree/src/baselib/io.cpp"
   echo '#include "toolkit/toolkit.h"' >"$tree/src/controls/text/edit.cpp"
   echo '// Nothing.' >"$tree/src/records/list.cpp"
+  echo 'class PANELKIT_API ListCL;' >"$tree/src/records/list.h"
+  echo '#include "records/list.h"' >"$tree/src/dialog/dialog.h"
   printf '  baselib/io.cpp\n  records/list.cpp\n' >"$tree/src/description_sources.cmake"
   printf '  controls/text/edit.cpp\n' >"$tree/src/control_sources.cmake"
 }
@@ -47,4 +49,7 @@ expect 1 "a path that does not start at src" dialog/dialog.h '#include "edit.h"'
 expect 1 "a file in neither half" records/region.cpp '#include "baselib/io.h"'
 expect 1 "a file in both halves" control_sources.cmake '  baselib/io.cpp'
 expect 1 "a listed file that is not there" control_sources.cmake '  records/gone.cpp'
+expect 0 "panelkit.h brings what exports, by another header" panelkit.h '#include "dialog/dialog.h"
+// nothing else'
+expect 1 "panelkit.h leaves out a header that exports" panelkit.h '#include "records/arr.h"'
 [ "$failures" -eq 0 ]

@@ -1,7 +1,9 @@
 #include "toolkit/toolkit.h"
 #include <cstring>
+#include <functional>
 #include <gtest/gtest.h>
 #include <new>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -161,6 +163,115 @@ END_MESSAGE_MAP()
 const RECT Place = { 10, 10, 110, 60 };
 
 } // namespace
+
+namespace {
+
+// A hook that an application has on the windows of its thread.
+class CreationsCL
+{
+public:
+    CreationsCL() { InstallM(); }
+    CreationsCL(const CreationsCL&) = delete;
+    CreationsCL& operator=(const CreationsCL&) = delete;
+    ~CreationsCL() { ::UnhookWindowsHookEx(hook_); }
+
+    void InstallM()
+    {
+        if (hook_ != nullptr) {
+            ::UnhookWindowsHookEx(hook_);
+        }
+        hook_ = ::SetWindowsHookExW(WH_CBT, &CreationsCL::procM, nullptr, ::GetCurrentThreadId());
+    }
+
+    inline static std::vector<HWND> seen;
+    inline static bool isRefusing = false;
+    inline static std::function<void()> onceSeen;
+
+private:
+    static LRESULT CALLBACK procM(int code, WPARAM wParam, LPARAM lParam)
+    {
+        wchar_t name[8] = {};
+        if (code == HCBT_CREATEWND && ::GetClassNameW(reinterpret_cast<HWND>(wParam), name, 8) != 0
+            && ::lstrcmpiW(name, L"IME") != 0) {
+            seen.push_back(reinterpret_cast<HWND>(wParam));
+            if (const auto once = std::exchange(onceSeen, nullptr)) {
+                once();
+            }
+            if (isRefusing) {
+                return 1;
+            }
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK hook_ { nullptr };
+};
+
+// Puts the application's hook anew, in front of all, while it is being created.
+class LateHookCL : public CStatic
+{
+public:
+    CreationsCL* creations = nullptr;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override
+    {
+        creations->InstallM();
+        return CStatic::PreCreateWindow(cs);
+    }
+};
+
+} // namespace
+
+TEST(Wnd, HooksOfTheApplicationSeeTheWindowsThatAreCreated)
+{
+    ParentCL parent;
+    CreationsCL creations;
+    CreationsCL::seen.clear();
+    ChildCL child;
+    ASSERT_TRUE(child.Create("a", 0, Place, &parent, 5));
+    EXPECT_TRUE(child.hasSeenCreate);
+    ASSERT_EQ(CreationsCL::seen.size(), 1U);
+    EXPECT_EQ(CreationsCL::seen[0], child.m_hWnd);
+    LateHookCL late;
+    late.creations = &creations;
+    ASSERT_TRUE(late.Create("b", 0, Place, &parent, 6));
+    ASSERT_EQ(CreationsCL::seen.size(), 2U);
+    EXPECT_EQ(CreationsCL::seen[1], late.m_hWnd);
+}
+
+TEST(Wnd, HookOfTheApplicationMayRefuseAWindow)
+{
+    ParentCL parent;
+    const CreationsCL creations;
+    CreationsCL::seen.clear();
+    ChildCL child;
+    CreationsCL::isRefusing = true;
+    EXPECT_FALSE(child.Create("a", 0, Place, &parent, 5));
+    CreationsCL::isRefusing = false;
+    EXPECT_EQ(CreationsCL::seen.size(), 1U);
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    EXPECT_EQ(child.preSubclassed, 0);
+    ASSERT_TRUE(child.Create("a", 0, Place, &parent, 5));
+    EXPECT_TRUE(child.hasSeenCreate);
+}
+
+TEST(Wnd, WindowThatAHookCreatesMeanwhileIsNotTakenForTheOneWanted)
+{
+    ParentCL parent;
+    const CreationsCL creations;
+    CreationsCL::seen.clear();
+    HWND other = nullptr;
+    CreationsCL::onceSeen = [&] {
+        other = ::CreateWindowExW(
+            0, L"Static", L"", WS_CHILD, 0, 0, 5, 5, parent.m_hWnd, nullptr, nullptr, nullptr);
+    };
+    ChildCL child;
+    ASSERT_TRUE(child.Create("a", 0, Place, &parent, 5));
+    ASSERT_EQ(CreationsCL::seen.size(), 2U);
+    EXPECT_EQ(CreationsCL::seen[0], child.m_hWnd);
+    EXPECT_EQ(CreationsCL::seen[1], other);
+    EXPECT_EQ(CWnd::FromHandlePermanent(other), nullptr);
+    EXPECT_TRUE(child.hasSeenCreate);
+}
 
 TEST(Wnd, OwnMapSeesCreationFromItsFirstMessage)
 {

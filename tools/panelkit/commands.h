@@ -16,5 +16,9 @@ int viewCommand(const std::string& file);
 int shotCommand(
     const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
 
+// Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
+// standard input ends. Prints "ready" once it is there.
+int keepCommand();
+
 // One line on standard error; the result is CannotUse.
 int complain(const std::string& what);

@@ -53,6 +53,9 @@ int run(std::vector<std::string> arguments)
         }
         result = shotCommand(file, picture, pairs);
     });
+#ifdef _WIN32
+    app.add_subcommand("keep")->group("")->callback([&] { result = keepCommand(); });
+#endif
 
     try {
         std::reverse(arguments.begin(), arguments.end()); // As the parser wants them.

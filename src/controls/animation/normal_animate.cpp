@@ -22,7 +22,9 @@ constexpr COLORREF White = 0xFFFFFF;
 
 int DVrNormalAnimateCL::InitNormalAnimateM(DuNormalAnimateCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitBmpNumM(frames_.GetAvailableNumM());
     for (int i = frames_.GetFirstIdxM(); i >= 0; i = frames_.GetNextIdxM(i)) {
         control->AddBmpM(frames_.GetItemPM(i)->TextM());
@@ -114,7 +116,7 @@ int DuNormalAnimateCL::DispBmpM(int index)
 
 int DuNormalAnimateCL::GetCurIdxM(int* out) const
 {
-    if (current_ < 0) {
+    if (current_ < 0 || out == nullptr) {
         return 0;
     }
     *out = current_;

@@ -32,7 +32,7 @@ public:
         &slPictureRow,
         [](RecordTP& record, const RowCL& row) { record.AddBmpNameM(row.texts[0]->TextM()); } } } };
 
-    int AddBmpNameM(int index, const char* file) { return ifAliveM(index, &RecordTP::AddBmpNameM, file); }
+    int AddBmpNameM(int index, const char* file) { return addM(index, &RecordTP::AddBmpNameM, file); }
     int InitNormalAnimateM(int index, DuNormalAnimateCL* control) const
     {
         return ifAliveM(index, &RecordTP::InitNormalAnimateM, control);

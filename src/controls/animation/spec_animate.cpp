@@ -9,7 +9,9 @@ END_MESSAGE_MAP()
 
 int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitBmpNumM(frames_.GetAvailableNumM());
     for (int i = frames_.GetFirstIdxM(); i >= 0; i = frames_.GetNextIdxM(i)) {
         control->AddBmpM(frames_.GetItemPM(i)->TextM());

@@ -30,7 +30,7 @@ public:
         &slPictureRow,
         [](RecordTP& record, const RowCL& row) { record.AddBmpNameM(row.texts[0]->TextM()); } } } };
 
-    int AddBmpNameM(int index, const char* file) { return ifAliveM(index, &RecordTP::AddBmpNameM, file); }
+    int AddBmpNameM(int index, const char* file) { return addM(index, &RecordTP::AddBmpNameM, file); }
     int InitSpecAnimateM(int index, DuSpecAnimateCL* control) const
     {
         return ifAliveM(index, &RecordTP::InitSpecAnimateM, control);

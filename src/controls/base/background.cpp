@@ -2,6 +2,9 @@
 
 HBRUSH BackgroundCL::AnswerM(CDC* dc)
 {
+    if (dc == nullptr) {
+        return nullptr;
+    }
     dc->SetBkColor(colour_);
     brush_.DeleteObject();
     brush_.CreateSolidBrush(colour_);

@@ -23,7 +23,8 @@ public:
     COLORREF GetColourM() const { return colour_; }
     void SetColourM(COLORREF colour) { colour_ = colour; }
 
-    // Answers a colour request: sets the text background and replaces the brush, which stays owned here.
+    // Answers a colour request: sets the text background and replaces the brush, which stays owned here. Null
+    // without dc.
     HBRUSH AnswerM(CDC* dc);
     void DeleteBrushM() { brush_.DeleteObject(); }
 

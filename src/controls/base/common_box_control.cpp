@@ -6,6 +6,9 @@
 
 int DVrCommonBoxCL::InitCommonCtrlM(DControlCommonCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     control->SetWinIdxM(windowIndex_);
     control->SetFunctionIDM(functionId_);
     control->SetPositionM(position_);
@@ -16,6 +19,9 @@ int DVrCommonBoxCL::InitCommonCtrlM(DControlCommonCL* control) const
 
 void DVrCommonBoxCL::GetButtonRgnM(DVrRgnCL* region) const
 {
+    if (region == nullptr) {
+        return;
+    }
     region->DeleteObject();
     if (regionKind_ == 0) {
         region->CreateRectRgn(0, 0, size_[0], size_[1]);
@@ -24,6 +30,9 @@ void DVrCommonBoxCL::GetButtonRgnM(DVrRgnCL* region) const
 
 void DVrCommonBoxCL::GetDrawRgnM(DVrRgnCL* region) const
 {
+    if (region == nullptr) {
+        return;
+    }
     Int2DArr points;
     setPolygonM(&points);
     region->DeleteObject();
@@ -32,6 +41,9 @@ void DVrCommonBoxCL::GetDrawRgnM(DVrRgnCL* region) const
 
 void DVrCommonBoxCL::GetRotateButtonRgnM(DVrRgnCL* region) const
 {
+    if (region == nullptr) {
+        return;
+    }
     region->DeleteObject();
     region->CreateEllipticRgn(0, 0, size_[0], size_[1]);
 }

@@ -6,6 +6,8 @@
 
 // What every kind of control is made of, in this order: a platform control, the common base, the element
 // base; with what all kinds do alike. Copying copies the description, never the window.
+// Whatever a kind says of its results: null where a pointer is wanted is refused, nothing happens, and the
+// result is that of a failure (0; -1 for an index, null for an item).
 template <class PlatformTP> class ControlCL : public PlatformTP, public DControlCommonCL, public VrBaseCL
 {
 public:

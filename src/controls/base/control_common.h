@@ -25,12 +25,13 @@ public:
     int GetShowConditionM() const { return showCondition_; }
 
     // The described place: left, top and width, height. Setting it moves no window.
-    void SetPositionM(const int position[2]);
+    void SetPositionM(const int position[2]); // Null: nothing, here and below.
     void SetSizeM(const int size[2]);
-    int GetPosM(int position[2]) const; // Always 1.
-    int GetSizeM(int size[2]) const;    // Always 1.
+    int GetPosM(int position[2]) const; // 1; 0 for null.
+    int GetSizeM(int size[2]) const;    // 1; 0 for null.
 
-    // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character.
+    // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character; null is
+    // empty.
     void SetDescriptM(const char* text);
     const char* GetDescriptM() const { return descript_; }
 
@@ -64,7 +65,8 @@ public:
     void SetCenterM(const CPoint& centre);
     void LayoutControlM(); // Moves the window to the described place.
 
-    // These move the other control: to this left; to this vertical centre; to this horizontal centre.
+    // These move the other control: to this left; to this vertical centre; to this horizontal centre. Null:
+    // nothing.
     void AlignLeftM(DControlCommonCL* other);
     void AlignCenterHorizonM(DControlCommonCL* other);
     void AlignCenterVerticalM(DControlCommonCL* other);

@@ -178,11 +178,17 @@ void DControlCommonCL::LayoutControlM()
 
 void DControlCommonCL::AlignLeftM(DControlCommonCL* other)
 {
+    if (other == nullptr) {
+        return;
+    }
     other->SetPosM(other->GetTopM(), GetLeftM());
 }
 
 void DControlCommonCL::AlignCenterHorizonM(DControlCommonCL* other)
 {
+    if (other == nullptr) {
+        return;
+    }
     const int half = slRound(static_cast<float>(GetHeightM()) * 0.5F);
     const int otherHalf = slRound(static_cast<float>(other->GetHeightM()) * 0.5F);
     other->SetPosM(half + GetTopM() - otherHalf, other->GetLeftM());
@@ -190,6 +196,9 @@ void DControlCommonCL::AlignCenterHorizonM(DControlCommonCL* other)
 
 void DControlCommonCL::AlignCenterVerticalM(DControlCommonCL* other)
 {
+    if (other == nullptr) {
+        return;
+    }
     const int half = slRound(static_cast<float>(GetWidthM()) * 0.5F);
     const int otherHalf = slRound(static_cast<float>(other->GetWidthM()) * 0.5F);
     other->SetLeftM(half + GetLeftM() - otherHalf);

@@ -61,6 +61,9 @@ bool LeavingCL::IsLeftM(HWND field) const
 
 bool slTellAboutField(CWnd* field, const std::function<void()>& show)
 {
+    if (field == nullptr) {
+        return false;
+    }
     const HWND window = field->m_hWnd;
     const NotLeavingCL talking;
     show();

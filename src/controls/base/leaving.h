@@ -57,5 +57,6 @@ private:
 };
 
 // Shows a message about a field's value, modally by show(), and gives the field the focus back if it has
-// moved away. False when the field was destroyed meanwhile: the caller must not touch it any more.
+// moved away. False when the field was destroyed meanwhile: the caller must not touch it any more; nothing
+// for null.
 PANELKIT_API bool slTellAboutField(CWnd* field, const std::function<void()>& show);

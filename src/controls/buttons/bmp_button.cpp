@@ -16,7 +16,9 @@ END_MESSAGE_MAP()
 
 int DVrBmpButtonCL::InitBmpButtonM(DuBmpButtonCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetBtnBmpM(normal_.TextM(), pressed_.TextM(), released_.TextM(), disabled_.TextM());
     control->GetBtnRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
     return 1;

@@ -9,7 +9,9 @@ END_MESSAGE_MAP()
 
 int DVrCheckBoxCL::InitCheckBoxM(DuCheckBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitCheckM(check_);
     control->SetTextM(text_.TextM());
     return 1;

@@ -12,6 +12,9 @@ int CheckableButtonCL::Create(CWnd* parent)
 
 int CheckableButtonCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     return 1;
 }

@@ -10,7 +10,9 @@ END_MESSAGE_MAP()
 
 int DVrGroupBoxCL::InitGroupBoxM(DuGroupBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetInitTextM(text_.TextM());
     return 1;
 }
@@ -37,12 +39,18 @@ int DuGroupBoxCL::OnCreate(LPCREATESTRUCT create)
 
 int DuGroupBoxCL::SetInitTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     return 1;
 }
 
 int DuGroupBoxCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     if (m_hWnd != nullptr) {
         SetWindowText(text_);

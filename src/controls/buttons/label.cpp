@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrLabelCL::InitLabelM(DuLabelCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetInitTextM(text_.TextM());
     control->SetEdgeM(edge_);
@@ -57,6 +59,9 @@ int DuLabelCL::SetInitTextM(const char* text)
 
 int DuLabelCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     if (m_hWnd != nullptr) {
         SetWindowText(text_);

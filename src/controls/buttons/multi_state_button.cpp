@@ -16,7 +16,9 @@ END_MESSAGE_MAP()
 
 int DVrMultiStateButtonCL::InitMultiStateButtonM(DuMultiStateButtonCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     if (!region_.EmptyM() && std::strcmp(region_.TextM(), "NULL") != 0) {
         control->GetButtonRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
     }
@@ -92,6 +94,9 @@ int DuMultiStateButtonCL::SetCurStatusM(int status)
 
 int DuMultiStateButtonCL::GetCurStatusM(int* out) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     if (statuses_.CheckAvailableM(current_) == 1) {
         statuses_.GetItemM(out, current_);
     }

@@ -45,7 +45,7 @@ public:
 
     int AddStringM(int index, int status, const char* file)
     {
-        return ifAliveM(index, &RecordTP::AddStringM, status, file);
+        return addM(index, &RecordTP::AddStringM, status, file);
     }
     int InitMultiStateButtonM(int index, DuMultiStateButtonCL* control) const
     {

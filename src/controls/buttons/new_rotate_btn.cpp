@@ -15,7 +15,9 @@ END_MESSAGE_MAP()
 
 int DVrNewRotateBtnCL::InitNewRotateBtnM(DuNewRotateBtnCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->InitialM(steps_, initialIndex_, PicturesM());
     control->SetDescriptM(description_.TextM());
     return 1;
@@ -28,6 +30,9 @@ int DVrNewRotateBtnArr::InitNewRotateBtnM(int index, DuNewRotateBtnCL* control) 
 
 int DuNewRotateBtnCL::InitialM(const int steps[2], int index, const VrStringArr& names)
 {
+    if (steps == nullptr) {
+        return 0;
+    }
     index_ = index;
     leftStep_ = steps[0];
     rightStep_ = steps[1];

@@ -81,6 +81,9 @@ void DVrNewRotateBtnCL::visitPicturesM(FieldVisitorCL& visitor)
 
 int DVrNewRotateBtnCL::FmReadInterfaceM(VrIOCL* io, int withShowCondition, int withDescription)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     FieldReaderCL reader(io);
     ReadM(reader, withShowCondition, withDescription);
     return 1;
@@ -95,7 +98,7 @@ void DVrNewRotateBtnCL::ReadM(FieldReaderCL& reader, int withShowCondition, int 
 
 int DVrNewRotateBtnCL::SetPictureM(int slot, const char* file)
 {
-    if (slot < 0 || slot == INT_MAX) {
+    if (slot < 0 || slot == INT_MAX || file == nullptr) {
         return 0;
     }
     pictures_.push_back({ slot, CharArr(file) });
@@ -118,6 +121,9 @@ VrStringArr DVrNewRotateBtnCL::PicturesM() const
 
 int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
 {
+    if (io == nullptr) {
+        return 0;
+    }
     SectionReaderCL section(*io, NewRotateBtnHeader);
     int count = 0;
     int lines = 0;

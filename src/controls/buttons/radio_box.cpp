@@ -10,7 +10,9 @@ END_MESSAGE_MAP()
 
 int DVrRadioBoxCL::InitRadioBoxM(DuRadioBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetGroupNoM(group_);
     control->SetInitCheckM(check_);
     control->SetTextM(text_.TextM());
@@ -40,6 +42,9 @@ int DuRadioBoxCL::SetGroupNoM(int group)
 
 int DuRadioBoxCL::GetGroupNoM(int* out) const
 {
+    if (out == nullptr) {
+        return 0;
+    }
     *out = group_;
     return 1;
 }

@@ -19,7 +19,9 @@ END_MESSAGE_MAP()
 
 int DVrRotateBtnCL::InitRotateBtnM(DuRotateBtnCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetEnableM(enabled_ == 1 ? 1 : 0);
     control->SetSignM(stepSigns_, counterIncrements_);
     control->SetAngleM(angleRange_, stepAngle_, initialAngle_);
@@ -37,6 +39,9 @@ int DuRotateBtnCL::Create(CWnd* parent)
 
 int DuRotateBtnCL::SetAngleM(const float range[2], float step, float angle)
 {
+    if (range == nullptr) {
+        return 0;
+    }
     upper_ = range[0];
     lower_ = range[1];
     stepAngle_ = step;
@@ -46,6 +51,9 @@ int DuRotateBtnCL::SetAngleM(const float range[2], float step, float angle)
 
 int DuRotateBtnCL::SetRotPosM(const int position[2], const int centre[2])
 {
+    if (position == nullptr || centre == nullptr) {
+        return 0;
+    }
     for (int i = 0; i < 2; ++i) {
         position_[i] = position[i];
         centre_[i] = centre[i];
@@ -56,6 +64,9 @@ int DuRotateBtnCL::SetRotPosM(const int position[2], const int centre[2])
 
 int DuRotateBtnCL::SetSignM(const int signs[2], const int increments[2])
 {
+    if (signs == nullptr || increments == nullptr) {
+        return 0;
+    }
     for (int i = 0; i < 2; ++i) {
         signs_[i] = signs[i];
         increments_[i] = increments[i];
@@ -71,6 +82,9 @@ int DuRotateBtnCL::SetCounterM(int counter)
 
 int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
 {
+    if (background == nullptr || rotating == nullptr) {
+        return 0;
+    }
     background_.LoadBitmapM(background);
     rotating_.LoadBitmapM(rotating);
     forgetPixelsM();

@@ -59,6 +59,9 @@ void copyPart(DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y
 
 void DuRotateBtnCL::drawBkM(CDC* dc)
 {
+    if (dc == nullptr) {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     copyPart(background_, dc, client.Width(), client.Height(), 0, 0);
@@ -66,6 +69,9 @@ void DuRotateBtnCL::drawBkM(CDC* dc)
 
 void DuRotateBtnCL::drawRotM(CDC* dc, float angle)
 {
+    if (dc == nullptr) {
+        return;
+    }
     if (redrawNeeded_ != 0) {
         redrawNeeded_ = 0;
         composeM(dc, angle);

@@ -20,6 +20,9 @@ int placeOf(float value)
 void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL& onto, const int position[2],
     const int centre[2], float angle)
 {
+    if (picture.pixels == nullptr || onto.pixels == nullptr || position == nullptr || centre == nullptr) {
+        return;
+    }
     const int width = picture.width;
     const int height = picture.height;
     if (width <= 0 || height <= 0 || onto.width != width || onto.height != height) {

@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrStandardButtonCL::InitStandardButtonM(DuStandardButtonCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetDefaultM(default_);
     control->SetTextM(text_.TextM());
     return 1;
@@ -55,6 +57,9 @@ int DuStandardButtonCL::SetDefaultM(int flag)
 
 int DuStandardButtonCL::SetTextM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     slCopyText(text_, TextSize, text);
     return 1;
 }

@@ -10,7 +10,9 @@ END_MESSAGE_MAP()
 
 int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetBkColorM(bkColour_);
     return 1;
 }

@@ -12,7 +12,9 @@ END_MESSAGE_MAP()
 
 int DVrBmpListBoxCL::InitBmpListBoxM(DuBmpListBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     const int rowsColumns[2] = { rows_, columns_ };
     control->SetRowColNumM(rowsColumns);
     control->SetScrollModeM(scrollMode_);
@@ -22,6 +24,9 @@ int DVrBmpListBoxCL::InitBmpListBoxM(DuBmpListBoxCL* control) const
 
 int DVrBmpListBoxCL::InitBmpListBoxBmpM(DuBmpListBoxCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     const int names = bitmaps_.GetAvailableNumM();
     if (names == 0) {
         return 1;
@@ -103,6 +108,9 @@ int DuBmpListBoxCL::columnWidthM() const
 
 void DuBmpListBoxCL::MeasureItem(LPMEASUREITEMSTRUCT measure)
 {
+    if (measure == nullptr) {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     measure->itemWidth = static_cast<UINT>(columnWidthM());
@@ -111,6 +119,9 @@ void DuBmpListBoxCL::MeasureItem(LPMEASUREITEMSTRUCT measure)
 
 void DuBmpListBoxCL::DrawItem(LPDRAWITEMSTRUCT draw)
 {
+    if (draw == nullptr) {
+        return;
+    }
     if (pictures_.GetAvailableNumM() == 0 || draw->itemID == static_cast<UINT>(-1)
         || (draw->itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) == 0) {
         return;
@@ -145,6 +156,9 @@ void DuBmpListBoxCL::drawFrameM(CDC* dc, const RECT& item, COLORREF colour)
 
 int DuBmpListBoxCL::SetRowColNumM(const int rowsColumns[2])
 {
+    if (rowsColumns == nullptr) {
+        return 0;
+    }
     rows_ = rowsColumns[0];
     columns_ = rowsColumns[1];
     return 1;
@@ -232,6 +246,9 @@ int DuBmpListBoxCL::GetFirstItemM(int* index, int* data)
 
 int DuBmpListBoxCL::GetNextItemM(int from, int* index, int* data)
 {
+    if (index == nullptr || data == nullptr) {
+        return 0;
+    }
     // A list box without selection marks the line clicked nevertheless.
     const int count = selMode_ == SelectNone ? 0 : GetCount();
     for (int i = std::max(from, -1); i < count - 1;) {

@@ -45,5 +45,5 @@ public:
     {
         return ifAliveM(index, &RecordTP::InitBmpListBoxBmpM, control);
     }
-    int AddBmpNameM(int index, const char* name) { return ifAliveM(index, &RecordTP::AddBmpNameM, name); }
+    int AddBmpNameM(int index, const char* name) { return addM(index, &RecordTP::AddBmpNameM, name); }
 };

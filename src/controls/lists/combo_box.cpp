@@ -14,13 +14,18 @@ END_MESSAGE_MAP()
 
 int DVrComboBoxCL::InitComboBoxM(DuComboBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetEditAvailableM(editAvailable_);
     return 1;
 }
 
 int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     const FillingCL filling(control);
     slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
     return 1;
@@ -63,12 +68,18 @@ int DuComboBoxCL::SetEditAvailableM(int available)
 
 int DuComboBoxCL::AddItemM(int data, const char* text)
 {
+    if (text == nullptr) {
+        return -1;
+    }
     const int position = AddString(text);
     return position < 0 ? -1 : SetItemData(position, static_cast<DWORD_PTR>(data));
 }
 
 int DuComboBoxCL::InsertItemM(int index, int data, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     const int position = InsertString(index, text);
     return position >= 0 && SetItemData(position, static_cast<DWORD_PTR>(data)) != CB_ERR ? 1 : 0;
 }
@@ -89,6 +100,9 @@ int DuComboBoxCL::DelAllItemM()
 
 int DuComboBoxCL::GetCurItemM(int* index, int* data, char* text)
 {
+    if (index == nullptr || data == nullptr || text == nullptr) {
+        return 0;
+    }
     const int selected = GetCurSel();
     if (selected == CB_ERR) {
         char typed[TextSize];

@@ -41,5 +41,5 @@ public:
     {
         return ifAliveM(index, &RecordTP::InitComboBoxStrM, control);
     }
-    int AddStringM(int index, const char* text) { return ifAliveM(index, &RecordTP::AddStringM, text); }
+    int AddStringM(int index, const char* text) { return addM(index, &RecordTP::AddStringM, text); }
 };

@@ -1,13 +1,16 @@
 #pragma once
 #include "toolkit/toolkit.h"
 
-// Keeps a shown control from redrawing itself for as long as this lives, then has it drawn once.
+// Keeps a shown control from redrawing itself for as long as this lives, then has it drawn once. Null:
+// nothing.
 class PANELKIT_API FillingCL
 {
 public:
     explicit FillingCL(CWnd* control)
         : control_(
-            control->GetSafeHwnd() != nullptr && (control->GetStyle() & WS_VISIBLE) != 0 ? control : nullptr)
+            control != nullptr && control->GetSafeHwnd() != nullptr && (control->GetStyle() & WS_VISIBLE) != 0
+                ? control
+                : nullptr)
     {
         // A hidden one is left alone: switching its drawing on again would show it.
         if (control_ != nullptr) {

@@ -34,6 +34,9 @@ int ListBoxCL::selectM(int line, BOOL select)
 
 int ListBoxCL::GetSelNumM(int* count)
 {
+    if (count == nullptr) {
+        return 0;
+    }
     if (selMode_ == SelectOne) {
         *count = GetCurSel() != LB_ERR ? 1 : 0;
         return 1;

@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrListCtrlCL::InitListCtrlM(DuListCtrlCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetColNumM(columnCount_);
     control->SetSelModeM(singleSelection_);
     return 1;
@@ -19,6 +21,9 @@ int DVrListCtrlCL::InitListCtrlM(DuListCtrlCL* control) const
 
 int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     const FillingCL filling(control);
     const auto each = [](const PairedTextsCL& list, auto&& see) {
         const int count = list.CountM();
@@ -84,6 +89,9 @@ int DuListCtrlCL::SetSelModeM(int single)
 
 int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     LVCOLUMNA heading {};
     heading.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
     heading.fmt = LVCFMT_LEFT;
@@ -95,6 +103,9 @@ int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
 
 int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     const int inserted = CListCtrl::InsertItem(row, text);
     if (inserted == -1) {
         return 0;
@@ -105,6 +116,9 @@ int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
 
 int DuListCtrlCL::SetItemTextM(int row, int column, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     return SetItemText(row, column, text) ? 1 : 0;
 }
 
@@ -120,18 +134,27 @@ int DuListCtrlCL::DelAllM()
 
 int DuListCtrlCL::GetRowNumM(int* count) const
 {
+    if (count == nullptr) {
+        return 0;
+    }
     *count = GetItemCount();
     return 1;
 }
 
 int DuListCtrlCL::GetSelNumM(int* count) const
 {
+    if (count == nullptr) {
+        return 0;
+    }
     *count = static_cast<int>(GetSelectedCount());
     return 1;
 }
 
 int DuListCtrlCL::GetFirstSelM(int* row, int* data) const
 {
+    if (row == nullptr || data == nullptr) {
+        return 0;
+    }
     const int first = GetNextItem(-1, LVNI_SELECTED);
     if (first == -1) {
         return 0;
@@ -143,6 +166,9 @@ int DuListCtrlCL::GetFirstSelM(int* row, int* data) const
 
 int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
 {
+    if (row == nullptr || data == nullptr) {
+        return 0;
+    }
     *row = GetNextItem(from, LVNI_SELECTED);
     if (*row == -1) {
         return 0;
@@ -153,6 +179,9 @@ int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
 
 int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 {
+    if (row == nullptr || data == nullptr) {
+        return 0;
+    }
     if (GetSelectedCount() > 0) {
         return GetFirstSelM(row, data);
     }

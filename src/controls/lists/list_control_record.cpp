@@ -5,7 +5,7 @@ template class PANELKIT_API Arr<DVrListCtrlCL>;
 
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
-    const int result = slAddText(texts, text);
+    const int result = pair != nullptr ? slAddText(texts, text) : 0;
     if (result != 0) {
         pairs.AddItemM(pair);
     }

@@ -84,10 +84,10 @@ public:
     }
     int AddTitleStringM(int index, const int pair[2], const char* text)
     {
-        return ifAliveM(index, &RecordTP::AddTitleStringM, pair, text);
+        return addM(index, &RecordTP::AddTitleStringM, pair, text);
     }
     int AddItemStringM(int index, const int pair[2], const char* text)
     {
-        return ifAliveM(index, &RecordTP::AddItemStringM, pair, text);
+        return addM(index, &RecordTP::AddItemStringM, pair, text);
     }
 };

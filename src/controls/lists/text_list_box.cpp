@@ -11,7 +11,9 @@ END_MESSAGE_MAP()
 
 int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetItemInitHeightM(itemHeight_);
     control->SetSelModeM(selMode_);
     control->SetEdgeM(edge_);
@@ -22,6 +24,9 @@ int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
 
 int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
 {
+    if (control == nullptr) {
+        return 0;
+    }
     const FillingCL filling(control);
     slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
     return 1;
@@ -78,6 +83,9 @@ int DuTextListBoxCL::SetBkColorM(unsigned long color)
 
 int DuTextListBoxCL::AddItemM(int data, const char* text)
 {
+    if (text == nullptr) {
+        return -1;
+    }
     const int position = AddString(text);
     if (position == LB_ERR || position == LB_ERRSPACE) {
         return -1;
@@ -87,6 +95,9 @@ int DuTextListBoxCL::AddItemM(int data, const char* text)
 
 int DuTextListBoxCL::InsertItemM(int index, int data, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     const int position = InsertString(index, text);
     if (position == LB_ERR || position == LB_ERRSPACE) {
         return 0;
@@ -115,6 +126,9 @@ int DuTextListBoxCL::DelAllItemM()
 
 int DuTextListBoxCL::GetItemM(int* index, int* data)
 {
+    if (index == nullptr || data == nullptr) {
+        return 0;
+    }
     // A list box without selection remembers the line clicked nevertheless.
     const int selected = selMode_ == SelectNone ? LB_ERR : GetCurSel();
     if (selected == LB_ERR) {

@@ -45,5 +45,5 @@ public:
     {
         return ifAliveM(index, &RecordTP::InitTextListBoxStrM, control);
     }
-    int AddStringM(int index, const char* text) { return ifAliveM(index, &RecordTP::AddStringM, text); }
+    int AddStringM(int index, const char* text) { return addM(index, &RecordTP::AddStringM, text); }
 };

@@ -12,14 +12,15 @@ END_MESSAGE_MAP()
 
 int DVrTreeCL::InitTreeM(DuTreeCL* control) const
 {
-    if (control != nullptr) {
-        InitCommonCtrlM(control);
-    }
+    InitCommonCtrlM(control); // A tree without a control is none to fill.
     return 1;
 }
 
 int DVrTreeCL::InitTreeStrM(DuTreeCL* control)
 {
+    if (control == nullptr) {
+        return 0;
+    }
     return genTreeM(0, TVI_ROOT, control);
 }
 
@@ -67,6 +68,9 @@ void DuTreeCL::OnSetFocus(CWnd* oldFocus)
 HTREEITEM DuTreeCL::InsertItemM(
     HTREEITEM parent, int data, const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return nullptr;
+    }
     const int selected = TreePicturesCL::AddFileM(images_, selectedPicture);
     const int normal = selected != -1 ? TreePicturesCL::AddFileM(images_, normalPicture) : -1;
     return insertM(parent, data, text, selected, normal);
@@ -75,6 +79,9 @@ HTREEITEM DuTreeCL::InsertItemM(
 HTREEITEM DuTreeCL::InsertItemM(HTREEITEM parent, int data, const char* text, const char* selectedPicture,
     const char* normalPicture, TreePicturesCL& pictures)
 {
+    if (text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return nullptr;
+    }
     const int selected = pictures.AddM(selectedPicture);
     const int normal = selected != -1 ? pictures.AddM(normalPicture) : -1;
     return insertM(parent, data, text, selected, normal);
@@ -95,6 +102,9 @@ HTREEITEM DuTreeCL::insertM(HTREEITEM parent, int data, const char* text, int se
 
 HTREEITEM DuTreeCL::GetCurSelM(int* data) const
 {
+    if (data == nullptr) {
+        return nullptr;
+    }
     const HTREEITEM item = GetSelectedItem();
     if (item != nullptr) {
         *data = static_cast<int>(GetItemData(item));

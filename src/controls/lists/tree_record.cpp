@@ -10,6 +10,9 @@ void DVrTreeCL::EachFieldM(FieldVisitorCL& visitor)
 int DVrTreeCL::AddStringM(
     const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (triple == nullptr || text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
+        return 0;
+    }
     lines_.AddM(triple, text, selectedPicture, normalPicture);
     return 1;
 }

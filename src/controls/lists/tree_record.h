@@ -50,6 +50,6 @@ public:
     int AddStringM(int index, const int triple[3], const char* text, const char* selectedPicture,
         const char* normalPicture)
     {
-        return ifAliveM(index, &RecordTP::AddStringM, triple, text, selectedPicture, normalPicture);
+        return addM(index, &RecordTP::AddStringM, triple, text, selectedPicture, normalPicture);
     }
 };

@@ -12,7 +12,9 @@ END_MESSAGE_MAP()
 
 int DVrMultiEditCL::InitMultiEditM(DuMultiEditCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetMaxNumM(maxNum_); // Before the text, which is dropped whole if it is not shorter.
     control->SetInitTextM(text_.TextM());
@@ -91,7 +93,7 @@ int DuMultiEditCL::SetBkColorM(COLORREF colour)
 int DuMultiEditCL::storeM(const char* text, size_t atLeast)
 {
     const size_t length = text == nullptr ? 0 : std::strlen(text);
-    if (length < atLeast || length >= static_cast<size_t>(maxNum_)) {
+    if (text == nullptr || length < atLeast || length >= static_cast<size_t>(maxNum_)) {
         return 0;
     }
     return text_.SetM(text);
@@ -113,6 +115,9 @@ int DuMultiEditCL::SetTextM(const char* text)
 
 int DuMultiEditCL::GetTextM(char* text) const
 {
+    if (text == nullptr) {
+        return 0;
+    }
     std::strcpy(text, text_.TextM());
     return 1;
 }

@@ -15,7 +15,9 @@ END_MESSAGE_MAP()
 
 int DVrSingleEditCL::InitSingleEditM(DuSingleEditCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
     control->SetRangeM(range_);
@@ -163,6 +165,9 @@ int DuSingleEditCL::SetValueM(float value)
 
 int DuSingleEditCL::SetValueM(const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     value_.SetTextM(text);
     DispEditM();
     return 1;

@@ -16,7 +16,9 @@ END_MESSAGE_MAP()
 
 int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
 {
-    InitCommonCtrlM(control);
+    if (InitCommonCtrlM(control) == 0) {
+        return 0;
+    }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
     control->SetRangeM(range_);

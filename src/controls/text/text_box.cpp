@@ -11,6 +11,9 @@ END_MESSAGE_MAP()
 
 int DuTextBox::SetMinMaxValM(const int limits[2])
 {
+    if (limits == nullptr) {
+        return 0;
+    }
     intLimits_[0] = limits[0];
     intLimits_[1] = limits[1];
     return 1;
@@ -18,6 +21,9 @@ int DuTextBox::SetMinMaxValM(const int limits[2])
 
 int DuTextBox::GetMinMaxValueM(int limits[2]) const
 {
+    if (limits == nullptr) {
+        return 0;
+    }
     limits[0] = intLimits_[0];
     limits[1] = intLimits_[1];
     return 1;
@@ -25,6 +31,9 @@ int DuTextBox::GetMinMaxValueM(int limits[2]) const
 
 int DuTextBox::SetMinMaxValM(const float limits[2])
 {
+    if (limits == nullptr) {
+        return 0;
+    }
     realLimits_[0] = limits[0];
     realLimits_[1] = limits[1];
     return 1;
@@ -32,6 +41,9 @@ int DuTextBox::SetMinMaxValM(const float limits[2])
 
 int DuTextBox::GetMinMaxValM(float limits[2]) const
 {
+    if (limits == nullptr) {
+        return 0;
+    }
     limits[0] = realLimits_[0];
     limits[1] = realLimits_[1];
     return 1;
@@ -59,34 +71,52 @@ int DuTextBox::getM(const char* (*read)(const char* at, const char* end, NumberT
 
 int DuTextBox::GetIntM(int* value) const
 {
+    if (value == nullptr) {
+        return 0;
+    }
     return getM(&slReadInt, intLimits_, value);
 }
 
 int DuTextBox::GetRealM(float* value) const
 {
+    if (value == nullptr) {
+        return 0;
+    }
     return getM(&slReadReal, realLimits_, value);
 }
 
 int DuTextBox::SetIntM(int value, const char* format)
 {
+    if (format == nullptr) {
+        return 0;
+    }
     showM(value >= intLimits_[0] && value <= intLimits_[1] ? format : nullptr, value);
     return 1;
 }
 
 int DuTextBox::SetRealM(float value, const char* format)
 {
+    if (format == nullptr) {
+        return 0;
+    }
     showM(value >= realLimits_[0] && value <= realLimits_[1] ? format : nullptr, static_cast<double>(value));
     return 1;
 }
 
 int DuTextBox::GetStringM(char* text) const
 {
+    if (text == nullptr) {
+        return 0;
+    }
     return GetWindowText(text, BufferSize) > 0 ? 1 : 0;
 }
 
 int DuTextBox::SetStringM(const char* text, const char* format)
 {
-    showM(format, text != nullptr ? text : "");
+    if (text == nullptr || format == nullptr) {
+        return 0;
+    }
+    showM(format, text);
     return 1;
 }
 

@@ -13,6 +13,7 @@ enum EditConstant : int
 // An edit field for programs that make their own windows: filters what is typed, reads and writes its text as
 // a number or a text. Limits are inclusive and must be set before numbers are used. Texts are GBK and pass
 // through 50 bytes: what is longer is cut at a character. Formats are printf's, for exactly one value.
+// Null is refused everywhere: nothing happens, the result is 0.
 class PANELKIT_API DuTextBox : public CEdit, public VrBaseCL
 {
 public:

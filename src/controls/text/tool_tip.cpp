@@ -41,6 +41,9 @@ int uToolTipCtrl::InitialM()
 
 int uToolTipCtrl::ShowHelpM(CWnd* owner, const CRect& rect, const char* text)
 {
+    if (text == nullptr) {
+        return 0;
+    }
     if (m_hWnd != nullptr && owner != owner_) {
         DestroyWindow();
     }
@@ -70,6 +73,9 @@ int uToolTipCtrl::ShowHelpM(CWnd* owner, const CRect& rect, const char* text)
 
 void uToolTipCtrl::initFontM(CDC* dc)
 {
+    if (dc == nullptr) {
+        return;
+    }
     dc->GetCurrentFont()->GetLogFont(&font_);
     font_.lfCharSet = GB2312_CHARSET;
     slCopyText(font_.lfFaceName, LF_FACESIZE, DialogFontFace);

@@ -9,7 +9,8 @@ public:
     // Registers the window class, once in the process, before the first ShowHelpM. 1 if it is there, else 0.
     int InitialM();
     // Shows the text over the rectangle in screen coordinates; the owner may be null and is not kept alive.
-    // While the text and the owner stay the same, so does the place. 1, or 0 when no window can be created.
+    // While the text and the owner stay the same, so does the place. 1, or 0 without a text or when no window
+    // can be created.
     int ShowHelpM(CWnd* owner, const CRect& rect, const char* text);
     // Takes over the context's font as a Chinese one. Painting doesn't use it.
     void initFontM(CDC* dc);

@@ -20,6 +20,9 @@ bool isNumberType(int type)
 
 void slTripDot(char* text, int decimals)
 {
+    if (text == nullptr) {
+        return;
+    }
     char* const point = std::strchr(text, '.');
     const std::size_t kept = static_cast<std::size_t>(std::max(decimals, 0)) + 1;
     if (point != nullptr && std::strlen(point) > kept) {
@@ -65,6 +68,9 @@ int TypedValueCL::SetValueM(const simpleValD& value)
 
 int TypedValueCL::GetValueM(simpleValD* value) const
 {
+    if (value == nullptr) {
+        return 0;
+    }
     switch (type_) {
     case IntegerType:
         value->number = value_.number;
