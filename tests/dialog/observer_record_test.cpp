@@ -181,5 +181,9 @@ TEST(ReadObserver, WhatIsReadIsTheSameWithAndWithoutOne)
 TEST(ReadObserver, LongWordIsToldShortForEachOfTheManyValuesLookedForThere)
 {
     const ToldCL told = toldOf<DVrLabelArr>("[标题]\n1\n0\n" + std::string(3000000, 'w'));
-    EXPECT_EQ(told.valueM(LabelHeader, 0, "size", 1), "4:1 not a number '" + std::string(259, 'w') + "'");
+    const ValueSeenCL& last = told.seen.values.at({ LabelHeader, 0 }).back();
+    EXPECT_EQ(last.fate, Fate::Missing); // Behind the text, which took all.
+    const ValueSeenCL& first = told.seen.values.at({ LabelHeader, 0 }).front();
+    EXPECT_EQ(first.fate, Fate::NotANumber);
+    EXPECT_EQ(first.span.end - first.span.begin, 259U);
 }
