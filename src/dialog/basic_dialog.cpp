@@ -62,6 +62,12 @@ BOOL DuBasicDialogCL::DestroyWindow()
     return CDialog::DestroyWindow();
 }
 
+void DuBasicDialogCL::EndDialog(int result)
+{
+    const NotLeavingCL ending(m_hWnd);
+    CDialog::EndDialog(result);
+}
+
 int DuBasicDialogCL::DrawBkGroundM(CDC* dc, int x, int y)
 {
     if (dc == nullptr) {

@@ -45,6 +45,7 @@ public:
     void DestroyM(); // Destroys all controls and records and the dialog font.
     BOOL DestroyWindow() override;
     BOOL OnInitDialog() override;
+    void EndDialog(int result) override; // No field has been left by that.
 
     // Draws the background picture with its corner at (x, y); 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
@@ -82,7 +83,8 @@ public:
     int SetValueStatusM(int status); // Always 1.
     int GetValueStatusM() const { return valueStatus_; }
     // Has the single-line edit with the focus checked as if the user left it: a bad value is told, and the
-    // edit keeps the focus. The value status.
+    // edit keeps the focus. The value status. While a bad value is being told or reported nothing is told
+    // again.
     int CheckValueLegalM();
 
 protected:

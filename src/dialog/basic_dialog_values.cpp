@@ -77,10 +77,24 @@ int DuBasicDialogCL::CheckValueLegalM()
     if (window == nullptr) {
         return valueStatus_;
     }
-    {
-        const AskingCL asking;
-        ::SetFocus(window);
+    const AskingCL asking;
+    if (NotLeavingCL::CoversM(window)) {
+        // Asked while a message is open or a bad value is being reported: the user has been told.
+        const HWND field = ::GetFocus();
+        eachControlsM([this, field](auto row, auto& controls) {
+            if constexpr (decltype(row)::Code == SingleEditCode) {
+                for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+                    DuSingleEditCL& edit = controls.ElementAtM(i);
+                    if (edit.m_hWnd != nullptr && edit.m_hWnd == field
+                        && edit.GetCurValM(nullptr) != ValidValue) {
+                        valueStatus_ = -1;
+                    }
+                }
+            }
+        });
+        return valueStatus_;
     }
+    ::SetFocus(window);
     return ::IsWindow(window) ? valueStatus_ : 0; // The application may have destroyed this object.
 }
 

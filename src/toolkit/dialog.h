@@ -33,7 +33,7 @@ public:
     // Shows the dialog and keeps its owner disabled until EndDialog. Result: what EndDialog said; -1: no
     // dialog.
     virtual int DoModal();
-    void EndDialog(int result);
+    virtual void EndDialog(int result);
 
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
     void NextDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, 0, 0); }

@@ -28,7 +28,7 @@ output=$(command_of --version)
 expect 0 $? "exit code of a cold call"
 expect "panelkit 0.1.0" "${output%$'\r'}" "output of a cold call"
 first=$(pid_of_session)
-children=$(pgrep -P "$first")
+children=$(pgrep -P "${first:-0}")
 [ -n "$first" ] || expect "a process" "" "session after the first call"
 
 command_of dump "no such file" >"$folder/output"
@@ -46,25 +46,28 @@ done
 expect "$first" "$(pid_of_session)" "session of three at once"
 
 # Killed, it takes its display and its keeper along, and the next call begins anew.
-expect 1 "$(pgrep -c -P "$first" Xvfb)" "displays of the session"
-kill -9 "$first"
+expect 1 "$(pgrep -c -P "${first:-0}" Xvfb)" "displays of the session"
+[ -z "$first" ] || kill -9 "$first"
 for child in $children; do
   timeout 60 tail --pid="$child" -f /dev/null
   expect 0 $? "the end of a killed session's process"
 done
-export PANELKIT_WARM_SECONDS=1
-command_of --version >"$folder/output"
+command_of inspect "$root/tests/samples/two_kinds.dlg" >"$folder/inspect.4"
 expect 0 $? "exit code after the session was killed"
+cmp "$root/tests/samples/two_kinds_inspect.json" "$folder/inspect.4" || failures=$((failures + 1))
 second=$(pid_of_session)
-[ "$second" != "$first" ] || expect "another process" "$second" "session after the first was killed"
-# Soon it ends by itself: the lock of its life is free, its processes and its server are gone.
-children=$(pgrep -P "$second")
+[ -n "$second" ] && [ "$second" != "$first" ] || expect "a new process" "$second" "session after the first was killed"
+[ -z "$second" ] || kill "$second"
+flock -w 60 "$name.alive" true
+expect 0 $? "the end of a session that is asked to end"
+
+# Left alone, it ends by itself: the lock of its life is free, its display and its server are gone.
+rm "$name.display"
+PANELKIT_WARM_SECONDS=1 command_of --version >"$folder/output"
+expect 0 $? "exit code of a call whose session is short"
+[ -e "$name.display" ] || expect "a display" "" "session that is short"
 flock -w 120 "$name.alive" true
 expect 0 $? "the session's end"
-for child in $children; do
-  timeout 60 tail --pid="$child" -f /dev/null
-  expect 0 $? "the end of an idle session's process"
-done
 timeout 60 env WINEPREFIX="$PANELKIT_WINEPREFIX" "$wineserver" -w
 expect 0 $? "the server's end"
 [ "$failures" -eq 0 ]

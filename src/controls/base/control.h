@@ -95,7 +95,7 @@ protected:
         const HWND window = this->m_hWnd;
         PlatformTP::OnSetFocus(oldFocus);
         // The parent hears of it from the platform too, and may have destroyed this object.
-        if (::IsWindow(window) && !NotLeavingCL::CoversM(window)) {
+        if (::IsWindow(window) && slIsEntered(window)) {
             postToParentM(FocusGainedMsg);
         }
     }

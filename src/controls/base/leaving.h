@@ -9,7 +9,9 @@
 //   that the user was on the way to was never reached, so it doesn't report to have been entered either;
 // - while its parent handles the report of a bad value, or the wish to close the dialog (Esc, close button),
 //   unless the application then asks;
-// - because it or its dialog is being hidden, disabled or destroyed.
+// - because it or its dialog is being hidden, disabled, ended or destroyed, or while its dialog is not shown
+// yet
+//   and the application doesn't ask.
 // So one step of the user shows one message at most, however many fields are bad.
 
 // While one lives, no field in a window (null: of this thread) is left or entered; UnlessAsked: except while
@@ -45,18 +47,12 @@ public:
     ~AskingCL();
 };
 
-// What a field knows of itself to tell being left from vanishing.
-class PANELKIT_API LeavingCL
-{
-public:
-    void SeeM(HWND field, UINT message); // Every message of the field, first of all.
-    bool IsLeftM(HWND field) const;      // When the field loses the focus.
-
-private:
-    bool wasShown_ { false };
-};
+// Whether a field that loses the focus has been left.
+PANELKIT_API bool slIsLeft(HWND field);
+// Whether a control that gains the focus has been entered.
+PANELKIT_API bool slIsEntered(HWND control);
 
 // Shows a message about a field's value, modally by show(), and gives the field the focus back if it has
-// moved away. False when the field was destroyed meanwhile: the caller must not touch it any more; nothing
-// for null.
+// moved away. Whatever control was or is about to be pressed: that press ends without a click. False when the
+// field was destroyed meanwhile: the caller must not touch it any more; nothing for null.
 PANELKIT_API bool slTellAboutField(CWnd* field, const std::function<void()>& show);

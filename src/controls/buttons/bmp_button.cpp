@@ -12,6 +12,7 @@ ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK() // The second of two fast presses is a press like any other.
 ON_WM_SETFOCUS()
+ON_WM_CANCELMODE()
 END_MESSAGE_MAP()
 
 int DVrBmpButtonCL::InitBmpButtonM(DuBmpButtonCL* control) const
@@ -94,6 +95,9 @@ void DuBmpButtonCL::OnMouseMove(UINT, CPoint)
 
 void DuBmpButtonCL::OnLButtonDown(UINT, CPoint)
 {
+    if (!holdsMouseM()) {
+        beforePress_ = status_;
+    }
     SetCapture();
     status_ = ButtonPressed;
     postToParentM(ButtonDownMsg);
@@ -117,4 +121,13 @@ void DuBmpButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
 void DuBmpButtonCL::OnSetFocus(CWnd* oldFocus)
 {
     reportFocusM(oldFocus);
+}
+
+void DuBmpButtonCL::OnCancelMode()
+{
+    if (holdsMouseM() && status_ == ButtonPressed) {
+        status_ = beforePress_;
+        Invalidate(FALSE);
+    }
+    PictureStaticCL::OnCancelMode();
 }

@@ -11,7 +11,8 @@ enum BUTTON_STATUS
 };
 
 // A button that shows a picture for each status. A press that begins on it always ends in a click, wherever
-// the mouse is released; status 2 then stays until SetBtnStatusM. Files are GBK names of .bmp files.
+// the mouse is released, unless a message of the library interrupts it; status 2 then stays until
+// SetBtnStatusM. Files are GBK names of .bmp files.
 class PANELKIT_API DuBmpButtonCL : public PictureStaticCL
 {
 public:
@@ -34,11 +35,13 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnCancelMode();
     DECLARE_MESSAGE_MAP()
 
 private:
     static constexpr int StatusCount = 4;
     BUTTON_STATUS status_ { ButtonNormal };
+    BUTTON_STATUS beforePress_ { ButtonNormal };
     OwnRgnCL buttonRgn_;
     OwnRgnCL drawRgn_;
     OwnPictureCL pictures_[StatusCount];

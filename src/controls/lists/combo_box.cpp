@@ -211,8 +211,8 @@ void DuComboBoxCL::OnSelchange()
 
 void DuComboBoxCL::OnKillfocus()
 {
-    if (NotLeavingCL::CoversM(m_hWnd)) {
-        return; // The focus only passed through.
+    if (!slIsLeft(m_hWnd)) {
+        return;
     }
     if (editAvailable_ == 1) {
         takeTypedTextM();

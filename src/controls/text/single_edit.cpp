@@ -216,12 +216,6 @@ bool DuSingleEditCL::tellM(const std::string& text)
     return slTellAboutField(this, [&text] { AfxMessageBox(text.c_str()); });
 }
 
-LRESULT DuSingleEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    leaving_.SeeM(m_hWnd, message);
-    return CEdit::WindowProc(message, wParam, lParam);
-}
-
 int DuSingleEditCL::OnCreate(LPCREATESTRUCT create)
 {
     const int result = CEdit::OnCreate(create);
@@ -248,7 +242,7 @@ void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
     const HWND window = m_hWnd;
     CEdit::OnKillFocus(newFocus);
     // The parent hears of it from the platform, and may have destroyed this object; so below.
-    if (!::IsWindow(window) || !leaving_.IsLeftM(window)) {
+    if (!::IsWindow(window) || !slIsLeft(window)) {
         return;
     }
     const CheckCode code = checkValueM();

@@ -46,7 +46,6 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKillFocus(CWnd* newFocus);
@@ -66,7 +65,6 @@ private:
     int readOnly_ { 0 };
     int edge_ { 1 };
     BackgroundCL background_ { 0xFFFFFF };
-    LeavingCL leaving_;
 };
 
 extern template class PANELKIT_API Arr<DuSingleEditCL>;

@@ -37,7 +37,7 @@ BOOL DuSpinButtonCL::PreCreateWindow(CREATESTRUCT& create)
 void DuSpinButtonCL::OnSetFocus(CWnd* oldFocus)
 {
     CSpinButtonCtrl::OnSetFocus(oldFocus);
-    if (!NotLeavingCL::CoversM(m_hWnd)) {
+    if (slIsEntered(m_hWnd)) {
         ::PostMessageW(::GetParent(m_hWnd), FocusGainedMsg, static_cast<WPARAM>(GetFunctionIDM()), 0);
     }
 }

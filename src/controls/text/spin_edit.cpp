@@ -46,7 +46,6 @@ int DuSpinEditArr::Create(CWnd* parent)
 int DuSpinEditCL::Create(CWnd* parent)
 {
     spinButton_.DestroyWindow(); // They belong to the window before.
-    isWarning_ = false;          // Perhaps the window before was destroyed beneath its message.
     if (createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM()))) != 1) {
         return 0;
     }
@@ -170,12 +169,6 @@ int DuSpinEditCL::updateDataM(int direction)
     return direction == 1 ? GetCurValM(nullptr) : DispEditM();
 }
 
-LRESULT DuSpinEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    leaving_.SeeM(m_hWnd, message);
-    return CEdit::WindowProc(message, wParam, lParam);
-}
-
 void DuSpinEditCL::OnChar(UINT character, UINT repeats, UINT flags)
 {
     if (value_.AcceptsM(character)) {
@@ -193,7 +186,7 @@ void DuSpinEditCL::OnKillFocus(CWnd* newFocus)
     const HWND window = m_hWnd;
     CEdit::OnKillFocus(newFocus);
     // The parent hears of it from the platform, and may have destroyed this object.
-    if (::IsWindow(window) && leaving_.IsLeftM(window) && tellCheckedM()) {
+    if (::IsWindow(window) && slIsLeft(window) && tellCheckedM()) {
         postToParentM(WM_KILLFOCUS);
     }
 }
@@ -245,9 +238,6 @@ std::string DuSpinEditCL::refusalM(CheckCode code) const
 
 LRESULT DuSpinEditCL::onSpinClickM(WPARAM wParam, LPARAM)
 {
-    if (isWarning_) {
-        return 0; // An arrow that is held down goes on behind the message.
-    }
     simpleValD value;
     if (value_.GetValueM(&value) == 0) {
         return 0; // An unknown type.
@@ -257,14 +247,8 @@ LRESULT DuSpinEditCL::onSpinClickM(WPARAM wParam, LPARAM)
     if (delta == 1 || delta == -1) {
         const CheckCode code = steppedM(delta, &value);
         value_.SetValueM(value); // The stepped value, or the one from before the typing.
-        if (code != ValidValue) {
-            isWarning_ = true;
-            if (!tellM(refusalM(code))) {
-                return 0;
-            }
-            isWarning_ = false;
-            // The message took the release of the mouse button, on which the arrows wait.
-            spinButton_.PostMessage(WM_CANCELMODE);
+        if (code != ValidValue && !tellM(refusalM(code))) {
+            return 0;
         }
     }
     updateDataM(0);

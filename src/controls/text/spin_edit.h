@@ -35,7 +35,6 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     int updateDataM(int direction); // 1: reads the text, the check code; else DispEditM.
     afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
     afx_msg void OnSetFocus(CWnd* oldFocus);
@@ -56,8 +55,6 @@ private:
     int alignMode_ { 2 };
     int spinWidth_ { 0 };
     simpleValD step_;
-    bool isWarning_ { false };
-    LeavingCL leaving_;
 };
 
 extern template class PANELKIT_API Arr<DuSpinEditCL>;

@@ -19,6 +19,7 @@ BEGIN_MESSAGE_MAP(uToolTipCtrl, CWnd)
 ON_WM_TIMER()
 ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
+ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
 
 int uToolTipCtrl::InitialM()
@@ -101,4 +102,9 @@ void uToolTipCtrl::OnLButtonDown(UINT flags, CPoint at)
 {
     PostMessage(WM_CLOSE);
     CWnd::OnLButtonDown(flags, at);
+}
+
+int uToolTipCtrl::OnMouseActivate(CWnd*, UINT, UINT)
+{
+    return MA_NOACTIVATE; // The user goes on typing where he was.
 }

@@ -2,7 +2,7 @@
 #include "toolkit/toolkit.h"
 
 // A small window that shows one line of help over a rectangle and closes itself 1.5 seconds after it was last
-// asked to, or when clicked. The object outlives its windows. Texts are GBK.
+// asked to, or when clicked; it never takes the focus. The object outlives its windows. Texts are GBK.
 class PANELKIT_API uToolTipCtrl : public CWnd
 {
 public:
@@ -21,6 +21,7 @@ protected:
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint at);
+    afx_msg int OnMouseActivate(CWnd* top, UINT hit, UINT message);
     DECLARE_MESSAGE_MAP()
 
 private:

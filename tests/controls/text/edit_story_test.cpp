@@ -388,3 +388,79 @@ TEST(EditStory, DialogDestroyedWhenAFieldLosesTheFocusTellsOfNothing)
     EXPECT_EQ(story.ToldM(), "");
     EXPECT_EQ(story.ReportsM(), "");
 }
+
+namespace {
+
+// A dialog without a loop of its own, ended like one with it.
+class EndedStoryCL : public EditStoryCL
+{
+public:
+    using EditStoryCL::EditStoryCL;
+
+protected:
+    void OnCancel() override { CDialog::OnCancel(); }
+};
+
+} // namespace
+
+TEST(EditStory, EndingADialogWithoutALoopTellsOfNothing)
+{
+    EndedStoryCL story({ editRecord(11, "1 0 100", "5") });
+    story.EnterM(11);
+    story.FillM(11, "x");
+    KeyM(VK_RETURN);
+    PumpPending();
+    EXPECT_FALSE(story.IsWindowVisible());
+    EXPECT_EQ(story.ToldM(), "");
+    EXPECT_EQ(story.ReportsM(), "");
+}
+
+namespace {
+
+// Asks at each report whether the values are legal.
+class AskingStoryCL : public EditStoryCL
+{
+public:
+    using EditStoryCL::EditStoryCL;
+    std::vector<int> answers;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = EditStoryCL::WindowProc(message, wParam, lParam);
+        if (message == ValueReportMsg && answers.size() < 5) {
+            answers.push_back(CheckValueLegalM());
+        }
+        return result;
+    }
+};
+
+} // namespace
+
+TEST(EditStory, AskingWithinTheReportOfAnUnreadableTextSaysItOnceMoreButTellsItOnce)
+{
+    AskingStoryCL story({ editRecord(11, "1 0 100", "5") });
+    story.EnterM(11);
+    story.FillM(11, "x");
+    KeyM(VK_TAB);
+    EXPECT_EQ(story.answers, std::vector<int> { -1 });
+    EXPECT_EQ(story.watcher.SeenM().size(), 1U);
+    EXPECT_EQ(story.FocusM(), 11);
+    EXPECT_EQ(story.GetValueStatusM(), -1);
+    EXPECT_EQ(story.CheckValueLegalM(), -1); // And when the application asks for the check itself.
+    EXPECT_EQ(story.answers, (std::vector<int> { -1, -1 }));
+    EXPECT_EQ(story.watcher.SeenM().size(), 2U);
+    EXPECT_EQ(story.FocusM(), 11);
+}
+
+TEST(EditStory, AskingWithinTheReportOfAForcedValueFindsItLegal)
+{
+    AskingStoryCL story({ editRecord(11, "1 0 100", "5") });
+    story.EnterM(11);
+    story.FillM(11, "101");
+    KeyM(VK_TAB);
+    EXPECT_EQ(story.answers, std::vector<int> { 0 });
+    EXPECT_EQ(story.TextM(11), "100");
+    EXPECT_EQ(story.watcher.SeenM().size(), 1U);
+    EXPECT_EQ(story.FocusM(), 11);
+}

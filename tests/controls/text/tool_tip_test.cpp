@@ -183,6 +183,25 @@ TEST(ToolTip, ClickClosesAtOnce)
     EXPECT_LT(::GetTickCount() - start, 1500U);
 }
 
+TEST(ToolTip, ClickThatClosesItLeavesTheFocusToTheFieldBeingTypedIn)
+{
+    TipCL own;
+    CEdit field;
+    field.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 30), &own.owner, 5);
+    for (const Button button : { Button::Right, Button::Left }) {
+        ActivateM(own.owner.m_hWnd);
+        ASSERT_TRUE(FocusM(field.m_hWnd));
+        own.tip.ShowHelpM(&own.owner, Place, "help");
+        SettleM();
+        const MessageRecorder messages(field.m_hWnd, { WM_KILLFOCUS });
+        ClickM(own.tip.m_hWnd, 5, 5, button);
+        SettleM();
+        EXPECT_EQ(own.IsOpenM(), button == Button::Right);
+        EXPECT_EQ(::GetFocus(), field.m_hWnd);
+        EXPECT_TRUE(messages.ListM().empty());
+    }
+}
+
 TEST(ToolTip, OtherTimersDoNotCloseIt)
 {
     TipCL tip;
