@@ -11,5 +11,6 @@
 #include "controls/text/text_box.h"
 #include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
+#include "dialog/relation.h"
 #include "records/bmp_record.h"
 #include "records/region_functions.h"
