@@ -46,7 +46,7 @@ public:
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays. Always 1.
     int DelAllItemM();
 
-    int SetSelM(int index, int select); // select 0 takes it back, except for a single selection.
+    int SetSelM(int index, int select = 1); // select 0 takes it back, except for a single selection.
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
     int GetFirstItemM(int* index, int* data);
     int GetNextItemM(int from, int* index, int* data);
