@@ -53,6 +53,7 @@ void DuBasicDialogCL::DestroyM()
 {
     const NotLeavingCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
+    index_.ForgetM();
     font_.DeleteObject();
 }
 

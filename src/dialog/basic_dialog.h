@@ -18,6 +18,7 @@
 #include "controls/text/multi_edit.h"
 #include "controls/text/single_edit.h"
 #include "controls/text/spin_edit.h"
+#include "dialog/control_index.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "records/bitmap_record.h"
@@ -117,6 +118,7 @@ private:
 
     template <class FunctionTP> void eachControlsM(FunctionTP&& see); // with_control.h
     template <class FunctionTP> int withControlM(int id, FunctionTP&& see);
+    void fillIndexM();
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     int initM(CWnd* parent, int mode);
     template <class RowTP> int buildKindM(CWnd* parent);
@@ -134,6 +136,7 @@ private:
     DVrBitmapCL background_;
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
+    ControlIndexCL index_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };

@@ -1,5 +1,6 @@
 // Building: the header and the pass of each kind.
 #include "dialog/basic_dialog.h"
+#include "dialog/with_control.h"
 #include <algorithm>
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
@@ -48,6 +49,18 @@ int DuBasicDialogCL::initM(CWnd* parent, int mode)
     return 1;
 }
 
+void DuBasicDialogCL::fillIndexM()
+{
+    index_.BeginM();
+    int number = 0;
+    eachControlsM([this, &number](auto, auto& controls) {
+        for (int i = 0; i < controls.GetBoundM(); ++i) {
+            index_.AddM(controls.ElementAtM(i).GetFunctionIDM(), { number, i });
+        }
+        ++number;
+    });
+}
+
 // Reads the records of one kind, then makes and fills its controls. The file is closed before any window
 // exists: a control may open it again.
 template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
@@ -68,11 +81,13 @@ template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
     }
     // Controls of a build before this one would move while they have windows.
     controls.DelAllM();
+    index_.ForgetM();
     const ControlTP scratch(AliveTag);
     controls.InitialSizeM(count);
     for (int i = 0; i < count; ++i) {
         controls.SetItemM(scratch, i);
         (records.*RowTP::InitM)(i, &controls.ElementAtM(i));
+        controls.ElementAtM(i).CountIdChangesM(index_.ChangesM());
     }
     controls.Create(parent);
     controls.AfterCreateM();

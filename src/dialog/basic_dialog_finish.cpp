@@ -30,7 +30,7 @@ Int2DArr DuBasicDialogCL::stackedM()
     Int2DArr pairs;
     slEachKind([this, &pairs](auto row) {
         using RowTP = decltype(row);
-        if constexpr (RowTP::IsStacked) {
+        if constexpr (RowTP::CanM(Stacked)) {
             auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
                 const int pair[2]
@@ -105,7 +105,7 @@ int DuBasicDialogCL::setTxtLstBoxItemHeightM()
 {
     int result = 0;
     eachControlsM([&result](auto row, auto& controls) {
-        if constexpr (decltype(row)::Code == TextListBoxCode) {
+        if constexpr (decltype(row)::CanM(HasLineHeight)) {
             result = controls.SetItemHeightM();
         }
     });

@@ -3,15 +3,6 @@
 #include "dialog/relation.h"
 #include "dialog/with_control.h"
 
-namespace {
-
-constexpr bool holdsItems(int kind)
-{
-    return kind == TextListBoxCode || kind == BmpListBoxCode || kind == ComboBoxCode;
-}
-
-} // namespace
-
 CWnd* DuBasicDialogCL::GetContrlPtrM(int id, int* kind)
 {
     if (kind == nullptr) {
@@ -32,7 +23,7 @@ int DuBasicDialogCL::GetNormalAnimateBmpIdxM(int id, int* index)
     }
     int result = 0;
     withControlM(id, [&result, index](auto row, auto& control) {
-        if constexpr (decltype(row)::Code == NormalAnimateCode) {
+        if constexpr (decltype(row)::CanM(ShowsFrames)) {
             int current = 0;
             result = control.GetCurIdxM(&current);
             if (result == 1) {
@@ -48,7 +39,7 @@ int DuBasicDialogCL::ChangeNormalAnimateM(int id, int index)
     int result = 0;
     const HWND child = ::GetDlgItem(parentM(), id);
     eachControlsM([&result, child, index](auto row, auto& controls) {
-        if constexpr (decltype(row)::Code == NormalAnimateCode) {
+        if constexpr (decltype(row)::CanM(ShowsFrames)) {
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
                 if (child != nullptr && controls.ElementAtM(i).m_hWnd == child) {
                     result = controls.ElementAtM(i).DispBmpM(index);
@@ -82,7 +73,7 @@ void DuBasicDialogCL::ShowObjectM(int kind, int index, bool show)
         return;
     }
     eachControlsM([index, show](auto row, auto& controls) {
-        if constexpr (decltype(row)::Code == RadioBoxCode) {
+        if constexpr (decltype(row)::CanM(StandsInGroups)) {
             controls.ShowObjectM(index, show);
         }
     });
@@ -95,7 +86,7 @@ int DuBasicDialogCL::AddItemM(int id, int position, const char* text)
     }
     int result = 0;
     withControlM(id, [&result, position, text](auto row, auto& control) {
-        if constexpr (holdsItems(decltype(row)::Code)) {
+        if constexpr (decltype(row)::CanM(HoldsLines)) {
             result = control.AddItemM(position, text);
         }
     });
@@ -106,7 +97,7 @@ int DuBasicDialogCL::DelItemM(int id)
 {
     int result = 0;
     withControlM(id, [&result, id](auto row, auto& control) {
-        if constexpr (holdsItems(decltype(row)::Code)) {
+        if constexpr (decltype(row)::CanM(HoldsLines)) {
             control.DelItemM(id);
             result = 1;
         }
@@ -118,10 +109,7 @@ int DuBasicDialogCL::SetSelM(int id)
 {
     int result = 0;
     withControlM(id, [&result, id](auto row, auto& control) {
-        if constexpr (decltype(row)::Code == BmpListBoxCode) {
-            control.SetSelM(id, 1);
-            result = 1;
-        } else if constexpr (holdsItems(decltype(row)::Code)) {
+        if constexpr (decltype(row)::CanM(HoldsLines)) {
             control.SetSelM(id);
             result = 1;
         }

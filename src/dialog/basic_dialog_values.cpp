@@ -7,7 +7,7 @@ template <class FunctionTP> int DuBasicDialogCL::withSingleEditM(int id, Functio
 {
     int result = 0;
     withControlM(id, [&result, &see](auto row, auto& control) {
-        if constexpr (decltype(row)::Code == SingleEditCode) {
+        if constexpr (decltype(row)::CanM(HoldsTypedValue)) {
             result = see(control);
         }
     });
@@ -57,7 +57,7 @@ int DuBasicDialogCL::GetSingleEditValM(int id, simpleValD* value)
 int DuBasicDialogCL::EnableSingleEditM(int id, int enable)
 {
     eachControlsM([id, enable](auto row, auto& controls) {
-        if constexpr (decltype(row)::Code == SingleEditCode) {
+        if constexpr (decltype(row)::CanM(HoldsTypedValue)) {
             controls.SetItemCmdM(id, enable == 1 ? 1 : 2);
         }
     });

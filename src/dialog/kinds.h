@@ -42,11 +42,16 @@ class DuStandardButtonArr;
 class DuTextListBoxArr;
 class DuTreeArr;
 
-enum class Stacking
+// What a kind can do besides being a control. Code asks for what it needs, never for a kind.
+enum Ability : unsigned
 {
-    ByWindowIndex,
-    AsCreated
-}; // AsCreated kinds don't get the dialog font either.
+    Stacked = 1,         // Takes part in the stacking and font passes.
+    HoldsLines = 2,      // AddItemM(data, text), DelItemM(line), SetSelM(line).
+    HoldsTypedValue = 4, // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
+    ShowsFrames = 8,     // GetCurIdxM, DispBmpM.
+    StandsInGroups = 16, // ShowObjectM(index, show) on the array.
+    HasLineHeight = 32   // SetItemHeightM() on the array, once the font is set.
+};
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
 enum KindCode : int
@@ -73,61 +78,92 @@ enum KindCode : int
 };
 
 // One kind of control: its record array and runtime array, the code that GetContrlPtrM reports, its place in
-// the order of building, whether the stacking and font passes take it, how a record fills a control, and
-// what a record adds once the control's window exists (null: nothing).
-template <class RecordArrTP, class ControlArrTP, int codeN, int buildPlaceN, Stacking stackingN, auto initN,
-    auto fillN = nullptr>
+// the order of building, its abilities, how a record fills a control, and what a record adds once the
+// control's window exists (null: nothing).
+template <class RecordArrTP, class ControlArrTP, KindCode codeN, int buildPlaceN, unsigned abilitiesN,
+    auto initN, auto fillN = nullptr>
 struct KindRowCL
 {
     using Records = RecordArrTP;
     using Controls = ControlArrTP;
     static constexpr int Code = codeN;
     static constexpr int BuildPlace = buildPlaceN;
-    static constexpr bool IsStacked = stackingN == Stacking::ByWindowIndex;
     static constexpr auto InitM = initN;
     static constexpr auto FillM = fillN;
+    static constexpr bool CanM(Ability ability) { return (abilitiesN & ability) != 0; }
 };
 
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
-                                 Stacking::ByWindowIndex, &DVrNormalAnimateArr::InitNormalAnimateM>,
-    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacking::ByWindowIndex,
+                                 Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacking::ByWindowIndex, &DVrLabelArr::InitLabelM>,
-    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacking::ByWindowIndex,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue,
         &DVrSingleEditArr::InitSingleEditM>,
-    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacking::ByWindowIndex,
-        &DVrMultiEditArr::InitMultiEditM>,
-    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacking::ByWindowIndex,
-        &DVrSpinEditArr::InitSpinEditM>,
-    KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacking::ByWindowIndex,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked, &DVrMultiEditArr::InitMultiEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacked, &DVrSpinEditArr::InitSpinEditM>,
+    KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacked | HoldsLines | HasLineHeight,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
-    KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7, Stacking::ByWindowIndex,
+    KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7, Stacked | HoldsLines,
         &DVrBmpListBoxArr::InitBmpListBoxM, &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
-    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacking::ByWindowIndex,
+    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacked | HoldsLines,
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacking::ByWindowIndex,
-        &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
-    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacking::ByWindowIndex,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked, &DVrListCtrlArr::InitListCtrlM,
+        &DVrListCtrlArr::InitListCtrlStrM>,
+    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacked,
         &DVrStandardButtonArr::InitStandardButtonM>,
-    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacking::ByWindowIndex,
+    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacked | StandsInGroups,
         &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacking::ByWindowIndex,
-        &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacking::ByWindowIndex,
-        &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
-        Stacking::ByWindowIndex, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacking::ByWindowIndex,
-        &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, Stacking::AsCreated,
-        &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, Stacking::AsCreated, &DVrTreeArr::InitTreeM,
-        &DVrTreeArr::InitTreeStrM>,
-    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, Stacking::AsCreated, &DVrDraw2DArr::InitDraw2DM>>;
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked, &DVrCheckBoxArr::InitCheckBoxM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked, &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked,
+        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, 0, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, 0, &DVrTreeArr::InitTreeM, &DVrTreeArr::InitTreeStrM>,
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
 
-constexpr int KindCount = 19;
+constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);
+
+// The row of the table that is built at a place; -1 for a place that no row has.
+constexpr int slRowBuiltAt(int place)
+{
+    int found = -1;
+    int row = 0;
+    const auto see = [&](int rowPlace) {
+        found = rowPlace == place ? row : found;
+        ++row;
+    };
+    std::apply([&see](auto... kind) { (see(kind.BuildPlace), ...); }, KindTable());
+    return found;
+}
+
+// The row with a code; -1 for a code that no row has.
+constexpr int slRowOfCode(int code)
+{
+    int found = -1;
+    int row = 0;
+    const auto see = [&](int rowCode) {
+        found = rowCode == code ? row : found;
+        ++row;
+    };
+    std::apply([&see](auto... kind) { (see(kind.Code), ...); }, KindTable());
+    return found;
+}
+
+// Each place and each code from the first on is some row's, so that none is there twice.
+constexpr bool slIsKindTableWhole()
+{
+    for (int i = 0; i < KindCount; ++i) {
+        if (slRowBuiltAt(i) < 0 || slRowOfCode(i + 1) < 0) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(slIsKindTableWhole(), "build places count from 0, codes from 1, each once");
 
 // Calls see(row) for each kind of the table, in its order; row is a KindRowCL.
 template <class FunctionTP> void slEachKind(FunctionTP&& see)
@@ -136,13 +172,12 @@ template <class FunctionTP> void slEachKind(FunctionTP&& see)
 }
 
 // The same in the order of building.
+template <class FunctionTP, int... placeN>
+void slEachKindAsBuilt(FunctionTP&& see, std::integer_sequence<int, placeN...>)
+{
+    (see(std::tuple_element_t<static_cast<std::size_t>(slRowBuiltAt(placeN)), KindTable>()), ...);
+}
 template <class FunctionTP> void slEachKindAsBuilt(FunctionTP&& see)
 {
-    for (int place = 0; place < KindCount; ++place) {
-        slEachKind([&see, place](auto row) {
-            if (row.BuildPlace == place) {
-                see(row);
-            }
-        });
-    }
+    slEachKindAsBuilt(see, std::make_integer_sequence<int, KindCount>());
 }

@@ -13,13 +13,24 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
 // 0 when there is none.
 template <class FunctionTP> int DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
 {
-    int found = 0;
-    eachControlsM([id, &see, &found](auto row, auto& controls) {
-        auto* control = found == 0 ? controls.GetControlPtrM(id) : nullptr;
-        if (control != nullptr) {
-            found = 1;
-            see(row, *control);
+    if (!index_.IsFilledM()) {
+        fillIndexM();
+    }
+    for (const ControlIndexCL::PlaceCL& place : index_.PlacesM(id)) {
+        int found = 0;
+        int number = 0;
+        const int slot = place.slot;
+        const int wanted = place.row;
+        eachControlsM([&](auto row, auto& controls) {
+            if (number++ == wanted && controls.CheckAvailableM(slot) == 1
+                && controls.ElementAtM(slot).GetFunctionIDM() == id) {
+                found = 1;
+                see(row, controls.ElementAtM(slot));
+            }
+        });
+        if (found != 0) {
+            return 1; // What see() did may have changed the index.
         }
-    });
-    return found;
+    }
+    return 0;
 }

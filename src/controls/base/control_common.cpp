@@ -12,7 +12,7 @@ DControlCommonCL& DControlCommonCL::operator=(const DControlCommonCL& other)
     window_ = other.window_;
     SetPositionM(other.position_);
     SetSizeM(other.size_);
-    functionId_ = other.functionId_;
+    SetFunctionIDM(other.functionId_);
     showCondition_ = other.showCondition_;
     std::memmove(descript_, other.descript_, sizeof descript_);
     return *this;
@@ -22,7 +22,7 @@ void DControlCommonCL::SetBaseInfoM(int windowIndex, int selfIndex, int function
 {
     windowIndex_ = windowIndex;
     selfIndex_ = selfIndex;
-    functionId_ = functionId;
+    SetFunctionIDM(functionId);
 }
 
 void DControlCommonCL::SetPositionM(const int position[2])

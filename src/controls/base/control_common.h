@@ -2,6 +2,28 @@
 #include "baselib/int3d_arr.h"
 #include "toolkit/toolkit.h"
 
+// Where changes of a control's id are counted, for who keeps controls by id. It stays with its control: a
+// copy counts nowhere.
+class IdChangesCL
+{
+public:
+    IdChangesCL() = default;
+    IdChangesCL(const IdChangesCL&) { }
+    IdChangesCL& operator=(const IdChangesCL&) { return *this; }
+    ~IdChangesCL() = default;
+
+    void CountInM(unsigned* count) { count_ = count; }
+    void AddM() const
+    {
+        if (count_ != nullptr) {
+            ++*count_;
+        }
+    }
+
+private:
+    unsigned* count_ { nullptr };
+};
+
 // What the host and the application know of any control: ids, described place, window, relations.
 // Lengths are pixels. Without a live window the geometry getters give 0 and the setters do nothing.
 class PANELKIT_API DControlCommonCL
@@ -18,9 +40,17 @@ public:
     void SetWinIdxM(int index) { windowIndex_ = index; }
     int GetWinIdxM() const { return windowIndex_; }
     void SetSelfIdxM(int index) { selfIndex_ = index; }
-    void SetFunctionIDM(int id) { functionId_ = id; }
+    void SetFunctionIDM(int id)
+    {
+        functionId_ = id;
+        idChanges_.AddM();
+    }
     int GetFunctionIDM() const { return functionId_; }
     void SetBaseInfoM(int windowIndex, int selfIndex, int functionId);
+    void CountIdChangesM(unsigned* count)
+    {
+        idChanges_.CountInM(count);
+    } // Null: nowhere. The caller keeps it.
     void SetShowConditionM(int condition) { showCondition_ = condition; }
     int GetShowConditionM() const { return showCondition_; }
 
@@ -107,6 +137,7 @@ private:
     int showCondition_ { 0 };
     int legalFlag_ { 0 };
     char descript_[DescriptSize] {};
+    IdChangesCL idChanges_;
 };
 
 // What wParam of message 3044 points to: the pointer in screen coordinates and the control under it.

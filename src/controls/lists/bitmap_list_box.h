@@ -47,7 +47,7 @@ public:
     int DelAllItemM();
 
     // select 0 takes it back, except for a single selection. 0 in modes other than 1, 2 and 3.
-    int SetSelM(int index, int select);
+    int SetSelM(int index, int select = 1);
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
     int GetFirstItemM(int* index, int* data);
     int GetNextItemM(int from, int* index, int* data);
