@@ -1,5 +1,5 @@
 // How much faster the pixel-exact region of a noisy picture is made than run by run, both from its pixels.
-#include "records/region_functions.h"
+#include "pictures/region_functions.h"
 #include "support/plain_region.h"
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 // Feeds broken .bmp files to the reader; run by scripts/fuzz or by hand with the corpus in fuzz/corpus/bmp.
-#include "baselib/bmp_header.h"
-#include "baselib/bmp_reader.h"
 #include "baselib/helpers.h"
+#include "pictures/bmp_header.h"
+#include "pictures/bmp_reader.h"
 #include <cstdint>
 #include <cstdlib>
 

@@ -4,7 +4,7 @@
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "controls/buttons/rotate_btn_record.h"
-#include "controls/buttons/rotation.h"
+#include "pictures/rotation.h"
 #include "records/section.h"
 #include <cstdint>
 #include <cstdlib>

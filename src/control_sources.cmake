@@ -11,9 +11,6 @@ set(PANELKIT_CONTROL_SOURCES
   controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp
-  controls/buttons/group_box.cpp
-  controls/buttons/image_cache.cpp
-  controls/buttons/label.cpp
   controls/buttons/multi_state_button.cpp
   controls/buttons/new_rotate_btn.cpp
   controls/buttons/radio_box.cpp
@@ -21,6 +18,8 @@ set(PANELKIT_CONTROL_SOURCES
   controls/buttons/rotate_btn_draw.cpp
   controls/buttons/standard_button.cpp
   controls/drawing/draw_2d.cpp
+  controls/labels/group_box.cpp
+  controls/labels/label.cpp
   controls/lists/bitmap_list_box.cpp
   controls/lists/combo_box.cpp
   controls/lists/list_box.cpp
@@ -39,12 +38,13 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_values.cpp
-  records/bitmap_record.cpp
-  records/brush_record.cpp
-  records/picture_loader.cpp
-  records/region_functions.cpp
-  records/region_pixels.cpp
-  records/rgn_record.cpp
+  pictures/bitmap_record.cpp
+  pictures/brush_record.cpp
+  pictures/image_cache.cpp
+  pictures/picture_loader.cpp
+  pictures/region_functions.cpp
+  pictures/region_pixels.cpp
+  pictures/rgn_record.cpp
   toolkit/app.cpp
   toolkit/controls.cpp
   toolkit/dc.cpp

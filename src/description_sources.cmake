@@ -1,9 +1,5 @@
 set(PANELKIT_DESCRIPTION_SOURCES
   baselib/base.cpp
-  baselib/bmp_header.cpp
-  baselib/bmp_indices.cpp
-  baselib/bmp_reader.cpp
-  baselib/bmp_rle.cpp
   baselib/char_arr.cpp
   baselib/file.cpp
   baselib/file_text.cpp
@@ -17,20 +13,20 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/number_text.cpp
   baselib/path.cpp
   baselib/string.cpp
-  baselib/tagged_arr.cpp
+  containers/string_arr.cpp
+  containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
   controls/animation/spec_animate_record.cpp
   controls/buttons/bmp_button_record.cpp
   controls/buttons/check_box_record.cpp
-  controls/buttons/group_box_record.cpp
-  controls/buttons/label_record.cpp
   controls/buttons/multi_state_button_record.cpp
   controls/buttons/new_rotate_btn_record.cpp
   controls/buttons/radio_box_record.cpp
   controls/buttons/rotate_btn_record.cpp
-  controls/buttons/rotation.cpp
   controls/buttons/standard_button_record.cpp
   controls/drawing/draw_2d_record.cpp
+  controls/labels/group_box_record.cpp
+  controls/labels/label_record.cpp
   controls/lists/bitmap_list_box_record.cpp
   controls/lists/combo_box_record.cpp
   controls/lists/list_control_record.cpp
@@ -43,14 +39,18 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp
   dialog/relation.cpp
-  records/bmp_record.cpp
+  pictures/bmp_header.cpp
+  pictures/bmp_indices.cpp
+  pictures/bmp_reader.cpp
+  pictures/bmp_record.cpp
+  pictures/bmp_rle.cpp
+  pictures/picture_boundary.cpp
+  pictures/picture_edges.cpp
+  pictures/picture_pixels.cpp
+  pictures/rotation.cpp
   records/common_box_record.cpp
   records/field_counter.cpp
   records/field_reader.cpp
   records/fields.cpp
-  records/picture_boundary.cpp
-  records/picture_edges.cpp
-  records/picture_pixels.cpp
   records/section.cpp
-  records/string_arr.cpp
 )

@@ -2,7 +2,6 @@
 
 // The whole library: the host brings the headers of every kind it builds, the others are for programs that
 // make their own windows, read their own files or shape their own regions.
-#include "baselib/bmp_reader.h"
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
 #include "controls/buttons/new_rotate_btn.h"
@@ -12,5 +11,6 @@
 #include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
 #include "dialog/relation.h"
-#include "records/bmp_record.h"
-#include "records/region_functions.h"
+#include "pictures/bmp_reader.h"
+#include "pictures/bmp_record.h"
+#include "pictures/region_functions.h"

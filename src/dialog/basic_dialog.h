@@ -3,13 +3,13 @@
 #include "controls/animation/spec_animate.h"
 #include "controls/buttons/bmp_button.h"
 #include "controls/buttons/check_box.h"
-#include "controls/buttons/group_box.h"
-#include "controls/buttons/label.h"
 #include "controls/buttons/multi_state_button.h"
 #include "controls/buttons/radio_box.h"
 #include "controls/buttons/rotate_btn.h"
 #include "controls/buttons/standard_button.h"
 #include "controls/drawing/draw_2d.h"
+#include "controls/labels/group_box.h"
+#include "controls/labels/label.h"
 #include "controls/lists/bitmap_list_box.h"
 #include "controls/lists/combo_box.h"
 #include "controls/lists/list_control.h"
@@ -21,7 +21,7 @@
 #include "dialog/control_index.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
-#include "records/bitmap_record.h"
+#include "pictures/bitmap_record.h"
 
 // The dialog host: owns the records and controls of every kind and builds them from a description file.
 // Applications derive from it. Null where a pointer is wanted is refused: nothing happens, the result is 0.

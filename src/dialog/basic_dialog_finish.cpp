@@ -1,7 +1,7 @@
 // The passes over all controls once they exist: stacking order and font.
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
-#include "baselib/int2d_arr.h"
+#include "containers/int2d_arr.h"
 #include "dialog/basic_dialog.h"
 #include "dialog/with_control.h"
 #include <algorithm>

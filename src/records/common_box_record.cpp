@@ -1,5 +1,5 @@
 #include "records/common_box_record.h"
-#include "baselib/int2d_arr.h"
+#include "containers/int2d_arr.h"
 #include "records/field_reader.h"
 #include <algorithm>
 

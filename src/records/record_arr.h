@@ -1,5 +1,5 @@
 #pragma once
-#include "records/arr.h"
+#include "containers/arr.h"
 #include "records/record.h"
 #include <array>
 

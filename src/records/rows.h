@@ -1,7 +1,7 @@
 #pragma once
 #include "baselib/char_arr.h"
+#include "containers/own_list.h"
 #include "records/fields.h"
-#include "records/own_list.h"
 
 // The values of one entry of a secondary section, wherever they are kept.
 struct RowCL

@@ -1,13 +1,13 @@
 // Null where a pointer is wanted: refused, nothing read, written or moved.
-#include "baselib/bmp_reader.h"
 #include "baselib/gbk.h"
 #include "baselib/helpers.h"
-#include "baselib/int3d_arr.h"
-#include "baselib/int_arr.h"
 #include "baselib/io.h"
 #include "baselib/number_text.h"
 #include "baselib/path.h"
 #include "baselib/string.h"
+#include "containers/int3d_arr.h"
+#include "containers/int_arr.h"
+#include "pictures/bmp_reader.h"
 #include "support/temp_file.h"
 #include <gtest/gtest.h>
 

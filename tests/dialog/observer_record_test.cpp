@@ -1,5 +1,5 @@
 // What the observer of a reader is told.
-#include "controls/buttons/label_record.h"
+#include "controls/labels/label_record.h"
 #include "controls/lists/text_list_box_record.h"
 #include "controls/text/single_edit_record.h"
 #include "dialog/dialog_header.h"

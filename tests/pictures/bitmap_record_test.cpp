@@ -1,7 +1,7 @@
 #include "baselib/io.h"
-#include "records/bitmap_record.h"
-#include "records/brush_record.h"
-#include "records/region_functions.h"
+#include "pictures/bitmap_record.h"
+#include "pictures/brush_record.h"
+#include "pictures/region_functions.h"
 #include "support/platform_pictures.h"
 
 namespace {

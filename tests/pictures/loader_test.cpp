@@ -1,7 +1,7 @@
-#include "baselib/bmp_reader.h"
 #include "baselib/helpers.h"
-#include "records/bitmap_record.h"
-#include "records/region_functions.h"
+#include "pictures/bitmap_record.h"
+#include "pictures/bmp_reader.h"
+#include "pictures/region_functions.h"
 #include "support/platform_pictures.h"
 #include <cstring>
 

@@ -1,7 +1,7 @@
 // Null where pictures and regions want a pointer: refused, what there is stays.
-#include "records/bitmap_record.h"
-#include "records/region_functions.h"
-#include "records/rgn_record.h"
+#include "pictures/bitmap_record.h"
+#include "pictures/region_functions.h"
+#include "pictures/rgn_record.h"
 #include "support/bmp_file.h"
 #include "support/temp_file.h"
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "baselib/bmp_reader.h"
-#include "records/region_functions.h"
-#include "records/rgn_record.h"
+#include "pictures/bmp_reader.h"
+#include "pictures/region_functions.h"
+#include "pictures/rgn_record.h"
 #include "support/plain_region.h"
 #include "support/platform_pictures.h"
 

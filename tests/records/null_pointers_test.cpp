@@ -1,11 +1,11 @@
 // Null where a pointer is wanted: refused, nothing read or changed.
-#include "arr_elements.h"
-#include "records/bmp_record.h"
+#include "containers/arr_elements.h"
+#include "pictures/bmp_record.h"
+#include "pictures/picture_boundary.h"
+#include "pictures/picture_edges.h"
+#include "pictures/picture_pixels.h"
 #include "records/common_box_record.h"
 #include "records/field_reader.h"
-#include "records/picture_boundary.h"
-#include "records/picture_edges.h"
-#include "records/picture_pixels.h"
 #include "support/temp_file.h"
 #include <array>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "baselib/gbk_texts.h"
-#include "controls/buttons/label_record.h"
+#include "controls/labels/label_record.h"
 #include "records/section.h"
 #include "support/description.h"
 #include <gtest/gtest.h>

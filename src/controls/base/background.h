@@ -1,5 +1,5 @@
 #pragma once
-#include "records/brush_record.h"
+#include "pictures/brush_record.h"
 #include "toolkit/toolkit.h"
 
 // The solid background colour of a control with the brush that paints it. Copying copies the colour only.

@@ -1,8 +1,8 @@
 // What a common record does with a live control and with regions.
-#include "baselib/int2d_arr.h"
+#include "containers/int2d_arr.h"
 #include "controls/base/control_common.h"
+#include "pictures/rgn_record.h"
 #include "records/common_box_record.h"
-#include "records/rgn_record.h"
 
 int DVrCommonBoxCL::InitCommonCtrlM(DControlCommonCL* control) const
 {

@@ -1,5 +1,5 @@
 #pragma once
-#include "records/arr.h"
+#include "containers/arr.h"
 #include "toolkit/toolkit.h"
 
 // What the runtime array of every kind does. Controls are created in place: once a window exists, the array

@@ -1,5 +1,5 @@
 #pragma once
-#include "baselib/int3d_arr.h"
+#include "containers/int3d_arr.h"
 #include "toolkit/toolkit.h"
 
 // Where changes of a control's id are counted, for who keeps controls by id. It stays with its control: a

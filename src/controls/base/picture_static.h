@@ -1,7 +1,7 @@
 #pragma once
 #include "controls/base/control.h"
-#include "records/bitmap_record.h"
-#include "records/rgn_record.h"
+#include "pictures/bitmap_record.h"
+#include "pictures/rgn_record.h"
 
 // A picture as member of a control. Assigning drops the one held before: nobody else would delete it.
 class PANELKIT_API OwnPictureCL : public DVrBitmapCL

@@ -1,6 +1,6 @@
 #include "controls/buttons/bmp_button.h"
 #include "controls/buttons/bmp_button_record.h"
-#include "controls/buttons/hit_region.h"
+#include "pictures/hit_region.h"
 
 template class PANELKIT_API Arr<DuBmpButtonCL>;
 

@@ -1,6 +1,6 @@
 #include "controls/buttons/multi_state_button.h"
-#include "controls/buttons/hit_region.h"
 #include "controls/buttons/multi_state_button_record.h"
+#include "pictures/hit_region.h"
 #include <cstring>
 
 template class PANELKIT_API Arr<DuMultiStateButtonCL>;

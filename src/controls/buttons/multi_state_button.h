@@ -1,5 +1,5 @@
 #pragma once
-#include "baselib/int_arr.h"
+#include "containers/int_arr.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/picture_static.h"
 

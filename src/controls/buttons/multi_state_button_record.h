@@ -1,7 +1,7 @@
 #pragma once
 #include "baselib/gbk_texts.h"
-#include "baselib/int_arr.h"
-#include "records/own_list.h"
+#include "containers/int_arr.h"
+#include "containers/own_list.h"
 #include "records/record_arr.h"
 
 class DuMultiStateButtonCL;

@@ -1,8 +1,8 @@
 #pragma once
 #include "baselib/char_arr.h"
 #include "baselib/gbk_texts.h"
+#include "containers/string_arr.h"
 #include "records/record_arr.h"
-#include "records/string_arr.h"
 #include <vector>
 
 class DuNewRotateBtnCL;

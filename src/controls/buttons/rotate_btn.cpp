@@ -1,6 +1,6 @@
 #include "controls/buttons/rotate_btn.h"
-#include "controls/buttons/hit_region.h"
 #include "controls/buttons/rotate_btn_record.h"
+#include "pictures/hit_region.h"
 
 template class PANELKIT_API Arr<DuRotateBtnCL>;
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "controls/base/control_arr.h"
 #include "controls/base/picture_static.h"
-#include "controls/buttons/image_cache.h"
+#include "pictures/image_cache.h"
 #include <vector>
 
 // A knob: a picture turned to the current angle over a background. A left or right click inside its hit

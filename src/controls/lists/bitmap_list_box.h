@@ -1,7 +1,7 @@
 #pragma once
 #include "controls/base/control_arr.h"
 #include "controls/lists/list_box.h"
-#include "records/bitmap_record.h"
+#include "pictures/bitmap_record.h"
 
 // The pictures of a list box's lines. They go with the window: a copy of the control starts without.
 class PANELKIT_API LinePicturesCL : public DVrBitmapArr

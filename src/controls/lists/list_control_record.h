@@ -1,6 +1,6 @@
 #pragma once
 #include "baselib/gbk_texts.h"
-#include "baselib/int2d_arr.h"
+#include "containers/int2d_arr.h"
 #include "controls/lists/record_lists.h"
 #include "records/record_arr.h"
 

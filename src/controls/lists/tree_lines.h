@@ -1,5 +1,5 @@
 #pragma once
-#include "baselib/int3d_arr.h"
+#include "containers/int3d_arr.h"
 #include "controls/lists/record_lists.h"
 #include <functional>
 

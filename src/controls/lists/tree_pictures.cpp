@@ -1,5 +1,5 @@
 #include "controls/lists/tree_pictures.h"
-#include "records/bitmap_record.h"
+#include "pictures/bitmap_record.h"
 #include <algorithm>
 
 namespace {

@@ -1,7 +1,7 @@
 #include "controls/base/control_common.h"
-#include "controls/buttons/label.h"
+#include "controls/labels/label.h"
+#include "pictures/rgn_record.h"
 #include "records/common_box_record.h"
-#include "records/rgn_record.h"
 #include "support/test_dialog.h"
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,0 +1,128 @@
+#pragma once
+#include "baselib/base.h"
+
+class IntArr;
+class VrIOCL;
+
+// The one container of the library: a growable array of elements with a VrBaseCL part. Four elements are
+// stored inside the object, more in a heap block. Deleting only marks an element by its tag, so indices stay
+// valid until a purge; iteration passes over whatever is not alive.
+//
+// Elements are moved by their bytes: none may hold a pointer into itself. An index is a slot number from 0;
+// the result is 1 unless said otherwise. A null pointer is refused unless said otherwise: nothing happens and
+// the result is 0, or null, or -1 where an index is reported.
+// When there is no memory, or a store would reach 2 GB, what needed it changes nothing and reports 0 (-1
+// where an index is reported).
+//
+// The slots at or above the bound are outside the array but keep whatever they held, tags included; storing
+// over one that is still alive doesn't count as one more available item.
+//
+// Instantiations are exported one by one: `extern template class PANELKIT_API Arr<X>;` behind class X, and
+// `template class PANELKIT_API Arr<X>;` in its .cpp.
+template <class T> class Arr
+{
+public:
+    Arr();
+    explicit Arr(int n); // A store of n slots, at least four.
+
+    // Shares other's heap block, which lives until the last of its owners lets go: elements changed through
+    // one array are seen by the other, until either needs another block. Assign for an independent copy.
+    Arr(const Arr& other);
+
+    // An independent copy. Of a heap store it has four slots more than its source.
+    Arr& operator=(const Arr& other);
+
+    // A list as FmOutputEvrLstM wrote it replaces the items. A count of 0 or less, or one beyond the bytes
+    // left, leaves them; one there is no memory for only deletes them. Elements with an index outside the
+    // list are read and dropped.
+    virtual void FmInputEvrLstM(VrIOCL* io);
+    // Writes every slot below the bound, alive or deleted. The name (GBK, may be null) only labels the text
+    // form.
+    virtual void FmOutputEvrLstM(VrIOCL* io, const char* name) const;
+    virtual ~Arr();
+
+    int InitialSizeM(int n); // At least n slots.
+    int SetIncrementM(
+        int n);          // Slots that InsertItemM and AddItemM(int, int*) add at a time; n < 1: unchanged.
+    int AddSizeM(int n); // n slots more; n < 1: none.
+    int GetLengthM() const;
+    int GetBoundM() const;
+    int GetAvailableNumM() const;
+    int GetAvailableNumM(int i);      // Alive slots behind slot i.
+    int CheckAvailableM(int i) const; // 1 for an alive slot of the array, otherwise 0.
+
+    // Stores a copy at i, growing as needed; i < 0: nothing happens. An alive item counts where none alive
+    // stood; a deleted one stored over an alive one doesn't uncount it.
+    int SetItemM(const T& item, int i);
+    int AddItemM(const T& item); // Stores at the bound; the index used.
+    // Revives slot i if it is deleted, otherwise appends its copy. The index of that one, also in newIndex
+    // (may be null); -1 for an i outside the store.
+    int AddItemM(int i, int* newIndex);
+    int InsertItemM(const T& item, int i); // Moves i and what follows up by one; 0 for i < 0.
+    // Appends a slot for each alive item of other and leaves its filling to the element's SetByMergeM. Where
+    // that does nothing the slot keeps what it held, yet counts as available.
+    int MergeM(const Arr& other);
+
+    int DelItemM(int i);     // Outside the array: nothing. Only the last slot lowers the bound.
+    int DelAllVirtualM();    // Deletes every item; the store and the increment stay.
+    int DelAllM();           // Also drops the heap store; the increment becomes 10 again.
+    int PurgeDeletedItemM(); // Closes the gaps; the store stays as it is.
+    // Closes the gaps. remap (may be null) gets for each old index the new one, 0x80000001 for an item that
+    // was not alive. A heap store whose items now fit inside the object is released, its elements not
+    // destroyed: they were moved.
+    int PurgeAllM(IntArr* remap);
+    int SwapM(int i, int j); // 0 when either is outside the array.
+
+    int GetItemM(T* out, int i) const; // Outside the array: out is marked deleted.
+    const T* GetItemPM(int i) const;   // Alive or not; null outside the array. The array keeps it.
+    T* ElementAtPM(int i);
+    // A slot of the store. Outside it: a deleted element that belongs to no array.
+    T& ElementAtM(int i);
+    T& operator[](int i);
+
+    // The first alive slot behind `from` in index order; its index is in *idx too, -1 when there is none (out
+    // is then unchanged, a pointer null).
+    int GetNextM(T* out, int* idx, int from) const;
+    int GetFirstM(T* out, int* idx) const;
+    const T* GetNextPM(int* idx, int from) const;
+    const T* GetFirstPM(int* idx) const;
+    const T* GetLastPM(int* idx) const; // The last alive slot.
+    int GetNextIdxM(int from) const;
+    int GetFirstIdxM() const;
+
+protected:
+    T* getCurrentItemPrtM(); // The store in use.
+    const T* getCurrentItemPrtM() const;
+    // For lists that fill slots of the store themselves: both at most the length.
+    void setCountsM(int bound, int available)
+    {
+        bound_ = bound;
+        available_ = available;
+    }
+
+private:
+    static constexpr int InlineLength = 4;
+    static constexpr int DefaultIncrement = 10;
+    static constexpr int LabelSize = 260; // What the texts around a list's elements need.
+
+    static void constructM(T* slots, int n);
+    static void letGoM(T* slots, int n);
+    static T& spareM();
+    int slotOfM(const T* item) const;
+    void dropHeapStoreM();
+    void returnToInlineM();
+    void inputElementsM(VrIOCL* io, int n);
+    static void outputLabelledM(VrIOCL* io, int number, const char* label);
+
+    T* heapStore_ { nullptr }; // Null while the inline store is in use.
+    T inlineStore_[InlineLength];
+    int length_ { InlineLength }; // Slots of the store in use; InlineLength means the inline store.
+    int bound_ { 0 };             // One past the highest slot in use.
+    int available_ { 0 };         // Alive items.
+    int increment_ { DefaultIncrement };
+};
+
+#include "containers/arr_delete.h"
+#include "containers/arr_impl.h"
+#include "containers/arr_read.h"
+#include "containers/arr_stream.h"

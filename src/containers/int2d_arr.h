@@ -1,0 +1,15 @@
+#pragma once
+#include "containers/tagged_arr.h"
+
+// A list of int pairs with alive and deleted slots; see TaggedArr for what is shared and copied.
+class PANELKIT_API Int2DArr : public TaggedArr<2>
+{
+public:
+    int SetItemM(const int pair[2], int index) { return TaggedArr::SetItemM(pair, index); }
+    int AddItemM(const int pair[2]) { return TaggedArr::AddItemM(pair); }
+    int InsertItemM(const int pair[2], int index) { return TaggedArr::InsertItemM(pair, index); }
+
+    // The pair of a slot below the bound; unchecked.
+    const int* operator[](int index) const { return GetItemPM(index); }
+    int* operator[](int index) { return ElementAtPM(index); }
+};

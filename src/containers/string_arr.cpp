@@ -1,0 +1,3 @@
+#include "containers/string_arr.h"
+
+template class PANELKIT_API Arr<VrStringCL>;

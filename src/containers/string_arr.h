@@ -1,0 +1,12 @@
+#pragma once
+#include "baselib/string.h"
+#include "containers/arr.h"
+
+extern template class PANELKIT_API Arr<VrStringCL>;
+
+// A list of texts. Merged slots take the texts of the other list.
+class PANELKIT_API VrStringArr : public Arr<VrStringCL>
+{
+public:
+    using Arr<VrStringCL>::Arr;
+};

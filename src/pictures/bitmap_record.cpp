@@ -1,0 +1,293 @@
+#include "pictures/bitmap_record.h"
+#include "baselib/path.h"
+#include "pictures/region_functions.h"
+#include <algorithm>
+#include <string>
+
+template class PANELKIT_API Arr<DVrBitmapCL>;
+
+namespace {
+
+constexpr COLORREF Blue = 0xFF0000;
+
+// A memory context with a bitmap selected for as long as this lives.
+class BitmapContext
+{
+public:
+    BitmapContext(CDC* like, CBitmap* bitmap)
+    {
+        if (like != nullptr && context_.CreateCompatibleDC(like)) {
+            previous_ = ::SelectObject(context_.m_hDC, bitmap->m_hObject);
+        }
+    }
+    BitmapContext(const BitmapContext&) = delete;
+    BitmapContext& operator=(const BitmapContext&) = delete;
+    ~BitmapContext()
+    {
+        if (isSelected()) {
+            ::SelectObject(context_.m_hDC, previous_);
+        }
+    }
+
+    bool isSelected() const { return previous_ != nullptr; }
+    CDC* get() { return &context_; }
+
+private:
+    CDC context_;
+    HGDIOBJ previous_ { nullptr };
+};
+
+std::string completeName(const char* file)
+{
+    char extension[PathSize] {};
+    slGetFileExtension(file, extension);
+    const std::string name = file != nullptr ? file : "";
+    return extension[0] == '\0' ? name + ".bmp" : name;
+}
+
+BITMAP measure(const CBitmap& bitmap)
+{
+    BITMAP measures {};
+    ::GetObjectW(bitmap.m_hObject, sizeof(measures), &measures);
+    return measures;
+}
+
+} // namespace
+
+void DVrBitmapCL::SharedCL::OwnM(HGDIOBJ bitmap)
+{
+    ForgetM();
+    if (bitmap != nullptr) {
+        Attach(bitmap);
+        deleted_ = std::make_shared<bool>(false);
+    }
+}
+
+void DVrBitmapCL::SharedCL::ShareM(const SharedCL& other)
+{
+    ForgetM();
+    if (other.IsAliveM()) {
+        Attach(other.m_hObject);
+        deleted_ = other.deleted_;
+    }
+}
+
+void DVrBitmapCL::SharedCL::ForgetM()
+{
+    Detach();
+    deleted_.reset();
+}
+
+void DVrBitmapCL::SharedCL::DeleteM()
+{
+    if (IsAliveM()) {
+        DeleteObject();
+        *deleted_ = true;
+    }
+    ForgetM();
+}
+
+DVrBitmapCL::DVrBitmapCL(const DVrBitmapCL& other)
+    : VrBaseCL(other)
+{
+    bitmap_.ShareM(other.bitmap_);
+    SetExtraM(other.extra_[0], other.extra_[1]);
+}
+
+DVrBitmapCL& DVrBitmapCL::operator=(const DVrBitmapCL& other)
+{
+    if (this != &other) {
+        VrBaseCL::operator=(other);
+        bitmap_.ShareM(other.bitmap_);
+        SetExtraM(other.extra_[0], other.extra_[1]);
+    }
+    return *this;
+}
+
+DVrBitmapCL::~DVrBitmapCL()
+{
+    bitmap_.DeleteM();
+}
+
+bool DVrBitmapCL::HoldsBitmapM() const
+{
+    return bitmap_.IsAliveM();
+}
+
+CBitmap* DVrBitmapCL::GetBitmapM()
+{
+    if (!HoldsBitmapM()) {
+        bitmap_.ForgetM();
+        return nullptr;
+    }
+    return &bitmap_;
+}
+
+void DVrBitmapCL::LoadBitmapM(const char* file)
+{
+    bitmap_.DeleteM();
+    CBitmap loaded;
+    slLoadPicture(&loaded, file);
+    bitmap_.OwnM(loaded.Detach());
+}
+
+int DVrBitmapCL::LoadSafeBitmapM(const char* file)
+{
+    LoadBitmapM(file);
+    return HoldsBitmapM() ? 1 : 0;
+}
+
+int DVrBitmapCL::MoveBitmapM(CBitmap* source)
+{
+    if (source == nullptr || source == &bitmap_) {
+        return 0;
+    }
+    if (auto* const shared = dynamic_cast<SharedCL*>(source)) {
+        bitmap_.ShareM(*shared);
+        shared->ForgetM();
+    } else {
+        bitmap_.OwnM(source->Detach());
+    }
+    return 1;
+}
+
+void DVrBitmapCL::DelItemM()
+{
+    bitmap_.DeleteM();
+    VrBaseCL::DelItemM();
+}
+
+void DVrBitmapCL::DropM()
+{
+    if (!bitmap_.IsSharedM()) {
+        bitmap_.DeleteM();
+    }
+    bitmap_.ForgetM();
+}
+
+void DVrBitmapCL::SetExtraM(int first, int second)
+{
+    extra_[0] = first;
+    extra_[1] = second;
+}
+
+int DVrBitmapCL::GetWidthM() const
+{
+    return HoldsBitmapM() ? static_cast<int>(measure(bitmap_).bmWidth) : 0;
+}
+
+int DVrBitmapCL::GetHeightM() const
+{
+    return HoldsBitmapM() ? static_cast<int>(measure(bitmap_).bmHeight) : 0;
+}
+
+int DVrBitmapCL::DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2])
+{
+    if (!HoldsBitmapM() || dc == nullptr) {
+        return 0;
+    }
+    BitmapContext source(dc, &bitmap_);
+    if (!source.isSelected()) {
+        return 0;
+    }
+    const int w = GetWidthM();
+    const int h = GetHeightM();
+    if (size != nullptr && ((*size)[0] < w || (*size)[1] < h)) {
+        dc->StretchBlt(x, y, (*size)[0], (*size)[1], source.get(), x, y, w, h, SRCCOPY);
+    } else {
+        dc->BitBlt(x, y, w, h, source.get(), 0, 0, SRCCOPY);
+    }
+    return 1;
+}
+
+int DVrBitmapCL::DrawStretchBitmapM(CDC* dc, int x, int y, int w, int h)
+{
+    if (!HoldsBitmapM() || dc == nullptr) {
+        return 0;
+    }
+    BitmapContext source(dc, &bitmap_);
+    if (!source.isSelected()) {
+        return 0;
+    }
+    dc->StretchBlt(x, y, w, h, source.get(), 0, 0, GetWidthM(), GetHeightM(), SRCCOPY);
+    return 1;
+}
+
+int DVrBitmapCL::BlendBitmapM(CDC* dc)
+{
+    if (!HoldsBitmapM() || dc == nullptr) {
+        return 0;
+    }
+    const int saved = dc->SaveDC();
+    int result = 0;
+    {
+        BitmapContext target(dc, &bitmap_);
+        if (target.isSelected()) {
+            // x runs over the height and y over the width; what lies outside the bitmap has no pixel.
+            const int shorter = std::min(GetWidthM(), GetHeightM());
+            for (int x = 0; x < shorter; ++x) {
+                for (int y = 0; y < shorter; ++y) {
+                    target.get()->SetPixelV(x, y, Blue);
+                }
+            }
+            result = 1;
+        }
+    }
+    dc->RestoreDC(saved);
+    return result;
+}
+
+int DVrBitmapArr::AddBitmapM(const char* file)
+{
+    const int index = AddItemM(DVrBitmapCL(AliveTag));
+    DVrBitmapCL* const record = ElementAtPM(index);
+    if (record == nullptr) {
+        return -1;
+    }
+    if (record->LoadSafeBitmapM(file) == 0) {
+        DelItemM(index);
+        return -1;
+    }
+    return index;
+}
+
+int DVrBitmapArr::SetBitmapM(int index, const char* file)
+{
+    if (DVrBitmapCL* const old = ElementAtPM(index)) {
+        old->DropM(); // Assigning would only let it go.
+    }
+    const int stored = SetItemM(DVrBitmapCL(AliveTag), index);
+    DVrBitmapCL* const record = ElementAtPM(index);
+    return stored == 1 && record != nullptr ? record->LoadSafeBitmapM(completeName(file).c_str()) : 0;
+}
+
+int DVrBitmapArr::InsertBitmapM(int index, const char* file)
+{
+    const int inserted = InsertItemM(DVrBitmapCL(AliveTag), index);
+    DVrBitmapCL* const record = ElementAtPM(index);
+    if (inserted != 1 || record == nullptr) {
+        return inserted == 1 ? 0 : inserted;
+    }
+    if (record->LoadSafeBitmapM(completeName(file).c_str()) == 0) {
+        DelItemM(index);
+        return 0;
+    }
+    return inserted;
+}
+
+int DVrBitmapArr::DrawBitmapM(int index, CDC* dc, int x, int y, const int (*size)[2])
+{
+    DVrBitmapCL& record = ElementAtM(index);
+    return record.IsAliveM() && record.HoldsBitmapM() ? record.DrawBitmapM(dc, x, y, size) : 0;
+}
+
+int DVrBitmapArr::GetBmpSizeM(int index, int* size) const
+{
+    if (CheckAvailableM(index) == 0 || size == nullptr) {
+        return 0;
+    }
+    const DVrBitmapCL* const record = GetItemPM(index);
+    size[0] = record->GetWidthM();
+    size[1] = record->GetHeightM();
+    return 1;
+}

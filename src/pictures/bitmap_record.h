@@ -1,0 +1,86 @@
+#pragma once
+#include "containers/arr.h"
+#include "toolkit/toolkit.h"
+#include <memory>
+
+// A loaded picture. Assigned records share one GDI bitmap: the one that is destroyed, reloaded or deleted
+// first deletes it. The others then hold no bitmap: they draw nothing and report 0. Files are .bmp files by
+// GBK path, loaded as device-independent sections.
+class PANELKIT_API DVrBitmapCL : public VrBaseCL
+{
+public:
+    DVrBitmapCL() = default;
+    explicit DVrBitmapCL(char tag)
+        : VrBaseCL(tag)
+    {
+    }
+    DVrBitmapCL(const DVrBitmapCL& other); // Shares, as assignment does.
+    // Takes over the tag and the two numbers and shares the other's bitmap. Its own is let go, not deleted.
+    DVrBitmapCL& operator=(const DVrBitmapCL& other);
+    ~DVrBitmapCL() override;
+
+    void LoadBitmapM(const char* file);    // Deletes the bitmap first; stays empty when loading fails.
+    int LoadSafeBitmapM(const char* file); // The same; 1 when loaded, otherwise 0.
+    // Takes over the source's bitmap and leaves the source empty; its own is let go, not deleted. A source
+    // that is another record's (GetBitmapM) hands over its part in a shared bitmap. 1, or 0 when there is no
+    // source.
+    int MoveBitmapM(CBitmap* source);
+    void DelItemM(); // Deletes the bitmap and marks the record deleted.
+    void DropM();    // Lets the bitmap go; deletes it unless another record shares it.
+
+    bool HoldsBitmapM() const;
+    CBitmap* GetBitmapM(); // Null when there is none; the record keeps it.
+    int GetWidthM() const; // 0 without a bitmap.
+    int GetHeightM() const;
+
+    // Draws with the top left at x, y of dc: at its own size, or, where size (may be null) is smaller in
+    // either direction, scaled to it, then taking the source from x, y of the bitmap on. 1, or 0 when nothing
+    // is drawn.
+    int DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2]);
+    int DrawStretchBitmapM(CDC* dc, int x, int y, int w, int h); // Scaled to that rectangle; 1 or 0.
+    // Paints the bitmap itself blue, as far as exchanged width and height reach: the square of the shorter
+    // side. dc: a context like the one it is for. 1, or 0 when nothing is painted.
+    int BlendBitmapM(CDC* dc);
+
+    // Two numbers that go along with the picture, copied by assignment.
+    const int* GetExtraM() const { return extra_; }
+    void SetExtraM(int first, int second);
+
+private:
+    // A handle and whether it is deleted, known to all that share it: the system may give a deleted handle's
+    // value to another object.
+    class PANELKIT_API SharedCL : public CBitmap
+    {
+    public:
+        bool IsAliveM() const { return deleted_ != nullptr && !*deleted_ && m_hObject != nullptr; }
+        bool IsSharedM() const { return deleted_.use_count() > 1; }
+        void OwnM(HGDIOBJ bitmap); // As its first holder; null: none.
+        void ShareM(const SharedCL& other);
+        void ForgetM();
+        void DeleteM();
+
+    private:
+        std::shared_ptr<bool> deleted_;
+    };
+
+    SharedCL bitmap_;
+    int extra_[2] { 0, 0 };
+};
+
+extern template class PANELKIT_API Arr<DVrBitmapCL>;
+
+class PANELKIT_API DVrBitmapArr : public Arr<DVrBitmapCL>
+{
+public:
+    // Appends the picture of a file, the name as given. Its slot; -1 when loading fails.
+    int AddBitmapM(const char* file);
+    // Loads into a new record at index, whose old bitmap is dropped, or inserts one there. A name without
+    // extension gets ".bmp". 1, or 0 when loading fails: SetBitmapM leaves an empty record there,
+    // InsertBitmapM a deleted one.
+    int SetBitmapM(int index, const char* file);
+    int InsertBitmapM(int index, const char* file);
+
+    // As the record's DrawBitmapM; 0 for a slot that isn't alive or holds no bitmap.
+    int DrawBitmapM(int index, CDC* dc, int x, int y, const int (*size)[2]);
+    int GetBmpSizeM(int index, int* size) const; // size[2]: width, height. 0 for a slot that isn't alive.
+};

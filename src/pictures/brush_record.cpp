@@ -1,0 +1,4 @@
+#include "pictures/brush_record.h"
+
+DVrBrushCL::DVrBrushCL() = default;
+DVrBrushCL::~DVrBrushCL() = default;

@@ -1,0 +1,121 @@
+#include "pictures/picture_loader.h"
+#include "baselib/file.h"
+#include "baselib/gbk.h"
+#include "baselib/helpers.h"
+#include "pictures/bmp_indices.h"
+#include "pictures/bmp_reader.h"
+#include <vector>
+
+namespace {
+
+// The headers of a section, with room for masks or colours behind them.
+struct SectionInfo
+{
+    BITMAPINFOHEADER header;
+    DWORD colours[256];
+};
+
+SectionInfo infoOf(const BmpHeader& header)
+{
+    SectionInfo info {};
+    info.header.biSize = sizeof info.header;
+    info.header.biWidth = header.width;
+    info.header.biHeight = header.height;
+    info.header.biPlanes = 1;
+    info.header.biBitCount = static_cast<WORD>(header.bits);
+    info.header.biCompression = BI_RGB;
+    if (header.bits == 16 && header.fields[1].length == 6) {
+        // The only other masks that every platform has for sections of 16 bits.
+        info.header.biCompression = BI_BITFIELDS;
+        info.colours[0] = 0xF800;
+        info.colours[1] = 0x07E0;
+        info.colours[2] = 0x001F;
+    } else if (header.bits <= 8) {
+        for (int i = 0; i < 256; ++i) {
+            const BmpColour& colour = header.palette[i];
+            info.colours[i] = static_cast<DWORD>(colour.red << 16 | colour.green << 8 | colour.blue);
+        }
+    }
+    return info;
+}
+
+HBITMAP makeSection(const SectionInfo& info, unsigned char** bits)
+{
+    void* room = nullptr;
+    const HBITMAP bitmap = ::CreateDIBSection(
+        nullptr, reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS, &room, nullptr, 0);
+    *bits = static_cast<unsigned char*>(room);
+    return bitmap;
+}
+
+HBITMAP makeIndexed(const BmpBytes& file, const BmpHeader& header)
+{
+    std::vector<unsigned char> indices;
+    unsigned char* to = nullptr;
+    const HBITMAP bitmap
+        = slDecodeBmpIndices(file, header, &indices) ? makeSection(infoOf(header), &to) : nullptr;
+    if (bitmap == nullptr) {
+        return nullptr;
+    }
+    const std::size_t width = static_cast<std::size_t>(header.width);
+    const std::size_t bits = static_cast<std::size_t>(header.bits);
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        const std::size_t x = i % width;
+        unsigned char& byte = to[i / width * header.stride() + x * bits / 8];
+        byte = static_cast<unsigned char>(byte | indices[i] << (8 - bits - x * bits % 8));
+    }
+    return bitmap;
+}
+
+HBITMAP makeColoured(const BmpBytes& file, const BmpHeader& header)
+{
+    int w = 0;
+    int h = 0;
+    unsigned char* pixels = nullptr;
+    if (slDecodeBmp(file.data, file.size, &w, &h, &pixels) == 0) {
+        return nullptr;
+    }
+    const std::size_t width = static_cast<std::size_t>(w);
+    const std::size_t stride = (width * 3 + 3) / 4 * 4;
+    std::vector<unsigned char> rows(stride * static_cast<std::size_t>(h));
+    for (std::size_t i = 0; i < width * static_cast<std::size_t>(h); ++i) {
+        unsigned char* const to = &rows[i / width * stride + i % width * 3];
+        to[0] = pixels[i * 3 + 2];
+        to[1] = pixels[i * 3 + 1];
+        to[2] = pixels[i * 3];
+    }
+    slFree(pixels);
+    SectionInfo info = infoOf(header);
+    unsigned char* bits = nullptr;
+    const HBITMAP bitmap = makeSection(info, &bits);
+    if (bitmap != nullptr) {
+        info.header.biBitCount = 24;
+        info.header.biCompression = BI_RGB;
+        const HDC dc = ::CreateCompatibleDC(nullptr);
+        ::SetDIBits(dc, bitmap, 0, static_cast<UINT>(h), rows.data(),
+            reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS);
+        ::DeleteDC(dc);
+    }
+    return bitmap;
+}
+
+} // namespace
+
+HBITMAP slMakeBitmap(const char* file)
+{
+    std::size_t size = 0;
+    const std::unique_ptr<char[]> read = file != nullptr ? slReadFile(file, &size) : nullptr;
+    const BmpBytes bytes { reinterpret_cast<const unsigned char*>(read.get()), size };
+    if (slCanPlatformLoadBmp(bytes)) {
+        const HANDLE loaded = ::LoadImageW(nullptr, slGbkToWide(file).c_str(), IMAGE_BITMAP, 0, 0,
+            LR_LOADFROMFILE | LR_CREATEDIBSECTION | LR_DEFAULTSIZE);
+        if (loaded != nullptr) {
+            return static_cast<HBITMAP>(loaded);
+        }
+    }
+    BmpHeader header;
+    if (!slReadBmpHeader(bytes, &header)) {
+        return nullptr;
+    }
+    return header.bits <= 8 ? makeIndexed(bytes, header) : makeColoured(bytes, header);
+}

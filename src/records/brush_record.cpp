@@ -1,4 +1,0 @@
-#include "records/brush_record.h"
-
-DVrBrushCL::DVrBrushCL() = default;
-DVrBrushCL::~DVrBrushCL() = default;

@@ -1,3 +1,0 @@
-#include "records/string_arr.h"
-
-template class PANELKIT_API Arr<VrStringCL>;
