@@ -5,14 +5,14 @@ export CCACHE_BASEDIR="$root"
 wine64=/usr/lib/wine/wine64
 wineserver=/usr/lib/wine/wineserver
 
-# What building and showing need, and what the tests need besides.
+# What building and showing need, and what the tests need besides; the native command needs g++.
 packages=(
-  cmake ninja-build g++ g++-mingw-w64-x86-64-posix libcli11-dev nlohmann-json3-dev
+  cmake ninja-build g++-mingw-w64-x86-64-posix libcli11-dev nlohmann-json3-dev
   wine wine64 fonts-wine xvfb fonts-wqy-zenhei
   # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
   libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
-test_packages=(googletest clang-format ccache)
+test_packages=(g++ googletest clang-format ccache)
 
 say() { echo "$*" >&2; }
 
