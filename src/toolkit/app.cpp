@@ -176,7 +176,7 @@ void AfxSetResourceHandle(HINSTANCE module)
 int AfxMessageBox(LPCSTR text, UINT type, UINT)
 {
     return ::MessageBoxW(
-        messageBoxOwnerM(), GbkToWide(text).c_str(), GbkToWide(AfxGetAppName()).c_str(), type);
+        messageBoxOwnerM(), slGbkToShown(text).c_str(), slGbkToShown(AfxGetAppName()).c_str(), type);
 }
 
 int AfxMessageBox(UINT textId, UINT type, UINT helpId)
@@ -200,7 +200,7 @@ LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON 
     static thread_local char name[96];
     std::snprintf(name, sizeof name, "AfxWnd:%x:%p:%p:%p", style, static_cast<void*>(cursor),
         static_cast<void*>(background), static_cast<void*>(icon));
-    std::wstring wideName = GbkToWide(name);
+    std::wstring wideName = slGbkToShown(name);
     WNDCLASSW look = {};
     look.style = style;
     look.lpfnWndProc = ::DefWindowProcW;

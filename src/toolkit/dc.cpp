@@ -12,7 +12,8 @@ namespace {
 
 std::wstring wideTextM(LPCSTR text, int count)
 {
-    return count < 0 ? GbkToWide(text) : GbkToWide(std::string(text, static_cast<size_t>(count)).c_str());
+    return count < 0 ? slGbkToShown(text)
+                     : slGbkToShown(std::string(text, static_cast<size_t>(count)).c_str());
 }
 
 } // namespace
@@ -47,9 +48,9 @@ BOOL CDC::CreateDC(LPCSTR driver, LPCSTR device, LPCSTR output, const void* mode
 {
     auto name
         = [](LPCSTR text, const std::wstring& wide) { return text == nullptr ? nullptr : wide.c_str(); };
-    std::wstring wideDriver = GbkToWide(driver);
-    std::wstring wideDevice = GbkToWide(device);
-    std::wstring wideOutput = GbkToWide(output);
+    std::wstring wideDriver = slGbkToShown(driver);
+    std::wstring wideDevice = slGbkToShown(device);
+    std::wstring wideOutput = slGbkToShown(output);
     return Attach(::CreateDCW(name(driver, wideDriver), name(device, wideDevice), name(output, wideOutput),
         static_cast<const DEVMODEW*>(mode)));
 }

@@ -67,7 +67,7 @@ BOOL CDialog::Create(LPCSTR templateName, CWnd* parent)
     if (IS_INTRESOURCE(templateName)) {
         return Create(static_cast<UINT>(reinterpret_cast<UINT_PTR>(templateName)), parent);
     }
-    return CreateIndirect(findTemplateM(GbkToWide(templateName).c_str()), parent);
+    return CreateIndirect(findTemplateM(slGbkToShown(templateName).c_str()), parent);
 }
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void*)
@@ -101,7 +101,7 @@ int CDialog::DoModal()
     LPCDLGTEMPLATE dialogTemplate = template_;
     if (dialogTemplate == nullptr) {
         dialogTemplate = templateName_ != nullptr && !IS_INTRESOURCE(templateName_)
-            ? findTemplateM(GbkToWide(templateName_).c_str())
+            ? findTemplateM(slGbkToShown(templateName_).c_str())
             : findTemplateM(templateName_ != nullptr ? reinterpret_cast<LPCWSTR>(templateName_)
                                                      : MAKEINTRESOURCEW(templateId_));
     }

@@ -41,8 +41,8 @@ int CString::Compare(const char* other) const
 
 int CString::CompareNoCase(const char* other) const
 {
-    std::wstring one = GbkToWide(GetString());
-    std::wstring two = GbkToWide(other);
+    std::wstring one = slGbkToShown(GetString());
+    std::wstring two = slGbkToShown(other);
     return ::CompareStringOrdinal(one.c_str(), -1, two.c_str(), -1, TRUE) - CSTR_EQUAL;
 }
 

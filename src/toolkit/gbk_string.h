@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/gbk.h"
 #include "toolkit/text.h"
 #include <vector>
 

@@ -78,7 +78,7 @@ BOOL CFont::CreateFontIndirect(const LOGFONTA* font)
     std::memcpy(&wide, font, offsetof(LOGFONTA, lfFaceName));
     char face[LF_FACESIZE + 1] = {}; // the given name may fill its array without a final zero
     std::memcpy(face, font->lfFaceName, LF_FACESIZE);
-    GbkToWide(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
+    slGbkToShown(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
     return CreateFontIndirect(&wide);
 }
 
@@ -87,7 +87,7 @@ int CFont::GetLogFont(LOGFONTA* font) const
     LOGFONTW wide = {};
     int size = GetLogFont(&wide);
     std::memcpy(font, &wide, offsetof(LOGFONTA, lfFaceName));
-    CopyGbk(font->lfFaceName, LF_FACESIZE, WideToGbk(wide.lfFaceName));
+    slCopyText(font->lfFaceName, LF_FACESIZE, WideToGbk(wide.lfFaceName));
     return size == 0 ? 0 : static_cast<int>(sizeof *font);
 }
 
@@ -96,7 +96,7 @@ BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, i
     BYTE pitchAndFamily, LPCSTR face)
 {
     return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut,
-        charSet, outPrecision, clipPrecision, quality, pitchAndFamily, GbkToWide(face).c_str()));
+        charSet, outPrecision, clipPrecision, quality, pitchAndFamily, slGbkToShown(face).c_str()));
 }
 
 BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
@@ -117,7 +117,7 @@ BOOL CBitmap::LoadBitmap(UINT id)
 
 BOOL CBitmap::LoadBitmap(LPCSTR name)
 {
-    return Attach(::LoadBitmapW(AfxGetResourceHandle(), GbkToWide(name).c_str()));
+    return Attach(::LoadBitmapW(AfxGetResourceHandle(), slGbkToShown(name).c_str()));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)

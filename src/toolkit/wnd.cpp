@@ -101,8 +101,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, 
     if (!letGoOfWindowM()) {
         return FALSE;
     }
-    std::wstring wideClass = GbkToWide(className);
-    std::wstring wideTitle = GbkToWide(title);
+    std::wstring wideClass = slGbkToShown(className);
+    std::wstring wideTitle = slGbkToShown(title);
     CREATESTRUCT cs = {};
     cs.dwExStyle = exStyle;
     cs.lpszClass = className == nullptr ? nullptr : wideClass.c_str();
