@@ -1,4 +1,6 @@
 #include "toolkit/controls.h"
+#include "baselib/gbk.h"
+#include "toolkit/text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)

@@ -1,5 +1,9 @@
 #include "toolkit/dialog.h"
+#include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
+#include "toolkit/life.h"
+#include "toolkit/module.h"
 #include "toolkit/thread_state.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -32,7 +36,7 @@ BOOL CDialog::createM(LPCDLGTEMPLATE dialogTemplate, HWND owner)
         return FALSE;
     }
     LifeCL life(this);
-    CreationHookCL hook(this);
+    CreationHookCL hook(this, &CDialog::takeMadeM);
     HWND made = ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialogTemplate, owner, &dialogProcM, 0);
     if (made == nullptr) {
         AfxLogFailure("CreateDialogIndirectParam", nullptr);

@@ -1,4 +1,5 @@
 #include "toolkit/gbk_string.h"
+#include "baselib/gbk.h"
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>

@@ -1,5 +1,4 @@
 #pragma once
-#include "baselib/gbk.h"
 #include "toolkit/text.h"
 #include <vector>
 

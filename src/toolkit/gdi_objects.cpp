@@ -1,6 +1,6 @@
 #include "toolkit/gdi_objects.h"
-#include "toolkit/app.h"
-#include "toolkit/dc.h"
+#include "baselib/gbk.h"
+#include "toolkit/module.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace {
 
 template <class ObjectTP> ObjectTP* temporaryM(HGDIOBJ handle)
 {
-    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP>(handle);
+    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP, &CGdiObject::m_hObject>(handle);
 }
 
 } // namespace
@@ -99,17 +99,6 @@ BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, i
         charSet, outPrecision, clipPrecision, quality, pitchAndFamily, slGbkToShown(face).c_str()));
 }
 
-BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
-{
-    HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
-    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hDC, LOGPIXELSY);
-    if (screen != nullptr) {
-        ::ReleaseDC(nullptr, screen);
-    }
-    return CreateFont(-::MulDiv(tenthsOfPoint, dotsPerInch, 720), 0, 0, 0, FW_NORMAL, 0, 0, 0,
-        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, face);
-}
-
 BOOL CBitmap::LoadBitmap(UINT id)
 {
     return Attach(::LoadBitmapW(AfxGetResourceHandle(), MAKEINTRESOURCEW(id)));
@@ -118,11 +107,6 @@ BOOL CBitmap::LoadBitmap(UINT id)
 BOOL CBitmap::LoadBitmap(LPCSTR name)
 {
     return Attach(::LoadBitmapW(AfxGetResourceHandle(), slGbkToShown(name).c_str()));
-}
-
-BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)
-{
-    return dc != nullptr && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
 }
 
 DWORD CBitmap::GetBitmapBits(DWORD size, void* to) const

@@ -1,5 +1,7 @@
+#include "baselib/gbk.h"
 #include "toolkit/common_controls.h"
 #include "toolkit/item_text.h"
+#include "toolkit/text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)

@@ -1,4 +1,6 @@
+#include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/text.h"
 #include "toolkit/wnd.h"
 #include <vector>
 
