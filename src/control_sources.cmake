@@ -47,18 +47,24 @@ set(PANELKIT_CONTROL_SOURCES
   pictures/rgn_record.cpp
   toolkit/app.cpp
   toolkit/controls.cpp
+  toolkit/creation_hook.cpp
   toolkit/dc.cpp
   toolkit/dialog.cpp
   toolkit/gbk_string.cpp
   toolkit/gdi_objects.cpp
   toolkit/image_list.cpp
   toolkit/library.cpp
+  toolkit/life.cpp
   toolkit/list_ctrl.cpp
+  toolkit/message_box.cpp
+  toolkit/message_map.cpp
+  toolkit/module.cpp
   toolkit/object.cpp
   toolkit/spin_button.cpp
   toolkit/text.cpp
   toolkit/thread_state.cpp
   toolkit/tree_ctrl.cpp
+  toolkit/window_dc.cpp
   toolkit/wnd.cpp
   toolkit/wnd_messages.cpp
   toolkit/wnd_window.cpp

@@ -1,5 +1,6 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_table.h"
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -8,6 +9,8 @@ namespace {
 constexpr char16_t Replacement = 0xFFFD;
 constexpr char16_t Euro = 0x20AC;
 constexpr char EuroByte = static_cast<char>(0x80);
+constexpr char16_t NoLead = 0xF8F5; // What the platform makes of the one byte that is neither ASCII nor lead.
+constexpr char NoLeadByte = static_cast<char>(0xFF);
 
 char16_t decodePair(char lead, char trail)
 {
@@ -133,10 +136,10 @@ std::size_t slGbkCutLength(const char* text, std::size_t length, std::size_t mos
     }
 }
 
-void slCopyText(char* to, int size, const char* from)
+int slCopyText(char* to, int size, const char* from)
 {
     if (to == nullptr || size < 1) {
-        return;
+        return 0;
     }
     const char* const text = from != nullptr ? from : "";
     // A text need not be measured beyond what fits and the byte behind it.
@@ -144,9 +147,20 @@ void slCopyText(char* to, int size, const char* from)
     while (length <= static_cast<std::size_t>(size) && text[length] != '\0') {
         ++length;
     }
-    const std::size_t kept = slGbkCutLength(text, length, static_cast<std::size_t>(size) - 1);
-    std::memmove(to, text, kept);
+    return slCopyText(to, size, std::string_view(text, length));
+}
+
+int slCopyText(char* to, int size, std::string_view from)
+{
+    if (to == nullptr || size < 1) {
+        return 0;
+    }
+    const std::size_t kept = slGbkCutLength(from.data(), from.size(), static_cast<std::size_t>(size) - 1);
+    if (kept != 0) {
+        std::memmove(to, from.data(), kept);
+    }
     to[kept] = '\0';
+    return static_cast<int>(kept);
 }
 
 void slCutText(char* text, int most)
@@ -165,6 +179,26 @@ std::u16string slGbkToUtf16(const char* text, std::size_t length)
 {
     std::u16string out;
     decode(text, text != nullptr ? length : 0, [&out](char16_t code) { out += code; });
+    return out;
+}
+
+std::u16string slGbkToShownUtf16(const char* text)
+{
+    std::u16string out;
+    const char* const end = text + (text != nullptr ? std::strlen(text) : 0);
+    for (const char* at = text; at < end;) {
+        const bool broken = slGbkIsLead(*at) && slGbkCharLength(at, end) == 1;
+        if (broken) {
+            out += u'?';
+            at += std::min<std::ptrdiff_t>(2, end - at);
+        } else if (slGbkIsLead(*at)) {
+            out += decodePair(at[0], at[1]);
+            at += 2;
+        } else {
+            out += *at == NoLeadByte ? NoLead : decodeByte(*at);
+            ++at;
+        }
+    }
     return out;
 }
 

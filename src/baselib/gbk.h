@@ -2,6 +2,7 @@
 #include "baselib/api.h"
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 // GBK text (code page 936): a byte 0x81..0xFE followed by 0x40..0x7E or 0x80..0xFE is one character.
 
@@ -30,16 +31,22 @@ constexpr int slGbkCharLength(const char* at, const char* end)
 PANELKIT_API std::size_t slGbkCutLength(const char* text, std::size_t length, std::size_t most);
 
 // Copies into a buffer of `size` bytes with its terminator, cut at a character boundary. Null text counts
-// as empty; a null buffer or size below 1: nothing.
-PANELKIT_API void slCopyText(char* to, int size, const char* from);
+// as empty; a null buffer or size below 1: nothing. Result: bytes copied, without the terminator.
+PANELKIT_API int slCopyText(char* to, int size, const char* from);
+PANELKIT_API int slCopyText(char* to, int size, std::string_view from);
 
 // Cuts a text in place to at most `most` bytes, at a character boundary.
 PANELKIT_API void slCutText(char* text, int most);
 
-// Decoding for the platform: byte 0x80 is the euro sign, user-defined pairs give the platform's private-use
-// codes (so they come back when encoded); a byte that belongs to no character gives U+FFFD. Null is empty.
+// Decoding of names for the platform: byte 0x80 is the euro sign, user-defined pairs give the platform's
+// private-use codes (so they come back when encoded); a byte that belongs to no character gives U+FFFD. Null
+// is empty.
 PANELKIT_API std::u16string slGbkToUtf16(const char* text);
 PANELKIT_API std::u16string slGbkToUtf16(const char* text, std::size_t length);
+
+// Decoding of what a window shows: the same, but broken bytes as Windows itself converts code page 936. A
+// lead byte without its trail is one '?' together with the byte that follows; 0xFF gives U+F8F5.
+PANELKIT_API std::u16string slGbkToShownUtf16(const char* text);
 
 // Decoding for printing: the same, but a pair to which code page 936 assigns no character (private-use for
 // the platform) is U+FFFD.
@@ -54,6 +61,12 @@ PANELKIT_API std::string slUtf8ToGbk(const std::string& text, int* lost = nullpt
 inline std::wstring slGbkToWide(const char* text)
 {
     const std::u16string wide = slGbkToUtf16(text);
+    return std::wstring(wide.begin(), wide.end());
+}
+
+inline std::wstring slGbkToShown(const char* text)
+{
+    const std::u16string wide = slGbkToShownUtf16(text);
     return std::wstring(wide.begin(), wide.end());
 }
 

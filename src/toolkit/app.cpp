@@ -1,8 +1,10 @@
 #include "toolkit/app.h"
+#include "toolkit/module.h"
+#include "toolkit/text.h"
 #include "toolkit/thread_state.h"
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
@@ -12,8 +14,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-CWinApp* theApplication = nullptr;  // one a program, seen from all its threads
-HINSTANCE resourceModule = nullptr; // null: the program itself
+CWinApp* theApplication = nullptr; // one a program, seen from all its threads
 
 std::string programNameM()
 {
@@ -22,14 +23,6 @@ std::string programNameM()
     std::wstring name(path);
     name.erase(0, name.find_last_of(L"\\/") + 1);
     return WideToGbk(name.substr(0, name.rfind(L'.')).c_str());
-}
-
-HWND messageBoxOwnerM()
-{
-    CWnd* mainWnd = AfxGetMainWnd();
-    HWND owner = mainWnd != nullptr && mainWnd->m_hWnd != nullptr ? mainWnd->m_hWnd : ::GetActiveWindow();
-    // The box must be modal to the popup in front, such as an open dialog.
-    return owner == nullptr ? nullptr : ::GetLastActivePopup(::GetAncestor(owner, GA_ROOT));
 }
 
 } // namespace
@@ -95,15 +88,6 @@ BOOL CWinThread::PumpMessage()
     return TRUE;
 }
 
-BOOL CWinThread::PreTranslateMessage(MSG* message)
-{
-    if (message->hwnd == nullptr) {
-        return FALSE;
-    }
-    HWND mainWnd = m_pMainWnd == nullptr ? nullptr : m_pMainWnd->m_hWnd;
-    return CWnd::WalkPreTranslateTree(mainWnd, message);
-}
-
 BOOL CWinThread::OnIdle(LONG)
 {
     ThreadStateCL::ThisM().CleanTemporariesM();
@@ -156,81 +140,6 @@ LPCSTR AfxGetAppName()
     }
     static const std::string name = programNameM();
     return name.c_str();
-}
-
-HINSTANCE AfxGetInstanceHandle()
-{
-    return ::GetModuleHandleW(nullptr);
-}
-
-HINSTANCE AfxGetResourceHandle()
-{
-    return resourceModule == nullptr ? AfxGetInstanceHandle() : resourceModule;
-}
-
-void AfxSetResourceHandle(HINSTANCE module)
-{
-    resourceModule = module;
-}
-
-int AfxMessageBox(LPCSTR text, UINT type, UINT)
-{
-    return ::MessageBoxW(
-        messageBoxOwnerM(), GbkToWide(text).c_str(), GbkToWide(AfxGetAppName()).c_str(), type);
-}
-
-int AfxMessageBox(UINT textId, UINT type, UINT helpId)
-{
-    const wchar_t* text = nullptr;
-    int length = ::LoadStringW(AfxGetResourceHandle(), textId, reinterpret_cast<LPWSTR>(&text), 0);
-    return AfxMessageBox(WideToGbk(text, length).c_str(), type, helpId);
-}
-
-BOOL AfxRegisterClass(WNDCLASSW* windowClass)
-{
-    WNDCLASSW known = {};
-    if (::GetClassInfoW(windowClass->hInstance, windowClass->lpszClassName, &known)) {
-        return TRUE;
-    }
-    return ::RegisterClassW(windowClass) != 0;
-}
-
-LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon)
-{
-    static thread_local char name[96];
-    std::snprintf(name, sizeof name, "AfxWnd:%x:%p:%p:%p", style, static_cast<void*>(cursor),
-        static_cast<void*>(background), static_cast<void*>(icon));
-    std::wstring wideName = GbkToWide(name);
-    WNDCLASSW look = {};
-    look.style = style;
-    look.lpfnWndProc = ::DefWindowProcW;
-    look.hInstance = AfxGetInstanceHandle();
-    look.hCursor = cursor;
-    look.hbrBackground = background;
-    look.hIcon = icon;
-    look.lpszClassName = wideName.c_str();
-    return AfxRegisterClass(&look) ? name : nullptr;
-}
-
-LPCWSTR AfxDefaultWndClass()
-{
-    static const wchar_t* const name = L"AfxWnd";
-    WNDCLASSW plain = {};
-    plain.style = CS_DBLCLKS;
-    plain.lpfnWndProc = ::DefWindowProcW;
-    plain.hInstance = AfxGetInstanceHandle();
-    plain.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    plain.lpszClassName = name;
-    AfxRegisterClass(&plain);
-    return name;
-}
-
-void AfxLogFailure(LPCSTR call, LPCSTR argument)
-{
-    char line[160];
-    std::snprintf(line, sizeof line, "toolkit: %s(%.60s) failed, error %lu\n", call,
-        argument == nullptr ? "" : argument, ::GetLastError());
-    ::OutputDebugStringA(line);
 }
 
 BOOL AfxPreTranslateMessage(MSG* message)

@@ -1,5 +1,7 @@
 #pragma once
-#include "toolkit/wnd.h"
+#include "toolkit/message_map.h"
+
+class CWnd;
 
 // A thread that shows windows: its main window and its message loop. Each thread has one, made on demand
 // where the application constructs none, so a host with a loop of its own can still name its main window.
@@ -51,20 +53,6 @@ PANELKIT_API CWinApp* AfxGetApp();       // null: the program has none
 PANELKIT_API CWinThread* AfxGetThread(); // of the calling thread, never null
 PANELKIT_API CWnd* AfxGetMainWnd();      // of the calling thread; null: none named
 PANELKIT_API LPCSTR AfxGetAppName();
-PANELKIT_API HINSTANCE AfxGetInstanceHandle(); // of the program, not of this library
-PANELKIT_API HINSTANCE AfxGetResourceHandle(); // where templates, icons and bitmaps are looked up
-PANELKIT_API void AfxSetResourceHandle(HINSTANCE module);
-
-// Owned by the main window or its last active popup, titled with the application's name; no icon of its own.
-PANELKIT_API int AfxMessageBox(LPCSTR text, UINT type = MB_OK, UINT helpId = 0);
-PANELKIT_API int AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = 0);
-
-PANELKIT_API BOOL AfxRegisterClass(WNDCLASSW* windowClass); // TRUE also when it is registered already
-// Registers a class by what it looks like; the name is valid until the thread's next call.
-PANELKIT_API LPCSTR AfxRegisterWndClass(
-    UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr, HICON icon = nullptr);
-LPCWSTR AfxDefaultWndClass();                     // for windows made without a class name
-void AfxLogFailure(LPCSTR call, LPCSTR argument); // to the debugger, with the system's last error
 
 // For message loops that are not the toolkit's: TRUE when a window has dealt with the message.
 PANELKIT_API BOOL AfxPreTranslateMessage(MSG* message);

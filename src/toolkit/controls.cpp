@@ -1,4 +1,6 @@
 #include "toolkit/controls.h"
+#include "baselib/gbk.h"
+#include "toolkit/text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
@@ -130,7 +132,7 @@ void CEdit::GetSel(int& first, int& end) const
 
 void CEdit::ReplaceSel(LPCSTR text, BOOL canUndo)
 {
-    SendMessage(EM_REPLACESEL, static_cast<WPARAM>(canUndo), pointerM(GbkToWide(text)));
+    SendMessage(EM_REPLACESEL, static_cast<WPARAM>(canUndo), pointerM(slGbkToShown(text)));
 }
 
 BOOL CEdit::SetReadOnly(BOOL readOnly)
@@ -151,7 +153,7 @@ int CEdit::GetLine(int index, LPSTR to, int size) const
     line[0] = static_cast<wchar_t>(length + 1);
     int used = static_cast<int>(SendMessage(
         EM_GETLINE, static_cast<WPARAM>(static_cast<INT_PTR>(index)), reinterpret_cast<LPARAM>(line.data())));
-    return CopyGbk(to, size, WideToGbk(line.data(), used));
+    return slCopyText(to, size, WideToGbk(line.data(), used));
 }
 
 void CEdit::LineScroll(int lines, int characters)
@@ -176,12 +178,12 @@ BOOL CListBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 int CListBox::AddString(LPCSTR text)
 {
-    return intM(LB_ADDSTRING, 0, pointerM(GbkToWide(text)));
+    return intM(LB_ADDSTRING, 0, pointerM(slGbkToShown(text)));
 }
 
 int CListBox::InsertString(int index, LPCSTR text)
 {
-    return intM(LB_INSERTSTRING, index, pointerM(GbkToWide(text)));
+    return intM(LB_INSERTSTRING, index, pointerM(slGbkToShown(text)));
 }
 
 int CListBox::GetText(int index, LPSTR to) const
@@ -190,7 +192,7 @@ int CListBox::GetText(int index, LPSTR to) const
     if (!lineTextM(*this, LB_GETTEXTLEN, LB_GETTEXT, index, &text)) {
         return LB_ERR;
     }
-    return CopyGbk(to, static_cast<int>(text.size()) + 1, text);
+    return slCopyText(to, static_cast<int>(text.size()) + 1, text);
 }
 
 void CListBox::GetText(int index, CString& to) const
@@ -208,17 +210,17 @@ int CListBox::GetTextLen(int index) const
 
 int CListBox::FindString(int after, LPCSTR start) const
 {
-    return intM(LB_FINDSTRING, after, pointerM(GbkToWide(start)));
+    return intM(LB_FINDSTRING, after, pointerM(slGbkToShown(start)));
 }
 
 int CListBox::FindStringExact(int after, LPCSTR text) const
 {
-    return intM(LB_FINDSTRINGEXACT, after, pointerM(GbkToWide(text)));
+    return intM(LB_FINDSTRINGEXACT, after, pointerM(slGbkToShown(text)));
 }
 
 int CListBox::SelectString(int after, LPCSTR start)
 {
-    return intM(LB_SELECTSTRING, after, pointerM(GbkToWide(start)));
+    return intM(LB_SELECTSTRING, after, pointerM(slGbkToShown(start)));
 }
 
 int CListBox::SetSel(int index, BOOL select)
@@ -238,12 +240,12 @@ BOOL CComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 int CComboBox::AddString(LPCSTR text)
 {
-    return intM(CB_ADDSTRING, 0, pointerM(GbkToWide(text)));
+    return intM(CB_ADDSTRING, 0, pointerM(slGbkToShown(text)));
 }
 
 int CComboBox::InsertString(int index, LPCSTR text)
 {
-    return intM(CB_INSERTSTRING, index, pointerM(GbkToWide(text)));
+    return intM(CB_INSERTSTRING, index, pointerM(slGbkToShown(text)));
 }
 
 int CComboBox::GetLBText(int index, LPSTR to) const
@@ -252,7 +254,7 @@ int CComboBox::GetLBText(int index, LPSTR to) const
     if (!lineTextM(*this, CB_GETLBTEXTLEN, CB_GETLBTEXT, index, &text)) {
         return CB_ERR;
     }
-    return CopyGbk(to, static_cast<int>(text.size()) + 1, text);
+    return slCopyText(to, static_cast<int>(text.size()) + 1, text);
 }
 
 void CComboBox::GetLBText(int index, CString& to) const
@@ -271,17 +273,17 @@ int CComboBox::GetLBTextLen(int index) const
 
 int CComboBox::FindString(int after, LPCSTR start) const
 {
-    return intM(CB_FINDSTRING, after, pointerM(GbkToWide(start)));
+    return intM(CB_FINDSTRING, after, pointerM(slGbkToShown(start)));
 }
 
 int CComboBox::FindStringExact(int after, LPCSTR text) const
 {
-    return intM(CB_FINDSTRINGEXACT, after, pointerM(GbkToWide(text)));
+    return intM(CB_FINDSTRINGEXACT, after, pointerM(slGbkToShown(text)));
 }
 
 int CComboBox::SelectString(int after, LPCSTR start)
 {
-    return intM(CB_SELECTSTRING, after, pointerM(GbkToWide(start)));
+    return intM(CB_SELECTSTRING, after, pointerM(slGbkToShown(start)));
 }
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)

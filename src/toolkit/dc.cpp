@@ -1,18 +1,16 @@
 #include "toolkit/dc.h"
+#include "baselib/gbk.h"
 #include "toolkit/thread_state.h"
-#include "toolkit/wnd.h"
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CDC, CObject)
-IMPLEMENT_DYNAMIC(CPaintDC, CDC)
-IMPLEMENT_DYNAMIC(CClientDC, CDC)
-IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
 namespace {
 
 std::wstring wideTextM(LPCSTR text, int count)
 {
-    return count < 0 ? GbkToWide(text) : GbkToWide(std::string(text, static_cast<size_t>(count)).c_str());
+    return count < 0 ? slGbkToShown(text)
+                     : slGbkToShown(std::string(text, static_cast<size_t>(count)).c_str());
 }
 
 } // namespace
@@ -35,7 +33,7 @@ HDC CDC::Detach()
 
 CDC* CDC::FromHandle(HDC dc)
 {
-    return ThreadStateCL::ThisM().dcs.GetM<CDC>(dc);
+    return ThreadStateCL::ThisM().dcs.GetM<CDC, &CDC::m_hDC, &CDC::m_hAttribDC>(dc);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* like)
@@ -47,9 +45,9 @@ BOOL CDC::CreateDC(LPCSTR driver, LPCSTR device, LPCSTR output, const void* mode
 {
     auto name
         = [](LPCSTR text, const std::wstring& wide) { return text == nullptr ? nullptr : wide.c_str(); };
-    std::wstring wideDriver = GbkToWide(driver);
-    std::wstring wideDevice = GbkToWide(device);
-    std::wstring wideOutput = GbkToWide(output);
+    std::wstring wideDriver = slGbkToShown(driver);
+    std::wstring wideDevice = slGbkToShown(device);
+    std::wstring wideOutput = slGbkToShown(output);
     return Attach(::CreateDCW(name(driver, wideDriver), name(device, wideDevice), name(output, wideOutput),
         static_cast<const DEVMODEW*>(mode)));
 }
@@ -57,11 +55,6 @@ BOOL CDC::CreateDC(LPCSTR driver, LPCSTR device, LPCSTR output, const void* mode
 BOOL CDC::DeleteDC()
 {
     return m_hDC != nullptr && ::DeleteDC(Detach());
-}
-
-CWnd* CDC::GetWindow() const
-{
-    return CWnd::FromHandle(::WindowFromDC(m_hDC));
 }
 
 HGDIOBJ CDC::selectM(const CGdiObject* object)
@@ -229,36 +222,19 @@ CSize CDC::GetTextExtent(LPCSTR text, int count) const
     return size;
 }
 
-CPaintDC::CPaintDC(CWnd* window)
-    : hWnd_(window->m_hWnd)
+// Objects made to suit a context are made here: contexts select objects, so those must not know contexts.
+BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
 {
-    Attach(::BeginPaint(hWnd_, &m_ps));
+    HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
+    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hDC, LOGPIXELSY);
+    if (screen != nullptr) {
+        ::ReleaseDC(nullptr, screen);
+    }
+    return CreateFont(-::MulDiv(tenthsOfPoint, dotsPerInch, 720), 0, 0, 0, FW_NORMAL, 0, 0, 0,
+        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, face);
 }
 
-CPaintDC::~CPaintDC()
+BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)
 {
-    Detach();
-    ::EndPaint(hWnd_, &m_ps);
-}
-
-CClientDC::CClientDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
-{
-    Attach(::GetDC(hWnd_));
-}
-
-CClientDC::~CClientDC()
-{
-    ::ReleaseDC(hWnd_, Detach());
-}
-
-CWindowDC::CWindowDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
-{
-    Attach(::GetWindowDC(hWnd_));
-}
-
-CWindowDC::~CWindowDC()
-{
-    ::ReleaseDC(hWnd_, Detach());
+    return dc != nullptr && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
 }

@@ -4,7 +4,8 @@
 
 class CWnd;
 
-// A device context. One that it still holds is deleted with it; the classes below give theirs back instead.
+// A device context. One that it still holds is deleted with it; those of windows (window_dc.h) give theirs
+// back instead.
 class PANELKIT_API CDC : public CObject
 {
     DECLARE_DYNAMIC(CDC)
@@ -131,39 +132,4 @@ class AfxDcLoan : public CDC
 public:
     explicit AfxDcLoan(HDC dc) { Attach(dc); }
     ~AfxDcLoan() override { Detach(); }
-};
-
-// Inside a paint handler only.
-class PANELKIT_API CPaintDC : public CDC
-{
-    DECLARE_DYNAMIC(CPaintDC)
-public:
-    explicit CPaintDC(CWnd* window);
-    ~CPaintDC() override;
-    PAINTSTRUCT m_ps = {};
-
-private:
-    HWND hWnd_;
-};
-
-class PANELKIT_API CClientDC : public CDC
-{
-    DECLARE_DYNAMIC(CClientDC)
-public:
-    explicit CClientDC(CWnd* window); // null: the screen
-    ~CClientDC() override;
-
-private:
-    HWND hWnd_;
-};
-
-class PANELKIT_API CWindowDC : public CDC
-{
-    DECLARE_DYNAMIC(CWindowDC)
-public:
-    explicit CWindowDC(CWnd* window); // null: the screen
-    ~CWindowDC() override;
-
-private:
-    HWND hWnd_;
 };

@@ -1,5 +1,9 @@
 #include "toolkit/dialog.h"
+#include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
+#include "toolkit/life.h"
+#include "toolkit/module.h"
 #include "toolkit/thread_state.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -32,7 +36,7 @@ BOOL CDialog::createM(LPCDLGTEMPLATE dialogTemplate, HWND owner)
         return FALSE;
     }
     LifeCL life(this);
-    CreationHookCL hook(this);
+    CreationHookCL hook(this, &CDialog::takeMadeM);
     HWND made = ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialogTemplate, owner, &dialogProcM, 0);
     if (made == nullptr) {
         AfxLogFailure("CreateDialogIndirectParam", nullptr);
@@ -67,7 +71,7 @@ BOOL CDialog::Create(LPCSTR templateName, CWnd* parent)
     if (IS_INTRESOURCE(templateName)) {
         return Create(static_cast<UINT>(reinterpret_cast<UINT_PTR>(templateName)), parent);
     }
-    return CreateIndirect(findTemplateM(GbkToWide(templateName).c_str()), parent);
+    return CreateIndirect(findTemplateM(slGbkToShown(templateName).c_str()), parent);
 }
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void*)
@@ -101,7 +105,7 @@ int CDialog::DoModal()
     LPCDLGTEMPLATE dialogTemplate = template_;
     if (dialogTemplate == nullptr) {
         dialogTemplate = templateName_ != nullptr && !IS_INTRESOURCE(templateName_)
-            ? findTemplateM(GbkToWide(templateName_).c_str())
+            ? findTemplateM(slGbkToShown(templateName_).c_str())
             : findTemplateM(templateName_ != nullptr ? reinterpret_cast<LPCWSTR>(templateName_)
                                                      : MAKEINTRESOURCEW(templateId_));
     }

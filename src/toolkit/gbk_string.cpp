@@ -1,4 +1,5 @@
 #include "toolkit/gbk_string.h"
+#include "baselib/gbk.h"
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
@@ -41,8 +42,8 @@ int CString::Compare(const char* other) const
 
 int CString::CompareNoCase(const char* other) const
 {
-    std::wstring one = GbkToWide(GetString());
-    std::wstring two = GbkToWide(other);
+    std::wstring one = slGbkToShown(GetString());
+    std::wstring two = slGbkToShown(other);
     return ::CompareStringOrdinal(one.c_str(), -1, two.c_str(), -1, TRUE) - CSTR_EQUAL;
 }
 

@@ -1,6 +1,6 @@
 #include "toolkit/gdi_objects.h"
-#include "toolkit/app.h"
-#include "toolkit/dc.h"
+#include "baselib/gbk.h"
+#include "toolkit/module.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace {
 
 template <class ObjectTP> ObjectTP* temporaryM(HGDIOBJ handle)
 {
-    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP>(handle);
+    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP, &CGdiObject::m_hObject>(handle);
 }
 
 } // namespace
@@ -78,7 +78,7 @@ BOOL CFont::CreateFontIndirect(const LOGFONTA* font)
     std::memcpy(&wide, font, offsetof(LOGFONTA, lfFaceName));
     char face[LF_FACESIZE + 1] = {}; // the given name may fill its array without a final zero
     std::memcpy(face, font->lfFaceName, LF_FACESIZE);
-    GbkToWide(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
+    slGbkToShown(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
     return CreateFontIndirect(&wide);
 }
 
@@ -87,7 +87,7 @@ int CFont::GetLogFont(LOGFONTA* font) const
     LOGFONTW wide = {};
     int size = GetLogFont(&wide);
     std::memcpy(font, &wide, offsetof(LOGFONTA, lfFaceName));
-    CopyGbk(font->lfFaceName, LF_FACESIZE, WideToGbk(wide.lfFaceName));
+    slCopyText(font->lfFaceName, LF_FACESIZE, WideToGbk(wide.lfFaceName));
     return size == 0 ? 0 : static_cast<int>(sizeof *font);
 }
 
@@ -96,18 +96,7 @@ BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, i
     BYTE pitchAndFamily, LPCSTR face)
 {
     return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut,
-        charSet, outPrecision, clipPrecision, quality, pitchAndFamily, GbkToWide(face).c_str()));
-}
-
-BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
-{
-    HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
-    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hDC, LOGPIXELSY);
-    if (screen != nullptr) {
-        ::ReleaseDC(nullptr, screen);
-    }
-    return CreateFont(-::MulDiv(tenthsOfPoint, dotsPerInch, 720), 0, 0, 0, FW_NORMAL, 0, 0, 0,
-        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, face);
+        charSet, outPrecision, clipPrecision, quality, pitchAndFamily, slGbkToShown(face).c_str()));
 }
 
 BOOL CBitmap::LoadBitmap(UINT id)
@@ -117,12 +106,7 @@ BOOL CBitmap::LoadBitmap(UINT id)
 
 BOOL CBitmap::LoadBitmap(LPCSTR name)
 {
-    return Attach(::LoadBitmapW(AfxGetResourceHandle(), GbkToWide(name).c_str()));
-}
-
-BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)
-{
-    return dc != nullptr && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
+    return Attach(::LoadBitmapW(AfxGetResourceHandle(), slGbkToShown(name).c_str()));
 }
 
 DWORD CBitmap::GetBitmapBits(DWORD size, void* to) const

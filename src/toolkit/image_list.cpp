@@ -24,7 +24,7 @@ HIMAGELIST CImageList::Detach()
 
 CImageList* CImageList::FromHandle(HIMAGELIST list)
 {
-    return ThreadStateCL::ThisM().imageLists.GetM<CImageList>(list);
+    return ThreadStateCL::ThisM().imageLists.GetM<CImageList, &CImageList::m_hImageList>(list);
 }
 
 BOOL CImageList::Create(int width, int height, UINT flags, int initial, int grow)

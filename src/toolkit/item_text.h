@@ -1,5 +1,6 @@
 #pragma once
-#include "toolkit/text.h"
+#include "baselib/gbk.h"
+#include "toolkit/platform.h"
 #include <commctrl.h>
 
 // The text of an item of a common control, made wide; or the word that the control is to ask for it.
@@ -8,7 +9,7 @@ class ItemTextCL
 public:
     explicit ItemTextCL(const char* text)
         : isAskedFor_(text == LPSTR_TEXTCALLBACKA)
-        , wide_(isAskedFor_ ? std::wstring() : GbkToWide(text))
+        , wide_(isAskedFor_ ? std::wstring() : slGbkToShown(text))
     {
     }
     wchar_t* PointerM() { return isAskedFor_ ? LPSTR_TEXTCALLBACKW : wide_.data(); } // As long as this lives.

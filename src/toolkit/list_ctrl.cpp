@@ -1,5 +1,7 @@
+#include "baselib/gbk.h"
 #include "toolkit/common_controls.h"
 #include "toolkit/item_text.h"
+#include "toolkit/text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
@@ -55,7 +57,7 @@ BOOL CListCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 int CListCtrl::InsertColumn(int column, LPCSTR heading, int format, int width, int subItem)
 {
-    std::wstring text = GbkToWide(heading);
+    std::wstring text = slGbkToShown(heading);
     LVCOLUMNW what = {};
     what.mask = LVCF_TEXT | LVCF_FMT | (width == -1 ? 0u : LVCF_WIDTH) | (subItem == -1 ? 0u : LVCF_SUBITEM);
     what.pszText = text.data();
@@ -76,7 +78,7 @@ int CListCtrl::InsertColumn(int column, const LVCOLUMNA* what)
     wide.iImage = what->iImage;
     wide.iOrder = what->iOrder;
     if ((what->mask & LVCF_TEXT) != 0) {
-        text = GbkToWide(what->pszText);
+        text = slGbkToShown(what->pszText);
         wide.pszText = text.data();
     }
     return InsertColumn(column, &wide);
@@ -141,7 +143,7 @@ BOOL CListCtrl::SetItemText(int row, int column, LPCSTR text)
 
 int CListCtrl::GetItemText(int row, int column, LPSTR to, int size) const
 {
-    return CopyGbk(to, size, itemTextM(m_hWnd, row, column));
+    return slCopyText(to, size, itemTextM(m_hWnd, row, column));
 }
 
 CString CListCtrl::GetItemText(int row, int column) const

@@ -15,7 +15,11 @@
 #include "toolkit/gbk_string.h"
 #include "toolkit/gdi_objects.h"
 #include "toolkit/geometry.h"
+#include "toolkit/message_box.h"
 #include "toolkit/message_map.h"
+#include "toolkit/module.h"
 #include "toolkit/object.h"
+#include "toolkit/text.h"
+#include "toolkit/window_dc.h"
 #include "toolkit/wnd.h"
 #endif

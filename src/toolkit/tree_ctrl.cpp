@@ -1,5 +1,6 @@
 #include "toolkit/common_controls.h"
 #include "toolkit/item_text.h"
+#include "toolkit/text.h"
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)

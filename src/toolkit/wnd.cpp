@@ -1,6 +1,11 @@
 #include "toolkit/wnd.h"
+#include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
+#include "toolkit/life.h"
+#include "toolkit/module.h"
 #include "toolkit/thread_state.h"
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
@@ -21,13 +26,17 @@ CWnd::~CWnd()
         // order.
         CWnd::DestroyWindow();
     }
-    ThreadStateCL::ForgetM(this);
+    LifeCL::ForgetM(this);
+    ThreadStateCL* state = ThreadStateCL::KnownM();
+    if (state != nullptr && state->thread != nullptr && state->thread->m_pMainWnd == this) {
+        state->thread->m_pMainWnd = nullptr;
+    }
 }
 
 CWnd* CWnd::FromHandle(HWND hWnd)
 {
     CWnd* permanent = FromHandlePermanent(hWnd);
-    return permanent != nullptr ? permanent : ThreadStateCL::ThisM().wnds.GetM<CWnd>(hWnd);
+    return permanent != nullptr ? permanent : ThreadStateCL::ThisM().wnds.GetM<CWnd, &CWnd::m_hWnd>(hWnd);
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd)
@@ -83,6 +92,11 @@ BOOL CWnd::SubclassWindow(HWND hWnd)
     return TRUE;
 }
 
+void CWnd::takeMadeM(CWnd* wnd, HWND made)
+{
+    wnd->SubclassWindow(made);
+}
+
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
 {
     return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
@@ -101,8 +115,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, 
     if (!letGoOfWindowM()) {
         return FALSE;
     }
-    std::wstring wideClass = GbkToWide(className);
-    std::wstring wideTitle = GbkToWide(title);
+    std::wstring wideClass = slGbkToShown(className);
+    std::wstring wideTitle = slGbkToShown(title);
     CREATESTRUCT cs = {};
     cs.dwExStyle = exStyle;
     cs.lpszClass = className == nullptr ? nullptr : wideClass.c_str();
@@ -120,7 +134,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, 
     HWND made = nullptr;
     bool hasCaught = false;
     if (PreCreateWindow(cs)) {
-        CreationHookCL hook(this, cs.hwndParent, static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)));
+        CreationHookCL hook(
+            this, &CWnd::takeMadeM, cs.hwndParent, static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)));
         made = ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
             cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
         if (made == nullptr) {

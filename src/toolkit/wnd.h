@@ -191,7 +191,8 @@ protected:
     // Destroys a window that the object still has, before it gets another. False: the object went along, or
     // the window stays.
     bool letGoOfWindowM();
-    LRESULT Default(); // what would happen to the current message without a handler
+    static void takeMadeM(CWnd* wnd, HWND made); // the window that was asked for, before its first message
+    LRESULT Default();                           // what would happen to the current message without a handler
 
     // Unless they say otherwise, handlers of the base hand the current message on as it came.
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return static_cast<BOOL>(Default()); }
@@ -245,7 +246,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend class CreationHookCL;
     friend struct WindowMessageCL;
     explicit CWnd(HWND place)
         : m_hWnd(place)

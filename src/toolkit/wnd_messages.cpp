@@ -1,56 +1,14 @@
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
+#include "toolkit/life.h"
+#include "toolkit/module.h"
 #include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
 #include <utility>
 
-IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
-
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
-
-const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
-{
-    static const AFX_MSGMAP_ENTRY entries[] = { { 0, 0, 0, 0, nullptr } };
-    static const AFX_MSGMAP messageMap = { nullptr, entries };
-    return &messageMap;
-}
-
-const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
-{
-    return GetThisMessageMap();
-}
-
-const AFX_MSGMAP_ENTRY* CCmdTarget::findEntryM(UINT message, int code, UINT id) const
-{
-    for (const AFX_MSGMAP* map = GetMessageMap(); map != nullptr;
-         map = map->pfnGetBaseMap == nullptr ? nullptr : map->pfnGetBaseMap()) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfn != nullptr; ++entry) {
-            // Notification codes are signed 16-bit numbers, whatever type their macro has.
-            if (entry->nMessage == message && static_cast<short>(entry->nCode) == static_cast<short>(code)
-                && entry->nID <= id && id <= entry->nLastID) {
-                return entry;
-            }
-        }
-    }
-    return nullptr;
-}
-
-BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info)
-{
-    UINT kind = HIWORD(static_cast<DWORD>(nCode)) == WM_NOTIFY ? WM_NOTIFY : WM_COMMAND;
-    int code = static_cast<short>(LOWORD(static_cast<DWORD>(nCode)));
-    const AFX_MSGMAP_ENTRY* entry = findEntryM(kind, code, nID);
-    if (entry == nullptr) {
-        return FALSE;
-    }
-    if (info != nullptr) {
-        *info = { this, entry->pfn };
-        return TRUE;
-    }
-    AFX_MESSAGE m = { kind, 0, 0, 0, code, nID, extra };
-    return entry->pfn(this, m);
-}
 
 const MSG* CWnd::GetCurrentMessage()
 {
@@ -202,10 +160,8 @@ BOOL CWnd::SendChildNotifyLastMsg(LRESULT* result)
 // A control asks for its item size while it is being created, when only its id is known.
 HWND CWnd::measuredChildM(UINT id) const
 {
-    for (CreationHookCL* at = ThreadStateCL::ThisM().creations; at != nullptr; at = at->outer_) {
-        if (at->hasCaught_ && at->parent_ == m_hWnd && at->id_ == id) {
-            return at->wnd_ == nullptr ? nullptr : at->wnd_->m_hWnd;
-        }
+    if (const CreationHookCL* making = CreationHookCL::FindM(m_hWnd, id)) {
+        return making->WndM() == nullptr ? nullptr : making->WndM()->m_hWnd;
     }
     return ::GetDlgItem(m_hWnd, static_cast<int>(id));
 }
@@ -233,4 +189,58 @@ BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
         }
     }
     return FALSE;
+}
+
+// Here, not with the thread: the windows know it, so it must not know them.
+BOOL CWinThread::PreTranslateMessage(MSG* message)
+{
+    if (message->hwnd == nullptr) {
+        return FALSE;
+    }
+    HWND mainWnd = m_pMainWnd == nullptr ? nullptr : m_pMainWnd->m_hWnd;
+    return CWnd::WalkPreTranslateTree(mainWnd, message);
+}
+
+// What the window procedure does with the members of a window's object. As a function it could not be their
+// friend without losing its import.
+struct WindowMessageCL
+{
+    static LRESULT HandleM(CWnd* wnd, const LifeCL& life, const MSG& message)
+    {
+        const HWND hWnd = message.hwnd;
+        const LRESULT result = wnd->WindowProc(message.message, message.wParam, message.lParam);
+        if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == hWnd) {
+            wnd->CWnd::OnNcDestroy(); // its own handler didn't pass the message on
+        }
+        return result;
+    }
+};
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ThreadStateCL& state = ThreadStateCL::ThisM();
+    CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
+    if (wnd == nullptr) {
+        return ::DefWindowProcW(hWnd, message, wParam, lParam);
+    }
+    MSG outerMessage = state.message;
+    state.message = { hWnd, message, wParam, lParam, 0, {} };
+    ++state.depth;
+    LRESULT result = 0;
+    {
+        LifeCL life(wnd);
+        try {
+            result = WindowMessageCL::HandleM(wnd, life, { hWnd, message, wParam, lParam, 0, {} });
+        } catch (...) {
+            // The window system's frames below cannot carry an exception.
+            AfxLogFailure("a message handler threw an exception", nullptr);
+            result = message == WM_CREATE ? -1 : 0;
+            if (message == WM_PAINT) {
+                ::ValidateRect(hWnd, nullptr); // else it would come again at once
+            }
+        }
+    }
+    --state.depth;
+    state.message = outerMessage;
+    return result;
 }

@@ -1,4 +1,6 @@
+#include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/text.h"
 #include "toolkit/wnd.h"
 #include <vector>
 
@@ -46,12 +48,12 @@ BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT swpFlags)
 
 void CWnd::SetWindowText(LPCSTR text)
 {
-    ::SetWindowTextW(m_hWnd, GbkToWide(text).c_str());
+    ::SetWindowTextW(m_hWnd, slGbkToShown(text).c_str());
 }
 
 int CWnd::GetWindowText(LPSTR to, int size) const
 {
-    return CopyGbk(to, size, textOfM(m_hWnd));
+    return slCopyText(to, size, textOfM(m_hWnd));
 }
 
 void CWnd::GetWindowText(CString& to) const
@@ -66,12 +68,12 @@ int CWnd::GetWindowTextLength() const
 
 void CWnd::SetDlgItemText(int id, LPCSTR text)
 {
-    ::SetDlgItemTextW(m_hWnd, id, GbkToWide(text).c_str());
+    ::SetDlgItemTextW(m_hWnd, id, slGbkToShown(text).c_str());
 }
 
 int CWnd::GetDlgItemText(int id, LPSTR to, int size) const
 {
-    return CopyGbk(to, size, textOfM(::GetDlgItem(m_hWnd, id)));
+    return slCopyText(to, size, textOfM(::GetDlgItem(m_hWnd, id)));
 }
 
 int CWnd::GetDlgItemText(int id, CString& to) const
@@ -99,8 +101,8 @@ HICON CWnd::SetIcon(HICON icon, BOOL big)
 
 int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
 {
-    return ::MessageBoxW(m_hWnd, GbkToWide(text).c_str(),
-        GbkToWide(caption == nullptr ? AfxGetAppName() : caption).c_str(), type);
+    return ::MessageBoxW(m_hWnd, slGbkToShown(text).c_str(),
+        slGbkToShown(caption == nullptr ? AfxGetAppName() : caption).c_str(), type);
 }
 
 void CWnd::MoveWindow(LPCRECT rect, BOOL redraw)
@@ -169,8 +171,8 @@ int CWnd::ReleaseDC(CDC* dc)
 
 CWnd* CWnd::FindWindow(LPCSTR className, LPCSTR title)
 {
-    std::wstring wideClass = GbkToWide(className);
-    std::wstring wideTitle = GbkToWide(title);
+    std::wstring wideClass = slGbkToShown(className);
+    std::wstring wideTitle = slGbkToShown(title);
     return FromHandle(::FindWindowW(
         className == nullptr ? nullptr : wideClass.c_str(), title == nullptr ? nullptr : wideTitle.c_str()));
 }

@@ -67,6 +67,21 @@ TEST(Gbk, CopyIsCutBetweenCharacters)
     slCopyText(nullptr, 5, "x");
 }
 
+TEST(Gbk, CopyTellsHowManyBytesItTook)
+{
+    char to[8];
+    EXPECT_EQ(slCopyText(to, 8, "a\xD6\xD0"), 3);
+    EXPECT_EQ(slCopyText(to, 3, "a\xD6\xD0"), 1);
+    EXPECT_EQ(slCopyText(to, 8, nullptr), 0);
+    EXPECT_EQ(slCopyText(to, 0, "a"), 0);
+    EXPECT_EQ(slCopyText(nullptr, 8, "a"), 0);
+    // Of a counted text zeros are bytes like any other.
+    EXPECT_EQ(slCopyText(to, 8, std::string_view("a\0b\xD6\xD0", 5)), 5);
+    EXPECT_EQ(std::string(to, 6), std::string("a\0b\xD6\xD0\0", 6));
+    EXPECT_EQ(slCopyText(to, 5, std::string_view("a\0b\xD6\xD0", 5)), 3);
+    EXPECT_EQ(slCopyText(to, 8, std::string_view()), 0);
+}
+
 TEST(Gbk, CopyMayOverlap)
 {
     char text[] = "abcdef";
@@ -106,6 +121,18 @@ TEST(Gbk, BytesOfNoCharacterAreReplacedAndTheNextOneIsRead)
     EXPECT_EQ(slGbkToUtf8("\xD6"), "\uFFFD");
     EXPECT_EQ(slGbkToUtf8("\xD6\xFF\xD6\xD0"), "\uFFFD\uFFFD中");
     EXPECT_EQ(slGbkToUtf8("\x80"), "€");
+}
+
+TEST(Gbk, BrokenBytesAreShownAsWindowsConvertsThem)
+{
+    EXPECT_EQ(slGbkToShownUtf16("\x81 x"), u"?x");
+    EXPECT_EQ(slGbkToShownUtf16("a\xD6"), u"a?");
+    EXPECT_EQ(slGbkToShownUtf16("\xD6\xFF\xD6\xD0"), u"?\u4E2D");
+    EXPECT_EQ(slGbkToShownUtf16("\x81\x81\x81"), u"\u4E96?");
+    EXPECT_EQ(slGbkToShownUtf16("\x80\xFF@"), u"\u20AC\uF8F5@");
+    EXPECT_EQ(slGbkToShownUtf16("\xAA\xA1"), u"\uE000");
+    EXPECT_EQ(slGbkToShownUtf16(""), u"");
+    EXPECT_EQ(slGbkToShownUtf16(nullptr), u"");
 }
 
 TEST(Gbk, UserDefinedPairsAreKeptForThePlatformAndReplacedInPrint)

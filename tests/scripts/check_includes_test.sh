@@ -18,13 +18,18 @@ fresh() {
   printf '  controls/text/edit.cpp\n' >"$tree/src/control_sources.cmake"
 }
 
-expect() { # wanted exit code, what, file, line
+expect() { # wanted exit code, what, [file, line]...
+  local wanted=$1 what=$2
+  shift 2
   fresh
-  echo "$4" >>"$tree/src/$3"
+  while [ $# -gt 0 ]; do
+    echo "$2" >>"$tree/src/$1"
+    shift 2
+  done
   "$check" "$tree" >"$tree/out" 2>&1
   local code=$?
-  if [ "$code" -ne "$1" ]; then
-    echo "$2: exit code $code instead of $1"
+  if [ "$code" -ne "$wanted" ]; then
+    echo "$what: exit code $code instead of $wanted"
     cat "$tree/out"
     failures=$((failures + 1))
   fi
@@ -54,4 +59,34 @@ expect 1 "a listed file that is not there" control_sources.cmake '  records/gone
 expect 0 "panelkit.h brings what exports, by another header" panelkit.h '#include "dialog/dialog.h"
 // nothing else'
 expect 1 "panelkit.h leaves out a header that exports" panelkit.h '#include "containers/other.h"'
+
+told() { # what the last run said
+  grep -qF -- "$1" "$tree/out" || { echo "missing: $1"; cat "$tree/out"; failures=$((failures + 1)); }
+}
+
+# Units of one folder, in a circle or not. A source file is one with the header of its name.
+wnd='#include "toolkit/wnd.h"'
+app='#include "toolkit/app.h"'
+loop='#include "toolkit/loop.h"'
+listed='  toolkit/wnd.cpp
+  toolkit/app.cpp
+  toolkit/wnd_messages.cpp'
+circle() { # wanted exit code, what, [file, line]...
+  expect "$1" "$2" control_sources.cmake "$listed" toolkit/wnd.h // toolkit/app.h // toolkit/loop.h // \
+    toolkit/wnd.cpp "$wnd" toolkit/app.cpp "$app" toolkit/wnd_messages.cpp "$wnd" "${@:3}"
+}
+circle 0 "two that know a third" toolkit/wnd.h "$loop" toolkit/app.h "$loop" toolkit/app.cpp "$wnd"
+circle 1 "two headers" toolkit/wnd.h "$app" toolkit/app.h "$wnd"
+told "a circle of includes: src/toolkit/"
+circle 1 "a header and the other's source" toolkit/wnd.h "$app" toolkit/app.cpp "$wnd"
+circle 1 "two sources" toolkit/wnd.cpp "$app" toolkit/app.cpp "$wnd"
+circle 1 "a source that continues the other's name" toolkit/wnd_messages.cpp "$app" toolkit/app.cpp "$wnd"
+circle 1 "three" toolkit/wnd.h "$app" toolkit/app.h "$loop" toolkit/loop.h "$wnd"
+told "a circle of includes: src/toolkit/app -> src/toolkit/loop -> src/toolkit/wnd -> src/toolkit/app"
+circle 1 "behind one that stands outside" toolkit/toolkit.h "$wnd" toolkit/wnd.h "$app" toolkit/app.h "$wnd"
+circle 0 "a part and its header" toolkit/wnd.h '#include "toolkit/wnd_parts.h"' toolkit/wnd_parts.h "$wnd"
+circle 1 "a part of its own that the header's source needs" \
+  toolkit/wnd.cpp '#include "toolkit/wnd_hook.h"' toolkit/wnd_hook.h "$wnd"
+circle 1 "the circle of a part is its header's" \
+  toolkit/wnd.h '#include "toolkit/wnd_parts.h"' toolkit/wnd_parts.h "$wnd" toolkit/wnd_parts.h "$app" toolkit/app.cpp "$wnd"
 [ "$failures" -eq 0 ]

@@ -22,7 +22,7 @@ LRESULT PictureStaticCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const HWND window = m_hWnd;
     const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
     if (message == WM_ENABLE) {
-        // Some platforms' statics paint themselves at once, over what the control shows.
+        // Wine 8's statics paint themselves at once, without WM_PAINT, over what the control shows.
         ::InvalidateRect(window, nullptr, TRUE);
     }
     return result;

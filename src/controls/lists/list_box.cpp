@@ -27,7 +27,7 @@ DWORD ListBoxCL::selectionStyleM() const
 
 int ListBoxCL::selectM(int line, BOOL select)
 {
-    // Some platforms accept the message of multiple selections everywhere.
+    // Wine 8 answers the message of multiple selections with success in other lists too.
     const bool many = (GetStyle() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
     return many && SetSel(line, select) != LB_ERR ? 1 : 0;
 }
