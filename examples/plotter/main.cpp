@@ -89,7 +89,8 @@ BOOL PlotterDialogCL::OnSetCursor(CWnd* over, UINT hit, UINT message)
     if (message == WM_MOUSEMOVE && over->GetDlgCtrlID() == SpeedId && GetActiveWindow() == this) {
         CRect rect;
         over->GetWindowRect(&rect);
-        const NotLeavingCL showing(m_hWnd); // The new window takes the activation: no field is left by that.
+        // The new window takes the activation: no field is left by that.
+        const ValidationPauseCL showing(m_hWnd);
         tip_.ShowHelpM(
             this, CRect(rect.left, rect.bottom + 2, rect.left + 90, rect.bottom + 24), "10..800 mm/s");
         SetActiveWindow();

@@ -51,7 +51,7 @@ BOOL DuBasicDialogCL::OnInitDialog()
 
 void DuBasicDialogCL::DestroyM()
 {
-    const NotLeavingCL destroying(m_hWnd);
+    const ValidationPauseCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
     index_.ForgetM();
     font_.DeleteObject();
@@ -65,7 +65,7 @@ BOOL DuBasicDialogCL::DestroyWindow()
 
 void DuBasicDialogCL::EndDialog(int result)
 {
-    const NotLeavingCL ending(m_hWnd);
+    const ValidationPauseCL ending(m_hWnd);
     CDialog::EndDialog(result);
 }
 

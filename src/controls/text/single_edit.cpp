@@ -255,7 +255,7 @@ void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
         DispEditM();
     }
     if (::IsWindow(window) && tellM(leftTextM(code))) {
-        const NotLeavingCL reporting(::GetParent(m_hWnd));
+        const ValidationPauseCL reporting(::GetParent(m_hWnd));
         sendToParentM(ValueReportMsg, -1);
     }
 }
