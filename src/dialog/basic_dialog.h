@@ -39,6 +39,11 @@ public:
     int SetConfigFileM(const char* path);
     int SetCancelIdM(int id); // The control that takes the focus without a value check. Always 1.
 
+    // Shows the dialog without a template: the description file says all that one could. parent: the owner,
+    // not kept; null: for DoModalM the constructor's, else the application's main window.
+    int CreateM(CWnd* parent = nullptr);  // Modeless: it is built, and soon shows itself. 0 without a window.
+    int DoModalM(CWnd* parent = nullptr); // What EndDialog said; -1 without a window.
+
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
     // Without DestroyM before, a second build uses the records of the first load; its controls are destroyed.
