@@ -64,12 +64,6 @@ int DuBasicDialogCL::EnableSingleEditM(int id, int enable)
     return 1;
 }
 
-int DuBasicDialogCL::SetValueStatusM(int status)
-{
-    valueStatus_ = status;
-    return 1;
-}
-
 int DuBasicDialogCL::CheckValueLegalM()
 {
     valueStatus_ = 0;
