@@ -6,6 +6,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/common_box_control.cpp
   controls/base/control_common.cpp
   controls/base/control_geometry.cpp
+  controls/base/interrupted_press.cpp
   controls/base/leaving.cpp
   controls/base/picture_static.cpp
   controls/buttons/bmp_button.cpp

@@ -135,15 +135,6 @@ LRESULT PicturesDialogCL::onButtonM(WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
-// The description file says all the rest of the dialog.
-struct EmptyTemplateCL
-{
-    DLGTEMPLATE header { WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100 };
-    WORD menu { 0 };
-    WORD windowClass { 0 };
-    WORD title { 0 };
-};
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -153,9 +144,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "no such folder: %s\n", argv[1]);
         return 2;
     }
-    const EmptyTemplateCL empty;
     PicturesDialogCL dialog;
-    dialog.InitModalIndirect(&empty.header);
-    dialog.DoModal();
+    dialog.DoModalM();
     return 0;
 }

@@ -89,7 +89,8 @@ BOOL PlotterDialogCL::OnSetCursor(CWnd* over, UINT hit, UINT message)
     if (message == WM_MOUSEMOVE && over->GetDlgCtrlID() == SpeedId && GetActiveWindow() == this) {
         CRect rect;
         over->GetWindowRect(&rect);
-        const NotLeavingCL showing(m_hWnd); // The new window takes the activation: no field is left by that.
+        // The new window takes the activation: no field is left by that.
+        const ValidationPauseCL showing(m_hWnd);
         tip_.ShowHelpM(
             this, CRect(rect.left, rect.bottom + 2, rect.left + 90, rect.bottom + 24), "10..800 mm/s");
         SetActiveWindow();
@@ -134,15 +135,6 @@ void PlotterDialogCL::PrintM() const
     std::printf("landscape %d\nfeed paper %d\nlift pen %d\npen %d\n", landscape_, feed_, liftPen_, pen_);
 }
 
-// The description file says all the rest of the dialog.
-struct EmptyTemplateCL
-{
-    DLGTEMPLATE header { WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100 };
-    WORD menu { 0 };
-    WORD windowClass { 0 };
-    WORD title { 0 };
-};
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -152,10 +144,8 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "no such folder: %s\n", argv[1]);
         return 2;
     }
-    const EmptyTemplateCL empty;
     PlotterDialogCL dialog;
-    dialog.InitModalIndirect(&empty.header);
-    if (dialog.DoModal() != IDOK) {
+    if (dialog.DoModalM() != IDOK) {
         std::printf("cancelled\n");
         return 1;
     }

@@ -7,6 +7,15 @@ namespace {
 constexpr UINT_PTR StartTimer = 6107;
 constexpr UINT StartPeriod = 50; // Milliseconds.
 
+// An empty dialog.
+constexpr struct
+{
+    DLGTEMPLATE header { WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100 };
+    WORD menu { 0 };
+    WORD windowClass { 0 };
+    WORD title { 0 };
+} EmptyTemplate {};
+
 } // namespace
 
 IMPLEMENT_DYNCREATE(DuBasicDialogCL, CDialog)
@@ -34,10 +43,15 @@ int DuBasicDialogCL::SetConfigFileM(const char* path)
     return 1;
 }
 
-int DuBasicDialogCL::SetCancelIdM(int id)
+int DuBasicDialogCL::CreateM(CWnd* parent)
 {
-    cancelId_ = id;
-    return 1;
+    return CreateIndirect(&EmptyTemplate.header, parent) ? 1 : 0;
+}
+
+int DuBasicDialogCL::DoModalM(CWnd* parent)
+{
+    InitModalIndirect(&EmptyTemplate.header, parent);
+    return static_cast<int>(DoModal());
 }
 
 BOOL DuBasicDialogCL::OnInitDialog()
@@ -51,7 +65,7 @@ BOOL DuBasicDialogCL::OnInitDialog()
 
 void DuBasicDialogCL::DestroyM()
 {
-    const NotLeavingCL destroying(m_hWnd);
+    const ValidationPauseCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
     index_.ForgetM();
     font_.DeleteObject();
@@ -65,7 +79,7 @@ BOOL DuBasicDialogCL::DestroyWindow()
 
 void DuBasicDialogCL::EndDialog(int result)
 {
-    const NotLeavingCL ending(m_hWnd);
+    const ValidationPauseCL ending(m_hWnd);
     CDialog::EndDialog(result);
 }
 

@@ -25,6 +25,7 @@
 
 // The dialog host: owns the records and controls of every kind and builds them from a description file.
 // Applications derive from it. Null where a pointer is wanted is refused: nothing happens, the result is 0.
+// Where nothing else is said the result is 1.
 class PANELKIT_API DuBasicDialogCL : public CDialog
 {
     DECLARE_DYNCREATE(DuBasicDialogCL)
@@ -37,7 +38,13 @@ public:
     // Takes the path (GBK) of the description file; what is longer than 259 bytes is cut at a character.
     // 0, and the old path stays, for an empty path.
     int SetConfigFileM(const char* path);
-    int SetCancelIdM(int id); // The control that takes the focus without a value check. Always 1.
+    // The control that takes the focus without a value check.
+    int SetCancelIdM(int id) { return slKeep(cancelId_, id); }
+
+    // Shows the dialog without a template: the description file says all that one could. parent: the owner,
+    // not kept; null: for DoModalM the constructor's, else the application's main window.
+    int CreateM(CWnd* parent = nullptr);  // Modeless: it is built, and soon shows itself. 0 without a window.
+    int DoModalM(CWnd* parent = nullptr); // What EndDialog said; -1 without a window.
 
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
@@ -56,8 +63,8 @@ public:
     CWnd* GetContrlPtrM(int id, int* kind);           // Null: none, *kind stays. A static_cast to the class
                                                       // that *kind says is fine; the host keeps it.
     int ShowContrlM(int id, int show);                // Shows for 1, hides for every other value; 1.
-    int ShowAllCtrlM(int show);                       // The same for all controls; always 1.
-    int EnableAllCtrlM(int enable);                   // Enables for 1, else disables; always 1.
+    int ShowAllCtrlM(int show);                       // The same for all controls.
+    int EnableAllCtrlM(int enable);                   // Enables for 1, else disables.
     void ShowObjectM(int kind, int index, bool show); // Radio buttons (kind 11) by place in their array.
     int GetNormalAnimateBmpIdxM(int id, int* index);  // The picture shown; *index is set only for 1.
     int ChangeNormalAnimateM(int id, int index);      // Shows a picture; the animation's result.
@@ -78,10 +85,10 @@ public:
     int GetSingleEditValM(int id, float* value);
     int GetSingleEditValM(int id, char* text); // 260 bytes.
     int GetSingleEditValM(int id, simpleValD* value);
-    int EnableSingleEditM(int id, int enable); // Enables for 1, else disables; -1: all of them. Always 1.
+    int EnableSingleEditM(int id, int enable); // Enables for 1, else disables; -1: all of them.
 
     // -1: a typed value is bad. It stands for the application's dialog that routes 1624 to onCtrlLostFocusM.
-    int SetValueStatusM(int status); // Always 1.
+    int SetValueStatusM(int status) { return slKeep(valueStatus_, status); }
     int GetValueStatusM() const { return valueStatus_; }
     // Has the single-line edit with the focus checked as if the user left it: a bad value is told, and the
     // edit keeps the focus. The value status. While a bad value is being told or reported nothing is told
@@ -117,16 +124,16 @@ private:
     };
 
     template <class FunctionTP> void eachControlsM(FunctionTP&& see); // with_control.h
-    template <class FunctionTP> int withControlM(int id, FunctionTP&& see);
+    template <class FunctionTP> bool withControlM(int id, FunctionTP&& see);
     void fillIndexM();
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
-    int initM(CWnd* parent, int mode);
-    template <class RowTP> int buildKindM(CWnd* parent);
+    void initM(CWnd* parent, int mode);
+    template <class RowTP> void buildKindM(CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
     Int2DArr stackedM();
-    int initCtrlZOrderM(CWnd* parent);
-    int setItemFontM(CWnd* parent, int fontOption);
-    int setTxtLstBoxItemHeightM();
+    void initCtrlZOrderM(CWnd* parent);
+    void setItemFontM(CWnd* parent, int fontOption);
+    void setTxtLstBoxItemHeightM();
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };

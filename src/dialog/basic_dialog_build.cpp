@@ -1,7 +1,6 @@
 // Building: the header and the pass of each kind.
 #include "dialog/basic_dialog.h"
 #include "dialog/with_control.h"
-#include <algorithm>
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
 {
@@ -24,29 +23,27 @@ HWND DuBasicDialogCL::parentM() const
     return ::IsWindow(builtIn_) ? builtIn_ : m_hWnd;
 }
 
-int DuBasicDialogCL::initM(CWnd* parent, int mode)
+void DuBasicDialogCL::initM(CWnd* parent, int mode)
 {
     VrIOCL io;
     io.OpenM(configFile_, "r");
     if (slReadDialogHeader(io, header_) == 0) {
-        return 0;
+        return;
     }
     background_.DropM(); // Perhaps another file's.
     if (!header_.background.EmptyM()) {
         background_.LoadSafeBitmapM(header_.background.TextM());
     }
     if (mode == 1) {
-        constexpr int Most = 32767; // No window is farther away or larger.
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
         if (header_.titleFlag == 1) {
             parent->SetWindowText(header_.title.TextM());
         }
         // The style may have another frame, of which a window of the same size would not hear.
-        parent->SetWindowPos(nullptr, std::clamp(header_.position[0], -Most, Most),
-            std::clamp(header_.position[1], -Most, Most), std::clamp(header_.size[0], -Most, Most),
-            std::clamp(header_.size[1], -Most, Most), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        parent->SetWindowPos(nullptr, slWindowLength(header_.position[0]),
+            slWindowLength(header_.position[1]), slWindowLength(header_.size[0]),
+            slWindowLength(header_.size[1]), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     }
-    return 1;
 }
 
 void DuBasicDialogCL::fillIndexM()
@@ -63,7 +60,7 @@ void DuBasicDialogCL::fillIndexM()
 
 // Reads the records of one kind, then makes and fills its controls. The file is closed before any window
 // exists: a control may open it again.
-template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
+template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
     auto& [controls, records] = std::get<KindMembersCL<RowTP>>(kinds_);
@@ -71,9 +68,8 @@ template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
     {
         VrIOCL io;
         io.OpenM(configFile_, "r");
-        const SectionStatus status = slReadSection(io, records, &count);
-        if (status != SectionStatus::Read) {
-            return status == SectionStatus::Empty ? 1 : 0;
+        if (slReadSection(io, records, &count) != SectionStatus::Read) {
+            return;
         }
     }
     if constexpr (!RowTP::Records::Secondaries.empty()) {
@@ -100,5 +96,4 @@ template <class RowTP> int DuBasicDialogCL::buildKindM(CWnd* parent)
             control = controls.GetNextIdxM(control);
         }
     }
-    return 1;
 }

@@ -45,7 +45,7 @@ Int2DArr DuBasicDialogCL::stackedM()
 // Stacks the controls by ascending window index, equal ones as collected. Each step looks up its id and moves
 // what it finds just behind the step before; as moved windows are above all others, an id always finds the
 // window that was topmost at first, and the last step with that id decides where it stays.
-int DuBasicDialogCL::initCtrlZOrderM(CWnd* parent)
+void DuBasicDialogCL::initCtrlZOrderM(CWnd* parent)
 {
     struct StepCL
     {
@@ -77,10 +77,9 @@ int DuBasicDialogCL::initCtrlZOrderM(CWnd* parent)
         ::SetWindowPos(*window, anchor, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
         anchor = *window;
     }
-    return 1;
 }
 
-int DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
+void DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
 {
     LOGFONTA font {};
     font.lfHeight = fontOption == INT_MIN ? INT_MAX : -fontOption;
@@ -98,16 +97,13 @@ int DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
             ::SendMessageW(found->second, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()), TRUE);
         }
     }
-    return 1;
 }
 
-int DuBasicDialogCL::setTxtLstBoxItemHeightM()
+void DuBasicDialogCL::setTxtLstBoxItemHeightM()
 {
-    int result = 0;
-    eachControlsM([&result](auto row, auto& controls) {
+    eachControlsM([](auto row, auto& controls) {
         if constexpr (decltype(row)::CanM(HasLineHeight)) {
-            result = controls.SetItemHeightM();
+            controls.SetItemHeightM();
         }
     });
-    return result;
 }

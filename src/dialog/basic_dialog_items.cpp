@@ -52,7 +52,8 @@ int DuBasicDialogCL::ChangeNormalAnimateM(int id, int index)
 
 int DuBasicDialogCL::ShowContrlM(int id, int show)
 {
-    return withControlM(id, [show](auto, auto& control) { control.SetItemCmdM(show == 1 ? 3 : 4); });
+    const auto command = [show](auto, auto& control) { control.SetItemCmdM(show == 1 ? 3 : 4); };
+    return withControlM(id, command) ? 1 : 0;
 }
 
 int DuBasicDialogCL::ShowAllCtrlM(int show)

@@ -64,12 +64,6 @@ int DuBasicDialogCL::EnableSingleEditM(int id, int enable)
     return 1;
 }
 
-int DuBasicDialogCL::SetValueStatusM(int status)
-{
-    valueStatus_ = status;
-    return 1;
-}
-
 int DuBasicDialogCL::CheckValueLegalM()
 {
     valueStatus_ = 0;
@@ -77,8 +71,8 @@ int DuBasicDialogCL::CheckValueLegalM()
     if (window == nullptr) {
         return valueStatus_;
     }
-    const AskingCL asking;
-    if (NotLeavingCL::CoversM(window)) {
+    const ValidationRequestCL asking;
+    if (ValidationPauseCL::CoversM(window)) {
         // Asked while a message is open or a bad value is being reported: the user has been told.
         const HWND field = ::GetFocus();
         eachControlsM([this, field](auto row, auto& controls) {
@@ -121,7 +115,7 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     // What the application does about closing, such as asking the user, must not check any value first.
     const bool isCancel = message == WM_COMMAND && wParam == IDCANCEL;
     if (message == WM_CLOSE || isCancel) {
-        const NotLeavingCL closing(m_hWnd, NotLeavingCL::UnlessAsked);
+        const ValidationPauseCL closing(m_hWnd, ValidationPauseCL::AllowRequests);
         return CDialog::WindowProc(message, wParam, lParam);
     }
     return CDialog::WindowProc(message, wParam, lParam);

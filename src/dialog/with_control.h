@@ -10,27 +10,27 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
 }
 
 // Calls see(row, control) for the first control with that id: the first array in member order that holds one.
-// 0 when there is none.
-template <class FunctionTP> int DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
+// Whether there is one.
+template <class FunctionTP> bool DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
 {
     if (!index_.IsFilledM()) {
         fillIndexM();
     }
     for (const ControlIndexCL::PlaceCL& place : index_.PlacesM(id)) {
-        int found = 0;
+        bool found = false;
         int number = 0;
         const int slot = place.slot;
         const int wanted = place.row;
         eachControlsM([&](auto row, auto& controls) {
             if (number++ == wanted && controls.CheckAvailableM(slot) == 1
                 && controls.ElementAtM(slot).GetFunctionIDM() == id) {
-                found = 1;
+                found = true;
                 see(row, controls.ElementAtM(slot));
             }
         });
-        if (found != 0) {
-            return 1; // What see() did may have changed the index.
+        if (found) {
+            return true; // What see() did may have changed the index.
         }
     }
-    return 0;
+    return false;
 }

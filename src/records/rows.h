@@ -43,6 +43,22 @@ inline int slAddText(VrStringArr& texts, const char* text)
     return text != nullptr ? 1 : 0;
 }
 
+// The text of slot `index`, "" outside the list.
+inline const char* slTextAt(const VrStringArr& texts, int index)
+{
+    const VrStringCL* const string = texts.GetItemPM(index);
+    return string != nullptr ? string->TextM() : "";
+}
+
+// Calls see(number, text) for the alive texts in order, numbered from 0.
+template <class FunctionTP> void slEachText(const VrStringArr& texts, FunctionTP&& see)
+{
+    int number = 0;
+    for (int i = texts.GetFirstIdxM(); i >= 0; i = texts.GetNextIdxM(i)) {
+        see(number++, slTextAt(texts, i));
+    }
+}
+
 // Shows rows to a visitor, which may change their values: the alive items of `first` in their order.
 // rowAt(slot) is the RowCL of one of them.
 template <class ListTP, class RowAtTP>

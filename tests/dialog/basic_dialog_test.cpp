@@ -204,8 +204,7 @@ TEST(BasicDialog, DestroyWindowReleasesTheControlsAndTheObjectCanBeShownAgain)
     EXPECT_TRUE(dialog.DestroyWindow());
     EXPECT_FALSE(::IsWindow(label));
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-    const EmptyTemplateCL empty;
-    EXPECT_TRUE(dialog.CreateIndirect(&empty.header, nullptr));
+    EXPECT_EQ(dialog.CreateM(), 1);
     EXPECT_EQ(dialog.StackM(), "11");
 }
 
@@ -222,11 +221,9 @@ TEST(BasicDialog, ModalDialogClosesByItsCloseButton)
         }
     };
     const DescriptionFileCL file(HeaderSections);
-    const EmptyTemplateCL empty;
     ModalCL dialog;
     dialog.SetConfigFileM(file.path());
-    dialog.InitModalIndirect(&empty.header, nullptr);
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.DoModalM(), IDCANCEL);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
 }
 

@@ -20,13 +20,12 @@ public:
         : focused_(focused)
     {
         SetConfigFileM(file_.path());
-        InitModalIndirect(&template_.header, &owner_);
         ActivateM(owner_.m_hWnd);
     }
     // What the user was told and what the dialog was posted by the time it is gone.
     std::string RunM()
     {
-        DoModal();
+        DoModalM(&owner_);
         PumpPending();
         std::string all = told_.SeenM().empty() ? "" : "told ";
         for (const std::string& line : seen_) {
@@ -80,7 +79,6 @@ protected:
 private:
     const int focused_;
     const DescriptionFileCL file_ { editSection({ editRecord(11, "1 0 100", "5") }) + Sections };
-    EmptyTemplateCL template_;
     PlainWindowCL owner_;
     MessageBoxWatcher told_;
     std::vector<std::string> seen_;

@@ -87,8 +87,7 @@ TEST(SecondCreate, OfADialogReplacesItsWindow)
     TestDialogCL dialog(HeaderSections + std::string("[标题]\n1\n0\n1 11 20 30 120 20 1\nx\n0 -1 0 0\n"));
     const HWND first = dialog.m_hWnd;
     const int windows = LiveWindowsM();
-    const EmptyTemplateCL empty;
-    ASSERT_TRUE(dialog.CreateIndirect(&empty.header, nullptr));
+    ASSERT_EQ(dialog.CreateM(), 1);
     EXPECT_FALSE(::IsWindow(first));
     EXPECT_EQ(LiveWindowsM(), windows);
     EXPECT_NE(dialog.ItemM(11), nullptr);

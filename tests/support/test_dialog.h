@@ -2,15 +2,6 @@
 #include "dialog/basic_dialog.h"
 #include "support/description.h"
 
-// An empty dialog in memory: description files say all the rest.
-struct EmptyTemplateCL
-{
-    DLGTEMPLATE header { WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100 };
-    WORD menu { 0 };
-    WORD windowClass { 0 };
-    WORD title { 0 };
-};
-
 // The dialog of a description (UTF-8), built in mode 1. Its window exists, not yet shown, until the object
 // goes.
 class TestDialogCL : public DuBasicDialogCL
@@ -20,7 +11,7 @@ public:
         : file_(utf8)
     {
         SetConfigFileM(file_.path());
-        CreateIndirect(&template_.header, nullptr);
+        CreateM();
     }
 
     const char* PathM() const { return file_.path(); }
@@ -41,7 +32,6 @@ public:
 
 private:
     DescriptionFileCL file_;
-    EmptyTemplateCL template_;
 };
 
 // A plain top-level window of the test: a parent that no library code restyles or fills.

@@ -2,9 +2,9 @@
 #include "application.h"
 #include "commands.h"
 #include "description_file.h"
+#include "dialog/basic_dialog.h"
 #include "inspect_items.h"
 #include "json.h"
-#include "shown_dialog.h"
 
 namespace {
 
@@ -70,8 +70,9 @@ int inspectCommand(const std::string& file)
     if (!enterFolderOf(file, &name)) {
         return CannotUse;
     }
-    ShownDialogCL dialog(name);
-    if (!dialog.BuildM()) {
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(name.c_str());
+    if (dialog.CreateM() != 1) {
         complain("the dialog of '" + file + "' can't be created");
         return 1;
     }

@@ -20,48 +20,54 @@ bool handleQueued()
     return any;
 }
 
-bool put(DuBmpButtonCL& button, int status)
+bool setStatus(DuBmpButtonCL& button, int status)
 {
     return status >= ButtonNormal && status <= ButtonDisabled
         && button.SetBtnStatusM(static_cast<BUTTON_STATUS>(status)) == 1;
 }
 
-bool put(DuMultiStateButtonCL& button, int status)
+bool setStatus(DuMultiStateButtonCL& button, int status)
 {
     return button.SetCurStatusM(status) == 1;
 }
 
-bool put(DuNormalAnimateCL& animation, int frame)
+bool setStatus(DuNormalAnimateCL& animation, int frame)
 {
     constexpr int Manual = 2;
     return animation.SetCtrlModeM(Manual) == 1 && animation.DispBmpM(frame) == 1;
 }
 
-bool put(DuNewRotateBtnCL& button, int index)
+bool setStatus(DuNewRotateBtnCL& button, int index)
 {
     button.SetCurIndxM(index);
     button.Invalidate(FALSE);
     return true;
 }
 
-template <class ControlTP> bool isPut(CWnd* control, int status)
+template <class ControlTP> bool setStatusOf(CWnd* control, int status)
 {
     auto* const one = dynamic_cast<ControlTP*>(control);
-    return one != nullptr && put(*one, status);
+    return one != nullptr && setStatus(*one, status);
 }
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(PreviewDialogCL, ShownDialogCL)
+BEGIN_MESSAGE_MAP(PreviewDialogCL, DuBasicDialogCL)
 ON_WM_TIMER()
 ON_MESSAGE(QueryPermissionMsg, &PreviewDialogCL::onPermissionM)
 ON_MESSAGE(ButtonDownMsg, &PreviewDialogCL::onButtonDownM)
 ON_MESSAGE(ButtonActionMsg, &PreviewDialogCL::onButtonM)
 END_MESSAGE_MAP()
 
+PreviewDialogCL::PreviewDialogCL(const std::string& file)
+    : file_(file)
+{
+    SetConfigFileM(file.c_str());
+}
+
 BOOL PreviewDialogCL::OnInitDialog()
 {
-    const BOOL result = ShownDialogCL::OnInitDialog();
+    const BOOL result = DuBasicDialogCL::OnInitDialog();
     AfxGetApp()->m_pMainWnd = this; // Is asked for permission.
     addNewRotateButtonsM();
     return result;
@@ -70,7 +76,7 @@ BOOL PreviewDialogCL::OnInitDialog()
 void PreviewDialogCL::addNewRotateButtonsM()
 {
     VrIOCL io;
-    io.OpenM(NameM(), "r");
+    io.OpenM(file_.c_str(), "r");
     DVrNewRotateBtnArr records;
     if (records.FmReadInterfaceM(&io) == 1) {
         for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
@@ -112,20 +118,14 @@ void PreviewDialogCL::OnTimer(UINT_PTR id)
             KillTimer(RepeatTimer);
         }
     }
-    ShownDialogCL::OnTimer(id);
+    DuBasicDialogCL::OnTimer(id);
 }
 
 bool PreviewDialogCL::SetStatusM(int id, int status)
 {
     CWnd* const control = CWnd::FromHandlePermanent(::GetDlgItem(m_hWnd, id));
-    return isPut<DuBmpButtonCL>(control, status) || isPut<DuMultiStateButtonCL>(control, status)
-        || isPut<DuNormalAnimateCL>(control, status) || isPut<DuNewRotateBtnCL>(control, status);
-}
-
-void PreviewDialogCL::RunM()
-{
-    InitModalIndirect(TemplateM(), nullptr);
-    DoModal();
+    return setStatusOf<DuBmpButtonCL>(control, status) || setStatusOf<DuMultiStateButtonCL>(control, status)
+        || setStatusOf<DuNormalAnimateCL>(control, status) || setStatusOf<DuNewRotateBtnCL>(control, status);
 }
 
 bool PreviewDialogCL::WaitUntilShownM()

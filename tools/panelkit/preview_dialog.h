@@ -1,16 +1,16 @@
 #pragma once
 #include "controls/buttons/new_rotate_btn.h"
-#include "shown_dialog.h"
+#include "dialog/basic_dialog.h"
 #include <deque>
+#include <string>
 
 // The dialog as its author wants to see it: with the new rotate buttons of the file, which the library leaves
 // to the application. Here they may always be pressed, and go on turning while they are held.
-class PreviewDialogCL : public ShownDialogCL
+class PreviewDialogCL : public DuBasicDialogCL
 {
 public:
-    using ShownDialogCL::ShownDialogCL;
+    explicit PreviewDialogCL(const std::string& file); // In the current folder, as the library takes it.
 
-    void RunM();            // Shown until it is closed.
     bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
     // Puts the control with that id in a status as an application could: the status of a bitmap button or
     // multi-state button, the frame of a normal animation (it then stands still), the position of a new
@@ -29,5 +29,6 @@ protected:
 private:
     void addNewRotateButtonsM();
 
+    std::string file_;
     std::deque<DuNewRotateBtnCL> newRotateButtons_; // Must not move while they have windows.
 };

@@ -15,7 +15,7 @@ int shotCommand(
         return CannotUse;
     }
     PreviewDialogCL dialog(name);
-    const bool built = dialog.BuildM();
+    const bool built = dialog.CreateM() == 1;
     for (const auto& [id, status] : statuses) {
         if (built && !dialog.SetStatusM(id, status)) {
             return complain("control " + std::to_string(id) + " of '" + file + "' has no status "

@@ -11,11 +11,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// OurOwn: nothing to look at, so nothing appears on a desktop.
 enum class Display
 {
     Users,
     OurOwn
-}; // OurOwn: nothing to look at, so nothing appears on a desktop.
+};
 
 // This program is build/host/bin/panelkit of a checkout.
 fs::path checkout()

@@ -8,6 +8,6 @@ int viewCommand(const std::string& file)
     if (!enterFolderOf(file, &name)) {
         return CannotUse;
     }
-    PreviewDialogCL(name).RunM();
+    PreviewDialogCL(name).DoModalM();
     return 0;
 }

@@ -5,10 +5,10 @@
 class PANELKIT_API AnimationCL : public PictureStaticCL
 {
 public:
-    int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing. Always 1.
-    void DelItemM();           // Destroys window and frames, marks the element deleted.
+    int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing.
+    void DelItemM();
     // Deletes a frame. If it is the current one there is none from then on, and the window shows so.
-    // Always 1.
+
     int DeleteBmpM(int index);
 
 protected:

@@ -1,5 +1,6 @@
 #include "controls/animation/normal_animate.h"
 #include "controls/animation/normal_animate_record.h"
+#include "controls/base/styles.h"
 
 template class PANELKIT_API Arr<DuNormalAnimateCL>;
 
@@ -26,9 +27,7 @@ int DVrNormalAnimateCL::InitNormalAnimateM(DuNormalAnimateCL* control) const
         return 0;
     }
     control->SetInitBmpNumM(frames_.GetAvailableNumM());
-    for (int i = frames_.GetFirstIdxM(); i >= 0; i = frames_.GetNextIdxM(i)) {
-        control->AddBmpM(frames_.GetItemPM(i)->TextM());
-    }
+    slEachText(frames_, [control](int, const char* file) { control->AddBmpM(file); });
     control->SetCtrlModeM(controlMode_);
     control->SetTimeLapM(timeLapse_);
     control->SetSunkenM(sunken_);
@@ -42,9 +41,7 @@ int DVrNormalAnimateCL::InitNormalAnimateM(DuNormalAnimateCL* control) const
 BOOL DuNormalAnimateCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE;
-    if (sunken_ == 1) {
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
+    slSetSunken(create, sunken_);
     return CStatic::PreCreateWindow(create);
 }
 
@@ -76,24 +73,6 @@ int DuNormalAnimateCL::SetCtrlModeM(int mode)
         current_ = 0;
         invalidateM(true);
     }
-    return 1;
-}
-
-int DuNormalAnimateCL::SetTimeLapM(int lapse)
-{
-    timeLapse_ = lapse;
-    return 1;
-}
-
-int DuNormalAnimateCL::SetSunkenM(int sunken)
-{
-    sunken_ = sunken;
-    return 1;
-}
-
-int DuNormalAnimateCL::SetNotifyM(int notify)
-{
-    notify_ = notify;
     return 1;
 }
 
@@ -199,14 +178,4 @@ void DuNormalAnimateCL::OnLButtonUp(UINT, CPoint point)
             postToParentM(AnimationClickedMsg);
         }
     });
-}
-
-void DuNormalAnimateCL::OnLButtonDblClk(UINT flags, CPoint point)
-{
-    OnLButtonDown(flags, point);
-}
-
-void DuNormalAnimateCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
 }

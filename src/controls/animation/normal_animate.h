@@ -21,15 +21,16 @@ public:
     // then there, but draws nothing.
     int AddBmpM(const char* file);
     int SetBmpM(int index, const char* file); // Loads a frame anew; 1, or 0 when there is no such picture.
-    int SetCtrlModeM(int mode);     // 1, or 0 for other modes than 1 and 2. Mode 2 starts at frame 0.
-    int SetTimeLapM(int lapse);     // Milliseconds between frames; below 1: they stand still. Always 1.
-    int SetSunkenM(int sunken);     // 1: sunken edge. Always 1.
-    int SetNotifyM(int notify);     // 1: the control gets the mouse. Always 1.
+    int SetCtrlModeM(int mode); // 1, or 0 for other modes than 1 and 2. Mode 2 starts at frame 0.
+    // Milliseconds between frames; below 1: they stand still.
+    int SetTimeLapM(int lapse) { return slKeep(timeLapse_, lapse); }
+    int SetSunkenM(int sunken) { return slKeep(sunken_, sunken); } // 1: sunken edge.
+    int SetNotifyM(int notify) { return slKeep(notify_, notify); } // 1: the control gets the mouse.
     int SetFirstIdxM();             // Shows the first frame; 0 when there is none.
     int DispBmpM(int index);        // Shows a frame, none for any other number; 0 in mode 1.
     int GetCurIdxM(int* out) const; // 0, and *out unchanged, when there is no current frame.
     int RedrawWindowM();            // Paints at once; 0 when there is no current frame.
-    int DelAllBmpM();               // Always 1.
+    int DelAllBmpM();
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -39,8 +40,8 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

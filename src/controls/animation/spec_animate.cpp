@@ -1,5 +1,6 @@
 #include "controls/animation/spec_animate.h"
 #include "controls/animation/spec_animate_record.h"
+#include "controls/base/styles.h"
 
 template class PANELKIT_API Arr<DuSpecAnimateCL>;
 
@@ -13,9 +14,7 @@ int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
         return 0;
     }
     control->SetInitBmpNumM(frames_.GetAvailableNumM());
-    for (int i = frames_.GetFirstIdxM(); i >= 0; i = frames_.GetNextIdxM(i)) {
-        control->AddBmpM(frames_.GetItemPM(i)->TextM());
-    }
+    slEachText(frames_, [control](int, const char* file) { control->AddBmpM(file); });
     control->SetSunkModeM(sunkMode_);
     control->SetTypeM(type_);
     return 1;
@@ -24,9 +23,7 @@ int DVrSpecAnimateCL::InitSpecAnimateM(DuSpecAnimateCL* control) const
 BOOL DuSpecAnimateCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP;
-    if (sunkMode_ == 1) {
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
+    slSetSunken(create, sunkMode_);
     return CStatic::PreCreateWindow(create);
 }
 
@@ -43,21 +40,4 @@ int DuSpecAnimateCL::DelAllBmpM()
 {
     deleteFramesM();
     return 1;
-}
-
-int DuSpecAnimateCL::SetSunkModeM(int sunkMode)
-{
-    sunkMode_ = sunkMode;
-    return 1;
-}
-
-int DuSpecAnimateCL::SetTypeM(int type)
-{
-    type_ = type;
-    return 1;
-}
-
-void DuSpecAnimateCL::OnPaint()
-{
-    const CPaintDC validated(this); // The application draws.
 }

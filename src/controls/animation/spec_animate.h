@@ -19,9 +19,9 @@ public:
     // Appends the frame of a file: 1, also when it can't be loaded, which leaves a frame that draws nothing;
     // 0 for an empty name.
     int AddBmpM(const char* file);
-    int DelAllBmpM();               // Always 1.
-    int SetSunkModeM(int sunkMode); // 1: sunken edge. Always 1.
-    int SetTypeM(int type);         // What it means is the application's business. Always 1.
+    int DelAllBmpM();
+    int SetSunkModeM(int sunkMode) { return slKeep(sunkMode_, sunkMode); } // 1: sunken edge.
+    int SetTypeM(int type) { return slKeep(type_, type); } // What it means is the application's business.
 
     int GetTypeM() const { return type_; }
     int GetSunkModeM() const { return sunkMode_; }
@@ -29,7 +29,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    afx_msg void OnPaint();
+    afx_msg void OnPaint() { const CPaintDC validated(this); } // The application draws.
     DECLARE_MESSAGE_MAP()
 
 private:

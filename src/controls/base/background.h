@@ -1,4 +1,5 @@
 #pragma once
+#include "controls/base/accessors.h"
 #include "pictures/brush_record.h"
 #include "toolkit/toolkit.h"
 
@@ -20,8 +21,7 @@ public:
         return *this;
     }
 
-    COLORREF GetColourM() const { return colour_; }
-    void SetColourM(COLORREF colour) { colour_ = colour; }
+    int SetColourM(COLORREF colour) { return slKeep(colour_, colour); }
 
     // Answers a colour request: sets the text background and replaces the brush, which stays owned here. Null
     // without dc.

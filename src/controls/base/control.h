@@ -6,8 +6,8 @@
 
 // What every kind of control is made of, in this order: a platform control, the common base, the element
 // base; with what all kinds do alike. Copying copies the description, never the window.
-// Whatever a kind says of its results: null where a pointer is wanted is refused, nothing happens, and the
-// result is that of a failure (0; -1 for an index, null for an item).
+// Where a kind says nothing of a result it is 1. Whatever it says: null where a pointer is wanted is refused,
+// nothing happens, and the result is that of a failure (0; -1 for an index, null for an item).
 template <class PlatformTP> class ControlCL : public PlatformTP, public DControlCommonCL, public VrBaseCL
 {
 public:
@@ -35,7 +35,11 @@ public:
         return *this;
     }
 
-    // Destroys the window and marks the element deleted.
+    using PlatformTP::Create;
+    // Creates the child window at the described place; the platform's result.
+    int Create(CWnd* parent) { return createM(parent); }
+
+    // Destroys the window and marks the element deleted. What a kind keeps for painting goes too.
     void DelItemM()
     {
         PlatformTP::DestroyWindow();
@@ -58,7 +62,7 @@ public:
         return 1;
     }
 
-    // Stacks the window just behind another, and shows it. Always 1.
+    // Stacks the window just behind another, and shows it.
     int SetZOrderM(const CWnd* after)
     {
         this->SetWindowPos(after, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
@@ -69,6 +73,12 @@ public:
     using DControlCommonCL::OnMouseMove;
 
 protected:
+    // Creates the window as Create does: with a caption where the platform's class takes one.
+    template <class... CaptionTP> int createM(CWnd* parent, CaptionTP... caption)
+    {
+        return createdM(
+            PlatformTP::Create(caption..., 0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
+    }
     // Records the control as its own window once the platform has created it.
     int createdM(BOOL created)
     {

@@ -13,14 +13,7 @@ public:
     // fails. 0 when there is none, else the last result.
     int Create(CWnd* parent)
     {
-        int result = 0;
-        for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-            result = this->ElementAtM(i).Create(parent);
-            if (result != 1) {
-                break;
-            }
-        }
-        return result;
+        return untilFailureM([parent](ControlTP& control) { return control.Create(parent); });
     }
 
     // Called by the host once it has created the windows. A kind with something to do then hides it.
@@ -50,5 +43,20 @@ public:
             }
         }
         return this->GetAvailableNumM() > 0 ? 1 : 0;
+    }
+
+protected:
+    // Does something with the alive controls in order, up to the first result that is not 1. 0 when there is
+    // none, else the last result.
+    template <class OperationTP> int untilFailureM(OperationTP&& operation)
+    {
+        int result = 0;
+        for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
+            result = operation(this->ElementAtM(i));
+            if (result != 1) {
+                break;
+            }
+        }
+        return result;
     }
 };

@@ -25,44 +25,6 @@ void DControlCommonCL::SetBaseInfoM(int windowIndex, int selfIndex, int function
     SetFunctionIDM(functionId);
 }
 
-void DControlCommonCL::SetPositionM(const int position[2])
-{
-    if (position == nullptr) {
-        return;
-    }
-    position_[0] = position[0];
-    position_[1] = position[1];
-}
-
-void DControlCommonCL::SetSizeM(const int size[2])
-{
-    if (size == nullptr) {
-        return;
-    }
-    size_[0] = size[0];
-    size_[1] = size[1];
-}
-
-int DControlCommonCL::GetPosM(int position[2]) const
-{
-    if (position == nullptr) {
-        return 0;
-    }
-    position[0] = position_[0];
-    position[1] = position_[1];
-    return 1;
-}
-
-int DControlCommonCL::GetSizeM(int size[2]) const
-{
-    if (size == nullptr) {
-        return 0;
-    }
-    size[0] = size_[0];
-    size[1] = size_[1];
-    return 1;
-}
-
 void DControlCommonCL::SetDescriptM(const char* text)
 {
     slCopyText(descript_, DescriptSize, text);

@@ -1,6 +1,15 @@
 #pragma once
 #include "containers/int3d_arr.h"
+#include "controls/base/accessors.h"
 #include "toolkit/toolkit.h"
+#include <algorithm>
+
+// A position or size, in pixels, as a window can have it: beyond this the window system wraps it around.
+inline int slWindowLength(int length)
+{
+    constexpr int Most = 32767;
+    return std::clamp(length, -Most, Most);
+}
 
 // Where changes of a control's id are counted, for who keeps controls by id. It stays with its control: a
 // copy counts nowhere.
@@ -47,18 +56,17 @@ public:
     }
     int GetFunctionIDM() const { return functionId_; }
     void SetBaseInfoM(int windowIndex, int selfIndex, int functionId);
-    void CountIdChangesM(unsigned* count)
-    {
-        idChanges_.CountInM(count);
-    } // Null: nowhere. The caller keeps it.
+    // Null: nowhere. The caller keeps it.
+    void CountIdChangesM(unsigned* count) { idChanges_.CountInM(count); }
     void SetShowConditionM(int condition) { showCondition_ = condition; }
     int GetShowConditionM() const { return showCondition_; }
 
     // The described place: left, top and width, height. Setting it moves no window.
-    void SetPositionM(const int position[2]); // Null: nothing, here and below.
-    void SetSizeM(const int size[2]);
-    int GetPosM(int position[2]) const; // 1; 0 for null.
-    int GetSizeM(int size[2]) const;    // 1; 0 for null.
+    // Null: nothing, here and below.
+    void SetPositionM(const int position[2]) { slCopyPair(position_, position); }
+    void SetSizeM(const int size[2]) { slCopyPair(size_, size); }
+    int GetPosM(int position[2]) const { return slCopyPair(position, position_); } // 1; 0 for null.
+    int GetSizeM(int size[2]) const { return slCopyPair(size, size_); }
 
     // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character; null is
     // empty.
@@ -72,28 +80,28 @@ public:
     void doRelationM() const;
     int doRelationItemM(int a, int b, int c) const;
 
-    void ShowObjectM(bool show);
+    void ShowObjectM(bool show) { SetVisibleM(show ? 1 : 0); }
     void SetVisibleM(int visible); // Shows for every value but 0.
 
     // Edges and sizes of the client rectangle, in the parent's client coordinates.
-    int GetLeftM() const;
-    int GetTopM() const;
-    int GetRightM() const;
-    int GetButtomM() const;
-    int GetWidthM() const;
-    int GetHeightM() const;
+    int GetLeftM() const { return clientRectM().left; }
+    int GetTopM() const { return clientRectM().top; }
+    int GetRightM() const { return clientRectM().right; }
+    int GetButtomM() const { return clientRectM().bottom; }
+    int GetWidthM() const { return clientRectM().Width(); }
+    int GetHeightM() const { return clientRectM().Height(); }
 
     // These move or size the window rectangle, frame included, which the getters above leave out.
     void SetPosM(int top, int left); // The top comes first.
-    void SetLeftM(int left);
-    void SetTopM(int top);
-    void SetRightM(int right);
-    void SetButtomM(int bottom);
+    void SetLeftM(int left) { MoveM(left - windowRectM().left, 0); }
+    void SetTopM(int top) { MoveM(0, top - windowRectM().top); }
+    void SetRightM(int right) { MoveM(right - windowRectM().right, 0); }
+    void SetButtomM(int bottom) { MoveM(0, bottom - windowRectM().bottom); }
     void SetWidthM(int width);
     void SetHeightM(int height);
     void MoveM(int dx, int dy);
     void SetCenterM(const CPoint& centre);
-    void LayoutControlM(); // Moves the window to the described place.
+    void LayoutControlM() { placeM(describedRectM()); } // Moves the window to the described place.
 
     // These move the other control: to this left; to this vertical centre; to this horizontal centre. Null:
     // nothing.
@@ -116,8 +124,7 @@ public:
 protected:
     void InitialCommonM(CWnd* window) { window_ = window; }
     void DoAfterCreateM(CWnd* window) { window_ = window; }
-    CWnd* windowM() const { return window_; }
-    // The described place as a window can have it: positions and sizes within -32767..32767.
+    // The described place as a window can have it (slWindowLength).
     CRect describedRectM() const;
 
 private:

@@ -1,6 +1,5 @@
 #include "baselib/helpers.h"
 #include "controls/base/control_common.h"
-#include <algorithm>
 
 namespace {
 
@@ -16,19 +15,13 @@ int truncated(float value)
     return value == value ? static_cast<int>(value) : 0;
 }
 
-int ofWindow(int length)
-{
-    constexpr int Most = 32767; // Beyond it the window system wraps coordinates around.
-    return std::clamp(length, -Most, Most);
-}
-
 } // namespace
 
 CRect DControlCommonCL::describedRectM() const
 {
-    const int left = ofWindow(position_[0]);
-    const int top = ofWindow(position_[1]);
-    return CRect(left, top, left + ofWindow(size_[0]), top + ofWindow(size_[1]));
+    const int left = slWindowLength(position_[0]);
+    const int top = slWindowLength(position_[1]);
+    return CRect(left, top, left + slWindowLength(size_[0]), top + slWindowLength(size_[1]));
 }
 
 bool DControlCommonCL::hasWindowM() const
@@ -73,11 +66,6 @@ void DControlCommonCL::placeM(const CRect& rect)
     }
 }
 
-void DControlCommonCL::ShowObjectM(bool show)
-{
-    SetVisibleM(show ? 1 : 0);
-}
-
 void DControlCommonCL::SetVisibleM(int visible)
 {
     if (hasWindowM()) {
@@ -85,64 +73,10 @@ void DControlCommonCL::SetVisibleM(int visible)
     }
 }
 
-int DControlCommonCL::GetLeftM() const
-{
-    return clientRectM().left;
-}
-int DControlCommonCL::GetTopM() const
-{
-    return clientRectM().top;
-}
-int DControlCommonCL::GetRightM() const
-{
-    return clientRectM().right;
-}
-int DControlCommonCL::GetButtomM() const
-{
-    return clientRectM().bottom;
-}
-int DControlCommonCL::GetWidthM() const
-{
-    return clientRectM().Width();
-}
-int DControlCommonCL::GetHeightM() const
-{
-    return clientRectM().Height();
-}
-
 void DControlCommonCL::SetPosM(int top, int left)
 {
-    CRect rect = windowRectM();
-    rect.OffsetRect(left - rect.left, top - rect.top);
-    placeM(rect);
-}
-
-void DControlCommonCL::SetLeftM(int left)
-{
-    CRect rect = windowRectM();
-    rect.OffsetRect(left - rect.left, 0);
-    placeM(rect);
-}
-
-void DControlCommonCL::SetTopM(int top)
-{
-    CRect rect = windowRectM();
-    rect.OffsetRect(0, top - rect.top);
-    placeM(rect);
-}
-
-void DControlCommonCL::SetRightM(int right)
-{
-    CRect rect = windowRectM();
-    rect.OffsetRect(right - rect.right, 0);
-    placeM(rect);
-}
-
-void DControlCommonCL::SetButtomM(int bottom)
-{
-    CRect rect = windowRectM();
-    rect.OffsetRect(0, bottom - rect.bottom);
-    placeM(rect);
+    const CRect rect = windowRectM();
+    MoveM(left - rect.left, top - rect.top);
 }
 
 void DControlCommonCL::SetWidthM(int width)
@@ -169,11 +103,6 @@ void DControlCommonCL::MoveM(int dx, int dy)
 void DControlCommonCL::SetCenterM(const CPoint& centre)
 {
     SetPosM(centre.y - GetHeightM() / 2, centre.x - GetWidthM() / 2);
-}
-
-void DControlCommonCL::LayoutControlM()
-{
-    placeM(describedRectM());
 }
 
 void DControlCommonCL::AlignLeftM(DControlCommonCL* other)

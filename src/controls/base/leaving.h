@@ -10,41 +10,40 @@
 // - while its parent handles the report of a bad value, or the wish to close the dialog (Esc, close button),
 //   unless the application then asks;
 // - because it or its dialog is being hidden, disabled, ended or destroyed, or while its dialog is not shown
-// yet
-//   and the application doesn't ask.
+//   yet and the application doesn't ask.
 // So one step of the user shows one message at most, however many fields are bad.
 
-// While one lives, no field in a window (null: of this thread) is left or entered; UnlessAsked: except while
-// the application asks. Objects live in scopes.
-class PANELKIT_API NotLeavingCL
+// While one lives, no field in a window (null: of this thread) is left or entered. AllowRequests: except
+// while the application asks. Objects live in scopes.
+class PANELKIT_API ValidationPauseCL
 {
 public:
-    enum Strength
+    enum Requests
     {
-        Always,
-        UnlessAsked
+        RefuseRequests,
+        AllowRequests
     };
-    explicit NotLeavingCL(HWND within = nullptr, Strength strength = Always);
-    NotLeavingCL(const NotLeavingCL&) = delete;
-    NotLeavingCL& operator=(const NotLeavingCL&) = delete;
-    ~NotLeavingCL();
+    explicit ValidationPauseCL(HWND within = nullptr, Requests requests = RefuseRequests);
+    ValidationPauseCL(const ValidationPauseCL&) = delete;
+    ValidationPauseCL& operator=(const ValidationPauseCL&) = delete;
+    ~ValidationPauseCL();
 
     static bool CoversM(HWND field); // Whether one lives for this field.
 
 private:
     HWND within_;
-    Strength strength_;
-    const NotLeavingCL* outer_;
+    Requests requests_;
+    const ValidationPauseCL* outer_;
 };
 
 // While one lives, the application asks whether the values are legal.
-class PANELKIT_API AskingCL
+class PANELKIT_API ValidationRequestCL
 {
 public:
-    AskingCL();
-    AskingCL(const AskingCL&) = delete;
-    AskingCL& operator=(const AskingCL&) = delete;
-    ~AskingCL();
+    ValidationRequestCL();
+    ValidationRequestCL(const ValidationRequestCL&) = delete;
+    ValidationRequestCL& operator=(const ValidationRequestCL&) = delete;
+    ~ValidationRequestCL();
 };
 
 // Whether a field that loses the focus has been left.

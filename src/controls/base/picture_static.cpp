@@ -1,10 +1,5 @@
 #include "controls/base/picture_static.h"
 
-int PictureStaticCL::Create(CWnd* parent)
-{
-    return createdM(CStatic::Create("", 0, describedRectM(), parent, GetFunctionIDM()));
-}
-
 BOOL PictureStaticCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP;

@@ -43,7 +43,7 @@ public:
     using ControlCL::ControlCL;
 
     using CStatic::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    int Create(CWnd* parent) { return createM(parent, ""); }
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

@@ -113,16 +113,6 @@ void DuBmpButtonCL::OnLButtonUp(UINT, CPoint)
     });
 }
 
-void DuBmpButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
-{
-    OnLButtonDown(flags, point);
-}
-
-void DuBmpButtonCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
 void DuBmpButtonCL::OnCancelMode()
 {
     if (holdsMouseM() && status_ == ButtonPressed) {

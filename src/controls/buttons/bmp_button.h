@@ -18,14 +18,14 @@ class PANELKIT_API DuBmpButtonCL : public PictureStaticCL
 public:
     using PictureStaticCL::PictureStaticCL;
 
-    // Loads the pictures that have a name; the others stay as they were. Always 1.
+    // Loads the pictures that have a name; the others stay as they were.
     int SetBtnBmpM(const char* normal, const char* pressed, const char* released, const char* disabled);
-    int SetBtnStatusM(BUTTON_STATUS status); // Also enables the window, or disables it for 3. Always 1.
+    int SetBtnStatusM(BUTTON_STATUS status); // Also enables the window, or disables it for 3.
     BUTTON_STATUS GetBtnStatusM() const { return status_; }
     DVrRgnCL* GetBtnRgnM() { return &buttonRgn_; } // Never null; the control keeps it.
     DVrRgnCL* GetDrawRgnM() { return &drawRgn_; }  // The window's shape, once there is a window.
     void destroyM();                               // Deletes the regions and pictures.
-    void DelItemM();                               // Also destroys the window and marks the element deleted.
+    void DelItemM();
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -33,8 +33,8 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnCancelMode();
     DECLARE_MESSAGE_MAP()
 

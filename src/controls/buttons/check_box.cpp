@@ -30,8 +30,3 @@ int DuCheckBoxCL::SetCurCheckM(int state)
     }
     return 1;
 }
-
-void DuCheckBoxCL::onClickedM()
-{
-    postToParentM(CheckClickedMsg);
-}

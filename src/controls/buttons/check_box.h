@@ -8,11 +8,11 @@ class PANELKIT_API DuCheckBoxCL : public CheckableButtonCL
 public:
     using CheckableButtonCL::CheckableButtonCL;
 
-    int SetCurCheckM(int state); // 1 checks, every other value unchecks. Always 1.
+    int SetCurCheckM(int state); // 1 checks, every other value unchecks.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    afx_msg void onClickedM();
+    afx_msg void onClickedM() { postToParentM(CheckClickedMsg); }
     DECLARE_MESSAGE_MAP()
 };
 

@@ -182,13 +182,3 @@ void DuMultiStateButtonCL::OnLButtonUp(UINT, CPoint point)
     });
     Invalidate(TRUE);
 }
-
-void DuMultiStateButtonCL::OnLButtonDblClk(UINT flags, CPoint point)
-{
-    OnLButtonDown(flags, point);
-}
-
-void DuMultiStateButtonCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}

@@ -10,17 +10,17 @@ class PANELKIT_API DuMultiStateButtonCL : public PictureStaticCL
 public:
     using PictureStaticCL::PictureStaticCL;
 
-    int SetInitBmpNumM(int n);                    // Room for n pictures, n < 1: nothing. Always 1.
+    int SetInitBmpNumM(int n);                    // Room for n pictures, n < 1: nothing.
     int AddStatusM(int status, const char* file); // 1; 0 and nothing added for an empty name.
     // Makes a status current: 1, or 0 and no change when there is none with that value. Without any status 1
     // for the value 1, else 0.
     int SetInitStatusM(int status);
     int SetCurStatusM(int status);     // The same, but 0 without any status; repaints in every case.
-    int GetCurStatusM(int* out) const; // Without a current status *out keeps its value. Always 1.
+    int GetCurStatusM(int* out) const; // Without a current status *out keeps its value.
     int DelStatusM(int status);        // Removes a status with its picture; 0 when there is none.
-    int DelAllM();                     // There is no current status then. Always 1.
-    void DelItemM();                   // Destroys window, regions and pictures, marks the element deleted.
-    int InitRgnM();                    // Both regions become the client rectangle, once. Always 1.
+    int DelAllM();                     // There is no current status then.
+    void DelItemM();
+    int InitRgnM();                                   // Both regions become the client rectangle, once.
     DVrRgnCL* GetButtonRgnM() { return &buttonRgn_; } // Where clicks count; the control keeps it.
 
 protected:
@@ -28,8 +28,8 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -128,13 +128,3 @@ void DuNewRotateBtnCL::OnRButtonUp(UINT, CPoint)
 {
     releaseM(rightStep_);
 }
-
-void DuNewRotateBtnCL::OnLButtonDblClk(UINT flags, CPoint point)
-{
-    OnLButtonDown(flags, point);
-}
-
-void DuNewRotateBtnCL::OnRButtonDblClk(UINT flags, CPoint point)
-{
-    OnRButtonDown(flags, point);
-}

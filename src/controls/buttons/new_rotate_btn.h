@@ -13,7 +13,7 @@ public:
     using VrBaseCL::InitialM;
 
     // steps: for left, right. Loads the picture of each name (GBK, as given); an index without a picture
-    // shows nothing. Always 1.
+    // shows nothing.
     int InitialM(const int steps[2], int index, const VrStringArr& names);
     void SetIsCycledM(int cycled) { cycled_ = cycled; } // Not 0: behind the last picture comes the first.
     void SetCurIndxM(int index) { index_ = index; }     // Without repainting.
@@ -28,10 +28,10 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
-    afx_msg void OnRButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
     DECLARE_MESSAGE_MAP()
 
 private:

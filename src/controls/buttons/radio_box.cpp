@@ -34,12 +34,6 @@ int DuRadioBoxCL::SetCurCheckM(int state)
     return 1;
 }
 
-int DuRadioBoxCL::SetGroupNoM(int group)
-{
-    group_ = group;
-    return 1;
-}
-
 int DuRadioBoxCL::GetGroupNoM(int* out) const
 {
     if (out == nullptr) {
@@ -56,16 +50,6 @@ int DuRadioBoxCL::SetGroupM(int flag)
         ::SetWindowLongW(m_hWnd, GWL_STYLE, flag == 1 ? style | WS_GROUP : 0);
     }
     return 1;
-}
-
-void DuRadioBoxCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
-void DuRadioBoxCL::onClickedM()
-{
-    postToParentM(RadioClickedMsg);
 }
 
 int DuRadioBoxArr::MakeGroupM()

@@ -8,16 +8,17 @@ class PANELKIT_API DuRadioBoxCL : public CheckableButtonCL
 public:
     using CheckableButtonCL::CheckableButtonCL;
 
-    int SetCurCheckM(int state);     // Hands the state to the platform as it is. Always 1.
-    int SetGroupNoM(int group);      // Neighbours with equal numbers form a group. Always 1.
-    int GetGroupNoM(int* out) const; // Always 1.
-    // 1: the window begins a group. Any other value clears the whole style of the window. Always 1.
+    int SetCurCheckM(int state); // Hands the state to the platform as it is.
+    // Neighbours with equal numbers form a group.
+    int SetGroupNoM(int group) { return slKeep(group_, group); }
+    int GetGroupNoM(int* out) const;
+    // 1: the window begins a group. Any other value clears the whole style of the window.
     int SetGroupM(int flag);
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    afx_msg void onClickedM();
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void onClickedM() { postToParentM(RadioClickedMsg); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -32,11 +32,6 @@ int DVrRotateBtnCL::InitRotateBtnM(DuRotateBtnCL* control) const
     return 1;
 }
 
-int DuRotateBtnCL::Create(CWnd* parent)
-{
-    return createdM(CStatic::Create(" ", 0, describedRectM(), parent, GetFunctionIDM()));
-}
-
 int DuRotateBtnCL::SetAngleM(const float range[2], float step, float angle)
 {
     if (range == nullptr) {
@@ -54,10 +49,8 @@ int DuRotateBtnCL::SetRotPosM(const int position[2], const int centre[2])
     if (position == nullptr || centre == nullptr) {
         return 0;
     }
-    for (int i = 0; i < 2; ++i) {
-        position_[i] = position[i];
-        centre_[i] = centre[i];
-    }
+    slCopyPair(position_, position);
+    slCopyPair(centre_, centre);
     forgetPixelsM();
     return 1;
 }
@@ -67,17 +60,8 @@ int DuRotateBtnCL::SetSignM(const int signs[2], const int increments[2])
     if (signs == nullptr || increments == nullptr) {
         return 0;
     }
-    for (int i = 0; i < 2; ++i) {
-        signs_[i] = signs[i];
-        increments_[i] = increments[i];
-    }
-    return 1;
-}
-
-int DuRotateBtnCL::SetCounterM(int counter)
-{
-    counter_ = counter;
-    return 1;
+    slCopyPair(signs_, signs);
+    return slCopyPair(increments_, increments);
 }
 
 int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
@@ -88,12 +72,6 @@ int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
     background_.LoadBitmapM(background);
     rotating_.LoadBitmapM(rotating);
     forgetPixelsM();
-    return 1;
-}
-
-int DuRotateBtnCL::SetEnableM(int enabled)
-{
-    enabled_ = enabled;
     return 1;
 }
 
@@ -162,7 +140,7 @@ void DuRotateBtnCL::releaseM(CPoint point, Side side)
     endClickM([this, point, side] {
         if (hitRgn_.PtInRegion(point) && stepM(side)) {
             postToParentM(ButtonActionMsg, counter_);
-            redrawNeeded_ = 1;
+            redrawNeeded_ = true;
             InvalidateRgn(&windowRgn_, TRUE);
         }
     });
@@ -199,19 +177,4 @@ void DuRotateBtnCL::OnLButtonUp(UINT, CPoint point)
 void DuRotateBtnCL::OnRButtonUp(UINT, CPoint point)
 {
     releaseM(point, Right);
-}
-
-void DuRotateBtnCL::OnLButtonDblClk(UINT flags, CPoint point)
-{
-    OnLButtonDown(flags, point);
-}
-
-void DuRotateBtnCL::OnRButtonDblClk(UINT flags, CPoint point)
-{
-    OnRButtonDown(flags, point);
-}
-
-void DuRotateBtnCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
 }

@@ -14,20 +14,21 @@ public:
     using PictureStaticCL::PictureStaticCL;
 
     using CStatic::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    int Create(CWnd* parent) { return createM(parent, " "); }
 
-    int SetAngleM(const float range[2], float step, float angle); // range: upper, lower. Always 1.
-    int SetRotPosM(const int position[2], const int centre[2]);   // Always 1.
-    int SetSignM(const int signs[2], const int increments[2]);    // Each for left, right. Always 1.
-    int SetCounterM(int counter);                                 // Always 1.
-    int SetBmpM(const char* background, const char* rotating);    // Loads both. Always 1.
-    int SetEnableM(int enabled);    // 1: enabled; applied when the window is created. Always 1.
-    int EnableButtonM(int enabled); // The same at once. Always 1.
+    int SetAngleM(const float range[2], float step, float angle); // range: upper, lower.
+    int SetRotPosM(const int position[2], const int centre[2]);
+    int SetSignM(const int signs[2], const int increments[2]); // Each for left, right.
+    int SetCounterM(int counter) { return slKeep(counter_, counter); }
+    int SetBmpM(const char* background, const char* rotating); // Loads both.
+    // 1: enabled; applied when the window is created.
+    int SetEnableM(int enabled) { return slKeep(enabled_, enabled); }
+    int EnableButtonM(int enabled);                // The same at once.
     DVrRgnCL* GetButtonRgnM() { return &hitRgn_; } // Where clicks count; the control keeps it.
     float GetAngleM() const { return angle_; }
     int GetCounterM() const { return counter_; }
 
-    void DelItemM(); // Destroys window, regions and pictures, marks the element deleted.
+    void DelItemM();
 
     void drawBkM(CDC* dc);               // The background from its corner over the client rectangle.
     void drawRotM(CDC* dc, float angle); // The turned picture; composed anew only after a change.
@@ -38,11 +39,11 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
-    afx_msg void OnRButtonDblClk(UINT flags, CPoint point);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -63,7 +64,7 @@ private:
     float angle_ { 0 };
     float stepAngle_ { 0 };
     int enabled_ { 1 };
-    int redrawNeeded_ { 1 };
+    bool redrawNeeded_ { true };
     int position_[2] {};
     int centre_[2] {};
     int signs_[2] {};

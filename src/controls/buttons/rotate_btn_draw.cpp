@@ -72,8 +72,8 @@ void DuRotateBtnCL::drawRotM(CDC* dc, float angle)
     if (dc == nullptr) {
         return;
     }
-    if (redrawNeeded_ != 0) {
-        redrawNeeded_ = 0;
+    if (redrawNeeded_) {
+        redrawNeeded_ = false;
         composeM(dc, angle);
     }
     const auto reachable = [](int place) { return place > -FarthestPixel && place < FarthestPixel; };

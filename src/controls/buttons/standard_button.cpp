@@ -1,5 +1,4 @@
 #include "controls/buttons/standard_button.h"
-#include "baselib/gbk.h"
 #include "controls/buttons/standard_button_record.h"
 
 template class PANELKIT_API Arr<DuStandardButtonCL>;
@@ -21,7 +20,7 @@ int DVrStandardButtonCL::InitStandardButtonM(DuStandardButtonCL* control) const
 
 int DuStandardButtonCL::Create(CWnd* parent)
 {
-    const int result = createdM(CButton::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));
+    const int result = CaptionedCL::Create(parent);
     if (result == 1 && default_ == 1) {
         answerEnterM(parent->m_hWnd);
     }
@@ -47,29 +46,4 @@ BOOL DuStandardButtonCL::PreCreateWindow(CREATESTRUCT& create)
     create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     create.style |= default_ == 1 ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
     return CButton::PreCreateWindow(create);
-}
-
-int DuStandardButtonCL::SetDefaultM(int flag)
-{
-    default_ = flag;
-    return 1;
-}
-
-int DuStandardButtonCL::SetTextM(const char* text)
-{
-    if (text == nullptr) {
-        return 0;
-    }
-    slCopyText(text_, TextSize, text);
-    return 1;
-}
-
-void DuStandardButtonCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
-void DuStandardButtonCL::onClickedM()
-{
-    sendToParentM(ButtonActionMsg);
 }

@@ -1,32 +1,31 @@
 #pragma once
-#include "controls/base/control.h"
+#include "controls/base/captioned.h"
 #include "controls/base/control_arr.h"
-#include "records/fields.h"
 
 // A push button. Sends 1424 to its parent when it is clicked, posts 1625 when it gains the focus.
 // The setters take effect when the window is created; the caption is GBK, cut to 259 bytes at a character.
-class PANELKIT_API DuStandardButtonCL : public ControlCL<CButton>
+class PANELKIT_API DuStandardButtonCL : public CaptionedCL<CButton>
 {
 public:
-    using ControlCL::ControlCL;
+    using CaptionedCL::CaptionedCL;
 
     using CButton::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
+    int Create(CWnd* parent);
 
-    int SetDefaultM(int flag);      // 1: the dialog's default push button, pressed by Enter. Always 1.
-    int SetTextM(const char* text); // Always 1.
+    // 1: the dialog's default push button, pressed by Enter.
+    int SetDefaultM(int flag) { return slKeep(default_, flag); }
+    int SetTextM(const char* text) { return keepTextM(text); }
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    afx_msg void onClickedM();
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void onClickedM() { sendToParentM(ButtonActionMsg); }
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:
     void answerEnterM(HWND dialog) const;
 
     int default_ { 0 };
-    char text_[TextSize] {};
 };
 
 extern template class PANELKIT_API Arr<DuStandardButtonCL>;

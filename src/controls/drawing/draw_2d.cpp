@@ -17,24 +17,13 @@ int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
     return 1;
 }
 
-int DuDraw2DCL::SetBkColorM(COLORREF colour)
-{
-    bkColor_ = colour;
-    return 1;
-}
-
 BOOL DuDraw2DCL::OnEraseBkgnd(CDC* dc)
 {
     CRect client;
     GetClientRect(&client);
-    CBrush brush(bkColor_);
+    CBrush brush(bkColour_);
     if (brush.GetSafeHandle() != nullptr) {
         dc->FillRect(&client, &brush);
     }
     return CStatic::OnEraseBkgnd(dc);
-}
-
-void DuDraw2DCL::OnPaint()
-{
-    const CPaintDC validated(this); // The application draws.
 }

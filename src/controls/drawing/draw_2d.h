@@ -8,15 +8,15 @@ class PANELKIT_API DuDraw2DCL : public PictureStaticCL
 public:
     using PictureStaticCL::PictureStaticCL;
 
-    int SetBkColorM(COLORREF colour); // From the next erasing on. Always 1.
+    int SetBkColorM(COLORREF colour) { return slKeep(bkColour_, colour); } // From the next erasing on.
 
 protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg void OnPaint();
+    afx_msg void OnPaint() { const CPaintDC validated(this); } // The application draws.
     DECLARE_MESSAGE_MAP()
 
 private:
-    COLORREF bkColor_ { 0 };
+    COLORREF bkColour_ { 0 };
 };
 
 extern template class PANELKIT_API Arr<DuDraw2DCL>;

@@ -1,5 +1,4 @@
 #include "controls/labels/group_box.h"
-#include "baselib/gbk.h"
 #include "controls/labels/group_box_record.h"
 
 template class PANELKIT_API Arr<DuGroupBoxCL>;
@@ -17,11 +16,6 @@ int DVrGroupBoxCL::InitGroupBoxM(DuGroupBoxCL* control) const
     return 1;
 }
 
-int DuGroupBoxCL::Create(CWnd* parent)
-{
-    return createdM(CButton::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));
-}
-
 BOOL DuGroupBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_GROUPBOX;
@@ -35,25 +29,4 @@ int DuGroupBoxCL::OnCreate(LPCREATESTRUCT create)
     }
     SetWindowText(text_);
     return 0;
-}
-
-int DuGroupBoxCL::SetInitTextM(const char* text)
-{
-    if (text == nullptr) {
-        return 0;
-    }
-    slCopyText(text_, TextSize, text);
-    return 1;
-}
-
-int DuGroupBoxCL::SetTextM(const char* text)
-{
-    if (text == nullptr) {
-        return 0;
-    }
-    slCopyText(text_, TextSize, text);
-    if (m_hWnd != nullptr) {
-        SetWindowText(text_);
-    }
-    return 1;
 }

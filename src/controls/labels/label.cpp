@@ -1,5 +1,5 @@
 #include "controls/labels/label.h"
-#include "baselib/gbk.h"
+#include "controls/base/styles.h"
 #include "controls/labels/label_record.h"
 
 template class PANELKIT_API Arr<DuLabelCL>;
@@ -22,23 +22,11 @@ int DVrLabelCL::InitLabelM(DuLabelCL* control) const
     return 1;
 }
 
-int DuLabelCL::Create(CWnd* parent)
-{
-    return createdM(CStatic::Create(text_, 0, describedRectM(), parent, GetFunctionIDM()));
-}
-
 BOOL DuLabelCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP;
-    if (edge_ == 1) {
-        create.style |= WS_BORDER;
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
-    if (alignMode_ == 3) {
-        create.style |= SS_CENTER;
-    } else if (alignMode_ == 4) {
-        create.style |= SS_RIGHT;
-    }
+    slSetEdge(create, edge_);
+    slSetAlignment(create, alignMode_);
     return CStatic::PreCreateWindow(create);
 }
 
@@ -48,68 +36,14 @@ void DuLabelCL::PreSubclassWindow()
     CStatic::PreSubclassWindow();
 }
 
-int DuLabelCL::SetInitTextM(const char* text)
-{
-    if (text == nullptr || *text == '\0') {
-        return 0;
-    }
-    slCopyText(text_, TextSize, text);
-    return 1;
-}
-
-int DuLabelCL::SetTextM(const char* text)
-{
-    if (text == nullptr) {
-        return 0;
-    }
-    slCopyText(text_, TextSize, text);
-    if (m_hWnd != nullptr) {
-        SetWindowText(text_);
-    }
-    return 1;
-}
-
-int DuLabelCL::SetAlignModeM(int mode)
-{
-    alignMode_ = mode;
-    return 1;
-}
-
-int DuLabelCL::SetEdgeM(int edge)
-{
-    edge_ = edge;
-    return 1;
-}
-
-int DuLabelCL::SetBkColorM(COLORREF colour)
-{
-    background_.SetColourM(colour);
-    return 1;
-}
-
-void DuLabelCL::SetBkColorFlagM(int flag)
-{
-    bkColorFlag_ = flag;
-}
-
 void DuLabelCL::DelItemM()
 {
     ControlCL::DelItemM();
     destroyM();
 }
 
-void DuLabelCL::destroyM()
-{
-    background_.DeleteBrushM();
-}
-
-void DuLabelCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
 HBRUSH DuLabelCL::CtlColor(CDC* dc, UINT)
 {
     // No brush: the platform paints, so the label takes the dialog's background.
-    return bkColorFlag_ == 1 ? background_.AnswerM(dc) : nullptr;
+    return bkColourFlag_ == 1 ? background_.AnswerM(dc) : nullptr;
 }

@@ -93,11 +93,6 @@ LRESULT DuBmpListBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
-void DuBmpListBoxCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
 // No line is narrower or lower than a pixel: the platform divides by both.
 int DuBmpListBoxCL::columnWidthM() const
 {
@@ -161,12 +156,6 @@ int DuBmpListBoxCL::SetRowColNumM(const int rowsColumns[2])
     }
     rows_ = rowsColumns[0];
     columns_ = rowsColumns[1];
-    return 1;
-}
-
-int DuBmpListBoxCL::SetScrollModeM(int mode)
-{
-    scrollMode_ = mode;
     return 1;
 }
 
@@ -239,11 +228,6 @@ int DuBmpListBoxCL::SetSelM(int index, int select)
     return selectM(index, select);
 }
 
-int DuBmpListBoxCL::GetFirstItemM(int* index, int* data)
-{
-    return GetNextItemM(-1, index, data);
-}
-
 int DuBmpListBoxCL::GetNextItemM(int from, int* index, int* data)
 {
     if (index == nullptr || data == nullptr) {
@@ -260,9 +244,4 @@ int DuBmpListBoxCL::GetNextItemM(int from, int* index, int* data)
         }
     }
     return 0;
-}
-
-void DuBmpListBoxCL::destroyM()
-{
-    pictures_.DelAllM();
 }

@@ -30,10 +30,11 @@ class PANELKIT_API DuBmpListBoxCL : public ListBoxCL
 public:
     using ListBoxCL::ListBoxCL;
 
-    // These take effect when the window is created. Always 1.
+    // These take effect when the window is created.
     int SetRowColNumM(const int rowsColumns[2]); // Lines visible; below 1 counts as 1.
-    int SetScrollModeM(int mode);                // 1 horizontal, 2 vertical, 4 both, else none.
-    int SetInitBmpNumM(int count);               // Makes room for pictures.
+    // 1 horizontal, 2 vertical, 4 both, else none.
+    int SetScrollModeM(int mode) { return slKeep(scrollMode_, mode); }
+    int SetInitBmpNumM(int count); // Makes room for pictures.
 
     // Adds a line with its .bmp file, a name with extension. The picture's slot; 0 when the name is empty or
     // the line can't be added, -1, and no line stays, when the picture can't be loaded.
@@ -41,17 +42,17 @@ public:
     // Inserts a line and, at the same place, its picture; ".bmp" is added to a name without an extension. A
     // picture that can't be loaded leaves the line. index -1: at the end.
     int InsertItemM(int index, int data, const char* file);
-    void DelItemM(); // Destroys the window and the pictures and marks the element deleted.
+    void DelItemM();
     int DelItemM(int index);
-    // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays. Always 1.
+    // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays.
     int DelAllItemM();
 
     // select 0 takes it back, except for a single selection. 0 in modes other than 1, 2 and 3.
     int SetSelM(int index, int select = 1);
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.
-    int GetFirstItemM(int* index, int* data);
+    int GetFirstItemM(int* index, int* data) { return GetNextItemM(-1, index, data); }
     int GetNextItemM(int from, int* index, int* data);
-    void destroyM(); // Deletes the pictures.
+    void destroyM() { pictures_.DelAllM(); } // Deletes the pictures.
 
     void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
@@ -60,7 +61,7 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 #include "baselib/gbk_texts.h"
-#include "controls/lists/record_lists.h"
 #include "records/record_arr.h"
+#include "records/rows.h"
 
 class DuBmpListBoxCL;
 

@@ -44,11 +44,6 @@ int DuComboBoxArr::Create(CWnd* parent)
     return result;
 }
 
-int DuComboBoxCL::Create(CWnd* parent)
-{
-    return createdM(CComboBox::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
 BOOL DuComboBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP;
@@ -58,12 +53,6 @@ BOOL DuComboBoxCL::PreCreateWindow(CREATESTRUCT& create)
         create.style |= CBS_DROPDOWN;
     }
     return CComboBox::PreCreateWindow(create);
-}
-
-int DuComboBoxCL::SetEditAvailableM(int available)
-{
-    editAvailable_ = available;
-    return 1;
 }
 
 int DuComboBoxCL::AddItemM(int data, const char* text)
@@ -194,11 +183,6 @@ void DuComboBoxCL::followSelectionM(UINT message, int index, int result)
     default:
         break;
     }
-}
-
-void DuComboBoxCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
 }
 
 void DuComboBoxCL::OnSelchange()

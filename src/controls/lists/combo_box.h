@@ -9,17 +9,14 @@ class PANELKIT_API DuComboBoxCL : public ControlCL<CComboBox>
 public:
     using ControlCL::ControlCL;
 
-    using CComboBox::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-
-    // 0: no edit field, 1: with one. Takes effect when the window is created. Always 1.
-    int SetEditAvailableM(int available);
+    // 0: no edit field, 1: with one. Takes effect when the window is created.
+    int SetEditAvailableM(int available) { return slKeep(editAvailable_, available); }
 
     int AddItemM(int data, const char* text); // -1 when it can't be added, else the platform's result.
     int InsertItemM(int index, int data, const char* text);
     int DelItemM(int index);
     using ControlCL::DelItemM;
-    // Deletes index 0, 1, 2, ... in turn: as later items move up, every second one stays. Always 1.
+    // Deletes index 0, 1, 2, ... in turn: as later items move up, every second one stays.
     int DelAllItemM();
 
     // The selected item; its text is copied into a buffer of 260 bytes. Without a selection the typed text
@@ -32,7 +29,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnSelchange();
     afx_msg void OnKillfocus();
     DECLARE_MESSAGE_MAP()

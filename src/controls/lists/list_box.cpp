@@ -1,16 +1,5 @@
 #include "controls/lists/list_box.h"
 
-int ListBoxCL::Create(CWnd* parent)
-{
-    return createdM(CListBox::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
-int ListBoxCL::SetSelModeM(int mode)
-{
-    selMode_ = mode;
-    return 1;
-}
-
 DWORD ListBoxCL::selectionStyleM() const
 {
     switch (selMode_) {

@@ -7,11 +7,8 @@ class PANELKIT_API ListBoxCL : public ControlCL<CListBox>
 public:
     using ControlCL::ControlCL;
 
-    using CListBox::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-
-    // 2 multiple, 3 extended, 4 none, else single; takes effect when the window is created. Always 1.
-    int SetSelModeM(int mode);
+    // 2 multiple, 3 extended, 4 none, else single; takes effect when the window is created.
+    int SetSelModeM(int mode) { return slKeep(selMode_, mode); }
     int GetSelNumM(int* count); // How many lines are selected: 1, or 0 when the platform refuses.
 
 protected:

@@ -46,11 +46,6 @@ int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
     return 1;
 }
 
-int DuListCtrlCL::Create(CWnd* parent)
-{
-    return createdM(CListCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
 BOOL DuListCtrlCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS;
@@ -68,23 +63,6 @@ int DuListCtrlCL::OnCreate(LPCREATESTRUCT create)
     }
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
     return 0;
-}
-
-void DuListCtrlCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
-int DuListCtrlCL::SetColNumM(int columns)
-{
-    columns_ = columns;
-    return 1;
-}
-
-int DuListCtrlCL::SetSelModeM(int single)
-{
-    singleSelection_ = single;
-    return 1;
 }
 
 int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
@@ -120,16 +98,6 @@ int DuListCtrlCL::SetItemTextM(int row, int column, const char* text)
         return 0;
     }
     return SetItemText(row, column, text) ? 1 : 0;
-}
-
-int DuListCtrlCL::DeleteItemM(int row)
-{
-    return row >= 0 && DeleteItem(row) ? 1 : 0;
-}
-
-int DuListCtrlCL::DelAllM()
-{
-    return DeleteAllItems() ? 1 : 0;
 }
 
 int DuListCtrlCL::GetRowNumM(int* count) const

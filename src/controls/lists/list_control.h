@@ -8,32 +8,30 @@ class PANELKIT_API DuListCtrlCL : public ControlCL<CListCtrl>
 public:
     using ControlCL::ControlCL;
 
-    using CListCtrl::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-
-    int SetColNumM(int columns); // Only kept. Always 1.
+    int SetColNumM(int columns) { return slKeep(columns_, columns); } // Only kept.
     int GetColNumM() const { return columns_; }
-    int SetSelModeM(int single); // 1: one row at most can be selected. Counts at creation. Always 1.
+    // 1: one row at most can be selected. Counts at creation.
+    int SetSelModeM(int single) { return slKeep(singleSelection_, single); }
 
     int InsertColumnM(int column, int width, const char* text); // Width in pixels.
     int InsertItemM(int row, int data, const char* text);       // A new row with its column-0 text.
     int SetItemTextM(int row, int column, const char* text);    // 0 for a row that doesn't exist.
-    int DeleteItemM(int row);
-    int DelAllM();
+    int DeleteItemM(int row) { return row >= 0 && DeleteItem(row) ? 1 : 0; }
+    int DelAllM() { return DeleteAllItems() ? 1 : 0; }
 
-    int GetRowNumM(int* count) const; // Always 1.
-    int GetSelNumM(int* count) const; // Always 1.
+    int GetRowNumM(int* count) const;
+    int GetSelNumM(int* count) const;
     // The first selected row; the next one behind `from`. 0 when there is none: then GetNextSelM makes the
     // row -1, and everything else stays.
     int GetFirstSelM(int* row, int* data) const;
     int GetNextSelM(int from, int* row, int* data) const;
     int GetCurSelM(int* row, int* data) const; // Without a selection the row is -1, data stays, and it is 1.
-    int SetSelM(int row); // Leaves no other row selected; below 0: none at all. Always 1.
+    int SetSelM(int row);                      // Leaves no other row selected; below 0: none at all.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,8 +1,8 @@
 #pragma once
 #include "baselib/gbk_texts.h"
 #include "containers/int2d_arr.h"
-#include "controls/lists/record_lists.h"
 #include "records/record_arr.h"
+#include "records/rows.h"
 
 class DuListCtrlCL;
 

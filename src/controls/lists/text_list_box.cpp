@@ -1,4 +1,5 @@
 #include "controls/lists/text_list_box.h"
+#include "controls/base/styles.h"
 #include "controls/lists/filling.h"
 #include "controls/lists/text_list_box_record.h"
 
@@ -35,9 +36,7 @@ int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
 BOOL DuTextListBoxCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | LBS_NOINTEGRALHEIGHT | LBS_NOTIFY;
-    if (edge_ == 1) {
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
+    slSetSunken(create, edge_);
     if (scroll_ == 1) {
         create.style |= LBS_DISABLENOSCROLL;
     }
@@ -54,30 +53,12 @@ int DuTextListBoxCL::OnCreate(LPCREATESTRUCT create)
     return 0;
 }
 
-int DuTextListBoxCL::SetScrollM(int scroll)
-{
-    scroll_ = scroll;
-    return 1;
-}
-
-int DuTextListBoxCL::SetEdgeM(int edge)
-{
-    edge_ = edge;
-    return 1;
-}
-
 int DuTextListBoxCL::SetItemInitHeightM(int height)
 {
     if (height < 1) {
         return 0;
     }
     itemHeight_ = height;
-    return 1;
-}
-
-int DuTextListBoxCL::SetBkColorM(unsigned long color)
-{
-    background_.SetColourM(color);
     return 1;
 }
 
@@ -143,11 +124,6 @@ int DuTextListBoxCL::GetItemM(int* index, int* data)
     return 1;
 }
 
-int DuTextListBoxCL::SetSelM(int index)
-{
-    return selectM(index, TRUE);
-}
-
 int DuTextListBoxCL::SetItemHeightM(int height)
 {
     if (height < 1) {
@@ -164,26 +140,4 @@ int DuTextListBoxCL::SetItemHeightM(int height)
 int DuTextListBoxCL::SetItemHeightM()
 {
     return m_hWnd != nullptr && SetItemHeight(0, static_cast<UINT>(itemHeight_)) != LB_ERR ? 1 : 0;
-}
-
-void DuTextListBoxCL::destroyM()
-{
-    background_.DeleteBrushM();
-}
-
-HBRUSH DuTextListBoxCL::CtlColor(CDC* dc, UINT)
-{
-    return background_.AnswerM(dc);
-}
-
-int DuTextListBoxArr::SetItemHeightM()
-{
-    int result = 0;
-    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
-        result = ElementAtM(i).SetItemHeightM();
-        if (result != 1) {
-            break;
-        }
-    }
-    return result;
 }

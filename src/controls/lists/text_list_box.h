@@ -11,26 +11,27 @@ public:
     using ListBoxCL::ListBoxCL;
 
     // These take effect when the window is created; the colour at the next colour request.
-    int SetScrollM(int scroll);           // 1: the scroll bar is always shown. Always 1.
-    int SetEdgeM(int edge);               // 1: sunken edge. Always 1.
-    int SetItemInitHeightM(int height);   // 0, and no change, below 1.
-    int SetBkColorM(unsigned long color); // Always 1.
+    int SetScrollM(int scroll) { return slKeep(scroll_, scroll); } // 1: the scroll bar is always shown.
+    int SetEdgeM(int edge) { return slKeep(edge_, edge); }         // 1: sunken edge.
+    int SetItemInitHeightM(int height);                            // 0, and no change, below 1.
+    int SetBkColorM(unsigned long colour) { return background_.SetColourM(colour); }
 
     int AddItemM(int data, const char* text); // -1, or what the platform says of setting the data.
     int InsertItemM(int index, int data, const char* text); // -1: at the end.
-    void DelItemM(); // Destroys window and brush and marks the element deleted.
+    void DelItemM();
     int DelItemM(int index);
-    int DelAllItemM();                   // Always 1.
+    int DelAllItemM();
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
-    int SetSelM(int index);              // Of a multiple selection: always 0 in single selection mode.
-    int SetItemHeightM(int height);      // Of all lines; 0, and no change, below 1.
-    int SetItemHeightM();                // Applies the height kept, which a new font has changed.
-    void destroyM();                     // Deletes the background brush.
+    // Of a multiple selection: always 0 in single selection mode.
+    int SetSelM(int index) { return selectM(index, TRUE); }
+    int SetItemHeightM(int height);                 // Of all lines; 0, and no change, below 1.
+    int SetItemHeightM();                           // Applies the height kept, which a new font has changed.
+    void destroyM() { background_.DeleteBrushM(); } // Deletes the background brush.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
-    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -45,5 +46,9 @@ extern template class PANELKIT_API Arr<DuTextListBoxCL>;
 class PANELKIT_API DuTextListBoxArr : public ControlArr<DuTextListBoxCL>
 {
 public:
-    int SetItemHeightM(); // Applies the heights kept, up to the first failure; 0 for an empty array.
+    // Applies the heights kept, up to the first failure; 0 for an empty array.
+    int SetItemHeightM()
+    {
+        return untilFailureM([](DuTextListBoxCL& control) { return control.SetItemHeightM(); });
+    }
 };

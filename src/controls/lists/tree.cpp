@@ -36,11 +36,6 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
     return 1;
 }
 
-int DuTreeCL::Create(CWnd* parent)
-{
-    return createdM(CTreeCtrl::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
 BOOL DuTreeCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style
@@ -58,11 +53,6 @@ int DuTreeCL::OnCreate(LPCREATESTRUCT create)
     TreePicturesCL::CreateListM(images_);
     SetImageList(&images_, TVSIL_NORMAL);
     return 0;
-}
-
-void DuTreeCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
 }
 
 HTREEITEM DuTreeCL::InsertItemM(
@@ -116,9 +106,4 @@ void DuTreeCL::DelItemM()
 {
     ControlCL::DelItemM();
     destroyM();
-}
-
-void DuTreeCL::destroyM()
-{
-    images_.DeleteImageList();
 }

@@ -28,9 +28,6 @@ class PANELKIT_API DuTreeCL : public ControlCL<CTreeCtrl>
 public:
     using ControlCL::ControlCL;
 
-    using CTreeCtrl::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-
     // Adds an item below the parent, behind its other children, and its pictures, .bmp files as named, to the
     // image list: the selected one first. Null when a picture can't be loaded or the item not be made.
     HTREEITEM InsertItemM(
@@ -40,13 +37,13 @@ public:
         const char* normalPicture, TreePicturesCL& pictures);
     HTREEITEM GetCurSelM(int* data) const; // Null, and data stays, when no item is selected.
     CImageList& ImagesM() { return images_; }
-    void DelItemM(); // Destroys the window and the pictures and marks the element deleted.
-    void destroyM(); // Deletes the image list.
+    void DelItemM();
+    void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 #include "containers/int3d_arr.h"
-#include "controls/lists/record_lists.h"
+#include "records/rows.h"
 #include <functional>
 
 // A line: the keys are the application's own numbers.

@@ -1,4 +1,5 @@
 #include "controls/text/multi_edit.h"
+#include "controls/base/styles.h"
 #include "controls/text/multi_edit_record.h"
 #include <cstring>
 
@@ -26,7 +27,7 @@ int DVrMultiEditCL::InitMultiEditM(DuMultiEditCL* control) const
 
 int DuMultiEditCL::Create(CWnd* parent)
 {
-    const int result = createdM(CEdit::Create(0, describedRectM(), parent, GetFunctionIDM()));
+    const int result = createM(parent);
     if (result == 1) {
         SetWindowText(text_.TextM());
     }
@@ -42,18 +43,9 @@ void DuMultiEditCL::DelItemM()
 BOOL DuMultiEditCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | ES_WANTRETURN | ES_MULTILINE;
-    if (edge_ == 1) {
-        create.style |= WS_BORDER;
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
-    if (readOnly_ == 1) {
-        create.style |= ES_READONLY;
-    }
-    if (alignMode_ == 3) {
-        create.style |= ES_CENTER;
-    } else if (alignMode_ == 4) {
-        create.style |= ES_RIGHT;
-    }
+    slSetEdge(create, edge_);
+    slSetReadOnly(create, readOnly_);
+    slSetAlignment(create, alignMode_);
     return CEdit::PreCreateWindow(create);
 }
 
@@ -66,30 +58,6 @@ int DuMultiEditCL::SetMaxNumM(int bytes)
     return 1;
 }
 
-int DuMultiEditCL::SetAlignModeM(int mode)
-{
-    alignMode_ = mode;
-    return 1;
-}
-
-int DuMultiEditCL::SetReadOnlyM(int readOnly)
-{
-    readOnly_ = readOnly;
-    return 1;
-}
-
-int DuMultiEditCL::SetEdgeM(int edge)
-{
-    edge_ = edge;
-    return 1;
-}
-
-int DuMultiEditCL::SetBkColorM(COLORREF colour)
-{
-    background_.SetColourM(colour);
-    return 1;
-}
-
 int DuMultiEditCL::storeM(const char* text, size_t atLeast)
 {
     const size_t length = text == nullptr ? 0 : std::strlen(text);
@@ -97,11 +65,6 @@ int DuMultiEditCL::storeM(const char* text, size_t atLeast)
         return 0;
     }
     return text_.SetM(text);
-}
-
-int DuMultiEditCL::SetInitTextM(const char* text)
-{
-    return storeM(text, 1);
 }
 
 int DuMultiEditCL::SetTextM(const char* text)
@@ -139,14 +102,4 @@ void DuMultiEditCL::OnChange()
     CString text;
     GetWindowText(text);
     text_.SetM(text);
-}
-
-void DuMultiEditCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
-}
-
-HBRUSH DuMultiEditCL::CtlColor(CDC* dc, UINT)
-{
-    return background_.AnswerM(dc);
 }

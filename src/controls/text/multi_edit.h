@@ -13,26 +13,26 @@ public:
     using ControlCL::ControlCL;
 
     using CEdit::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-    void DelItemM();          // Destroys window and brush and marks the element deleted.
+    int Create(CWnd* parent);
+    void DelItemM();
 
-    int SetMaxNumM(int bytes);        // The limit: texts must be shorter. 0, and no change, below 1; else 1.
-    int SetAlignModeM(int mode);      // 3 centred, 4 right, else left. Always 1.
-    int SetReadOnlyM(int readOnly);   // 1: can't be edited. Always 1.
-    int SetEdgeM(int edge);           // 1: sunken edge with border. Always 1.
-    int SetBkColorM(COLORREF colour); // Always 1.
-    int SetInitTextM(
-        const char* text); // 0, and no change, for the empty text or one not below the limit; else 1.
-    int SetTextM(
-        const char* text); // Also shows the text. 0, and no change, for one not below the limit; else 1.
-    int GetTextM(char* text) const; // Copies what is on the screen; the buffer must hold it. Always 1.
+    int SetMaxNumM(int bytes); // The limit: texts must be shorter. 0, and no change, below 1; else 1.
+    int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); }       // 3 centred, 4 right, else left.
+    int SetReadOnlyM(int readOnly) { return slKeep(readOnly_, readOnly); } // 1: can't be edited.
+    int SetEdgeM(int edge) { return slKeep(edge_, edge); }                 // 1: sunken edge with border.
+    int SetBkColorM(COLORREF colour) { return background_.SetColourM(colour); }
+    // 0, and no change, for the empty text or one not below the limit; else 1.
+    int SetInitTextM(const char* text) { return storeM(text, 1); }
+    // Also shows the text. 0, and no change, for one not below the limit; else 1.
+    int SetTextM(const char* text);
+    int GetTextM(char* text) const; // Copies what is on the screen; the buffer must hold it.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnChange();
-    afx_msg void OnSetFocus(CWnd* oldFocus);
-    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
     DECLARE_MESSAGE_MAP()
 
 private:

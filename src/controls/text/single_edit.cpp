@@ -1,5 +1,6 @@
 #include "controls/text/single_edit.h"
 #include "baselib/gbk.h"
+#include "controls/base/styles.h"
 #include "controls/text/single_edit_record.h"
 
 template class PANELKIT_API Arr<DuSingleEditCL>;
@@ -29,11 +30,6 @@ int DVrSingleEditCL::InitSingleEditM(DuSingleEditCL* control) const
     return 1; // The colour is for applications to apply; the control stays white.
 }
 
-int DuSingleEditCL::Create(CWnd* parent)
-{
-    return createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM())));
-}
-
 void DuSingleEditCL::DelItemM()
 {
     ControlCL::DelItemM();
@@ -43,18 +39,9 @@ void DuSingleEditCL::DelItemM()
 BOOL DuSingleEditCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | ES_AUTOHSCROLL;
-    if (edge_ == 1) {
-        create.style |= WS_BORDER;
-        create.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
-    if (readOnly_ == 1) {
-        create.style |= ES_READONLY;
-    }
-    if (alignMode_ == 3) {
-        create.style |= ES_CENTER;
-    } else if (alignMode_ == 4) {
-        create.style |= ES_RIGHT;
-    }
+    slSetEdge(create, edge_);
+    slSetReadOnly(create, readOnly_);
+    slSetAlignment(create, alignMode_);
     if (password_ == 1) {
         create.style |= ES_PASSWORD;
     }
@@ -65,46 +52,6 @@ int DuSingleEditCL::SetDataTypeM(int type, int decimals)
 {
     value_.SetTypeM(type, decimals);
     return 1;
-}
-
-int DuSingleEditCL::SetAlignModeM(int mode)
-{
-    alignMode_ = mode;
-    return 1;
-}
-
-int DuSingleEditCL::SetPasswordM(int password)
-{
-    password_ = password;
-    return 1;
-}
-
-int DuSingleEditCL::SetReadOnlyM(int readOnly)
-{
-    readOnly_ = readOnly;
-    return 1;
-}
-
-int DuSingleEditCL::SetEdgeM(int edge)
-{
-    edge_ = edge;
-    return 1;
-}
-
-int DuSingleEditCL::SetBkColorM(COLORREF colour)
-{
-    background_.SetColourM(colour);
-    return 1;
-}
-
-int DuSingleEditCL::SetRangeM(const simpleValD& range)
-{
-    return value_.SetRangeM(range);
-}
-
-int DuSingleEditCL::SetInitValM(const simpleValD& value)
-{
-    return value_.SetValueM(value);
 }
 
 int DuSingleEditCL::GetCurValM(simpleValD* value)
@@ -171,11 +118,6 @@ int DuSingleEditCL::SetValueM(const char* text)
     value_.SetTextM(text);
     DispEditM();
     return 1;
-}
-
-int DuSingleEditCL::UpdateDataM(int direction)
-{
-    return direction == 1 ? checkValueM() : DispEditM();
 }
 
 int DuSingleEditCL::DispEditM()
@@ -255,14 +197,9 @@ void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
         DispEditM();
     }
     if (::IsWindow(window) && tellM(leftTextM(code))) {
-        const NotLeavingCL reporting(::GetParent(m_hWnd));
+        const ValidationPauseCL reporting(::GetParent(m_hWnd));
         sendToParentM(ValueReportMsg, -1);
     }
-}
-
-HBRUSH DuSingleEditCL::CtlColor(CDC* dc, UINT)
-{
-    return background_.AnswerM(dc);
 }
 
 LRESULT DuSingleEditCL::onCheckValM(WPARAM, LPARAM)

@@ -14,18 +14,18 @@ class PANELKIT_API DuSingleEditCL : public ControlCL<CEdit>
 public:
     using ControlCL::ControlCL;
 
-    using CEdit::Create;
-    int Create(CWnd* parent); // Creates the child window at the described place; the platform's result.
-    void DelItemM();          // Destroys window and brush and marks the element deleted.
+    void DelItemM();
 
-    int SetDataTypeM(int type, int decimals); // A ValueType; others are inert. Always 1.
-    int SetAlignModeM(int mode);              // 3 centred, 4 right, else left. Always 1.
-    int SetPasswordM(int password);           // 1: masked. Always 1.
-    int SetReadOnlyM(int readOnly);           // 1: read only. Always 1.
-    int SetEdgeM(int edge);                   // 1: sunken edge with border. Always 1.
-    int SetBkColorM(COLORREF colour);         // At the next colour request. Always 1.
-    int SetRangeM(const simpleValD& range);   // Minimum and maximum by type; 0 for an unknown type.
-    int SetInitValM(const simpleValD& value); // Stored by type, not shown; 0 for an unknown type.
+    int SetDataTypeM(int type, int decimals);                              // A ValueType; others are inert.
+    int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); }       // 3 centred, 4 right, else left.
+    int SetPasswordM(int password) { return slKeep(password_, password); } // 1: masked.
+    int SetReadOnlyM(int readOnly) { return slKeep(readOnly_, readOnly); } // 1: read only.
+    int SetEdgeM(int edge) { return slKeep(edge_, edge); }                 // 1: sunken edge with border.
+    int SetBkColorM(COLORREF colour) { return background_.SetColourM(colour); } // At the next colour request.
+    // Minimum and maximum by type; 0 for an unknown type.
+    int SetRangeM(const simpleValD& range) { return value_.SetRangeM(range); }
+    // Stored by type, not shown; 0 for an unknown type.
+    int SetInitValM(const simpleValD& value) { return value_.SetValueM(value); }
 
     // Checks the text. The check code (CheckCode); the value is written by type only for ValidValue.
     int GetCurValM(simpleValD* value);
@@ -36,13 +36,14 @@ public:
     int GetValueM(int* value);
     int GetValueM(float* value);
     int GetValueM(char* text);
-    // Store and show without any check; always 1.
+    // Store and show without any check.
     int SetValueM(int value);
     int SetValueM(float value);
     int SetValueM(const char* text);
 
-    int UpdateDataM(int direction); // 1: reads the text, the check code; else DispEditM.
-    int DispEditM();                // Shows the value: 1, or 0 for an unknown type.
+    // 1: reads the text, the check code; else DispEditM.
+    int UpdateDataM(int direction) { return direction == 1 ? checkValueM() : DispEditM(); }
+    int DispEditM(); // Shows the value: 1, or 0 for an unknown type.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -50,7 +51,7 @@ protected:
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg void OnSetFocus(CWnd* oldFocus);
-    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
     afx_msg LRESULT onCheckValM(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

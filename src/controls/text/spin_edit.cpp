@@ -1,7 +1,7 @@
 #include "controls/text/spin_edit.h"
 #include "baselib/gbk_texts.h"
+#include "controls/base/styles.h"
 #include "controls/text/spin_edit_record.h"
-#include <algorithm>
 
 template class PANELKIT_API Arr<DuSpinEditCL>;
 
@@ -32,27 +32,24 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
 
 int DuSpinEditArr::Create(CWnd* parent)
 {
-    int result = 0;
-    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
-        result = ElementAtM(i).Create(parent);
-        if (result != 1) {
-            break;
+    return untilFailureM([parent](DuSpinEditCL& control) {
+        const int result = control.Create(parent);
+        if (result == 1) {
+            control.DispEditM();
         }
-        ElementAtM(i).DispEditM();
-    }
-    return result;
+        return result;
+    });
 }
 
 int DuSpinEditCL::Create(CWnd* parent)
 {
     spinButton_.DestroyWindow(); // They belong to the window before.
-    if (createdM(CEdit::Create(0, describedRectM(), parent, static_cast<UINT>(GetFunctionIDM()))) != 1) {
+    if (createM(parent) != 1) {
         return 0;
     }
     CRect rect;
     GetClientRect(&rect);
-    constexpr int Most = 32767; // No window is wider.
-    rect.left = rect.right - std::clamp(spinWidth_, -Most, Most);
+    rect.left = rect.right - slWindowLength(spinWidth_);
     const int result = spinButton_.Create(rect, parent);
     if (result == 1) {
         spinButton_.SetBuddy(this);
@@ -64,11 +61,7 @@ BOOL DuSpinEditCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style
         |= WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | WS_GROUP | WS_TABSTOP | ES_AUTOHSCROLL;
-    if (alignMode_ == 3) {
-        create.style |= ES_CENTER;
-    } else if (alignMode_ == 4) {
-        create.style |= ES_RIGHT;
-    }
+    slSetAlignment(create, alignMode_);
     return CEdit::PreCreateWindow(create);
 }
 
@@ -107,23 +100,6 @@ int DuSpinEditCL::SetDataTypeM(int type, int decimals)
     return 1;
 }
 
-int DuSpinEditCL::SetAlignModeM(int mode)
-{
-    alignMode_ = mode;
-    return 1;
-}
-
-int DuSpinEditCL::SetSpinLenM(int width)
-{
-    spinWidth_ = width;
-    return 1;
-}
-
-int DuSpinEditCL::SetRangeM(const simpleValD& range)
-{
-    return value_.SetRangeM(range);
-}
-
 int DuSpinEditCL::SetStepM(const simpleValD& step)
 {
     switch (value_.GetTypeM()) {
@@ -136,11 +112,6 @@ int DuSpinEditCL::SetStepM(const simpleValD& step)
     default:
         return 0;
     }
-}
-
-int DuSpinEditCL::SetInitValM(const simpleValD& value)
-{
-    return value_.SetValueM(value);
 }
 
 // No check code says that the value is to be written: callers rely on their output staying as it is.
@@ -164,21 +135,11 @@ int DuSpinEditCL::DispEditM()
     return result;
 }
 
-int DuSpinEditCL::updateDataM(int direction)
-{
-    return direction == 1 ? GetCurValM(nullptr) : DispEditM();
-}
-
 void DuSpinEditCL::OnChar(UINT character, UINT repeats, UINT flags)
 {
     if (value_.AcceptsM(character)) {
         CEdit::OnChar(character, repeats, flags);
     }
-}
-
-void DuSpinEditCL::OnSetFocus(CWnd* oldFocus)
-{
-    reportFocusM(oldFocus);
 }
 
 void DuSpinEditCL::OnKillFocus(CWnd* newFocus)

@@ -17,16 +17,16 @@ public:
     using CEdit::Create;
     // Creates the edit at the described place and the arrows at its right edge; the result for the arrows.
     int Create(CWnd* parent);
-    void DelItemM();              // Destroys both windows and marks the element deleted.
+    void DelItemM();
     int SetItemCmdM(int command); // As with every control; the arrows follow.
 
-    int SetDataTypeM(int type, int decimals); // IntegerType or RealType; others are inert. Always 1.
-    int SetAlignModeM(int mode);              // 3 centred, 4 right, else left. Always 1.
-    int SetSpinLenM(int width);               // Of the arrows, in pixels. Always 1.
+    int SetDataTypeM(int type, int decimals); // IntegerType or RealType; others are inert.
+    int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); } // 3 centred, 4 right, else left.
+    int SetSpinLenM(int width) { return slKeep(spinWidth_, width); } // Of the arrows, in pixels.
     // Stored by type, not shown: 1; 0 for an unknown type.
-    int SetRangeM(const simpleValD& range);
+    int SetRangeM(const simpleValD& range) { return value_.SetRangeM(range); }
     int SetStepM(const simpleValD& step);
-    int SetInitValM(const simpleValD& value);
+    int SetInitValM(const simpleValD& value) { return value_.SetValueM(value); }
 
     // Reads the text into the current value; the check code (CheckCode). *value is never written.
     int GetCurValM(simpleValD* value);
@@ -35,9 +35,10 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    int updateDataM(int direction); // 1: reads the text, the check code; else DispEditM.
+    // 1: reads the text, the check code; else DispEditM.
+    int updateDataM(int direction) { return direction == 1 ? GetCurValM(nullptr) : DispEditM(); }
     afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
-    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg LRESULT onSpinClickM(WPARAM wParam, LPARAM lParam);

@@ -9,46 +9,6 @@ BEGIN_MESSAGE_MAP(DuTextBox, CEdit)
 ON_WM_CHAR()
 END_MESSAGE_MAP()
 
-int DuTextBox::SetMinMaxValM(const int limits[2])
-{
-    if (limits == nullptr) {
-        return 0;
-    }
-    intLimits_[0] = limits[0];
-    intLimits_[1] = limits[1];
-    return 1;
-}
-
-int DuTextBox::GetMinMaxValueM(int limits[2]) const
-{
-    if (limits == nullptr) {
-        return 0;
-    }
-    limits[0] = intLimits_[0];
-    limits[1] = intLimits_[1];
-    return 1;
-}
-
-int DuTextBox::SetMinMaxValM(const float limits[2])
-{
-    if (limits == nullptr) {
-        return 0;
-    }
-    realLimits_[0] = limits[0];
-    realLimits_[1] = limits[1];
-    return 1;
-}
-
-int DuTextBox::GetMinMaxValM(float limits[2]) const
-{
-    if (limits == nullptr) {
-        return 0;
-    }
-    limits[0] = realLimits_[0];
-    limits[1] = realLimits_[1];
-    return 1;
-}
-
 template <class NumberTP>
 int DuTextBox::getM(const char* (*read)(const char* at, const char* end, NumberTP* value),
     const NumberTP (&limits)[2], NumberTP* value) const

@@ -345,7 +345,7 @@ TEST_F(ComboDialogTest, FocusThatOnlyPassesThroughIsNotLeaving)
     PumpPending();
     const MessageRecorder messages(dialog.m_hWnd, { WM_KILLFOCUS });
     {
-        const NotLeavingCL telling;
+        const ValidationPauseCL telling;
         ::SetFocus(dialog.m_hWnd);
         PumpPending();
     }

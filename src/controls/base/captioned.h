@@ -1,0 +1,35 @@
+#pragma once
+#include "baselib/gbk.h"
+#include "controls/base/control.h"
+#include "records/fields.h"
+
+// A control whose window has a caption from the start: GBK, cut to 259 bytes at a character.
+template <class PlatformTP> class CaptionedCL : public ControlCL<PlatformTP>
+{
+public:
+    using ControlCL<PlatformTP>::ControlCL;
+
+    using PlatformTP::Create;
+    int Create(CWnd* parent) { return this->createM(parent, text_); }
+
+protected:
+    // For the window to come: 1. 0, and no change, for null.
+    int keepTextM(const char* text)
+    {
+        if (text != nullptr) {
+            slCopyText(text_, TextSize, text);
+        }
+        return text != nullptr ? 1 : 0;
+    }
+    // The same, and the window shows it if there is one.
+    int showTextM(const char* text)
+    {
+        const int result = keepTextM(text);
+        if (result == 1 && this->m_hWnd != nullptr) {
+            this->SetWindowText(text_);
+        }
+        return result;
+    }
+
+    char text_[TextSize] {};
+};
