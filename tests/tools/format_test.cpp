@@ -91,10 +91,6 @@ TEST(Format, LinesThatHoldMoreThanValuesStay)
         const std::string file = "[树形控件]\n2\n1\n窗口序号 功能号 左 上 宽 高\n" + std::string(rows);
         EXPECT_EQ(formatted(file), file);
     }
-    const std::string utf16 = "\xFF\xFE[\0";
-    const TempFile other(utf16);
-    EXPECT_EQ(format(other).code, 0);
-    EXPECT_EQ(other.bytes(), utf16);
 }
 
 TEST(Format, CheckTellsTheFirstLine)
@@ -164,5 +160,10 @@ TEST(Format, FilesMadeByChanceAreReadAsBefore)
 
 TEST(Format, FilesThatCannotBeUsedGetOneClearLine)
 {
+    for (const std::string& bytes : { std::string("[标题]\n1\n"), std::string("\xFF\xFE[\0", 4) }) {
+        const TempFile file(bytes);
+        expectComplaint(format(file), "panelkit convert");
+        EXPECT_EQ(file.bytes(), bytes);
+    }
     expectComplaint(runCommand("format \"no such.dlg\""), "'no such.dlg': no such file");
 }

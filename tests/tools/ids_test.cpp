@@ -96,6 +96,8 @@ TEST(Ids, NamespaceAndPrefixAreTheUsers)
         { " --namespace a-b", " --namespace ::a", " --namespace a::", " --prefix 1x" }) {
         expectComplaint(runCommand("ids \"" + plotter + "\"" + wrong), "");
     }
+    const TempFile utf8(checkBoxes({ { 1, "甲" } }));
+    expectComplaint(runCommand("ids \"" + std::string(utf8.path()) + "\""), "UTF-8");
     expectComplaint(runCommand("ids \"no such.dlg\""), "'no such.dlg': no such file");
 }
 

@@ -1,5 +1,6 @@
 #include "encodings.h"
 #include "baselib/gbk.h"
+#include "commands.h"
 #include <algorithm>
 #include <cstdint>
 
@@ -71,15 +72,23 @@ CharacterCL utf16Character(const std::string& bytes, std::size_t at, Encoding en
     return { 0x10000 + ((first & 0x3FF) << 10) + (second & 0x3FF), { at, at + 4 } };
 }
 
-std::size_t faultsAs(const std::string& bytes, Encoding encoding)
+// How well bytes agree with an encoding.
+struct AgreementCL
 {
-    std::size_t faults = 0;
+    std::size_t faults { 0 };
+    bool hasLong { false }; // Three bytes or more that are one character: not by accident.
+};
+
+AgreementCL agreementWith(const std::string& bytes, Encoding encoding)
+{
+    AgreementCL agreement;
     for (std::size_t at = 0; at < bytes.size();) {
         const CharacterCL character = characterAt(bytes, at, encoding);
-        faults += character.code == NoCharacter ? 1 : 0;
+        agreement.faults += character.code == NoCharacter ? 1 : 0;
+        agreement.hasLong = agreement.hasLong || character.span.end - at > 2;
         at = character.span.end;
     }
-    return faults;
+    return agreement;
 }
 
 } // namespace
@@ -110,8 +119,17 @@ Encoding encodingOf(const std::string& bytes)
     }
     const bool isAscii
         = std::none_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) != 0; });
-    return isAscii || faultsAs(bytes, Encoding::Gbk) < faultsAs(bytes, Encoding::Utf8) ? Encoding::Gbk
-                                                                                       : Encoding::Utf8;
+    const AgreementCL gbk = agreementWith(bytes, Encoding::Gbk);
+    const AgreementCL utf8 = agreementWith(bytes, Encoding::Utf8);
+    const bool isUtf8
+        = utf8.faults == 0 || utf8.faults < gbk.faults || (utf8.faults == gbk.faults && utf8.hasLong);
+    return isAscii || !isUtf8 ? Encoding::Gbk : Encoding::Utf8;
+}
+
+int complainOfEncoding(const std::string& file, Encoding encoding)
+{
+    return complain("'" + file + "' is " + encodingName(encoding)
+        + ", which gives an empty dialog (panelkit convert '" + file + "' brings it into GBK)");
 }
 
 std::size_t textBegin(const std::string& bytes, Encoding encoding)

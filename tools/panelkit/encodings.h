@@ -26,6 +26,8 @@ constexpr char32_t NoCharacter = 0xFFFFFFFF;
 // bytes break the rules of least often, UTF-8 if both are kept: sections' headers in GBK are no UTF-8. Plain
 // ASCII is GBK.
 Encoding encodingOf(const std::string& bytes);
+// Says of a file in another code than GBK that nothing is read from it; the result is CannotUse.
+int complainOfEncoding(const std::string& file, Encoding encoding);
 std::size_t textBegin(const std::string& bytes, Encoding encoding); // Behind a byte order mark.
 // The character at an offset within the text. A GBK pair without one has the platform's private-use code.
 CharacterCL characterAt(const std::string& bytes, std::size_t at, Encoding encoding);

@@ -1,6 +1,7 @@
 // Lines up the numbers of a description file below their comment lines, and changes nothing else.
 #include "baselib/number_text.h"
 #include "commands.h"
+#include "encodings.h"
 #include "reading.h"
 #include "row_layout.h"
 #include "text_file.h"
@@ -238,7 +239,8 @@ int formatCommand(const std::string& file, bool checkOnly)
     readWith(finder, text);
     const std::vector<BlanksCL> changes = finder.ChangesM();
     if (changes.empty()) {
-        return 0;
+        const Encoding encoding = encodingOf(bytes);
+        return encoding == Encoding::Gbk ? 0 : complainOfEncoding(file, encoding);
     }
     const std::string result = withChanges(*text, changes);
     const auto formatted = std::make_shared<FileTextCL>(result);

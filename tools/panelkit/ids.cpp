@@ -1,6 +1,7 @@
 // Names for the function ids of a description file, as a C++ header.
 #include "baselib/gbk.h"
 #include "commands.h"
+#include "encodings.h"
 #include "identifiers.h"
 #include "reading.h"
 #include "text_file.h"
@@ -123,6 +124,9 @@ int idsCommand(
         record.EachCommonFieldM(finder);
         record.EachFieldM(finder);
     });
+    if (ids.empty() && encodingOf(bytes) != Encoding::Gbk) {
+        return complainOfEncoding(file, encodingOf(bytes));
+    }
     const std::string constants = constantsOf(ids, prefix);
     const std::string name = space != nullptr ? *space : namespaceOf(file);
     const std::string header = "// Made by panelkit ids; changes here are lost.\n#pragma once\n\n"
