@@ -16,6 +16,15 @@ int viewCommand(const std::string& file);
 int shotCommand(
     const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
 
+// What authors need at their desk. convert: `out` "" is the file itself; the result is 1 when the other code
+// can't hold the text. ids: `out` "" is standard output, space null a namespace named after the file. format:
+// 1 when numbers are not lined up and the file was only to be looked at.
+int convertCommand(const std::string& file, const std::string& out, bool toUtf8);
+int newCommand(const std::string& file, bool force);
+int idsCommand(
+    const std::string& file, const std::string& out, const std::string* space, const std::string& prefix);
+int formatCommand(const std::string& file, bool checkOnly);
+
 // Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
 // standard input ends. Prints "ready" once it is there.
 int keepCommand();

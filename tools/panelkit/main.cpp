@@ -17,7 +17,7 @@ namespace {
 
 int run(std::vector<std::string> arguments)
 {
-    CLI::App app("Reads, shows and pictures dialog description files.", "panelkit");
+    CLI::App app("Reads, shows, pictures and edits dialog description files.", "panelkit");
     app.require_subcommand(1);
     app.allow_windows_style_options(false); // "/dialogs/a.dlg" is a file on every system.
     app.set_version_flag("--version", "panelkit " PANELKIT_VERSION);
@@ -53,10 +53,37 @@ int run(std::vector<std::string> arguments)
         }
         result = shotCommand(file, picture, pairs);
     });
+
+    std::string out;
+    std::string encoding;
+    std::string space;
+    std::string prefix;
+    bool flag = false;
+    CLI::App* convert
+        = add("convert", "Brings FILE (UTF-8, UTF-16) into GBK, which the library reads, or back.");
+    convert->add_option("-o", out, "the file to write (else FILE itself)")->type_name("OUT");
+    convert->add_option("--to", encoding, "gbk (without this option), or utf-8")
+        ->check(CLI::IsMember({ "gbk", "utf-8" }));
+    convert->callback([&] { result = convertCommand(file, out, encoding == "utf-8"); });
+    CLI::App* fresh = add("new", "Writes FILE, a small dialog with comments to start from.");
+    fresh->add_flag("--force", flag, "overwrites FILE");
+    fresh->callback([&] { result = newCommand(file, flag); });
+    CLI::App* ids = add("ids", "Writes a C++ header that names the function ids of FILE.");
+    ids->add_option("-o", out, "the file to write (else standard output)")->type_name("OUT");
+    const CLI::Option* named = ids->add_option("--namespace", space, "the names' namespace; \"\": none");
+    ids->add_option("--prefix", prefix, "what every name begins with");
+    ids->callback([&] { result = idsCommand(file, out, named->count() > 0 ? &space : nullptr, prefix); });
+    CLI::App* format = add("format", "Lines up the numbers of FILE below its comment lines.");
+    format->add_flag("--check", flag, "writes nothing; exit code 1 when numbers are not lined up");
+    format->callback([&] { result = formatCommand(file, flag); });
 #ifdef _WIN32
     app.add_subcommand("keep")->group("")->callback([&] { result = keepCommand(); });
 #endif
 
+    const auto isNamed = [&arguments](const CLI::App* command) { return command->check_name(arguments[0]); };
+    if (!arguments.empty() && arguments[0][0] != '-' && app.get_subcommands(isNamed).empty()) {
+        return complain("no subcommand '" + arguments[0] + "' (panelkit --help tells which there are)");
+    }
     try {
         std::reverse(arguments.begin(), arguments.end()); // As the parser wants them.
         app.parse(std::move(arguments));

@@ -1,0 +1,32 @@
+#pragma once
+#include "baselib/file_text.h"
+#include <string>
+#include <vector>
+
+// A value that stands in a line of a record: a column of that line.
+struct CellCL
+{
+    SpanCL span;
+    bool isText; // Goes on to the end of the line.
+    int part;    // Its number in a field of several values.
+};
+
+// The columns of a line that holds nothing but values, from its first value on.
+struct RowCellsCL
+{
+    std::size_t lineBegin;
+    std::vector<CellCL> cells;
+};
+
+// Blanks that are to be written otherwise.
+struct BlanksCL
+{
+    SpanCL span;
+    std::size_t spaces;
+};
+
+// Lines up rows of the same columns: numbers end one above the other, and as far as they have room below the
+// ends of the words of the last comment line that has a word for each. common: how many values at the
+// beginning have a word each whatever fields they are of. Appends what is to change.
+void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
+    std::size_t common, std::vector<BlanksCL>& changes);
