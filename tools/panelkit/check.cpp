@@ -49,7 +49,8 @@ bool readNamedFile(const std::string& file, std::string* bytes)
     std::error_code error;
     const fs::path path = fs::u8path(file);
     if (!fs::is_regular_file(path, error)) {
-        complain("cannot open '" + file + "': " + (fs::exists(path, error) ? "not a regular file" : "no such file"));
+        complain("cannot open '" + file
+            + "': " + (fs::exists(path, error) ? "not a regular file" : "no such file"));
         return false;
     }
     std::ifstream in(path, std::ios::binary);
@@ -92,7 +93,8 @@ int checkCommand(const CheckOptionsCL& options)
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkBytes(isInput ? "<stdin>" : file, isInput ? fs::path() : fs::u8path(file).parent_path(), bytes));
+        all.push_back(checkBytes(
+            isInput ? "<stdin>" : file, isInput ? fs::path() : fs::u8path(file).parent_path(), bytes));
         isFaulty = isFaulty || all.back().CountM(Severity::Error) > 0
             || (options.isStrict && all.back().CountM(Severity::Warning) > 0);
     }

@@ -10,9 +10,11 @@ namespace {
 std::size_t utf8Length(std::string_view bytes, std::size_t at)
 {
     const auto byte = static_cast<unsigned char>(bytes[at]);
-    const std::size_t length = byte < 0x80 ? 1 : byte >= 0xC2 && byte < 0xE0 ? 2 : byte >= 0xE0 && byte < 0xF0 ? 3
-        : byte >= 0xF0 && byte < 0xF5                                         ? 4
-                                                                              : 0;
+    const std::size_t length = byte < 0x80 ? 1
+        : byte >= 0xC2 && byte < 0xE0      ? 2
+        : byte >= 0xE0 && byte < 0xF0      ? 3
+        : byte >= 0xF0 && byte < 0xF5      ? 4
+                                           : 0;
     if (length == 0 || at + length > bytes.size()) {
         return 0;
     }

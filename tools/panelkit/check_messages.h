@@ -1,8 +1,8 @@
 #pragma once
 
-// All that `panelkit check` can say: its name in the program, the code, whether it is an error, and the message
-// in English and in Chinese, with {0}, {1}, ... for what the finding adds. A code may have several messages; its
-// first one also describes it.
+// All that `panelkit check` can say: its name in the program, the code, whether it is an error, and the
+// message in English and in Chinese, with {0}, {1}, ... for what the finding adds. A code may have several
+// messages; its first one also describes it.
 // clang-format off
 #define PANELKIT_MESSAGES(X) \
     X(FileIsUtf8, "encoding", Error, "the file is UTF-8, not GBK; convert it: iconv -f UTF-8 -t GBK", "文件是 UTF-8 编码, 不是 GBK; 请转换: iconv -f UTF-8 -t GBK") \

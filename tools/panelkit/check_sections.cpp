@@ -133,23 +133,22 @@ private:
         std::vector<SpanCL> whole;
         for (std::size_t i = 0; i < allGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
-            if (section.IsThereM()
-                && layoutOf(section, bytes_, static_cast<int>(i) != DialogGrammar).isClean
+            if (section.IsThereM() && layoutOf(section, bytes_, static_cast<int>(i) != DialogGrammar).isClean
                 && static_cast<int>(i) != VersionGrammar) {
                 whole.push_back({ section.head.headerSpan.begin, section.head.end });
             }
         }
         places_.erase(std::remove_if(places_.begin(), places_.end(),
                           [&](const HeaderPlaceCL& place) {
-                              return place.grammar < 0 && (isInsideM(place, whole) || !looksLikeHeaderM(place));
+                              return place.grammar < 0
+                                  && (isInsideM(place, whole) || !looksLikeHeaderM(place));
                           }),
             places_.end());
     }
     static bool isInsideM(const HeaderPlaceCL& place, const std::vector<SpanCL>& spans)
     {
-        return std::any_of(spans.begin(), spans.end(), [&place](SpanCL span) {
-            return place.span.begin >= span.begin && place.span.begin < span.end;
-        });
+        return std::any_of(spans.begin(), spans.end(),
+            [&place](SpanCL span) { return place.span.begin >= span.begin && place.span.begin < span.end; });
     }
     bool looksLikeHeaderM(const HeaderPlaceCL& place) const
     {
@@ -162,13 +161,15 @@ private:
     // Of equally near headers, one that the file doesn't have.
     int nearestM(SpanCL span, std::size_t* distance) const
     {
-        const std::string_view text = bytes_.substr(span.begin, std::min<std::size_t>(span.end - span.begin, 60));
+        const std::string_view text
+            = bytes_.substr(span.begin, std::min<std::size_t>(span.end - span.begin, 60));
         const std::u16string wide = slGbkToUtf16(text.data(), text.size());
         int nearest = -1;
         *distance = static_cast<std::size_t>(-1);
         for (std::size_t i = 0; i < allGrammars().size(); ++i) {
             const std::size_t other = editDistance(wide, slGbkToUtf16(allGrammars()[i].header));
-            if (other < *distance || (other == *distance && !isFound_[i] && isFound_[static_cast<std::size_t>(nearest)])) {
+            if (other < *distance
+                || (other == *distance && !isFound_[i] && isFound_[static_cast<std::size_t>(nearest)])) {
                 *distance = other;
                 nearest = static_cast<int>(i);
             }
@@ -194,7 +195,8 @@ private:
             SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
             section.regionEnd = bytes_.size();
             for (const HeaderPlaceCL& place : places) {
-                if (place.beginsLine && section.IsThereM() && place.span.begin >= section.head.headerSpan.end) {
+                if (place.beginsLine && section.IsThereM()
+                    && place.span.begin >= section.head.headerSpan.end) {
                     section.regionEnd = place.span.begin;
                     break;
                 }
@@ -224,14 +226,16 @@ private:
         const std::size_t before = findings_.ListM().size();
         explainSection(file_, grammar, layout, findings_);
         hasStrayText_ = hasStrayText_
-            || (isStray && findings_.ListM().size() > before && findings_.ListM().back().says == Says::ExtraLines);
+            || (isStray && findings_.ListM().size() > before
+                && findings_.ListM().back().says == Says::ExtraLines);
     }
     // The version is one line that nobody looks at.
     void checkVersionM(const SeenSectionCL& section)
     {
         const std::size_t version = nextText(bytes_, section.head.headerSpan.end, section.regionEnd);
         const std::size_t next = file_.LineStartM(file_.LineM(version) + 1);
-        const std::size_t stray = next < section.regionEnd ? nextText(bytes_, next, section.regionEnd) : section.regionEnd;
+        const std::size_t stray
+            = next < section.regionEnd ? nextText(bytes_, next, section.regionEnd) : section.regionEnd;
         if (stray >= section.regionEnd) {
             return;
         }

@@ -191,7 +191,8 @@ private:
         if (head.commentCount.begin >= end_) {
             addM(Says::ShortSection, hasCountM() ? head.countSpan.begin : begin_,
                 { hasCountM() ? wordM(head.countSpan.begin) : "1", "0" }, 0);
-        } else if (head.commentCount.EmptyM() || wordAt(bytes_, head.commentCount.begin).end != head.commentCount.end) {
+        } else if (head.commentCount.EmptyM()
+            || wordAt(bytes_, head.commentCount.begin).end != head.commentCount.end) {
             addM(Says::BadCommentCount, head.commentCount.begin, { wordM(head.commentCount.begin) }, 0);
         } else {
             addM(Says::CommentsTooMany, head.commentCount.begin, { wordM(head.commentCount.begin) }, 0);
@@ -256,7 +257,7 @@ private:
             return false;
         }
         const OddityCL oddity = findOddityM();
-        const std::size_t at = oddity.value != nullptr ? oddity.value->begin
+        const std::size_t at = oddity.value != nullptr    ? oddity.value->begin
             : layout_.bad != nullptr && !layout_.runsOver ? layout_.bad->begin
                                                           : layout_.goodEnd;
         constexpr std::size_t Window = 6;
@@ -268,8 +269,8 @@ private:
             if (tryM({ start, start }, "x\n").IsCleanM() && oddTexts_ == 0) {
                 const int record = recordAtM(start);
                 const SeenValueCL* const value = firstValueBehindM(start);
-                addM(Says::LineMissing, start,
-                    { value != nullptr ? value->field : "", costM(record) }, record);
+                addM(Says::LineMissing, start, { value != nullptr ? value->field : "", costM(record) },
+                    record);
                 return true;
             }
         }
@@ -302,7 +303,8 @@ private:
         std::vector<int> votes;
         for (int record = 0; record < layout_.wholeRecords; ++record) {
             std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record); ++value, ++i) {
+            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
+                 ++value, ++i) {
                 votes.resize(std::max(votes.size(), i + 1));
                 votes[i] += beginsLineM(*value) ? 1 : -1;
             }
@@ -319,7 +321,8 @@ private:
             = layout_.bad != nullptr ? layout_.bad : section_.values.data() + section_.values.size();
         for (int record = 0; record < section_.RecordsM() && section_.FirstM(record) <= stop; ++record) {
             std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record); ++value, ++i) {
+            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
+                 ++value, ++i) {
                 if (value > stop) {
                     return {};
                 }

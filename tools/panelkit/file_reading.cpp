@@ -51,8 +51,7 @@ std::vector<GrammarCL> makeGrammars()
 {
     std::vector<GrammarCL> all;
     all.push_back({ VersionHeader, nullptr, "", &readDialogSections });
-    all.push_back(
-        { DialogHeader, nullptr, std::string(VersionHeader) + "\n1.0\n", &readDialogSections });
+    all.push_back({ DialogHeader, nullptr, std::string(VersionHeader) + "\n1.0\n", &readDialogSections });
     slEachKindAsBuilt([&all](auto row) {
         using RecordsTP = typename decltype(row)::Records;
         addKindGrammars<RecordsTP>(
@@ -60,8 +59,8 @@ std::vector<GrammarCL> makeGrammars()
     });
     all.push_back({ RelationHeader, nullptr, "", &readRelationSection });
     all.push_back({ NewRotateBtnHeader, nullptr, "", &readNewRotateSections });
-    all.push_back({ NewRotateBtnBitmapHeader, NewRotateBtnHeader,
-        std::string(NewRotateBtnHeader) + "\n0 1\n", &readNewRotateSections });
+    all.push_back({ NewRotateBtnBitmapHeader, NewRotateBtnHeader, std::string(NewRotateBtnHeader) + "\n0 1\n",
+        &readNewRotateSections });
     return all;
 }
 
@@ -84,9 +83,8 @@ int grammarOf(const char* header)
 const SeenValueCL* SeenSectionCL::FindM(int record, const char* field, int part) const
 {
     const SeenValueCL* const end = EndM(record);
-    const SeenValueCL* const found = std::find_if(FirstM(record), end, [&](const SeenValueCL& value) {
-        return value.part == part && std::strcmp(value.field, field) == 0;
-    });
+    const SeenValueCL* const found = std::find_if(FirstM(record), end,
+        [&](const SeenValueCL& value) { return value.part == part && std::strcmp(value.field, field) == 0; });
     return found != end ? found : nullptr;
 }
 
@@ -152,7 +150,8 @@ int FileReadingCL::NumberM(const SeenSectionCL& section, int record, const char*
 
 std::size_t FileReadingCL::LineM(std::size_t offset) const
 {
-    return static_cast<std::size_t>(std::upper_bound(lines_.begin(), lines_.end(), offset) - lines_.begin()) - 1;
+    return static_cast<std::size_t>(std::upper_bound(lines_.begin(), lines_.end(), offset) - lines_.begin())
+        - 1;
 }
 
 std::size_t FileReadingCL::LineStartM(std::size_t line) const

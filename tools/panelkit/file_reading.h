@@ -26,8 +26,8 @@ struct SeenSectionCL
     std::vector<SeenValueCL> values;
     std::vector<std::uint32_t> starts; // Where each record's values begin in `values`.
     std::vector<EntryDroppedCL> dropped;
-    std::size_t regionEnd { 0 };        // Where the next header stands, or the file ends.
-    int soundRecords { 0 };             // Records before the first fault of its layout.
+    std::size_t regionEnd { 0 }; // Where the next header stands, or the file ends.
+    int soundRecords { 0 };      // Records before the first fault of its layout.
     bool IsThereM() const { return head.headerSpan.end > 0; }
     bool IsReadM() const
     {
@@ -47,15 +47,15 @@ struct SeenSectionCL
 struct GrammarCL
 {
     const char* header;
-    const char* owner;          // The main section of a secondary one; else null.
-    std::string before;         // What must stand before it for a reading on its own.
-    void (*read)(VrIOCL& io);   // Reads it alone.
+    const char* owner;           // The main section of a secondary one; else null.
+    std::string before;          // What must stand before it for a reading on its own.
+    void (*read)(VrIOCL& io);    // Reads it alone.
     RowFieldsTP row { nullptr }; // The fields of a secondary section's entries.
 };
 
 // All sections that a file may have, in the order of reading; the first two must be there.
 const std::vector<GrammarCL>& allGrammars();
-int grammarOf(const char* header);     // -1 for an unknown one.
+int grammarOf(const char* header); // -1 for an unknown one.
 constexpr int VersionGrammar = 0;
 constexpr int DialogGrammar = 1;
 
@@ -106,7 +106,10 @@ public:
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
     std::string CutM(const SeenValueCL& value) const { return CutM(SpanCL { value.begin, value.end }); }
-    std::string_view BytesM(const SeenValueCL& value) const { return text_->CutM({ value.begin, value.end }); }
+    std::string_view BytesM(const SeenValueCL& value) const
+    {
+        return text_->CutM({ value.begin, value.end });
+    }
     // An entry's number as the reader took it; 0 where none was read.
     int NumberM(const SeenSectionCL& section, int record, const char* field) const;
     std::size_t LineM(std::size_t offset) const; // From 0.

@@ -47,10 +47,8 @@ void FindingsCL::SortM()
 
 std::size_t FindingsCL::CountM(Severity severity) const
 {
-    return static_cast<std::size_t>(
-        std::count_if(list_.begin(), list_.end(), [severity](const FindingCL& finding) {
-            return messageOf(finding.says).severity == severity;
-        }));
+    return static_cast<std::size_t>(std::count_if(list_.begin(), list_.end(),
+        [severity](const FindingCL& finding) { return messageOf(finding.says).severity == severity; }));
 }
 
 namespace {
@@ -65,8 +63,7 @@ std::string counted(std::size_t count, const char* noun)
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-std::string summary(
-    std::size_t errors, std::size_t warnings, std::size_t files, Language language)
+std::string summary(std::size_t errors, std::size_t warnings, std::size_t files, Language language)
 {
     if (language == Language::Chinese) {
         return std::to_string(files) + " 个文件: " + std::to_string(errors) + " 个错误, "
@@ -144,9 +141,9 @@ JsonTP sarifRules(Language language)
     const char* last = "";
     for (const MessageCL& message : allMessages()) {
         if (std::string(last) != message.code) {
-            rules.push_back({ { "id", message.code },
-                { "shortDescription", { { "text", message.TextM(language) } } },
-                { "defaultConfiguration", { { "level", severityName(message.severity) } } } });
+            rules.push_back(
+                { { "id", message.code }, { "shortDescription", { { "text", message.TextM(language) } } },
+                    { "defaultConfiguration", { { "level", severityName(message.severity) } } } });
         }
         last = message.code;
     }
@@ -170,8 +167,8 @@ void printFindingsAsSarif(const std::vector<FindingsCL>& files, Language languag
                 { "locations", JsonTP::array({ location }) } });
         }
     }
-    const JsonTP driver = { { "name", "panelkit" }, { "version", PANELKIT_VERSION },
-        { "rules", sarifRules(language) } };
+    const JsonTP driver
+        = { { "name", "panelkit" }, { "version", PANELKIT_VERSION }, { "rules", sarifRules(language) } };
     const JsonTP run = { { "tool", { { "driver", driver } } }, { "columnKind", "unicodeCodePoints" },
         { "results", std::move(results) } };
     printJson({ { "$schema", "https://json.schemastore.org/sarif-2.1.0.json" }, { "version", "2.1.0" },

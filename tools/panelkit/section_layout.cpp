@@ -80,7 +80,8 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     const SectionSeenCL& head = section.head;
     const std::size_t regionEnd = section.regionEnd;
     layout.leftover = regionEnd;
-    const auto isNumber = [&](SpanCL span) { return !span.EmptyM() && span.end <= regionEnd && !goesOn(span, bytes); };
+    const auto isNumber
+        = [&](SpanCL span) { return !span.EmptyM() && span.end <= regionEnd && !goesOn(span, bytes); };
     layout.isHeadSound = !hasCount || isNumber(head.countSpan);
     if (layout.isHeadSound && head.status == SectionStatus::Empty) {
         layout.leftover = restOfEmptySection(head, bytes, regionEnd);
@@ -94,7 +95,8 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     bool isJoined = false; // A value begins right behind a number.
     for (const SeenValueCL& value : section.values) {
         const bool isBehind = value.begin >= regionEnd;
-        isJoined = !isAbsent(value) && value.begin == before && value.begin > 0 && !slIsBlank(bytes[value.begin - 1]);
+        isJoined = !isAbsent(value) && value.begin == before && value.begin > 0
+            && !slIsBlank(bytes[value.begin - 1]);
         if (isAbsent(value) || isBehind || isJoined) {
             layout.bad = &value;
             layout.runsOver = isBehind || value.fate == Fate::Missing;
