@@ -13,6 +13,16 @@ using ControlStatusTP = std::pair<int, int>;
 int dumpCommand(const std::string& file);
 int inspectCommand(const std::string& file);
 int viewCommand(const std::string& file);
+
+struct CheckOptionsCL
+{
+    std::vector<std::string> files; // "-": standard input.
+    std::string format { "text" };  // Or json, sarif.
+    std::string language;           // en, zh; else the user's.
+    bool isStrict { false };        // Warnings count too.
+};
+int checkCommand(const CheckOptionsCL& options); // 0, 1 with findings, CannotUse.
+
 int shotCommand(
     const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
 

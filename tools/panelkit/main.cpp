@@ -38,6 +38,15 @@ int run(std::vector<std::string> arguments)
         result = inspectCommand(file);
     });
     add("view", "Shows the dialog of FILE.")->callback([&] { result = viewCommand(file); });
+    CheckOptionsCL options;
+    CLI::App* check = app.add_subcommand("check", "Says what is wrong with each FILE, and where.");
+    check->add_option("FILE", options.files, "the dialog description files; - is standard input")->required();
+    check->add_option("--format", options.format, "text, json or sarif")
+        ->check(CLI::IsMember({ "text", "json", "sarif" }));
+    check->add_option("--lang", options.language, "en or zh; without it as the system is set")
+        ->check(CLI::IsMember({ "en", "zh" }));
+    check->add_flag("--strict", options.isStrict, "warnings count as errors for the exit code");
+    check->callback([&] { result = checkCommand(options); });
     CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
     shot->add_option("OUT.png", picture, "the picture to write")->required();
     shot->add_option("--status", statuses,

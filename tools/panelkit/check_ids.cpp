@@ -1,0 +1,184 @@
+// Function ids: those of controls, and those that entries and relations name.
+#include "baselib/gbk.h"
+#include "baselib/gbk_texts.h"
+#include "control_list.h"
+#include <algorithm>
+#include <map>
+#include <unordered_set>
+
+namespace {
+
+class IdsCheckerCL
+{
+public:
+    IdsCheckerCL(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+        : file_(file)
+        , controls_(controls)
+        , findings_(findings)
+    {
+    }
+    void CheckM()
+    {
+        findDuplicatesM();
+        bool isWhole = true;
+        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+            const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
+            isWhole = isWhole && section.soundRecords == section.RecordsM();
+            if (allGrammars()[i].owner != nullptr) {
+                findUnknownM(static_cast<int>(i));
+            }
+        }
+        if (isWhole) {
+            checkRelationsM();
+        }
+    }
+
+private:
+    std::string lineM(const ControlCL& control) const
+    {
+        return std::to_string(file_.LineM(control.idAt) + 1);
+    }
+
+    // Ids mostly rise within a section: whether this one alone is out of step with its neighbours.
+    bool isOddM(std::size_t i) const
+    {
+        const auto isSame
+            = [&](std::size_t other) { return controls_[other].grammar == controls_[i].grammar; };
+        const bool hasBefore = i > 0 && isSame(i - 1);
+        const bool hasNext = i + 1 < controls_.size() && isSame(i + 1);
+        const int id = controls_[i].id;
+        if (hasBefore && hasNext && controls_[i - 1].id < controls_[i + 1].id) {
+            return id <= controls_[i - 1].id || id >= controls_[i + 1].id;
+        }
+        if (hasNext && !hasBefore && i + 2 < controls_.size() && isSame(i + 2)) {
+            return controls_[i + 1].id < controls_[i + 2].id && id >= controls_[i + 1].id;
+        }
+        return hasBefore && !hasNext && i > 1 && isSame(i - 2) && controls_[i - 2].id < controls_[i - 1].id
+            && id <= controls_[i - 1].id;
+    }
+
+    void findDuplicatesM()
+    {
+        std::vector<std::size_t> order(controls_.size());
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            order[i] = i;
+        }
+        std::sort(order.begin(), order.end(),
+            [this](std::size_t a, std::size_t b) { return controls_[a].idAt < controls_[b].idAt; });
+        std::unordered_map<int, std::size_t> firstOf;
+        for (const std::size_t i : order) {
+            const ControlCL& control = controls_[i];
+            const auto [first, isNew] = firstOf.emplace(control.id, i);
+            if (!isNew) {
+                const bool isFirstOdd = isOddM(first->second) && !isOddM(i);
+                const ControlCL& odd = isFirstOdd ? controls_[first->second] : control;
+                const ControlCL& other = isFirstOdd ? control : controls_[first->second];
+                findings_.AddM(Says::DuplicateId, odd.idAt, { std::to_string(odd.id), lineM(other) });
+                if (isFirstOdd) {
+                    first->second = i;
+                }
+            } else if ((control.id == 1 || control.id == 2)
+                && !control.IsM({ StandardButtonCode, BmpButtonCode, MultiStateButtonCode })) {
+                findings_.AddM(Says::ReservedId, control.idAt,
+                    { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
+            }
+        }
+    }
+
+    struct UnknownCL
+    {
+        std::size_t first;
+        int count;
+    };
+    void findUnknownM(int grammar)
+    {
+        const SeenSectionCL& section = file_.SectionM(grammar);
+        const char* const owner = allGrammars()[static_cast<std::size_t>(grammar)].owner;
+        const int ownerGrammar = grammarOf(owner);
+        const SeenSectionCL& main = file_.SectionM(ownerGrammar);
+        if (!section.IsThereM() || main.soundRecords < main.RecordsM()) {
+            return;
+        }
+        const bool isByPlace = allGrammars()[static_cast<std::size_t>(grammar)].row == nullptr;
+        const char* const key = isByPlace ? "button" : "function_id";
+        std::map<int, UnknownCL> unknown;
+        for (const EntryDroppedCL& entry : section.dropped) {
+            if (entry.entry >= section.soundRecords || entry.fault == EntryFault::NullWord) {
+                continue;
+            }
+            const char* const field = entry.fault == EntryFault::BadSlot ? "slot" : key;
+            const std::size_t at = section.FindM(entry.entry, field)->begin;
+            const int number = file_.NumberM(section, entry.entry, field);
+            if (entry.fault == EntryFault::BadSlot) {
+                findings_.AddM(Says::UnknownSlot, at, { std::to_string(number) });
+            } else {
+                ++unknown.emplace(number, UnknownCL { at, 0 }).first->second.count;
+            }
+        }
+        const std::string name = slGbkToUtf8(owner);
+        for (const auto& [id, seen] : unknown) {
+            const ControlCL* const nameless
+                = seen.count > 1 && !isByPlace ? withoutEntriesM(ownerGrammar, section) : nullptr;
+            if (nameless != nullptr) {
+                findings_.AddM(Says::NothingForId, nameless->idAt,
+                    { slGbkToUtf8(allGrammars()[static_cast<std::size_t>(grammar)].header),
+                        std::to_string(nameless->id), std::to_string(id) });
+            } else if (seen.count > 1) {
+                findings_.AddM(Says::UnknownIds, seen.first,
+                    { name, std::to_string(id), std::to_string(seen.count - 1) });
+            } else {
+                findings_.AddM(Says::UnknownId, seen.first, { name, std::to_string(id) });
+            }
+        }
+    }
+    // The one control of a section whose id looks wrong, as no entry or another control has it.
+    const ControlCL* withoutEntriesM(int ownerGrammar, const SeenSectionCL& entries) const
+    {
+        std::unordered_set<int> named;
+        for (int i = 0; i < entries.RecordsM(); ++i) {
+            named.insert(file_.NumberM(entries, i, "function_id"));
+        }
+        std::vector<std::size_t> candidates;
+        std::unordered_set<int> ids;
+        std::vector<std::size_t> odd;
+        for (std::size_t i = 0; i < controls_.size(); ++i) {
+            if (controls_[i].grammar == ownerGrammar
+                && (!ids.insert(controls_[i].id).second || named.count(controls_[i].id) == 0)) {
+                candidates.push_back(i);
+                if (isOddM(i)) {
+                    odd.push_back(i);
+                }
+            }
+        }
+        return candidates.size() == 1 ? &controls_[candidates[0]]
+            : odd.size() == 1         ? &controls_[odd[0]]
+                                      : nullptr;
+    }
+
+    void checkRelationsM()
+    {
+        std::unordered_set<int> ids;
+        for (const ControlCL& control : controls_) {
+            ids.insert(control.id);
+        }
+        const SeenSectionCL& section = file_.SectionM(RelationHeader);
+        for (int i = 0; i < section.soundRecords; ++i) {
+            const int id = file_.NumberM(section, i, "control");
+            if (ids.count(id) == 0) {
+                findings_.AddM(
+                    Says::UnknownControl, section.FindM(i, "control")->begin, { std::to_string(id) });
+            }
+        }
+    }
+
+    FileReadingCL& file_;
+    const ControlsTP& controls_;
+    FindingsCL& findings_;
+};
+
+} // namespace
+
+void checkIds(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+{
+    IdsCheckerCL(file, controls, findings).CheckM();
+}

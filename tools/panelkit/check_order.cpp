@@ -1,0 +1,162 @@
+// What follows what when the user presses Tab.
+#include "control_list.h"
+#include <algorithm>
+#include <climits>
+
+namespace {
+
+// Pixels between a control and a label that still belongs to it.
+constexpr long Near = 40;
+
+bool isPictureControl(const ControlCL& control)
+{
+    return control.IsM({ BmpButtonCode, MultiStateButtonCode, RotateBtnCode });
+}
+
+bool needsLabel(const ControlCL& control)
+{
+    return !control.isReadOnly
+        && control.IsM({ SingleEditCode, SpinEditCode, MultiEditCode, TextListBoxCode, BmpListBoxCode,
+            ComboBoxCode, ListCtrlCode, TreeCode });
+}
+
+bool isNear(const ControlCL& label, const ControlCL& control)
+{
+    return label.x - Near < control.RightM() && control.x - Near < label.RightM()
+        && label.y - Near < control.BottomM() && control.y - Near < label.BottomM();
+}
+
+// A label to the right of what it stands near tells its unit.
+bool isName(const ControlCL& label, const ControlCL& control, bool isAnySide)
+{
+    return label.kind == LabelCode && label.hasText && isNear(label, control)
+        && (isAnySide || (label.x < control.RightM() && label.y < control.BottomM()));
+}
+
+class OrderCheckerCL
+{
+public:
+    OrderCheckerCL(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+        : file_(file)
+        , controls_(controls)
+        , findings_(findings)
+    {
+        for (const ControlCL& control : controls_) {
+            if (control.isStacked) {
+                order_.push_back(&control);
+            }
+        }
+        std::stable_sort(order_.begin(), order_.end(),
+            [](const ControlCL* a, const ControlCL* b) { return a->windowIndex < b->windowIndex; });
+    }
+    void CheckM()
+    {
+        findUnstackedM();
+        findUnnamedM();
+        findSplitGroupsM();
+        const ControlCL* first = nullptr;
+        for (const ControlCL& control : controls_) {
+            if (control.isDefault && first != nullptr) {
+                findings_.AddM(Says::TwoDefaults, control.idAt, { lineM(*first) });
+            }
+            first = control.isDefault && first == nullptr ? &control : first;
+        }
+    }
+
+private:
+    std::string lineM(const ControlCL& control) const
+    {
+        return std::to_string(file_.LineM(control.idAt) + 1);
+    }
+
+    void findUnstackedM()
+    {
+        const int last = order_.empty() ? INT_MIN : order_.back()->windowIndex;
+        for (const ControlCL& control : controls_) {
+            if (!control.isStacked && control.kind != 0 && control.windowIndex < last) {
+                findings_.AddM(Says::WrongTabOrder, control.indexAt, { std::to_string(control.windowIndex) });
+            }
+        }
+    }
+
+    void findUnnamedM()
+    {
+        const ControlCL* before = nullptr;
+        for (const ControlCL* const control : order_) {
+            sayUnnamedM(*control, before != nullptr && isName(*before, *control, isPictureControl(*control)));
+            before = control;
+        }
+        // The others have no place among the labels.
+        std::vector<const ControlCL*> labels;
+        std::copy_if(order_.begin(), order_.end(), std::back_inserter(labels),
+            [](const ControlCL* control) { return control->kind == LabelCode && control->hasText; });
+        std::sort(
+            labels.begin(), labels.end(), [](const ControlCL* a, const ControlCL* b) { return a->y < b->y; });
+        int tallest = 0;
+        for (const ControlCL* const label : labels) {
+            tallest = std::max(tallest, label->h);
+        }
+        for (const ControlCL& control : controls_) {
+            if (control.isStacked || (!needsLabel(control) && !isPictureControl(control))) {
+                continue;
+            }
+            auto label = std::lower_bound(labels.begin(), labels.end(), control.y - Near - tallest,
+                [](const ControlCL* one, long y) { return one->y < y; });
+            bool isNamed = false;
+            for (; label != labels.end() && (*label)->y < control.BottomM() + Near && !isNamed; ++label) {
+                isNamed = isName(**label, control, isPictureControl(control));
+            }
+            sayUnnamedM(control, isNamed);
+        }
+    }
+    void sayUnnamedM(const ControlCL& control, bool isNamed)
+    {
+        if (!isNamed && needsLabel(control)) {
+            findings_.AddM(Says::NoLabel, control.idAt);
+        } else if (!isNamed && isPictureControl(control)) {
+            findings_.AddM(Says::NoAccessibleName, control.idAt);
+        }
+    }
+
+    // Neighbouring records with equal numbers are one group; the stack must keep them together.
+    void findSplitGroupsM()
+    {
+        std::unordered_map<const ControlCL*, std::size_t> placeOf;
+        for (std::size_t i = 0; i < order_.size(); ++i) {
+            placeOf[order_[i]] = i;
+        }
+        std::vector<const ControlCL*> radios;
+        for (const ControlCL& control : controls_) {
+            if (control.kind == RadioBoxCode) {
+                radios.push_back(&control);
+            }
+        }
+        for (std::size_t begin = 0; begin < radios.size();) {
+            std::size_t end = begin;
+            std::vector<std::size_t> places;
+            while (end < radios.size() && radios[end]->group == radios[begin]->group) {
+                places.push_back(placeOf[radios[end++]]);
+            }
+            std::sort(places.begin(), places.end());
+            for (std::size_t i = 1; i < places.size(); ++i) {
+                for (std::size_t between = places[i - 1] + 1; between < places[i]; ++between) {
+                    findings_.AddM(Says::SplitRadioGroup, order_[between]->indexAt,
+                        { std::to_string(order_[between]->windowIndex), lineM(*radios[begin]) });
+                }
+            }
+            begin = end;
+        }
+    }
+
+    FileReadingCL& file_;
+    const ControlsTP& controls_;
+    FindingsCL& findings_;
+    std::vector<const ControlCL*> order_;
+};
+
+} // namespace
+
+void checkOrder(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+{
+    OrderCheckerCL(file, controls, findings).CheckM();
+}

@@ -1,0 +1,105 @@
+// The pictures that a file names.
+#include "baselib/gbk.h"
+#include "baselib/helpers.h"
+#include "control_list.h"
+#include "pictures/bmp_reader.h"
+#include <algorithm>
+#include <fstream>
+
+namespace {
+
+std::string lowered(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+        [](char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte; });
+    return text;
+}
+
+// A path on another machine, or the name of a device: it stands for one in every folder, with any extension.
+bool isRemote(const std::string& name)
+{
+    if (name.size() >= 2 && (name[0] == '\\' || name[0] == '/') && (name[1] == '\\' || name[1] == '/')) {
+        return true;
+    }
+    if (name.find("://") != std::string::npos) {
+        return true;
+    }
+    std::string stem = lowered(name.substr(name.find_last_of("/\\") + 1));
+    stem = stem.substr(0, stem.find_first_of(".:"));
+    for (const char* const device : { "con", "prn", "aux", "nul" }) {
+        if (stem == device) {
+            return true;
+        }
+    }
+    return stem.size() == 4 && (stem.compare(0, 3, "com") == 0 || stem.compare(0, 3, "lpt") == 0)
+        && stem[3] >= '1' && stem[3] <= '9';
+}
+
+// Whether the bytes are a picture that can be shown.
+bool isPicture(const std::filesystem::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    const std::string bytes { std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>() };
+    int w = 0;
+    int h = 0;
+    unsigned char* pixels = nullptr;
+    const int result = slDecodeBmp(bytes.data(), bytes.size(), &w, &h, &pixels);
+    slFree(pixels);
+    return result != 0;
+}
+
+} // namespace
+
+// The file systems of Windows take names in any case.
+std::filesystem::path PicturesCL::findM(const std::string& name) const
+{
+    std::error_code error;
+    std::string utf8 = slGbkToUtf8(name.c_str());
+    std::replace(utf8.begin(), utf8.end(), '\\', '/');
+    std::filesystem::path path = folder_ / std::filesystem::u8path(utf8);
+    if (std::filesystem::is_regular_file(path, error)) {
+        return path;
+    }
+    const std::string wanted = lowered(path.filename().u8string());
+    const std::filesystem::path folder
+        = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        if (lowered(entry.path().filename().u8string()) == wanted && entry.is_regular_file(error)) {
+            return entry.path();
+        }
+    }
+    return {};
+}
+
+PicturesCL::State PicturesCL::stateM(const std::string& name)
+{
+    if (isRemote(name)) {
+        return State::Remote;
+    }
+    const std::filesystem::path path = findM(name);
+    return path.empty() ? State::Missing : isPicture(path) ? State::Good : State::Bad;
+}
+
+void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL& findings)
+{
+    if (name.empty()) {
+        return;
+    }
+    auto found = states_.find(name);
+    if (found == states_.end()) {
+        found = states_.emplace(name, stateM(name)).first;
+    }
+    switch (found->second) {
+    case State::Missing:
+        findings.AddM(Says::MissingFile, offset, { slGbkToUtf8(name.c_str()) });
+        break;
+    case State::Bad:
+        findings.AddM(Says::BadPicture, offset, { slGbkToUtf8(name.c_str()) });
+        break;
+    case State::Remote:
+        findings.AddM(Says::RemoteFile, offset, { slGbkToUtf8(name.c_str()) });
+        break;
+    case State::Good:
+        break;
+    }
+}

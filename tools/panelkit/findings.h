@@ -1,0 +1,81 @@
+#pragma once
+#include "baselib/file_text.h"
+#include "check_messages.h"
+#include <memory>
+#include <string>
+#include <vector>
+
+enum class Says
+{
+#define PANELKIT_NAME(name, code, severity, english, chinese) name,
+    PANELKIT_MESSAGES(PANELKIT_NAME)
+#undef PANELKIT_NAME
+};
+
+enum class Severity
+{
+    Error,
+    Warning
+};
+
+enum class Language
+{
+    English,
+    Chinese
+};
+
+struct MessageCL
+{
+    const char* code;
+    Severity severity;
+    const char* english;
+    const char* chinese;
+
+    const char* TextM(Language language) const { return language == Language::Chinese ? chinese : english; }
+};
+
+const std::vector<MessageCL>& allMessages();
+inline const MessageCL& messageOf(Says says)
+{
+    return allMessages()[static_cast<std::size_t>(says)];
+}
+
+// One finding in a file.
+struct FindingCL
+{
+    Says says;
+    std::size_t offset;
+    std::vector<std::string> details; // UTF-8, for {0}, {1}, ...
+    PlaceCL place {};
+
+    std::string TextM(Language language) const;
+};
+
+// The findings of one file.
+class FindingsCL
+{
+public:
+    FindingsCL(std::string file, std::shared_ptr<const FileTextCL> text)
+        : file_(std::move(file))
+        , text_(std::move(text))
+    {
+    }
+    const std::string& FileM() const { return file_; }
+    void AddM(Says says, std::size_t offset, std::vector<std::string> details = {})
+    {
+        list_.push_back({ says, offset, std::move(details) });
+    }
+    void SortM(); // In the order of the file, each with its place, each once.
+    const std::vector<FindingCL>& ListM() const { return list_; }
+    std::size_t CountM(Severity severity) const;
+
+private:
+    std::string file_; // As the user named it.
+    std::shared_ptr<const FileTextCL> text_;
+    std::vector<FindingCL> list_;
+};
+
+// Printed on standard output.
+void printFindings(const std::vector<FindingsCL>& files, Language language);
+void printFindingsAsJson(const std::vector<FindingsCL>& files, Language language);
+void printFindingsAsSarif(const std::vector<FindingsCL>& files, Language language);

@@ -1,0 +1,134 @@
+#pragma once
+#include "file_reading.h"
+
+enum class Verb
+{
+    Int,
+    Real,
+    Colour,
+    Text,
+    Id,
+    Index,
+    Count,
+    Flag,
+    Choice,
+    Length,
+    Caption,
+    Name,
+    Number,
+    Limits
+};
+
+// One field of a record: its verb, its value in the record, and where the file has it.
+struct FieldCL
+{
+    const char* name;
+    Verb verb;
+    const SeenValueCL* seen; // Its first part.
+    int parts;
+    const int* ints { nullptr };
+    const CharArr* text { nullptr };
+    const simpleValD* value { nullptr };
+    const float* reals { nullptr };
+    int type { IntegerType }; // Of a number or limits.
+    int size { 0 };           // Of a text, with its terminator.
+    const ChoiceCL* firstChoice { nullptr };
+    const ChoiceCL* lastChoice { nullptr };
+    ColourTP colour { 0 };
+    bool isOn { true }; // A colour that applies.
+
+    float RealM(int part = 0) const
+    {
+        return reals != nullptr ? reals[part]
+            : value != nullptr
+            ? (type == RealType ? value->reals[part] : static_cast<float>(value->numbers[part]))
+            : static_cast<float>(ints[part]);
+    }
+};
+
+// The fields of one record beside the values that the reader met; valid while the record is.
+class RecordViewCL : public FieldVisitorCL
+{
+public:
+    void BeginM(const SeenSectionCL& section, int record)
+    {
+        fields_.clear();
+        next_ = section.FirstM(record);
+        end_ = section.EndM(record);
+    }
+    const std::vector<FieldCL>& FieldsM() const { return fields_; }
+    const FieldCL* FindM(const char* name) const;  // Null when the record has none.
+    int IntM(const char* name, int part = 0) const // 0 without one.
+    {
+        const FieldCL* const field = FindM(name);
+        return field != nullptr && field->ints != nullptr ? field->ints[part] : 0;
+    }
+
+    void IntM(const char* name, int& value) override { addM(name, Verb::Int, 1).ints = &value; }
+    void RealM(const char* name, float& value) override { addM(name, Verb::Real, 1).reals = &value; }
+    void IntsM(const char* name, int* values, int count) override
+    {
+        addM(name, Verb::Int, count).ints = values;
+    }
+    void RealsM(const char* name, float* values, int count) override
+    {
+        addM(name, Verb::Real, count).reals = values;
+    }
+    void ColourM(const char* name, ColourTP& colour, int* flag) override
+    {
+        FieldCL& field = addM(name, Verb::Colour, 3);
+        field.colour = colour;
+        field.isOn = flag == nullptr || *flag != 0;
+    }
+    void TextM(const char* name, CharArr& text, const TextFormCL& form) override
+    {
+        textM(name, Verb::Text, text, form);
+    }
+    void IdM(const char* name, int& value) override { addM(name, Verb::Id, 1).ints = &value; }
+    void IndexM(const char* name, int& value) override { addM(name, Verb::Index, 1).ints = &value; }
+    void CountM(const char* name, int& value) override { addM(name, Verb::Count, 1).ints = &value; }
+    void FlagM(const char* name, int& value) override { addM(name, Verb::Flag, 1).ints = &value; }
+    void ChoiceM(const char* name, int& value, const ChoicesCL& choices) override
+    {
+        FieldCL& field = addM(name, Verb::Choice, 1);
+        field.ints = &value;
+        field.firstChoice = choices.begin();
+        field.lastChoice = choices.end();
+    }
+    void LengthM(const char* name, int& value, Along) override { addM(name, Verb::Length, 1).ints = &value; }
+    void LengthPairM(const char* name, int (&xy)[2]) override { addM(name, Verb::Length, 2).ints = xy; }
+    void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override
+    {
+        textM(name, Verb::Caption, text, form);
+    }
+    void NameM(const char* name, CharArr& file, const TextFormCL& form) override
+    {
+        textM(name, Verb::Name, file, form);
+    }
+    void NumberM(const char* name, int type, simpleValD& value) override
+    {
+        FieldCL& field = addM(name, Verb::Number, 1);
+        field.value = &value;
+        field.type = type;
+        field.size = TextSize;
+    }
+    void LimitsM(const char* name, int type, simpleValD& range) override
+    {
+        FieldCL& field = addM(name, Verb::Limits, 2);
+        field.value = &range;
+        field.type = type == RealType ? RealType : IntegerType;
+    }
+
+private:
+    FieldCL& addM(const char* name, Verb verb, int parts);
+    void textM(const char* name, Verb verb, const CharArr& text, const TextFormCL& form)
+    {
+        FieldCL& field = addM(name, verb, 1);
+        field.text = &text;
+        field.size = form.size;
+    }
+
+    std::vector<FieldCL> fields_;
+    const SeenValueCL* next_ { nullptr };
+    const SeenValueCL* end_ { nullptr };
+};
