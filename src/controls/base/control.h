@@ -6,8 +6,9 @@
 
 // What every kind of control is made of, in this order: a platform control, the common base, the element
 // base; with what all kinds do alike. Copying copies the description, never the window.
-// Where a kind says nothing of a result it is 1. Whatever it says: null where a pointer is wanted is refused,
-// nothing happens, and the result is that of a failure (0; -1 for an index, null for an item).
+// Where a kind says nothing of a result it is 1, or 0 when the platform refuses. Whatever it says: null where
+// a pointer is wanted is refused, nothing happens, and the result is that of a failure (0; -1 for an index,
+// null for an item).
 template <class PlatformTP> class ControlCL : public PlatformTP, public DControlCommonCL, public VrBaseCL
 {
 public:
@@ -39,7 +40,7 @@ public:
     // Creates the child window at the described place; the platform's result.
     int Create(CWnd* parent) { return createM(parent); }
 
-    // Destroys the window and marks the element deleted. What a kind keeps for painting goes too.
+    // Destroys the window and what a kind has for it, such as pictures, and marks the element deleted.
     void DelItemM()
     {
         PlatformTP::DestroyWindow();

@@ -23,8 +23,7 @@ public:
 };
 
 // A list box of pictures in a grid, each framed blue while it is selected, else white. Each line has a number
-// of the application; lines count from 0. Where nothing else is said the result is 1, or 0 when the platform
-// refuses.
+// of the application; lines count from 0.
 class PANELKIT_API DuBmpListBoxCL : public ListBoxCL
 {
 public:

@@ -2,7 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 
-// A table with headings. Rows and columns count from 0; texts are GBK. Results are 1 or 0 unless stated.
+// A table with headings. Rows and columns count from 0; texts are GBK.
 class PANELKIT_API DuListCtrlCL : public ControlCL<CListCtrl>
 {
 public:

@@ -4,7 +4,7 @@
 #include "controls/lists/list_box.h"
 
 // A list box of text lines, each with a number of the application. Texts are GBK, heights pixels; lines count
-// from 0. Where nothing else is said the result is 1, or 0 when the platform refuses.
+// from 0.
 class PANELKIT_API DuTextListBoxCL : public ListBoxCL
 {
 public:
