@@ -54,7 +54,7 @@ TEST(Buttons, CaptionsAreCutAtACharacterAndSetOnceAtCreation)
     EXPECT_EQ(box.SetTextM("y"), 1);
     EXPECT_EQ(textOf(box.m_hWnd), std::string(258, 'x'));
     DuStandardButtonCL push;
-    EXPECT_EQ(push.SetTextM(nullptr), 1);
+    EXPECT_EQ(push.SetTextM(nullptr), 0);
     EXPECT_EQ(push.Create(&parent), 1);
     EXPECT_EQ(textOf(push.m_hWnd), "");
 }
