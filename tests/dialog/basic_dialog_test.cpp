@@ -24,16 +24,6 @@ std::string labels(int count, const std::string& records)
 // The window system gives it to every window that is no child.
 constexpr DWORD AlwaysSet = WS_CLIPSIBLINGS;
 
-int childrenOf(HWND window)
-{
-    int count = 0;
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        ++count;
-    }
-    return count;
-}
-
 std::string screenPlaceOf(HWND window)
 {
     RECT rect {};

@@ -3,6 +3,7 @@
 #include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
 #include "support/handles.h"
+#include "support/kind_types.h"
 #include "support/pump.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
@@ -10,16 +11,6 @@
 using namespace testing_support;
 
 namespace {
-
-int childrenOf(HWND window)
-{
-    int count = 0;
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        ++count;
-    }
-    return count;
-}
 
 // Each is created the way that its kind has.
 template <class ControlTP> int createIn(ControlTP& control, CWnd* parent)
@@ -42,16 +33,12 @@ template <class ControlTP> class SecondCreateTest : public testing::Test
 {
 };
 
-template <class TableTP> struct ControlsOf;
-template <class... RowTP> struct ControlsOf<std::tuple<RowTP...>>
-{
-    using TypesTP
-        = testing::Types<DuNewRotateBtnCL, DuSpinButtonCL, DuTextBox, typename RowTP::Controls::ControlTP...>;
-};
+template <class RowTP> using ControlOfTP = typename RowTP::Controls::ControlTP;
 
 } // namespace
 
-TYPED_TEST_SUITE(SecondCreateTest, ControlsOf<KindTable>::TypesTP);
+using CreatedTP = EveryKindTP<ControlOfTP, DuNewRotateBtnCL, DuSpinButtonCL, DuTextBox>;
+TYPED_TEST_SUITE(SecondCreateTest, CreatedTP);
 
 TYPED_TEST(SecondCreateTest, ReplacesTheWindowOfTheFirst)
 {

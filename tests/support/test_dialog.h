@@ -44,6 +44,16 @@ public:
     }
 };
 
+inline int childrenOf(HWND window)
+{
+    int count = 0;
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        ++count;
+    }
+    return count;
+}
+
 inline std::string textOf(HWND window)
 {
     wchar_t text[600] = L"";

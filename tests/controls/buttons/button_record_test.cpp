@@ -4,24 +4,6 @@
 #include "support/printed.h"
 #include <gtest/gtest.h>
 
-TEST(StandardButtonRecord, CaptionStandsBeforeTheNumber)
-{
-    EXPECT_EQ(printed<DVrStandardButtonCL>("1 11 2 3 4 5\n确定\n1\n"), "caption=确定 default_button=1");
-    EXPECT_EQ(printed<DVrStandardButtonCL>("1 11 2 3 4 5"), "caption= default_button=0");
-}
-
-TEST(RadioBoxRecord, NumbersStandBeforeTheCaption)
-{
-    EXPECT_EQ(printed<DVrRadioBoxCL>("1 11 2 3 4 5 7 1\n横向\n"), "group=7 checked=1 caption=横向");
-    EXPECT_EQ(printed<DVrRadioBoxCL>("1 11 2 3 4 5"), "group=0 checked=0 caption=");
-}
-
-TEST(CheckBoxRecord, NumberStandsBeforeTheCaption)
-{
-    EXPECT_EQ(printed<DVrCheckBoxCL>("1 11 2 3 4 5 1\n自动进纸\n"), "checked=1 caption=自动进纸");
-    EXPECT_EQ(printed<DVrCheckBoxCL>("1 11 2 3 4 5"), "checked=0 caption=");
-}
-
 TEST(ButtonRecords, NullWordsAreCaptionsLikeAnyOther)
 {
     EXPECT_EQ(printed<DVrStandardButtonCL>("1 11 2 3 4 5\nNULL\n0\n"), "caption=NULL default_button=0");

@@ -1,4 +1,3 @@
-#include "controls/labels/group_box_record.h"
 #include "controls/labels/label_record.h"
 #include "support/description.h"
 #include "support/printed.h"
@@ -50,11 +49,4 @@ TEST(LabelRecord, TextIsCutAtACharacterBoundary)
     // 1 + 129 * 2 = 259 bytes fit; the last character does not.
     EXPECT_EQ(label("1\n" + text + "\n1 -1 0 0"),
         "alignment=1 text=" + text.substr(0, text.size() - 3) + " edge=1 background=off");
-}
-
-TEST(GroupBoxRecord, TextIsKeptEvenIfItIsANullWord)
-{
-    EXPECT_EQ(printed<DVrGroupBoxCL>("1 11 2 3 4 5 NULL\n"), "text=NULL");
-    EXPECT_EQ(printed<DVrGroupBoxCL>("1 11 2 3 4 5\n速度\n"), "text=速度");
-    EXPECT_EQ(printed<DVrGroupBoxCL>("1 11 2 3 4 5"), "text=");
 }

@@ -1,6 +1,4 @@
-#include "controls/labels/group_box.h"
 #include "controls/labels/label.h"
-#include "controls/labels/label_record.h"
 #include "support/message_recorder.h"
 #include "support/pixels.h"
 #include "support/pump.h"
@@ -133,26 +131,6 @@ TEST(Label, FocusIsReportedToTheParentByPost)
     EXPECT_EQ(recorder.ListM(), std::vector<std::string> { "posted 1625 w=77 l=0" });
 }
 
-TEST(Label, CommandsEnableDisableShowAndHide)
-{
-    PlainWindowCL parent;
-    DuLabelCL label;
-    label.Create(&parent);
-    const DWORD before = styleOf(label.m_hWnd);
-    EXPECT_EQ(label.SetItemCmdM(0), 1);
-    EXPECT_EQ(label.SetItemCmdM(5), 1);
-    EXPECT_EQ(label.SetItemCmdM(6), 0);
-    EXPECT_EQ(label.SetItemCmdM(-1), 0);
-    EXPECT_EQ(styleOf(label.m_hWnd), before);
-    EXPECT_EQ(label.SetItemCmdM(2), 1);
-    EXPECT_EQ(styleOf(label.m_hWnd) & WS_DISABLED, static_cast<DWORD>(WS_DISABLED));
-    EXPECT_EQ(label.SetItemCmdM(1), 1);
-    EXPECT_EQ(label.SetItemCmdM(4), 1);
-    EXPECT_EQ(styleOf(label.m_hWnd) & (WS_DISABLED | WS_VISIBLE), 0U);
-    EXPECT_EQ(label.SetItemCmdM(3), 1);
-    EXPECT_EQ(styleOf(label.m_hWnd), before);
-}
-
 TEST(Label, SetZOrderStacksBehindAnotherAndShows)
 {
     PlainWindowCL parent;
@@ -166,132 +144,4 @@ TEST(Label, SetZOrderStacksBehindAnotherAndShows)
     EXPECT_EQ(second.SetZOrderM(&first), 1);
     EXPECT_EQ(::GetWindow(first.m_hWnd, GW_HWNDNEXT), second.m_hWnd);
     EXPECT_TRUE(styleOf(second.m_hWnd) & WS_VISIBLE);
-}
-
-TEST(Label, CopyHasTheDescriptionButNoWindow)
-{
-    PlainWindowCL parent;
-    DuLabelCL label(AliveTag);
-    label.SetFunctionIDM(7);
-    label.Create(&parent);
-    DuLabelCL copy(label);
-    EXPECT_EQ(copy.GetFunctionIDM(), 7);
-    copy.SetLeftM(90); // Would move the label if the copy took it for its own.
-    EXPECT_EQ(label.GetLeftM(), 0);
-    const HWND window = label.m_hWnd;
-    label = DuLabelCL(AliveTag);
-    EXPECT_FALSE(::IsWindow(window)); // It showed what the label was before.
-}
-
-TEST(Label, DeletingDestroysTheWindowAndMarksTheElement)
-{
-    PlainWindowCL parent;
-    DuLabelCL label(AliveTag);
-    label.Create(&parent);
-    const HWND window = label.m_hWnd;
-    label.DelItemM();
-    EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ(label.GetDeleteTagM(), 32);
-}
-
-namespace {
-
-// Three labels with ids 1, 2, 2 in an array of their own.
-struct LabelsCL
-{
-    LabelsCL()
-    {
-        labels.InitialSizeM(3);
-        for (int i = 0; i < 3; ++i) {
-            labels.SetItemM(DuLabelCL(AliveTag), i);
-            labels[i].SetFunctionIDM(i == 0 ? 1 : 2);
-        }
-    }
-    bool VisibleM(int i) { return (styleOf(labels[i].m_hWnd) & WS_VISIBLE) != 0; }
-    PlainWindowCL parent;
-    DuLabelArr labels;
-};
-
-} // namespace
-
-TEST(LabelArray, EmptyArrayReportsZero)
-{
-    DuLabelArr labels;
-    EXPECT_EQ(labels.Create(nullptr), 0);
-    EXPECT_EQ(labels.SetItemCmdM(-1, 4), 0);
-    EXPECT_EQ(labels.GetControlPtrM(1), nullptr);
-}
-
-TEST(LabelArray, CommandForMinusOneReachesAllAndForAnIdTheFirst)
-{
-    LabelsCL all;
-    EXPECT_EQ(all.labels.Create(&all.parent), 1);
-    EXPECT_EQ(all.labels.SetItemCmdM(-1, 4), 1);
-    EXPECT_FALSE(all.VisibleM(0) || all.VisibleM(1) || all.VisibleM(2));
-    EXPECT_EQ(all.labels.SetItemCmdM(2, 3), 1);
-    EXPECT_TRUE(all.VisibleM(1));
-    EXPECT_FALSE(all.VisibleM(0) || all.VisibleM(2));
-    EXPECT_EQ(all.labels.SetItemCmdM(2, 9), 1);
-    EXPECT_EQ(all.labels.SetItemCmdM(99, 3), 1);
-    EXPECT_FALSE(all.VisibleM(0) || all.VisibleM(2));
-}
-
-TEST(LabelArray, LooksUpTheFirstControlWithAnId)
-{
-    LabelsCL all;
-    EXPECT_EQ(all.labels.GetControlPtrM(2), &all.labels[1]);
-    EXPECT_EQ(all.labels.GetControlPtrM(3), nullptr);
-}
-
-TEST(LabelArray, CreationStopsAtTheFirstFailure)
-{
-    LabelsCL all;
-    CWnd nowhere; // A parent without a window: no child can be created.
-    EXPECT_EQ(all.labels.Create(&nowhere), 0);
-    EXPECT_EQ(all.labels[0].m_hWnd, nullptr);
-}
-
-TEST(LabelRecords, OnlyAliveRecordsAreApplied)
-{
-    const DescriptionFileCL file("1 11 2 3 4 5 1\nx\n0 -1 0 0");
-    VrIOCL io;
-    io.OpenM(file.path(), "r");
-    DVrLabelCL record(AliveTag);
-    record.FmReadInterfaceM(&io);
-    DVrLabelArr records;
-    records.AddItemM(record);
-    records.AddItemM(record);
-    records.AddItemM(record);
-    records.DelItemM(1);
-    DuLabelCL control;
-    EXPECT_EQ(records.InitLabelM(1, &control), 1);
-    EXPECT_EQ(records.InitLabelM(99, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 0);
-    EXPECT_EQ(records.InitLabelM(2, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 11);
-}
-
-TEST(GroupBox, WindowHasStyleTextAndPlaceOfItsRecord)
-{
-    const TestDialogCL dialog(HeaderSections + std::string("[成组控件]\n1\n0\n1 11 20 30 120 40\nNULL\n"));
-    const HWND window = dialog.ItemM(11);
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(styleOf(window), 0x50010007U);
-    EXPECT_EQ(textOf(window), "NULL"); // Not a word for no text here.
-    EXPECT_EQ(placeOf(window), "20 30 120 40");
-}
-
-TEST(GroupBox, TextsAreAcceptedAlsoEmpty)
-{
-    PlainWindowCL parent;
-    DuGroupBoxCL box;
-    EXPECT_EQ(box.SetInitTextM("a"), 1);
-    EXPECT_EQ(box.SetInitTextM(""), 1);
-    box.Create(&parent);
-    EXPECT_EQ(textOf(box.m_hWnd), "");
-    EXPECT_EQ(box.SetTextM(slUtf8ToGbk("速度").c_str()), 1);
-    EXPECT_EQ(textOf(box.m_hWnd), "速度");
-    EXPECT_EQ(box.SetItemCmdM(9), 0);
-    EXPECT_EQ(box.SetItemCmdM(2), 1);
-    EXPECT_FALSE(box.IsWindowEnabled());
 }

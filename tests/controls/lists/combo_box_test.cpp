@@ -258,14 +258,6 @@ TEST(ComboBoxArray, FirstAliveControlBehindADeletedOneKeepsOneWindow)
     EXPECT_EQ(::GetDlgItem(parent.m_hWnd, 21), nullptr);
 }
 
-TEST(ComboBoxArray, CreationStopsAtTheFirstFailure)
-{
-    CWnd nowhere;
-    DuComboBoxArr combos;
-    combos.AddItemM(DuComboBoxCL(AliveTag));
-    EXPECT_EQ(combos.Create(&nowhere), 0);
-}
-
 TEST_F(ComboDialogTest, HasItsInitialItemsNumberedWithoutGaps)
 {
     EXPECT_EQ(itemsOf(ComboM(12)), "one=0 two=1 three=2 four=3");

@@ -281,31 +281,3 @@ TEST(TreeInDialog, HasTheLinesOfItsSections)
     EXPECT_EQ(allOf(*tree), "根=10(叶 子=20)");
     EXPECT_EQ(placeOf(tree->m_hWnd), "20 30 200 100");
 }
-
-// A dialog with one of each of these kinds, built again and again in the same window.
-TEST(ListKinds, ThousandBuildsLeaveNothingBehind)
-{
-    const SmallPictureCL picture(0xFF0000, 20, 20);
-    const std::string name = picture.path();
-    TestDialogCL dialog(HeaderSections + std::string("[下拉列表框]\n1\n0\n1 12 20 30 120 150 1\n")
-        + "[下拉列表框初始值]\n2\n0\n12 one\n12 two\n[列表控件]\n1\n0\n1 14 10 10 240 160 2 1\n"
-        + "[列表控件列标题]\n1\n0\n14 0 80 a\n[列表控件初始值]\n1\n0\n14 0 0 x\n"
-        + "[图片列表框]\n1\n0\n1 15 20 30 200 100 1 1 2 1\n[图片列表框位图]\n2\n0\n15 " + name + "\n15 "
-        + name + "\n[树形控件]\n1\n0\n1 16 20 30 200 100\n[树形控件数据]\n2\n0\n16 0 1 10 A\n" + name + "\n"
-        + name + "\n16 1 2 20 B\n" + name + "\n" + name + "\n");
-    const auto build = [&dialog](int times) {
-        for (int i = 0; i < times; ++i) {
-            dialog.DestroyM();
-            dialog.InitDlgM(&dialog, 0);
-        }
-        PumpPending();
-    };
-    build(50); // By then the system has made the device contexts that it keeps for the next user.
-    const int objects = LiveGdiObjectsM();
-    const int windows = LiveWindowsM();
-    const size_t bytes = LiveHeapM().bytes;
-    build(1000);
-    EXPECT_EQ(LiveGdiObjectsM(), objects);
-    EXPECT_EQ(LiveWindowsM(), windows);
-    EXPECT_LT(LiveHeapM().bytes, bytes + 100000); // A hundred bytes a build would be seen.
-}

@@ -244,22 +244,3 @@ TEST(MultiEdit, BackgroundHasTheColourOfItsRecord)
         ::ReleaseDC(edit.WindowM(), dc);
     }
 }
-
-TEST(MultiEditRecords, OnlyAliveRecordsAreApplied)
-{
-    const DescriptionFileCL file("1 11 2 3 4 5 1 9\nx\n0 1 0 0 0");
-    VrIOCL io;
-    io.OpenM(file.path(), "r");
-    DVrMultiEditCL record(AliveTag);
-    record.FmReadInterfaceM(&io);
-    DVrMultiEditArr records;
-    records.AddItemM(record);
-    records.AddItemM(record);
-    records.DelItemM(0);
-    DuMultiEditCL control;
-    EXPECT_EQ(records.InitMultiEditM(0, &control), 1);
-    EXPECT_EQ(records.InitMultiEditM(99, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 0);
-    EXPECT_EQ(records.InitMultiEditM(1, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 11);
-}

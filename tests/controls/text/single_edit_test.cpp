@@ -235,14 +235,6 @@ TEST(SingleEdit, TheColourOfTheRecordHasNoEffectUntilAnApplicationSetsOne)
     EXPECT_EQ(LiveGdiObjectsM(), before); // Each brush replaces the one before.
 }
 
-TEST(SingleEdit, OnlyAliveRecordsAreApplied)
-{
-    DVrSingleEditArr records;
-    DuSingleEditCL control;
-    EXPECT_EQ(records.InitSingleEditM(0, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 0);
-}
-
 TEST(SingleEdit, AFieldDestroyedWhileItsMessageIsOpenIsNotTouchedAgain)
 {
     PlainWindowCL parent;

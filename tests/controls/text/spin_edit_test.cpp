@@ -472,26 +472,15 @@ TEST(SpinEdit, CommandsAndDeletionReachTheArrowsToo)
     EXPECT_EQ(spin->EditM().GetDeleteTagM(), DeletedTag);
 }
 
-TEST(SpinEditArray, EmptyArrayReportsZeroAndOnlyAliveRecordsAreApplied)
+TEST(SpinEdit, RecordGivesItAWindowIndexAndItsArrowsAnId)
 {
-    DuSpinEditArr none;
-    EXPECT_EQ(none.Create(nullptr), 0);
-    EXPECT_EQ(none.GetControlPtrM(7), nullptr);
     const DescriptionFileCL file("1 11 2 3 4 5 " + std::string(Own));
     VrIOCL io;
     io.OpenM(file.path(), "r");
     DVrSpinEditCL record(AliveTag);
     record.FmReadInterfaceM(&io);
-    DVrSpinEditArr records;
-    records.AddItemM(record);
-    records.AddItemM(record);
-    records.DelItemM(0);
     DuSpinEditCL control;
-    EXPECT_EQ(records.InitSpinEditM(0, &control), 1);
-    EXPECT_EQ(records.InitSpinEditM(99, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 0);
-    EXPECT_EQ(records.InitSpinEditM(1, &control), 1);
-    EXPECT_EQ(control.GetFunctionIDM(), 11);
+    EXPECT_EQ(record.InitSpinEditM(&control), 1);
     EXPECT_EQ(control.GetWinIdxM(), 5);
     EXPECT_EQ(control.SpinButtonM().GetFunctionIDM(), 12);
 }

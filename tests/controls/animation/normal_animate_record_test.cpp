@@ -1,28 +1,5 @@
 #include "controls/animation/normal_animate_record.h"
-#include "controls/animation/spec_animate_record.h"
-#include "records/section.h"
-#include "support/description.h"
-#include "support/printed.h"
-#include <gtest/gtest.h>
-
-namespace {
-
-template <class RecordArrTP> std::string read(const std::string& utf8, SectionStatus wanted)
-{
-    const DescriptionFileCL file(utf8);
-    VrIOCL io;
-    io.OpenM(file.path(), "r");
-    RecordArrTP records;
-    int count = 0;
-    EXPECT_EQ(slReadSection(io, records, &count), wanted);
-    std::string all;
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        all += printedFields(records[i]) + "\n";
-    }
-    return all;
-}
-
-} // namespace
+#include "read_records.h"
 
 TEST(NormalAnimateRecord, FieldsStandInFileOrderWithDefaultsForTheRest)
 {
@@ -61,19 +38,4 @@ TEST(NormalAnimateRecord, NamesAreAddedToAliveRecordsOnly)
     EXPECT_EQ(records.AddBmpNameM(0, "a.bmp"), 1);
     EXPECT_EQ(records.AddBmpNameM(5, "b.bmp"), 1);
     EXPECT_EQ(printedFields(records[0]), "control_mode=1 time_lapse=0 sunken=0 notify=0 bitmaps=[a.bmp]");
-}
-
-TEST(SpecAnimateRecord, TypeComesBeforeSunkMode)
-{
-    EXPECT_EQ(printed<DVrSpecAnimateCL>("1 11 2 3 4 5 7 1"), "type=7 sunk_mode=1 bitmaps=");
-    EXPECT_EQ(printed<DVrSpecAnimateCL>("1 11 2 3 4 5"), "type=0 sunk_mode=0 bitmaps=");
-}
-
-TEST(SpecAnimateRecord, FramesComeFromTheirOwnSection)
-{
-    EXPECT_EQ(read<DVrSpecAnimateArr>("[特殊动画控件]\n1\n0\n1 11 0 0 9 9 3 0\n"
-                                      "[普通动画控件位图]\n1\n0\n11 wrong.bmp\n"
-                                      "[特殊动画控件位图]\n2\n0\n11 a.bmp\n11 b.bmp\n",
-                  SectionStatus::Read),
-        "type=3 sunk_mode=0 bitmaps=[a.bmp][b.bmp]\n");
 }
