@@ -124,11 +124,11 @@ TEST(Convert, WhatTheOtherCodeCannotHoldIsRefusedAtItsPlace)
                           "b\0",
                 6),
         "1:2: the bytes 0x00 0xD8 are no UTF-16");
-    expectRefused("\xFE\xFF" + std::string("\0a\0", 3), "1:2: the bytes 0x00 are no UTF-16");
-    expectRefused("标题\n\x91标题标题\n", "2:1: the bytes 0x91 are no UTF-8");
+    expectRefused("\xFE\xFF" + std::string("\0a\0", 3), "1:2: the byte 0x00 is no UTF-16");
+    expectRefused("标题\n\x91标题标题\n", "2:1: the byte 0x91 is no UTF-8");
     const std::string gbk = slUtf8ToGbk("[标题]\n标题");
-    expectRefused(gbk + "\xFF\n", "2:3: the bytes 0xFF are no GBK");
-    expectRefused(gbk + "\xFF\n", "2:3: the bytes 0xFF are no GBK", " --to utf-8");
+    expectRefused(gbk + "\xFF\n", "2:3: the byte 0xFF is no GBK");
+    expectRefused(gbk + "\xFF\n", "2:3: the byte 0xFF is no GBK", " --to utf-8");
 }
 
 TEST(Convert, RefusedTextLeavesTheOtherFileAlone)

@@ -144,7 +144,7 @@ TEST(Format, ExamplesAndSamplesAreReadAsBefore)
 TEST(Format, FilesMadeByChanceAreReadAsBefore)
 {
 #ifdef _WIN32
-    constexpr int Files = 30; // A process takes long to start under Wine.
+    constexpr int Files = 10; // A process takes long to start under Wine.
 #else
     constexpr int Files = 500;
 #endif

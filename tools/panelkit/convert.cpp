@@ -6,21 +6,23 @@
 
 namespace {
 
-std::string quotedCharacter(const CharacterCL& character, const std::string& bytes)
+std::string reasonOf(const CharacterCL& character, const std::string& bytes, Encoding from, Encoding to)
 {
     char code[16];
     if (character.code == NoCharacter) {
-        std::string text = "the bytes";
+        const bool isOne = character.span.end - character.span.begin == 1;
+        std::string text = isOne ? "the byte" : "the bytes";
         for (std::size_t at = character.span.begin; at < character.span.end; ++at) {
             std::snprintf(code, sizeof code, " 0x%02X", static_cast<unsigned char>(bytes[at]));
             text += code;
         }
-        return text;
+        return text + (isOne ? " is no " : " are no ") + encodingName(from);
     }
-    std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(character.code));
+    std::snprintf(code, sizeof code, " U+%04X", static_cast<unsigned>(character.code));
     std::string itself;
     appendEncoded(itself, character.code, Encoding::Utf8);
-    return code + (character.code >= 0x20 ? " '" + itself + "'" : "");
+    return std::string(encodingName(to)) + " has no" + code
+        + (character.code >= 0xA0 ? " '" + itself + "'" : "");
 }
 
 // What can't be converted: the first place and how many there are.
@@ -37,10 +39,7 @@ public:
     bool AnyM() const { return count_ > 0; }
     void SayM(const std::string& file, const std::string& bytes, Encoding from, Encoding to) const
     {
-        const bool isNone = first_.code == NoCharacter;
-        const std::string what = isNone
-            ? quotedCharacter(first_, bytes) + " are no " + encodingName(from)
-            : std::string(encodingName(to)) + " has no " + quotedCharacter(first_, bytes);
+        const std::string what = reasonOf(first_, bytes, from, to);
         const std::string more = count_ == 1 ? "" : "; " + std::to_string(count_) + " such places";
         std::fprintf(stderr, "%s:%zu:%zu: %s%s; nothing was changed\n", file.c_str(), place_.line,
             place_.column, what.c_str(), more.c_str());
@@ -52,7 +51,7 @@ private:
     CharacterCL first_ {};
 };
 
-// The text in the other code. Empty lines and line ends stay as they are.
+// The text in the other code, without a byte order mark.
 std::string convertedText(const std::string& bytes, Encoding from, Encoding to, RefusedCL& refused)
 {
     std::string result;
