@@ -30,6 +30,7 @@
     X(CommentsTooMany, "bad-count", Error, "the section has no {0} comment lines", "该节没有 {0} 行注释") \
     X(RecordInComments, "bad-count", Error, "this line counts as a comment but reads as a record", "这一行被当作注释, 但像是一条记录") \
     X(ShortSection, "short-section", Error, "the count is {0}, but the records end after {1}", "数目为 {0}, 但只有 {1} 条记录") \
+    X(EntryMissing, "short-section", Error, "the count is {0}, but the records end after {1}; one seems to be missing here", "数目为 {0}, 但只有 {1} 条记录; 此处似乎缺少一条") \
     X(SectionEndsInRecord, "short-section", Error, "the section ends in the middle of record {0} ({1})", "该节在第 {0} 条记录的中间结束 ({1})") \
     X(ExtraLines, "extra-lines", Error, "this text belongs to no section: the one above ends before it", "此文本不属于任何节: 上面的节在它之前已结束") \
     X(DoubledLine, "extra-lines", Error, "this line repeats the one above; without it the section reads whole", "这一行与上一行重复; 去掉它该节就能完整读出") \

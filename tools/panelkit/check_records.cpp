@@ -1,5 +1,6 @@
 // Every record on its own; what the checks across records need of it is kept.
 #include "baselib/gbk.h"
+#include "baselib/gbk_texts.h"
 #include "check.h"
 #include "control_list.h"
 #include <cstring>
@@ -106,7 +107,8 @@ private:
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
             recordM(RowTP::Code, grammar, i, RowTP::CanM(Stacked));
-            if (isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
+            if ((RowTP::Code != MultiStateButtonCode || file_.IsSoundM(MultiStateButtonDataHeader))
+                && isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
                 findings_.AddM(Says::InvisibleTabStop, controls_.back().idAt);
             }
         }
@@ -131,6 +133,10 @@ private:
             recordM(0, grammar, i, false);
             const FieldCL* const first = view_.FindM("initial_index");
             const int slots = records.ElementAtM(i).SlotCountM();
+            if (!file_.IsSoundM(NewRotateBtnBitmapHeader)
+                || !file_.SectionM(NewRotateBtnBitmapHeader).IsThereM() || first->seen == nullptr) {
+                continue;
+            }
             if (first->ints[0] < 0 || first->ints[0] >= slots) {
                 findings_.AddM(Says::StartOutOfRange, first->seen->begin,
                     { std::to_string(first->ints[0]), std::to_string(slots) });

@@ -64,6 +64,9 @@ public:
             checkSectionM(static_cast<int>(i));
         }
         sayMissingM();
+        if (hasStrayText_ || isAnyUnknown_ || !repeated_.empty()) {
+            file_.SetStrayTextM();
+        }
     }
 
 private:
@@ -181,6 +184,7 @@ private:
         std::size_t distance = 0;
         const int nearest = nearestM(place.span, &distance);
         const std::string text = file_.CutM(place.span);
+        isAnyUnknown_ = true;
         if (distance * 2 <= slGbkToUtf16(allGrammars()[static_cast<std::size_t>(nearest)].header).size()) {
             findings_.AddM(Says::UnknownSection, place.span.begin, { text, nameM(nearest) });
             isFound_[static_cast<std::size_t>(nearest)] = true; // Not missing, but misspelt.
@@ -273,6 +277,7 @@ private:
     std::vector<bool> isFound_;
     std::vector<std::size_t> repeated_;
     bool hasStrayText_ { false };
+    bool isAnyUnknown_ { false };
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "section_layout.h"
 #include <algorithm>
 #include <cstring>
+#include <map>
 
 namespace {
 
@@ -55,6 +56,7 @@ private:
     void addM(Says says, std::size_t offset, std::vector<std::string> details, int soundRecords)
     {
         section_.soundRecords = soundRecords;
+        section_.isFaulty = true;
         findings_.AddM(says, offset, std::move(details));
     }
     std::string costM(int record) const
@@ -238,11 +240,69 @@ private:
         const SectionSeenCL& head = section_.head;
         if (layout_.wholeRecords == 0) {
             addM(Says::ShortSection, nextLineM(), { std::to_string(head.count), "0" }, 0);
+        } else if (const SeenValueCL* const gap = gapM()) {
+            addM(Says::EntryMissing, lineStartM(gap->begin),
+                { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
         } else {
             addM(Says::ShortSection, head.countSpan.begin,
                 { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
         }
         return true;
+    }
+    // One record is too few: where the values of neighbours are further apart than everywhere else.
+    const SeenValueCL* gapM() const
+    {
+        if (section_.head.count != layout_.wholeRecords + 1 || layout_.wholeRecords < 4) {
+            return nullptr;
+        }
+        const std::ptrdiff_t columns = section_.EndM(0) - section_.FirstM(0);
+        std::vector<int> votes(static_cast<std::size_t>(layout_.wholeRecords));
+        for (std::ptrdiff_t column = 0; column < columns; ++column) {
+            const int gap = gapInColumnM(column);
+            votes[static_cast<std::size_t>(std::max(gap, 0))] += gap > 0 ? 1 : 0;
+        }
+        const auto most = std::max_element(votes.begin(), votes.end());
+        return *most > 0 ? section_.FirstM(static_cast<int>(most - votes.begin())) : nullptr;
+    }
+    // The one record whose value doesn't follow the one before as that value's other followers do; -1 for
+    // none or several.
+    int gapInColumnM(std::ptrdiff_t column) const
+    {
+        std::map<std::string_view, std::map<std::string_view, int>> followers;
+        std::map<int, int> steps;
+        const auto value = [&](int record) {
+            return section_.FirstM(record) + column < section_.EndM(record)
+                ? file_.BytesM(section_.FirstM(record)[column])
+                : std::string_view();
+        };
+        const auto number = [](std::string_view text) {
+            int result = 0;
+            slReadInt(text.data(), text.data() + text.size(), &result);
+            return result;
+        };
+        for (int i = 1; i < layout_.wholeRecords; ++i) {
+            ++followers[value(i - 1)][value(i)];
+            ++steps[number(value(i)) - number(value(i - 1))];
+        }
+        int found = -1;
+        for (int i = 1; i < layout_.wholeRecords; ++i) {
+            const auto& others = followers[value(i - 1)];
+            int all = 0;
+            for (const auto& [text, count] : others) {
+                all += count;
+            }
+            const int step = number(value(i)) - number(value(i - 1));
+            const bool isRare = others.size() == 2 && all >= 3 && others.at(value(i)) == 1;
+            const bool isJump
+                = steps.size() == 2 && steps[step] == 1 && step % 2 == 0 && steps.count(step / 2) > 0;
+            if (isRare || isJump) {
+                if (found > 0) {
+                    return -1;
+                }
+                found = i;
+            }
+        }
+        return found;
     }
     std::size_t nextLineM() const // Behind the last good value.
     {
