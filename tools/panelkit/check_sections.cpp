@@ -223,6 +223,10 @@ private:
         const bool isRepeated
             = std::find(repeated_.begin(), repeated_.end(), section.regionEnd) != repeated_.end()
             && nextText(bytes_, section.head.headerSpan.end, section.regionEnd) == section.regionEnd;
+        if (isRepeated) {
+            section.soundRecords = 0;
+            section.isFaulty = true;
+        }
         if (layout.isClean || isRepeated) {
             return;
         }

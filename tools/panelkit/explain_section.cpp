@@ -1,19 +1,11 @@
 // What is wrong with a section that doesn't read whole.
 #include "baselib/number_text.h"
 #include "section_layout.h"
+#include "section_oddity.h"
+#include "section_trials.h"
 #include <algorithm>
-#include <cstring>
-#include <map>
 
 namespace {
-
-// One section read on its own, perhaps with a change.
-struct TrialCL
-{
-    SeenSectionCL section;
-    SectionLayoutCL layout;
-    bool IsCleanM() const { return layout.isClean; }
-};
 
 class ExplainerCL
 {
@@ -28,10 +20,8 @@ public:
         , bytes_(file.TextM().CutM({ 0, file.TextM().SizeM() }))
         , begin_(section_.head.headerSpan.begin)
         , end_(section_.regionEnd)
+        , trials_(file, grammar)
     {
-        const std::size_t size = end_ - begin_ + 1;
-        constexpr std::size_t Budget = 8'000'000; // Bytes to be read in trials.
-        trialsLeft_ = static_cast<int>(std::clamp<std::size_t>(Budget / size, 2, 200));
     }
 
     void ExplainM()
@@ -62,32 +52,6 @@ private:
     std::string costM(int record) const
     {
         return std::to_string(std::max(0, section_.head.count - record - 1));
-    }
-
-    // The section alone, with some bytes of the file replaced.
-    TrialCL tryM(SpanCL replaced, const std::string& by)
-    {
-        TrialCL trial;
-        if (trialsLeft_-- <= 0) {
-            return trial;
-        }
-        std::string text = grammar_.before;
-        text.append(bytes_.substr(begin_, replaced.begin - begin_));
-        text.append(by).append(bytes_.substr(replaced.end, end_ - replaced.end));
-        const auto shared = std::make_shared<const FileTextCL>(text);
-        VrIOCL io;
-        io.OpenM(shared);
-        SeenSectionsCL seen;
-        io.SetObserverM(&seen);
-        grammar_.read(io);
-        trial.section = std::move(seen.AtM(number_));
-        trial.section.regionEnd = text.size();
-        trial.layout = layoutOf(trial.section, shared->CutM({ 0, text.size() }), hasCountM());
-        oddTexts_ = 0;
-        for (const SeenValueCL& value : trial.section.values) {
-            oddTexts_ += isRowOfNumbers(shared->CutM({ value.begin, value.end }), 3) ? 1 : 0;
-        }
-        return trial;
     }
 
     bool explainCountM()
@@ -125,7 +89,7 @@ private:
         }
         const SpanCL word = wordAt(bytes_, bad->begin);
         const bool isJoined = word.begin < bad->begin;
-        if (!tryM(word, "0").IsCleanM() && !(isJoined && bad->fate == Fate::NotANumber)) {
+        if (!trials_.TryM(word, "0").IsCleanM() && !(isJoined && bad->fate == Fate::NotANumber)) {
             return false;
         }
         sayBadWordM(*bad, word);
@@ -157,7 +121,7 @@ private:
         for (std::size_t line = std::min(last, oddLine + 1); line > first; --line) {
             const std::string_view text = lineM(line);
             if (!text.empty() && text == lineM(line - 1)
-                && tryM({ file_.LineStartM(line), file_.LineStartM(line + 1) }, "").IsCleanM()) {
+                && trials_.TryM({ file_.LineStartM(line), file_.LineStartM(line + 1) }, "").IsCleanM()) {
                 addM(Says::DoubledLine, nextText(bytes_, file_.LineStartM(line), end_), {},
                     recordAtM(file_.LineStartM(line)));
                 return true;
@@ -211,9 +175,9 @@ private:
         }
         const auto lines = static_cast<int>(file_.LineM(end_) - file_.LineM(layout_.leftover)) + 1;
         const std::string sign = bytes_[head.countSpan.begin] == '-' ? "-" : "";
-        const TrialCL trial = tryM(head.countSpan, sign + std::to_string(head.count + lines));
+        const TrialCL trial = trials_.TryM(head.countSpan, sign + std::to_string(head.count + lines));
         if (!trial.layout.EndsBetweenRecordsM(trial.section) || trial.layout.wholeRecords <= head.count
-            || oddTexts_ > 0) {
+            || trials_.OddTextsM() > 0) {
             return false;
         }
         addM(Says::CountTooSmall, head.countSpan.begin,
@@ -225,7 +189,7 @@ private:
     bool isRecordCommentM()
     {
         const SpanCL comments = section_.head.comments;
-        if (comments.EmptyM() || !tryM({ comments.begin, comments.begin }, "\n").IsCleanM()) {
+        if (comments.EmptyM() || !trials_.TryM({ comments.begin, comments.begin }, "\n").IsCleanM()) {
             return false;
         }
         addM(Says::RecordInComments, nextText(bytes_, lineStartM(comments.end - 1), end_), {}, 0);
@@ -234,13 +198,13 @@ private:
 
     bool isShortM()
     {
-        if (!layout_.EndsBetweenRecordsM(section_) || findOddityM().value != nullptr) {
+        if (!layout_.EndsBetweenRecordsM(section_) || findOddity(file_, section_, layout_).value != nullptr) {
             return false;
         }
         const SectionSeenCL& head = section_.head;
         if (layout_.wholeRecords == 0) {
             addM(Says::ShortSection, nextLineM(), { std::to_string(head.count), "0" }, 0);
-        } else if (const SeenValueCL* const gap = gapM()) {
+        } else if (const SeenValueCL* const gap = findGap(file_, section_, layout_)) {
             addM(Says::EntryMissing, lineStartM(gap->begin),
                 { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
         } else {
@@ -248,61 +212,6 @@ private:
                 { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
         }
         return true;
-    }
-    // One record is too few: where the values of neighbours are further apart than everywhere else.
-    const SeenValueCL* gapM() const
-    {
-        if (section_.head.count != layout_.wholeRecords + 1 || layout_.wholeRecords < 4) {
-            return nullptr;
-        }
-        const std::ptrdiff_t columns = section_.EndM(0) - section_.FirstM(0);
-        std::vector<int> votes(static_cast<std::size_t>(layout_.wholeRecords));
-        for (std::ptrdiff_t column = 0; column < columns; ++column) {
-            const int gap = gapInColumnM(column);
-            votes[static_cast<std::size_t>(std::max(gap, 0))] += gap > 0 ? 1 : 0;
-        }
-        const auto most = std::max_element(votes.begin(), votes.end());
-        return *most > 0 ? section_.FirstM(static_cast<int>(most - votes.begin())) : nullptr;
-    }
-    // The one record whose value doesn't follow the one before as that value's other followers do; -1 for
-    // none or several.
-    int gapInColumnM(std::ptrdiff_t column) const
-    {
-        std::map<std::string_view, std::map<std::string_view, int>> followers;
-        std::map<int, int> steps;
-        const auto value = [&](int record) {
-            return section_.FirstM(record) + column < section_.EndM(record)
-                ? file_.BytesM(section_.FirstM(record)[column])
-                : std::string_view();
-        };
-        const auto number = [](std::string_view text) {
-            int result = 0;
-            slReadInt(text.data(), text.data() + text.size(), &result);
-            return result;
-        };
-        for (int i = 1; i < layout_.wholeRecords; ++i) {
-            ++followers[value(i - 1)][value(i)];
-            ++steps[number(value(i)) - number(value(i - 1))];
-        }
-        int found = -1;
-        for (int i = 1; i < layout_.wholeRecords; ++i) {
-            const auto& others = followers[value(i - 1)];
-            int all = 0;
-            for (const auto& [text, count] : others) {
-                all += count;
-            }
-            const int step = number(value(i)) - number(value(i - 1));
-            const bool isRare = others.size() == 2 && all >= 3 && others.at(value(i)) == 1;
-            const bool isJump
-                = steps.size() == 2 && steps[step] == 1 && step % 2 == 0 && steps.count(step / 2) > 0;
-            if (isRare || isJump) {
-                if (found > 0) {
-                    return -1;
-                }
-                found = i;
-            }
-        }
-        return found;
     }
     std::size_t nextLineM() const // Behind the last good value.
     {
@@ -316,7 +225,7 @@ private:
         if (layout_.bad != nullptr && layout_.bad->fate == Fate::NotLookedAt) {
             return false;
         }
-        const OddityCL oddity = findOddityM();
+        const OddityCL oddity = findOddity(file_, section_, layout_);
         const std::size_t at = oddity.value != nullptr    ? oddity.value->begin
             : layout_.bad != nullptr && !layout_.runsOver ? layout_.bad->begin
                                                           : layout_.goodEnd;
@@ -326,7 +235,7 @@ private:
         for (std::size_t line = oddLine > firstRecord + Window ? oddLine - Window : firstRecord + 1;
              line <= oddLine; ++line) {
             const std::size_t start = file_.LineStartM(line);
-            if (tryM({ start, start }, "x\n").IsCleanM() && oddTexts_ == 0) {
+            if (trials_.TryM({ start, start }, "x\n").IsCleanM() && trials_.OddTextsM() == 0) {
                 const int record = recordAtM(start);
                 const SeenValueCL* const value = firstValueBehindM(start);
                 addM(Says::LineMissing, start, { value != nullptr ? value->field : "", costM(record) },
@@ -346,73 +255,9 @@ private:
         return nullptr;
     }
 
-    // The first value that lies oddly among those of its record.
-    struct OddityCL
-    {
-        const SeenValueCL* value { nullptr };
-        int record { -1 };
-        Says says { Says::OtherLines };
-    };
-    bool beginsLineM(const SeenValueCL& value) const
-    {
-        return nextText(bytes_, lineStartM(value.begin), value.begin) == value.begin;
-    }
-    // For each value of a record, whether most records begin a line with it.
-    std::vector<bool> usualBreaksM() const
-    {
-        std::vector<int> votes;
-        for (int record = 0; record < layout_.wholeRecords; ++record) {
-            std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
-                 ++value, ++i) {
-                votes.resize(std::max(votes.size(), i + 1));
-                votes[i] += beginsLineM(*value) ? 1 : -1;
-            }
-        }
-        std::vector<bool> breaks(votes.size());
-        std::transform(votes.begin(), votes.end(), breaks.begin(), [](int vote) { return vote > 0; });
-        return breaks;
-    }
-    OddityCL findOddityM() const
-    {
-        constexpr int EnoughRecords = 3;
-        const std::vector<bool> usual = usualBreaksM();
-        const SeenValueCL* const stop
-            = layout_.bad != nullptr ? layout_.bad : section_.values.data() + section_.values.size();
-        for (int record = 0; record < section_.RecordsM() && section_.FirstM(record) <= stop; ++record) {
-            std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
-                 ++value, ++i) {
-                if (value > stop) {
-                    return {};
-                }
-                if (value->begin >= end_) {
-                    return {};
-                }
-                if (value->fate == Fate::NotLookedAt) {
-                    const SeenValueCL* const type = section_.FindM(record, "data_type");
-                    return { type, record, Says::BadDataType };
-                }
-                const bool begins = beginsLineM(*value);
-                if (i == 0 && !begins) {
-                    return { value, record, Says::RecordInLine };
-                }
-                if (value < stop && isRowOfNumbers(file_.BytesM(*value), 3)) {
-                    return { value, record, Says::NumbersForText };
-                }
-                if (layout_.wholeRecords >= EnoughRecords && i < usual.size() && begins != usual[i]) {
-                    return { value, record, Says::OtherLines };
-                }
-                if (value->part > 0 && begins && value->fate == Fate::NotANumber && i > 0) {
-                    return { value - value->part, record, Says::OtherLines };
-                }
-            }
-        }
-        return {};
-    }
     void explainFirstOddityM()
     {
-        const OddityCL oddity = findOddityM();
+        const OddityCL oddity = findOddity(file_, section_, layout_);
         if (oddity.value != nullptr) {
             const SeenValueCL& value = *oddity.value;
             const std::string cost = costM(oddity.record);
@@ -447,8 +292,7 @@ private:
     std::string_view bytes_;
     std::size_t begin_;
     std::size_t end_;
-    int trialsLeft_;
-    int oddTexts_ { 0 }; // Of the last trial: texts that are rows of numbers.
+    SectionTrialsCL trials_;
 };
 
 } // namespace
