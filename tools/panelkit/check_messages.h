@@ -16,11 +16,11 @@
     X(BadNumber, "bad-number", Error, "a number should stand here ({0}), not '{1}'", "此处应为数字 ({0}), 而不是 '{1}'") \
     X(NumberTooLarge, "bad-number", Error, "{1} is beyond the range of {0}; the limit is used", "{1} 超出 {0} 的范围; 将使用极限值") \
     X(NumberGoesOn, "bad-number", Error, "the number of {0} goes on with '{1}'", "{0} 的数字后面紧跟 '{1}'") \
-    X(RecordSlip, "record-slip", Error, "'{1}' is no number ({0}); it costs {2} later records", "'{1}' 不是数字 ({0}); 其后 {2} 条记录因此丢失") \
-    X(LineMissing, "record-slip", Error, "a line seems to be missing here ({0}); it costs {1} later records", "此处似乎缺少一行 ({0}); 其后 {1} 条记录因此丢失") \
-    X(RecordInLine, "record-slip", Error, "a record begins in the middle of this line: something is missing or too much here; it costs {0} later records", "一条记录从这一行的中间开始: 此处缺少或多出内容; 其后 {0} 条记录因此丢失") \
-    X(NumbersForText, "record-slip", Error, "a text should stand here ({0}), not numbers; it costs {1} later records", "此处应为文本 ({0}), 而不是数字; 其后 {1} 条记录因此丢失") \
-    X(OtherLines, "record-slip", Error, "from here on the lines are not divided as in the other records; it costs {0} later records", "从此处起各行的划分与其他记录不同; 其后 {0} 条记录因此丢失") \
+    X(RecordSlip, "record-slip", Error, "'{1}' is no number ({0}); records lost behind it: {2}", "'{1}' 不是数字 ({0}); 其后 {2} 条记录因此丢失") \
+    X(LineMissing, "record-slip", Error, "a line seems to be missing here ({0}); records lost behind it: {1}", "此处似乎缺少一行 ({0}); 其后 {1} 条记录因此丢失") \
+    X(RecordInLine, "record-slip", Error, "a record begins in the middle of this line: something is missing or too much here; records lost behind it: {0}", "一条记录从这一行的中间开始: 此处缺少或多出内容; 其后 {0} 条记录因此丢失") \
+    X(NumbersForText, "record-slip", Error, "a text should stand here ({0}), not numbers; records lost behind it: {1}", "此处应为文本 ({0}), 而不是数字; 其后 {1} 条记录因此丢失") \
+    X(OtherLines, "record-slip", Error, "from here on the lines are not divided as in the other records; records lost behind it: {0}", "从此处起各行的划分与其他记录不同; 其后 {0} 条记录因此丢失") \
     X(BadCount, "bad-count", Error, "the count should be a number, not '{0}'", "数目应为数字, 而不是 '{0}'") \
     X(NoCount, "bad-count", Error, "the count is missing", "缺少数目") \
     X(CountTooLarge, "bad-count", Error, "the count {0} cannot be meant: the rest of the file is too short for it", "数目 {0} 不可能正确: 文件余下部分太短") \
