@@ -19,12 +19,12 @@ ControlCL controlOf(const RecordViewCL& view, int kind, int grammar, int record,
         view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
         view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
         offsetOf(view, "position") };
-    for (const FieldCL& field : view.FieldsM()) {
-        control.hasText = control.hasText || (field.verb == Verb::Caption && !field.text->EmptyM());
+    if (kind == LabelCode) {
+        control.hasText = !view.FindM("text")->text->EmptyM();
     }
-    control.isReadOnly = view.IntM("read_only") == 1;
-    control.isDefault = view.IntM("default_button") == 1;
-    control.group = view.IntM("group");
+    control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
+    control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
+    control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
         control.windowIndex = view.IntM("edit_window_index");
         control.indexAt = offsetOf(view, "edit_window_index");
