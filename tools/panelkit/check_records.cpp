@@ -73,6 +73,12 @@ public:
     void CheckM()
     {
         dialogM();
+        std::size_t records = 0;
+        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+            const auto sound = static_cast<std::size_t>(file_.SectionM(static_cast<int>(i)).soundRecords);
+            records += allGrammars()[i].owner == nullptr ? sound : 0;
+        }
+        controls_.reserve(records);
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
         newRotateButtonsM();
         checkEntries(file_, pictures_, findings_);

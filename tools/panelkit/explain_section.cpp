@@ -202,15 +202,13 @@ private:
             return false;
         }
         const SectionSeenCL& head = section_.head;
-        if (layout_.wholeRecords == 0) {
-            addM(Says::ShortSection, nextLineM(), { std::to_string(head.count), "0" }, 0);
-        } else if (const SeenValueCL* const gap = findGap(file_, section_, layout_)) {
-            addM(Says::EntryMissing, lineStartM(gap->begin),
-                { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
-        } else {
-            addM(Says::ShortSection, head.countSpan.begin,
-                { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
-        }
+        const int whole = layout_.wholeRecords;
+        const SeenValueCL* const gap = findGap(file_, section_, layout_);
+        addM(gap != nullptr ? Says::EntryMissing : Says::ShortSection,
+            whole == 0           ? nextLineM()
+                : gap != nullptr ? lineStartM(gap->begin)
+                                 : head.countSpan.begin,
+            { std::to_string(head.count), std::to_string(whole) }, whole);
         return true;
     }
     std::size_t nextLineM() const // Behind the last good value.
