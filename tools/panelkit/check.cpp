@@ -63,9 +63,10 @@ bool readNamedFile(const std::string& file, std::string* bytes)
     return true;
 }
 
-FindingsCL checkBytes(const std::string& file, const fs::path& folder, const std::string& bytes)
+FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::string&& bytes)
 {
     const auto text = std::make_shared<const FileTextCL>(bytes);
+    std::string().swap(bytes);
     FindingsCL findings(file, text);
     if (checkEncoding(*text, findings)) {
         FileReadingCL reading(text);
@@ -93,8 +94,8 @@ int checkCommand(const CheckOptionsCL& options)
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkBytes(
-            isInput ? "<stdin>" : file, isInput ? fs::path() : fs::u8path(file).parent_path(), bytes));
+        all.push_back(checkBytes(isInput ? "<stdin>" : file,
+            isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes)));
         isFaulty = isFaulty || all.back().CountM(Severity::Error) > 0
             || (options.isStrict && all.back().CountM(Severity::Warning) > 0);
     }

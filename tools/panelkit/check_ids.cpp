@@ -23,7 +23,7 @@ public:
         bool isWhole = true;
         for (std::size_t i = 0; i < allGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
-            isWhole = isWhole && section.soundRecords == section.RecordsM();
+            isWhole = isWhole && !file_.HasStrayTextM() && !section.isFaulty;
             if (allGrammars()[i].owner != nullptr) {
                 findUnknownM(static_cast<int>(i));
             }
@@ -96,7 +96,7 @@ private:
         const char* const owner = allGrammars()[static_cast<std::size_t>(grammar)].owner;
         const int ownerGrammar = grammarOf(owner);
         const SeenSectionCL& main = file_.SectionM(ownerGrammar);
-        if (!section.IsThereM() || main.soundRecords < main.RecordsM()) {
+        if (!section.IsThereM() || main.isFaulty) {
             return;
         }
         const bool isByPlace = allGrammars()[static_cast<std::size_t>(grammar)].row == nullptr;

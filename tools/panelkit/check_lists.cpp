@@ -76,7 +76,7 @@ void checkTrees(FileReadingCL& file, FindingsCL& findings)
         int entry, parent, key;
     };
     const SeenSectionCL& section = file.SectionM(TreeDataHeader);
-    if (section.soundRecords < section.RecordsM()) {
+    if (!file.IsSoundM(TreeDataHeader)) {
         return;
     }
     std::map<int, std::vector<ItemCL>> trees;
@@ -133,7 +133,8 @@ void checkCells(FileReadingCL& file, FindingsCL& findings)
 {
     const SeenSectionCL& titles = file.SectionM(ListCtrlTitleHeader);
     const SeenSectionCL& cells = file.SectionM(ListCtrlItemHeader);
-    if (titles.soundRecords < titles.RecordsM() || cells.soundRecords < cells.RecordsM()) {
+    if (!file.IsSoundM(ListCtrlTitleHeader) || !file.IsSoundM(ListCtrlItemHeader)
+        || !titles.dropped.empty()) {
         return;
     }
     std::map<int, int> columns;
@@ -171,7 +172,7 @@ void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 {
     const SeenSectionCL& buttons = file.SectionM(MultiStateButtonHeader);
     const SeenSectionCL& states = file.SectionM(MultiStateButtonDataHeader);
-    if (states.soundRecords < states.RecordsM()) {
+    if (!file.IsSoundM(MultiStateButtonDataHeader) || !states.dropped.empty()) {
         return;
     }
     std::map<int, std::set<int>> statesOf;

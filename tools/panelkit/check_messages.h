@@ -16,11 +16,11 @@
     X(BadNumber, "bad-number", Error, "a number should stand here ({0}), not '{1}'", "此处应为数字 ({0}), 而不是 '{1}'") \
     X(NumberTooLarge, "bad-number", Error, "{1} is beyond the range of {0}; the limit is used", "{1} 超出 {0} 的范围; 将使用极限值") \
     X(NumberGoesOn, "bad-number", Error, "the number of {0} goes on with '{1}'", "{0} 的数字后面紧跟 '{1}'") \
-    X(RecordSlip, "record-slip", Error, "'{1}' is no number ({0}); it costs {2} later records", "'{1}' 不是数字 ({0}); 其后 {2} 条记录因此丢失") \
-    X(LineMissing, "record-slip", Error, "a line seems to be missing here ({0}); it costs {1} later records", "此处似乎缺少一行 ({0}); 其后 {1} 条记录因此丢失") \
-    X(RecordInLine, "record-slip", Error, "a record begins in the middle of this line: something is missing or too much here; it costs {0} later records", "一条记录从这一行的中间开始: 此处缺少或多出内容; 其后 {0} 条记录因此丢失") \
-    X(NumbersForText, "record-slip", Error, "a text should stand here ({0}), not numbers; it costs {1} later records", "此处应为文本 ({0}), 而不是数字; 其后 {1} 条记录因此丢失") \
-    X(OtherLines, "record-slip", Error, "from here on the lines are not divided as in the other records; it costs {0} later records", "从此处起各行的划分与其他记录不同; 其后 {0} 条记录因此丢失") \
+    X(RecordSlip, "record-slip", Error, "'{1}' is no number ({0}); records lost behind it: {2}", "'{1}' 不是数字 ({0}); 其后 {2} 条记录因此丢失") \
+    X(LineMissing, "record-slip", Error, "a line seems to be missing here ({0}); records lost behind it: {1}", "此处似乎缺少一行 ({0}); 其后 {1} 条记录因此丢失") \
+    X(RecordInLine, "record-slip", Error, "a record begins in the middle of this line: something is missing or too much here; records lost behind it: {0}", "一条记录从这一行的中间开始: 此处缺少或多出内容; 其后 {0} 条记录因此丢失") \
+    X(NumbersForText, "record-slip", Error, "a text should stand here ({0}), not numbers; records lost behind it: {1}", "此处应为文本 ({0}), 而不是数字; 其后 {1} 条记录因此丢失") \
+    X(OtherLines, "record-slip", Error, "from here on the lines are not divided as in the other records; records lost behind it: {0}", "从此处起各行的划分与其他记录不同; 其后 {0} 条记录因此丢失") \
     X(BadCount, "bad-count", Error, "the count should be a number, not '{0}'", "数目应为数字, 而不是 '{0}'") \
     X(NoCount, "bad-count", Error, "the count is missing", "缺少数目") \
     X(CountTooLarge, "bad-count", Error, "the count {0} cannot be meant: the rest of the file is too short for it", "数目 {0} 不可能正确: 文件余下部分太短") \
@@ -30,6 +30,7 @@
     X(CommentsTooMany, "bad-count", Error, "the section has no {0} comment lines", "该节没有 {0} 行注释") \
     X(RecordInComments, "bad-count", Error, "this line counts as a comment but reads as a record", "这一行被当作注释, 但像是一条记录") \
     X(ShortSection, "short-section", Error, "the count is {0}, but the records end after {1}", "数目为 {0}, 但只有 {1} 条记录") \
+    X(EntryMissing, "short-section", Error, "the count is {0}, but the records end after {1}; one seems to be missing here", "数目为 {0}, 但只有 {1} 条记录; 此处似乎缺少一条") \
     X(SectionEndsInRecord, "short-section", Error, "the section ends in the middle of record {0} ({1})", "该节在第 {0} 条记录的中间结束 ({1})") \
     X(ExtraLines, "extra-lines", Error, "this text belongs to no section: the one above ends before it", "此文本不属于任何节: 上面的节在它之前已结束") \
     X(DoubledLine, "extra-lines", Error, "this line repeats the one above; without it the section reads whole", "这一行与上一行重复; 去掉它该节就能完整读出") \

@@ -1,4 +1,5 @@
 // What follows what when the user presses Tab.
+#include "baselib/gbk_texts.h"
 #include "control_list.h"
 #include <algorithm>
 #include <climits>
@@ -52,7 +53,9 @@ public:
     void CheckM()
     {
         findUnstackedM();
-        findUnnamedM();
+        if (file_.IsSoundM(LabelHeader)) {
+            findUnnamedM();
+        }
         findSplitGroupsM();
         const ControlCL* first = nullptr;
         for (const ControlCL& control : controls_) {

@@ -90,7 +90,7 @@ public:
     }
 
 private:
-    static constexpr int Bits = 6;
+    static constexpr int Bits = 8;
     static std::uint64_t squareM(long x, long y)
     {
         return static_cast<std::uint64_t>(static_cast<std::uint32_t>(x)) << 32

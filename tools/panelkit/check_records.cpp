@@ -1,5 +1,6 @@
 // Every record on its own; what the checks across records need of it is kept.
 #include "baselib/gbk.h"
+#include "baselib/gbk_texts.h"
 #include "check.h"
 #include "control_list.h"
 #include <cstring>
@@ -18,12 +19,12 @@ ControlCL controlOf(const RecordViewCL& view, int kind, int grammar, int record,
         view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
         view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
         offsetOf(view, "position") };
-    for (const FieldCL& field : view.FieldsM()) {
-        control.hasText = control.hasText || (field.verb == Verb::Caption && !field.text->EmptyM());
+    if (kind == LabelCode) {
+        control.hasText = !view.FindM("text")->text->EmptyM();
     }
-    control.isReadOnly = view.IntM("read_only") == 1;
-    control.isDefault = view.IntM("default_button") == 1;
-    control.group = view.IntM("group");
+    control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
+    control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
+    control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
         control.windowIndex = view.IntM("edit_window_index");
         control.indexAt = offsetOf(view, "edit_window_index");
@@ -72,6 +73,12 @@ public:
     void CheckM()
     {
         dialogM();
+        std::size_t records = 0;
+        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+            const auto sound = static_cast<std::size_t>(file_.SectionM(static_cast<int>(i)).soundRecords);
+            records += allGrammars()[i].owner == nullptr ? sound : 0;
+        }
+        controls_.reserve(records);
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
         newRotateButtonsM();
         checkEntries(file_, pictures_, findings_);
@@ -106,7 +113,8 @@ private:
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
             recordM(RowTP::Code, grammar, i, RowTP::CanM(Stacked));
-            if (isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
+            if ((RowTP::Code != MultiStateButtonCode || file_.IsSoundM(MultiStateButtonDataHeader))
+                && isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
                 findings_.AddM(Says::InvisibleTabStop, controls_.back().idAt);
             }
         }
@@ -131,6 +139,10 @@ private:
             recordM(0, grammar, i, false);
             const FieldCL* const first = view_.FindM("initial_index");
             const int slots = records.ElementAtM(i).SlotCountM();
+            if (!file_.IsSoundM(NewRotateBtnBitmapHeader)
+                || !file_.SectionM(NewRotateBtnBitmapHeader).IsThereM() || first->seen == nullptr) {
+                continue;
+            }
             if (first->ints[0] < 0 || first->ints[0] >= slots) {
                 findings_.AddM(Says::StartOutOfRange, first->seen->begin,
                     { std::to_string(first->ints[0]), std::to_string(slots) });

@@ -64,6 +64,9 @@ public:
             checkSectionM(static_cast<int>(i));
         }
         sayMissingM();
+        if (hasStrayText_ || isAnyUnknown_ || !repeated_.empty()) {
+            file_.SetStrayTextM();
+        }
     }
 
 private:
@@ -181,6 +184,7 @@ private:
         std::size_t distance = 0;
         const int nearest = nearestM(place.span, &distance);
         const std::string text = file_.CutM(place.span);
+        isAnyUnknown_ = true;
         if (distance * 2 <= slGbkToUtf16(allGrammars()[static_cast<std::size_t>(nearest)].header).size()) {
             findings_.AddM(Says::UnknownSection, place.span.begin, { text, nameM(nearest) });
             isFound_[static_cast<std::size_t>(nearest)] = true; // Not missing, but misspelt.
@@ -219,6 +223,10 @@ private:
         const bool isRepeated
             = std::find(repeated_.begin(), repeated_.end(), section.regionEnd) != repeated_.end()
             && nextText(bytes_, section.head.headerSpan.end, section.regionEnd) == section.regionEnd;
+        if (isRepeated) {
+            section.soundRecords = 0;
+            section.isFaulty = true;
+        }
         if (layout.isClean || isRepeated) {
             return;
         }
@@ -273,6 +281,7 @@ private:
     std::vector<bool> isFound_;
     std::vector<std::size_t> repeated_;
     bool hasStrayText_ { false };
+    bool isAnyUnknown_ { false };
 };
 
 } // namespace

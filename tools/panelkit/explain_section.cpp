@@ -1,18 +1,11 @@
 // What is wrong with a section that doesn't read whole.
 #include "baselib/number_text.h"
 #include "section_layout.h"
+#include "section_oddity.h"
+#include "section_trials.h"
 #include <algorithm>
-#include <cstring>
 
 namespace {
-
-// One section read on its own, perhaps with a change.
-struct TrialCL
-{
-    SeenSectionCL section;
-    SectionLayoutCL layout;
-    bool IsCleanM() const { return layout.isClean; }
-};
 
 class ExplainerCL
 {
@@ -27,10 +20,8 @@ public:
         , bytes_(file.TextM().CutM({ 0, file.TextM().SizeM() }))
         , begin_(section_.head.headerSpan.begin)
         , end_(section_.regionEnd)
+        , trials_(file, grammar)
     {
-        const std::size_t size = end_ - begin_ + 1;
-        constexpr std::size_t Budget = 8'000'000; // Bytes to be read in trials.
-        trialsLeft_ = static_cast<int>(std::clamp<std::size_t>(Budget / size, 2, 200));
     }
 
     void ExplainM()
@@ -55,37 +46,12 @@ private:
     void addM(Says says, std::size_t offset, std::vector<std::string> details, int soundRecords)
     {
         section_.soundRecords = soundRecords;
+        section_.isFaulty = true;
         findings_.AddM(says, offset, std::move(details));
     }
     std::string costM(int record) const
     {
         return std::to_string(std::max(0, section_.head.count - record - 1));
-    }
-
-    // The section alone, with some bytes of the file replaced.
-    TrialCL tryM(SpanCL replaced, const std::string& by)
-    {
-        TrialCL trial;
-        if (trialsLeft_-- <= 0) {
-            return trial;
-        }
-        std::string text = grammar_.before;
-        text.append(bytes_.substr(begin_, replaced.begin - begin_));
-        text.append(by).append(bytes_.substr(replaced.end, end_ - replaced.end));
-        const auto shared = std::make_shared<const FileTextCL>(text);
-        VrIOCL io;
-        io.OpenM(shared);
-        SeenSectionsCL seen;
-        io.SetObserverM(&seen);
-        grammar_.read(io);
-        trial.section = std::move(seen.AtM(number_));
-        trial.section.regionEnd = text.size();
-        trial.layout = layoutOf(trial.section, shared->CutM({ 0, text.size() }), hasCountM());
-        oddTexts_ = 0;
-        for (const SeenValueCL& value : trial.section.values) {
-            oddTexts_ += isRowOfNumbers(shared->CutM({ value.begin, value.end }), 3) ? 1 : 0;
-        }
-        return trial;
     }
 
     bool explainCountM()
@@ -123,7 +89,7 @@ private:
         }
         const SpanCL word = wordAt(bytes_, bad->begin);
         const bool isJoined = word.begin < bad->begin;
-        if (!tryM(word, "0").IsCleanM() && !(isJoined && bad->fate == Fate::NotANumber)) {
+        if (!trials_.TryM(word, "0").IsCleanM() && !(isJoined && bad->fate == Fate::NotANumber)) {
             return false;
         }
         sayBadWordM(*bad, word);
@@ -155,7 +121,7 @@ private:
         for (std::size_t line = std::min(last, oddLine + 1); line > first; --line) {
             const std::string_view text = lineM(line);
             if (!text.empty() && text == lineM(line - 1)
-                && tryM({ file_.LineStartM(line), file_.LineStartM(line + 1) }, "").IsCleanM()) {
+                && trials_.TryM({ file_.LineStartM(line), file_.LineStartM(line + 1) }, "").IsCleanM()) {
                 addM(Says::DoubledLine, nextText(bytes_, file_.LineStartM(line), end_), {},
                     recordAtM(file_.LineStartM(line)));
                 return true;
@@ -209,9 +175,9 @@ private:
         }
         const auto lines = static_cast<int>(file_.LineM(end_) - file_.LineM(layout_.leftover)) + 1;
         const std::string sign = bytes_[head.countSpan.begin] == '-' ? "-" : "";
-        const TrialCL trial = tryM(head.countSpan, sign + std::to_string(head.count + lines));
+        const TrialCL trial = trials_.TryM(head.countSpan, sign + std::to_string(head.count + lines));
         if (!trial.layout.EndsBetweenRecordsM(trial.section) || trial.layout.wholeRecords <= head.count
-            || oddTexts_ > 0) {
+            || trials_.OddTextsM() > 0) {
             return false;
         }
         addM(Says::CountTooSmall, head.countSpan.begin,
@@ -223,7 +189,7 @@ private:
     bool isRecordCommentM()
     {
         const SpanCL comments = section_.head.comments;
-        if (comments.EmptyM() || !tryM({ comments.begin, comments.begin }, "\n").IsCleanM()) {
+        if (comments.EmptyM() || !trials_.TryM({ comments.begin, comments.begin }, "\n").IsCleanM()) {
             return false;
         }
         addM(Says::RecordInComments, nextText(bytes_, lineStartM(comments.end - 1), end_), {}, 0);
@@ -232,16 +198,17 @@ private:
 
     bool isShortM()
     {
-        if (!layout_.EndsBetweenRecordsM(section_) || findOddityM().value != nullptr) {
+        if (!layout_.EndsBetweenRecordsM(section_) || findOddity(file_, section_, layout_).value != nullptr) {
             return false;
         }
         const SectionSeenCL& head = section_.head;
-        if (layout_.wholeRecords == 0) {
-            addM(Says::ShortSection, nextLineM(), { std::to_string(head.count), "0" }, 0);
-        } else {
-            addM(Says::ShortSection, head.countSpan.begin,
-                { std::to_string(head.count), std::to_string(layout_.wholeRecords) }, layout_.wholeRecords);
-        }
+        const int whole = layout_.wholeRecords;
+        const SeenValueCL* const gap = findGap(file_, section_, layout_);
+        addM(gap != nullptr ? Says::EntryMissing : Says::ShortSection,
+            whole == 0           ? nextLineM()
+                : gap != nullptr ? lineStartM(gap->begin)
+                                 : head.countSpan.begin,
+            { std::to_string(head.count), std::to_string(whole) }, whole);
         return true;
     }
     std::size_t nextLineM() const // Behind the last good value.
@@ -256,7 +223,7 @@ private:
         if (layout_.bad != nullptr && layout_.bad->fate == Fate::NotLookedAt) {
             return false;
         }
-        const OddityCL oddity = findOddityM();
+        const OddityCL oddity = findOddity(file_, section_, layout_);
         const std::size_t at = oddity.value != nullptr    ? oddity.value->begin
             : layout_.bad != nullptr && !layout_.runsOver ? layout_.bad->begin
                                                           : layout_.goodEnd;
@@ -266,7 +233,7 @@ private:
         for (std::size_t line = oddLine > firstRecord + Window ? oddLine - Window : firstRecord + 1;
              line <= oddLine; ++line) {
             const std::size_t start = file_.LineStartM(line);
-            if (tryM({ start, start }, "x\n").IsCleanM() && oddTexts_ == 0) {
+            if (trials_.TryM({ start, start }, "x\n").IsCleanM() && trials_.OddTextsM() == 0) {
                 const int record = recordAtM(start);
                 const SeenValueCL* const value = firstValueBehindM(start);
                 addM(Says::LineMissing, start, { value != nullptr ? value->field : "", costM(record) },
@@ -286,73 +253,9 @@ private:
         return nullptr;
     }
 
-    // The first value that lies oddly among those of its record.
-    struct OddityCL
-    {
-        const SeenValueCL* value { nullptr };
-        int record { -1 };
-        Says says { Says::OtherLines };
-    };
-    bool beginsLineM(const SeenValueCL& value) const
-    {
-        return nextText(bytes_, lineStartM(value.begin), value.begin) == value.begin;
-    }
-    // For each value of a record, whether most records begin a line with it.
-    std::vector<bool> usualBreaksM() const
-    {
-        std::vector<int> votes;
-        for (int record = 0; record < layout_.wholeRecords; ++record) {
-            std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
-                 ++value, ++i) {
-                votes.resize(std::max(votes.size(), i + 1));
-                votes[i] += beginsLineM(*value) ? 1 : -1;
-            }
-        }
-        std::vector<bool> breaks(votes.size());
-        std::transform(votes.begin(), votes.end(), breaks.begin(), [](int vote) { return vote > 0; });
-        return breaks;
-    }
-    OddityCL findOddityM() const
-    {
-        constexpr int EnoughRecords = 3;
-        const std::vector<bool> usual = usualBreaksM();
-        const SeenValueCL* const stop
-            = layout_.bad != nullptr ? layout_.bad : section_.values.data() + section_.values.size();
-        for (int record = 0; record < section_.RecordsM() && section_.FirstM(record) <= stop; ++record) {
-            std::size_t i = 0;
-            for (const SeenValueCL* value = section_.FirstM(record); value < section_.EndM(record);
-                 ++value, ++i) {
-                if (value > stop) {
-                    return {};
-                }
-                if (value->begin >= end_) {
-                    return {};
-                }
-                if (value->fate == Fate::NotLookedAt) {
-                    const SeenValueCL* const type = section_.FindM(record, "data_type");
-                    return { type, record, Says::BadDataType };
-                }
-                const bool begins = beginsLineM(*value);
-                if (i == 0 && !begins) {
-                    return { value, record, Says::RecordInLine };
-                }
-                if (value < stop && isRowOfNumbers(file_.BytesM(*value), 3)) {
-                    return { value, record, Says::NumbersForText };
-                }
-                if (layout_.wholeRecords >= EnoughRecords && i < usual.size() && begins != usual[i]) {
-                    return { value, record, Says::OtherLines };
-                }
-                if (value->part > 0 && begins && value->fate == Fate::NotANumber && i > 0) {
-                    return { value - value->part, record, Says::OtherLines };
-                }
-            }
-        }
-        return {};
-    }
     void explainFirstOddityM()
     {
-        const OddityCL oddity = findOddityM();
+        const OddityCL oddity = findOddity(file_, section_, layout_);
         if (oddity.value != nullptr) {
             const SeenValueCL& value = *oddity.value;
             const std::string cost = costM(oddity.record);
@@ -387,8 +290,7 @@ private:
     std::string_view bytes_;
     std::size_t begin_;
     std::size_t end_;
-    int trialsLeft_;
-    int oddTexts_ { 0 }; // Of the last trial: texts that are rows of numbers.
+    SectionTrialsCL trials_;
 };
 
 } // namespace

@@ -100,6 +100,9 @@ SeenSectionCL& SeenSectionsCL::findM(const char* header)
 void SeenSectionsCL::ValueM(const ValueSeenCL& value)
 {
     SeenSectionCL& section = findM(value.section);
+    if (section.values.size() == section.values.capacity()) {
+        section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
+    }
     if (value.record >= section.RecordsM()) {
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }

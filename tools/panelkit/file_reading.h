@@ -27,6 +27,7 @@ struct SeenSectionCL
     std::vector<std::uint32_t> starts; // Where each record's values begin in `values`.
     std::vector<EntryDroppedCL> dropped;
     std::size_t regionEnd { 0 }; // Where the next header stands, or the file ends.
+    bool isFaulty { false };     // Its layout is: what it lost can't be missed elsewhere.
     int soundRecords { 0 };      // Records before the first fault of its layout.
     bool IsThereM() const { return head.headerSpan.end > 0; }
     bool IsReadM() const
@@ -99,6 +100,10 @@ public:
 
     SeenSectionCL& SectionM(int grammar) { return seen_.AtM(grammar); }
     SeenSectionCL& SectionM(const char* header) { return seen_.AtM(grammarOf(header)); }
+    // Headers or text that belong to no section: any kind may lack controls.
+    bool HasStrayTextM() const { return hasStrayText_; }
+    void SetStrayTextM() { hasStrayText_ = true; }
+    bool IsSoundM(const char* header) { return !hasStrayText_ && !SectionM(header).isFaulty; }
     bool HasDialogM() const { return hasDialog_; }
     DialogHeaderCL& DialogM() { return dialog_; }
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
@@ -126,4 +131,5 @@ private:
     DVrNewRotateBtnArr newRotateButtons_;
     DialogHeaderCL dialog_;
     bool hasDialog_ { false };
+    bool hasStrayText_ { false };
 };

@@ -4,15 +4,19 @@
 
 FieldCL& RecordViewCL::addM(const char* name, Verb verb, int parts)
 {
-    fields_.push_back({ name, verb, next_ < end_ ? next_ : nullptr, parts });
+    FieldCL& field = fields_.emplace_back();
+    field.name = name;
+    field.verb = verb;
+    field.seen = next_ < end_ ? next_ : nullptr;
+    field.parts = parts;
     next_ = std::min(next_ + parts, end_);
-    return fields_.back();
+    return field;
 }
 
 const FieldCL* RecordViewCL::FindM(const char* name) const
 {
     for (const FieldCL& field : fields_) {
-        if (std::strcmp(field.name, name) == 0) {
+        if (field.name == name || std::strcmp(field.name, name) == 0) {
             return &field;
         }
     }

@@ -22,10 +22,10 @@ enum class Verb
 // One field of a record: its verb, its value in the record, and where the file has it.
 struct FieldCL
 {
-    const char* name;
-    Verb verb;
-    const SeenValueCL* seen; // Its first part.
-    int parts;
+    const char* name { nullptr };
+    Verb verb { Verb::Int };
+    const SeenValueCL* seen { nullptr }; // Its first part.
+    int parts { 1 };
     const int* ints { nullptr };
     const CharArr* text { nullptr };
     const simpleValD* value { nullptr };
