@@ -23,7 +23,7 @@ public:
     }
     void BeginM()
     {
-        places_.clear();
+        ForgetM();
         isFilled_ = true;
         changes_ = 0;
     }

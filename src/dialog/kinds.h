@@ -127,37 +127,24 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
 
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);
 
-// The row of the table that is built at a place; -1 for a place that no row has.
-constexpr int slRowBuiltAt(int place)
+// The last row of the table that answers a test with yes; -1 when none does.
+template <class TestTP> constexpr int slLastRow(TestTP test)
 {
     int found = -1;
     int row = 0;
-    const auto see = [&](int rowPlace) {
-        found = rowPlace == place ? row : found;
-        ++row;
-    };
-    std::apply([&see](auto... kind) { (see(kind.BuildPlace), ...); }, KindTable());
+    std::apply([&](auto... kind) { ((found = test(kind) ? row : found, ++row), ...); }, KindTable());
     return found;
 }
-
-// The row with a code; -1 for a code that no row has.
-constexpr int slRowOfCode(int code)
+constexpr int slRowBuiltAt(int place)
 {
-    int found = -1;
-    int row = 0;
-    const auto see = [&](int rowCode) {
-        found = rowCode == code ? row : found;
-        ++row;
-    };
-    std::apply([&see](auto... kind) { (see(kind.Code), ...); }, KindTable());
-    return found;
+    return slLastRow([place](auto kind) { return kind.BuildPlace == place; });
 }
 
 // Each place and each code from the first on is some row's, so that none is there twice.
 constexpr bool slIsKindTableWhole()
 {
     for (int i = 0; i < KindCount; ++i) {
-        if (slRowBuiltAt(i) < 0 || slRowOfCode(i + 1) < 0) {
+        if (slRowBuiltAt(i) < 0 || slLastRow([i](auto kind) { return kind.Code == i + 1; }) < 0) {
             return false;
         }
     }
