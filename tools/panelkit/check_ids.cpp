@@ -11,7 +11,7 @@ namespace {
 class IdsCheckerCL
 {
 public:
-    IdsCheckerCL(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+    IdsCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
         : file_(file)
         , controls_(controls)
         , findings_(findings)
@@ -34,7 +34,7 @@ public:
     }
 
 private:
-    std::string lineM(const ControlCL& control) const
+    std::string lineM(const CheckedControlCL& control) const
     {
         return std::to_string(file_.LineM(control.idAt) + 1);
     }
@@ -67,12 +67,12 @@ private:
             [this](std::size_t a, std::size_t b) { return controls_[a].idAt < controls_[b].idAt; });
         std::unordered_map<int, std::size_t> firstOf;
         for (const std::size_t i : order) {
-            const ControlCL& control = controls_[i];
+            const CheckedControlCL& control = controls_[i];
             const auto [first, isNew] = firstOf.emplace(control.id, i);
             if (!isNew) {
                 const bool isFirstOdd = isOddM(first->second) && !isOddM(i);
-                const ControlCL& odd = isFirstOdd ? controls_[first->second] : control;
-                const ControlCL& other = isFirstOdd ? control : controls_[first->second];
+                const CheckedControlCL& odd = isFirstOdd ? controls_[first->second] : control;
+                const CheckedControlCL& other = isFirstOdd ? control : controls_[first->second];
                 findings_.AddM(Says::DuplicateId, odd.idAt, { std::to_string(odd.id), lineM(other) });
                 if (isFirstOdd) {
                     first->second = i;
@@ -117,7 +117,7 @@ private:
         }
         const std::string name = slGbkToUtf8(owner);
         for (const auto& [id, seen] : unknown) {
-            const ControlCL* const nameless
+            const CheckedControlCL* const nameless
                 = seen.count > 1 && !isByPlace ? withoutEntriesM(ownerGrammar, section) : nullptr;
             if (nameless != nullptr) {
                 findings_.AddM(Says::NothingForId, nameless->idAt,
@@ -132,7 +132,7 @@ private:
         }
     }
     // The one control of a section whose id looks wrong, as no entry or another control has it.
-    const ControlCL* withoutEntriesM(int ownerGrammar, const SeenSectionCL& entries) const
+    const CheckedControlCL* withoutEntriesM(int ownerGrammar, const SeenSectionCL& entries) const
     {
         std::unordered_set<int> named;
         for (int i = 0; i < entries.RecordsM(); ++i) {
@@ -158,7 +158,7 @@ private:
     void checkRelationsM()
     {
         std::unordered_set<int> ids;
-        for (const ControlCL& control : controls_) {
+        for (const CheckedControlCL& control : controls_) {
             ids.insert(control.id);
         }
         const SeenSectionCL& section = file_.SectionM(RelationHeader);
@@ -172,13 +172,13 @@ private:
     }
 
     FileReadingCL& file_;
-    const ControlsTP& controls_;
+    const CheckedControlsTP& controls_;
     FindingsCL& findings_;
 };
 
 } // namespace
 
-void checkIds(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
 {
     IdsCheckerCL(file, controls, findings).CheckM();
 }

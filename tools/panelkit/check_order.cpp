@@ -9,26 +9,26 @@ namespace {
 // Pixels between a control and a label that still belongs to it.
 constexpr long Near = 40;
 
-bool isPictureControl(const ControlCL& control)
+bool isPictureControl(const CheckedControlCL& control)
 {
     return control.IsM({ BmpButtonCode, MultiStateButtonCode, RotateBtnCode });
 }
 
-bool needsLabel(const ControlCL& control)
+bool needsLabel(const CheckedControlCL& control)
 {
     return !control.isReadOnly
         && control.IsM({ SingleEditCode, SpinEditCode, MultiEditCode, TextListBoxCode, BmpListBoxCode,
             ComboBoxCode, ListCtrlCode, TreeCode });
 }
 
-bool isNear(const ControlCL& label, const ControlCL& control)
+bool isNear(const CheckedControlCL& label, const CheckedControlCL& control)
 {
     return label.x - Near < control.RightM() && control.x - Near < label.RightM()
         && label.y - Near < control.BottomM() && control.y - Near < label.BottomM();
 }
 
 // A label to the right of what it stands near tells its unit.
-bool isName(const ControlCL& label, const ControlCL& control, bool isAnySide)
+bool isName(const CheckedControlCL& label, const CheckedControlCL& control, bool isAnySide)
 {
     return label.kind == LabelCode && label.hasText && isNear(label, control)
         && (isAnySide || (label.x < control.RightM() && label.y < control.BottomM()));
@@ -37,18 +37,20 @@ bool isName(const ControlCL& label, const ControlCL& control, bool isAnySide)
 class OrderCheckerCL
 {
 public:
-    OrderCheckerCL(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+    OrderCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
         : file_(file)
         , controls_(controls)
         , findings_(findings)
     {
-        for (const ControlCL& control : controls_) {
+        for (const CheckedControlCL& control : controls_) {
             if (control.isStacked) {
                 order_.push_back(&control);
             }
         }
-        std::stable_sort(order_.begin(), order_.end(),
-            [](const ControlCL* a, const ControlCL* b) { return a->windowIndex < b->windowIndex; });
+        std::stable_sort(
+            order_.begin(), order_.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
+                return a->windowIndex < b->windowIndex;
+            });
     }
     void CheckM()
     {
@@ -57,8 +59,8 @@ public:
             findUnnamedM();
         }
         findSplitGroupsM();
-        const ControlCL* first = nullptr;
-        for (const ControlCL& control : controls_) {
+        const CheckedControlCL* first = nullptr;
+        for (const CheckedControlCL& control : controls_) {
             if (control.isDefault && first != nullptr) {
                 findings_.AddM(Says::TwoDefaults, control.idAt, { lineM(*first) });
             }
@@ -67,7 +69,7 @@ public:
     }
 
 private:
-    std::string lineM(const ControlCL& control) const
+    std::string lineM(const CheckedControlCL& control) const
     {
         return std::to_string(file_.LineM(control.idAt) + 1);
     }
@@ -75,7 +77,7 @@ private:
     void findUnstackedM()
     {
         const int last = order_.empty() ? INT_MIN : order_.back()->windowIndex;
-        for (const ControlCL& control : controls_) {
+        for (const CheckedControlCL& control : controls_) {
             if (!control.isStacked && control.kind != 0 && control.windowIndex < last) {
                 findings_.AddM(Says::WrongTabOrder, control.indexAt, { std::to_string(control.windowIndex) });
             }
@@ -84,27 +86,27 @@ private:
 
     void findUnnamedM()
     {
-        const ControlCL* before = nullptr;
-        for (const ControlCL* const control : order_) {
+        const CheckedControlCL* before = nullptr;
+        for (const CheckedControlCL* const control : order_) {
             sayUnnamedM(*control, before != nullptr && isName(*before, *control, isPictureControl(*control)));
             before = control;
         }
         // The others have no place among the labels.
-        std::vector<const ControlCL*> labels;
+        std::vector<const CheckedControlCL*> labels;
         std::copy_if(order_.begin(), order_.end(), std::back_inserter(labels),
-            [](const ControlCL* control) { return control->kind == LabelCode && control->hasText; });
-        std::sort(
-            labels.begin(), labels.end(), [](const ControlCL* a, const ControlCL* b) { return a->y < b->y; });
+            [](const CheckedControlCL* control) { return control->kind == LabelCode && control->hasText; });
+        std::sort(labels.begin(), labels.end(),
+            [](const CheckedControlCL* a, const CheckedControlCL* b) { return a->y < b->y; });
         int tallest = 0;
-        for (const ControlCL* const label : labels) {
+        for (const CheckedControlCL* const label : labels) {
             tallest = std::max(tallest, label->h);
         }
-        for (const ControlCL& control : controls_) {
+        for (const CheckedControlCL& control : controls_) {
             if (control.isStacked || (!needsLabel(control) && !isPictureControl(control))) {
                 continue;
             }
             auto label = std::lower_bound(labels.begin(), labels.end(), control.y - Near - tallest,
-                [](const ControlCL* one, long y) { return one->y < y; });
+                [](const CheckedControlCL* one, long y) { return one->y < y; });
             bool isNamed = false;
             for (; label != labels.end() && (*label)->y < control.BottomM() + Near && !isNamed; ++label) {
                 isNamed = isName(**label, control, isPictureControl(control));
@@ -112,7 +114,7 @@ private:
             sayUnnamedM(control, isNamed);
         }
     }
-    void sayUnnamedM(const ControlCL& control, bool isNamed)
+    void sayUnnamedM(const CheckedControlCL& control, bool isNamed)
     {
         if (!isNamed && needsLabel(control)) {
             findings_.AddM(Says::NoLabel, control.idAt);
@@ -124,12 +126,12 @@ private:
     // Neighbouring records with equal numbers are one group; the stack must keep them together.
     void findSplitGroupsM()
     {
-        std::unordered_map<const ControlCL*, std::size_t> placeOf;
+        std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
         for (std::size_t i = 0; i < order_.size(); ++i) {
             placeOf[order_[i]] = i;
         }
-        std::vector<const ControlCL*> radios;
-        for (const ControlCL& control : controls_) {
+        std::vector<const CheckedControlCL*> radios;
+        for (const CheckedControlCL& control : controls_) {
             if (control.kind == RadioBoxCode) {
                 radios.push_back(&control);
             }
@@ -152,14 +154,14 @@ private:
     }
 
     FileReadingCL& file_;
-    const ControlsTP& controls_;
+    const CheckedControlsTP& controls_;
     FindingsCL& findings_;
-    std::vector<const ControlCL*> order_;
+    std::vector<const CheckedControlCL*> order_;
 };
 
 } // namespace
 
-void checkOrder(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
 {
     OrderCheckerCL(file, controls, findings).CheckM();
 }

@@ -23,7 +23,7 @@ FrameCL frameOf(const DialogHeaderCL& dialog, int sizing, int fixed, int thin, i
     return { 2 * edge, 2 * edge + (dialog.titleFlag == 1 ? caption : 0) };
 }
 
-void checkOutside(FileReadingCL& file, const ControlCL& control, FindingsCL& findings)
+void checkOutside(FileReadingCL& file, const CheckedControlCL& control, FindingsCL& findings)
 {
     const DialogHeaderCL& dialog = file.DialogM();
     const FrameCL small = frameOf(dialog, 4, 3, 1, 19); // The classic look.
@@ -49,9 +49,9 @@ void checkOutside(FileReadingCL& file, const ControlCL& control, FindingsCL& fin
 class CoversCL
 {
 public:
-    const ControlCL* FindM(const ControlCL& control) const
+    const CheckedControlCL* FindM(const CheckedControlCL& control) const
     {
-        const auto covers = [&control](const ControlCL* other) {
+        const auto covers = [&control](const CheckedControlCL* other) {
             return other->x <= control.x && other->y <= control.y && other->RightM() >= control.RightM()
                 && other->BottomM() >= control.BottomM();
         };
@@ -65,7 +65,7 @@ public:
         const auto found = std::find_if(large_.begin(), large_.end(), covers);
         return found != large_.end() ? *found : nullptr;
     }
-    void AddM(const ControlCL& control)
+    void AddM(const CheckedControlCL& control)
     {
         constexpr long MostSquares = 64;
         constexpr std::size_t MostLarge = 256;
@@ -81,7 +81,7 @@ public:
         }
         for (long x = left; x <= right; ++x) {
             for (long y = top; y <= bottom; ++y) {
-                std::vector<const ControlCL*>& square = squares_[squareM(x, y)];
+                std::vector<const CheckedControlCL*>& square = squares_[squareM(x, y)];
                 if (square.size() < MostLarge) {
                     square.push_back(&control);
                 }
@@ -97,17 +97,17 @@ private:
             | static_cast<std::uint32_t>(y);
     }
 
-    std::unordered_map<std::uint64_t, std::vector<const ControlCL*>> squares_;
-    std::vector<const ControlCL*> large_;
+    std::unordered_map<std::uint64_t, std::vector<const CheckedControlCL*>> squares_;
+    std::vector<const CheckedControlCL*> large_;
 };
 
 } // namespace
 
-void checkPlaces(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings)
+void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
 {
     const bool isPlaced = file.HasDialogM() && file.SectionM(DialogGrammar).soundRecords > 0;
-    std::vector<const ControlCL*> order;
-    for (const ControlCL& control : controls) {
+    std::vector<const CheckedControlCL*> order;
+    for (const CheckedControlCL& control : controls) {
         if (control.w <= 0 || control.h <= 0) {
             findings.AddM(Says::NeverShown, control.positionAt,
                 { std::to_string(control.w), std::to_string(control.h) });
@@ -121,12 +121,12 @@ void checkPlaces(FileReadingCL& file, const ControlsTP& controls, FindingsCL& fi
         }
     }
     // From the top of the stack down; those without a place in it lie below the others.
-    std::stable_sort(order.begin(), order.end(), [](const ControlCL* a, const ControlCL* b) {
+    std::stable_sort(order.begin(), order.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
         return a->isStacked != b->isStacked ? a->isStacked : a->isStacked && a->windowIndex < b->windowIndex;
     });
     CoversCL covers;
-    for (const ControlCL* const control : order) {
-        const ControlCL* const cover = covers.FindM(*control);
+    for (const CheckedControlCL* const control : order) {
+        const CheckedControlCL* const cover = covers.FindM(*control);
         if (cover != nullptr) {
             findings.AddM(
                 Says::HiddenBehind, control->positionAt, { std::to_string(file.LineM(cover->idAt) + 1) });

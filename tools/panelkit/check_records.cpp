@@ -13,9 +13,10 @@ std::size_t offsetOf(const RecordViewCL& view, const char* name)
     return field != nullptr && field->seen != nullptr ? field->seen->begin : 0;
 }
 
-ControlCL controlOf(const RecordViewCL& view, int kind, int grammar, int record, bool isStacked, int place)
+CheckedControlCL controlOf(
+    const RecordViewCL& view, int kind, int grammar, int record, bool isStacked, int place)
 {
-    ControlCL control { kind, grammar, record, isStacked, place, view.IntM("window_index"),
+    CheckedControlCL control { kind, grammar, record, isStacked, place, view.IntM("window_index"),
         view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
         view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
         offsetOf(view, "position") };
@@ -154,7 +155,7 @@ private:
     FindingsCL& findings_;
     PicturesCL pictures_;
     RecordViewCL view_;
-    ControlsTP controls_;
+    CheckedControlsTP controls_;
 };
 
 } // namespace

@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 // One control of the file, as the checks across records need it.
-struct ControlCL
+struct CheckedControlCL
 {
     int kind;       // Its KindCode; 0 for a new rotate button.
     int grammar;    // Its section,
@@ -64,12 +64,12 @@ private:
     std::unordered_map<std::string, State> states_;
 };
 
-using ControlsTP = std::vector<ControlCL>;
+using CheckedControlsTP = std::vector<CheckedControlCL>;
 
 void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pictures, FindingsCL& findings);
 void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
-void checkIds(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings);
-void checkPlaces(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings);
-void checkOrder(FileReadingCL& file, const ControlsTP& controls, FindingsCL& findings);
+void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
