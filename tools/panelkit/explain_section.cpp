@@ -27,16 +27,11 @@ public:
     void ExplainM()
     {
         section_.soundRecords = 0;
-        if (explainCountM()) {
-            return;
+        const bool isSaid = explainCountM() || isBadWordAllM() || isLineDoubledM() || explainHeadM()
+            || isCountWrongM() || isRecordCommentM() || isShortM() || isTextLineMissingM();
+        if (!isSaid) {
+            explainFirstOddityM();
         }
-        if (isBadWordAllM() || isLineDoubledM()) {
-            return;
-        }
-        if (explainHeadM() || isCountWrongM() || isRecordCommentM() || isShortM() || isTextLineMissingM()) {
-            return;
-        }
-        explainFirstOddityM();
     }
 
 private:
