@@ -1,6 +1,8 @@
 #include "baselib/gbk.h"
+#include "support/random_description.h"
 #include "tools/run_command.h"
 #include <filesystem>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
@@ -205,6 +207,26 @@ TEST(Check, ReadsStandardInput)
     EXPECT_EQ(placesOf(result.output, "<stdin>"), wholeFile(Samples + "/bad-number.findings"));
 }
 #endif
+
+TEST(Check, FilesByChanceAreCheckedToTheirEnd)
+{
+    RandomDescriptionCL random(5);
+    std::vector<std::unique_ptr<TempFile>> files;
+    std::string arguments = "check --lang en";
+    for (int i = 0; i < 100; ++i) {
+        const std::string bytes
+            = i % 2 == 0 ? random.FileM() : random.MutatedM(wholeFile(PANELKIT_SAMPLES "/every_kind.dlg"));
+        // Bytes that are no GBK would end the check at once.
+        int lost = 0;
+        files.push_back(
+            std::make_unique<TempFile>(slUtf8ToGbk(slGbkToUtf8(bytes.data(), bytes.size()), &lost)));
+        arguments += std::string(" \"") + files.back()->path() + "\"";
+    }
+    const CommandResultCL result = runCommand(arguments);
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("\n100 files: "), std::string::npos);
+}
 
 TEST(Check, SpeaksChinese)
 {

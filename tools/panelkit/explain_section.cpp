@@ -261,6 +261,9 @@ private:
             case Says::NumbersForText:
                 addM(Says::NumbersForText, value.begin, { value.field, cost }, oddity.record);
                 return;
+            case Says::RecordInLine: // The record before it has taken too much or too little.
+                addM(oddity.says, value.begin, { cost }, std::max(0, oddity.record - 1));
+                return;
             default:
                 addM(oddity.says, value.begin, { cost }, oddity.record);
                 return;
