@@ -234,6 +234,13 @@ TEST(Check, SpeaksChinese)
     const std::string output = check(path, "--lang zh").output;
     EXPECT_NE(output.find(": 警告: alignment 没有取值 7"), std::string::npos) << output;
     EXPECT_NE(output.find("1 个文件: 0 个错误, 1 个警告\n"), std::string::npos) << output;
+#ifndef _WIN32 // Where the command starts with this process's environment.
+    ::setenv("LC_ALL", "zh_CN.UTF-8", 1);
+    EXPECT_EQ(check(path, "").output, output);
+    ::setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(check(path, "").output, check(path).output);
+    ::unsetenv("LC_ALL");
+#endif
 }
 
 TEST(Check, JsonHasTheFindingsOfTheText)
