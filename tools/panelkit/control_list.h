@@ -21,6 +21,8 @@ struct CheckedControlCL
     bool isReadOnly { false };
     bool isDefault { false };
     int group { 0 };
+    int arrowsId { 0 }; // Of a spin edit; 0 for none.
+    std::size_t arrowsAt { 0 };
     bool IsM(std::initializer_list<int> kinds) const
     {
         for (const int other : kinds) {
