@@ -250,7 +250,8 @@ TEST(CheckMutations, AreFoundAtTheirPlaceWithFewWords)
         const std::string& example = files[static_cast<std::size_t>(i / MutationCount) % files.size()];
         const std::string original = wholeFile(example);
         const MutantCL mutant = mutator.MakeM(original, kind);
-        const std::filesystem::path path = std::filesystem::path(example).parent_path() / "check_mutant.tmp";
+        const std::filesystem::path path = std::filesystem::path(example).parent_path()
+            / ("check_mutant_" + std::to_string(std::hash<std::string>()(PANELKIT_COMMAND)) + ".tmp");
         const std::string name = path.string();
         FILE* const out = std::fopen(name.c_str(), "wb");
         ASSERT_NE(out, nullptr);

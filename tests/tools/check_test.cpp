@@ -51,7 +51,7 @@ class NeighbourCL
 {
 public:
     explicit NeighbourCL(const std::string& bytes)
-        : path_(Samples + "/neighbour.tmp")
+        : path_(Samples + "/neighbour_" + std::to_string(std::hash<std::string>()(PANELKIT_COMMAND)) + ".tmp")
     {
         FILE* const file = std::fopen(path_.c_str(), "wb");
         std::fwrite(bytes.data(), 1, bytes.size(), file);
