@@ -1,4 +1,6 @@
-// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples.
+// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples. Natively only: it
+// starts the command 600 times, and the answers are the same.
+#ifndef _WIN32
 #include "baselib/gbk.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "dialog/kinds.h"
@@ -38,7 +40,6 @@ public:
         slEachKind([&](auto row) {
             typename decltype(row)::Records records;
             int count = 0;
-            isEntry_ = false;
             slReadSection(io, records, &count);
         });
         DVrNewRotateBtnArr buttons;
@@ -48,18 +49,17 @@ public:
     {
         if (std::string(value.field) == "function_id") {
             // A record's id stands behind its window index; an entry begins with its.
-            (isFirst_ != value.record || lastSection_ != value.section ? entries : controls)
+            (lastRecord_ != value.record || lastSection_ != value.section ? entries : controls)
                 .push_back(value.span);
         }
-        isFirst_ = value.record;
+        lastRecord_ = value.record;
         lastSection_ = value.section;
     }
     std::vector<SpanCL> controls;
     std::vector<SpanCL> entries;
 
 private:
-    bool isEntry_ { false };
-    int isFirst_ { -1 };
+    int lastRecord_ { -1 };
     const char* lastSection_ { nullptr };
 };
 
@@ -179,11 +179,7 @@ private:
         for (const SpanCL header : headersM()) {
             const std::size_t begin = header.end + 1;
             const std::size_t end = bytes_.find_first_of(" \n", begin);
-            if (counts.size() + 2 > 2 && begin > 20) {
-                counts.push_back({ begin, end });
-            } else {
-                counts.push_back({ begin, end });
-            }
+            counts.push_back({ begin, end });
         }
         counts.erase(counts.begin(), counts.begin() + 2); // The version and the dialog have none.
         return counts;
@@ -254,7 +250,8 @@ TEST(CheckMutations, AreFoundAtTheirPlaceWithFewWords)
         const std::string& example = files[static_cast<std::size_t>(i / MutationCount) % files.size()];
         const std::string original = wholeFile(example);
         const MutantCL mutant = mutator.MakeM(original, kind);
-        const std::filesystem::path path = std::filesystem::path(example).parent_path() / "check_mutant.tmp";
+        const std::filesystem::path path = std::filesystem::path(example).parent_path()
+            / ("check_mutant_" + std::to_string(std::hash<std::string>()(PANELKIT_COMMAND)) + ".tmp");
         const std::string name = path.string();
         FILE* const out = std::fopen(name.c_str(), "wb");
         ASSERT_NE(out, nullptr);
@@ -298,3 +295,5 @@ TEST(CheckMutations, AreFoundAtTheirPlaceWithFewWords)
     EXPECT_GE(all.placed * 100, all.changed * 90);
     EXPECT_GE(all.few * 100, all.changed * 90);
 }
+
+#endif

@@ -1,6 +1,8 @@
 #include "baselib/gbk.h"
+#include "support/random_description.h"
 #include "tools/run_command.h"
 #include <filesystem>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
@@ -49,7 +51,7 @@ class NeighbourCL
 {
 public:
     explicit NeighbourCL(const std::string& bytes)
-        : path_(Samples + "/neighbour.tmp")
+        : path_(Samples + "/neighbour_" + std::to_string(std::hash<std::string>()(PANELKIT_COMMAND)) + ".tmp")
     {
         FILE* const file = std::fopen(path_.c_str(), "wb");
         std::fwrite(bytes.data(), 1, bytes.size(), file);
@@ -190,7 +192,9 @@ TEST(Check, TakesManyFilesAndTellsThoseThatCannotBeRead)
     EXPECT_NE(both.output.find("2 files: 1 error, 1 warning\n"), std::string::npos) << both.output;
     const CommandResultCL missing = runCommand("check --lang en \"" + first + "\" no_such_file.dlg");
     EXPECT_EQ(missing.code, 2);
-    EXPECT_EQ(missing.errors, "panelkit: cannot open 'no_such_file.dlg': no such file\n");
+    EXPECT_EQ(missing.errors.rfind("panelkit: cannot open 'no_such_file.dlg': no such file", 0), 0U)
+        << missing.errors;
+    EXPECT_EQ(countOf(missing.errors, "\n"), 1);
     EXPECT_EQ(placesOf(missing.output, first), wholeFile(Samples + "/bad-number.findings"));
     EXPECT_EQ(check(Samples).code, 2);
     EXPECT_EQ(runCommand("check").code, 2);
@@ -206,12 +210,39 @@ TEST(Check, ReadsStandardInput)
 }
 #endif
 
+TEST(Check, FilesByChanceAreCheckedToTheirEnd)
+{
+    RandomDescriptionCL random(5);
+    std::vector<std::unique_ptr<TempFile>> files;
+    std::string arguments = "check --lang en";
+    for (int i = 0; i < 100; ++i) {
+        const std::string bytes
+            = i % 2 == 0 ? random.FileM() : random.MutatedM(wholeFile(PANELKIT_SAMPLES "/every_kind.dlg"));
+        // Bytes that are no GBK would end the check at once.
+        int lost = 0;
+        files.push_back(
+            std::make_unique<TempFile>(slUtf8ToGbk(slGbkToUtf8(bytes.data(), bytes.size()), &lost)));
+        arguments += std::string(" \"") + files.back()->path() + "\"";
+    }
+    const CommandResultCL result = runCommand(arguments);
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_NE(result.output.find("\n100 files: "), std::string::npos);
+}
+
 TEST(Check, SpeaksChinese)
 {
     const std::string path = Samples + "/bad-value.gbk";
     const std::string output = check(path, "--lang zh").output;
     EXPECT_NE(output.find(": 警告: alignment 没有取值 7"), std::string::npos) << output;
     EXPECT_NE(output.find("1 个文件: 0 个错误, 1 个警告\n"), std::string::npos) << output;
+#ifndef _WIN32 // Where the command starts with this process's environment.
+    ::setenv("LC_ALL", "zh_CN.UTF-8", 1);
+    EXPECT_EQ(check(path, "").output, output);
+    ::setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(check(path, "").output, check(path).output);
+    ::unsetenv("LC_ALL");
+#endif
 }
 
 TEST(Check, JsonHasTheFindingsOfTheText)

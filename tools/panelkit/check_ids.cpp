@@ -83,6 +83,13 @@ private:
                     { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
             }
         }
+        for (const CheckedControlCL& spin : controls_) { // The arrows of spin edits are controls too.
+            const auto other = firstOf.find(spin.arrowsId);
+            if (spin.arrowsId != 0 && other != firstOf.end()) {
+                findings_.AddM(Says::DuplicateId, spin.arrowsAt,
+                    { std::to_string(spin.arrowsId), lineM(controls_[other->second]) });
+            }
+        }
     }
 
     struct UnknownCL

@@ -7,7 +7,7 @@
 namespace {
 
 // Pixels between a control and a label that still belongs to it.
-constexpr long Near = 40;
+constexpr std::int64_t Near = 40;
 
 bool isPictureControl(const CheckedControlCL& control)
 {
@@ -106,7 +106,7 @@ private:
                 continue;
             }
             auto label = std::lower_bound(labels.begin(), labels.end(), control.y - Near - tallest,
-                [](const CheckedControlCL* one, long y) { return one->y < y; });
+                [](const CheckedControlCL* one, std::int64_t y) { return one->y < y; });
             bool isNamed = false;
             for (; label != labels.end() && (*label)->y < control.BottomM() + Near && !isNamed; ++label) {
                 isNamed = isName(**label, control, isPictureControl(control));

@@ -29,10 +29,10 @@ void checkOutside(FileReadingCL& file, const CheckedControlCL& control, Findings
     const FrameCL small = frameOf(dialog, 4, 3, 1, 19); // The classic look.
     const FrameCL large = frameOf(dialog, 8, 8, 1, 23); // Windows 10 and 11.
     const auto fits = [&](const FrameCL& frame) {
-        return control.RightM() <= dialog.size[0] - frame.width
-            && control.BottomM() <= dialog.size[1] - frame.height;
+        return control.RightM() + frame.width <= dialog.size[0]
+            && control.BottomM() + frame.height <= dialog.size[1];
     };
-    const auto pixels = [](int total, int frame) { return std::to_string(total - frame); };
+    const auto pixels = [](std::int64_t total, int frame) { return std::to_string(total - frame); };
     const std::string place = std::to_string(control.x) + " " + std::to_string(control.y) + " "
         + std::to_string(control.w) + " " + std::to_string(control.h);
     if (control.x < 0 || control.y < 0 || !fits(small)) {
@@ -67,20 +67,20 @@ public:
     }
     void AddM(const CheckedControlCL& control)
     {
-        constexpr long MostSquares = 64;
+        constexpr std::int64_t MostSquares = 64;
         constexpr std::size_t MostLarge = 256;
-        const long right = (control.RightM() - 1) >> Bits;
-        const long bottom = (control.BottomM() - 1) >> Bits;
-        const long left = control.x >> Bits;
-        const long top = control.y >> Bits;
+        const std::int64_t right = (control.RightM() - 1) >> Bits;
+        const std::int64_t bottom = (control.BottomM() - 1) >> Bits;
+        const std::int64_t left = control.x >> Bits;
+        const std::int64_t top = control.y >> Bits;
         if ((right - left + 1) * (bottom - top + 1) > MostSquares) {
             if (large_.size() < MostLarge) {
                 large_.push_back(&control);
             }
             return;
         }
-        for (long x = left; x <= right; ++x) {
-            for (long y = top; y <= bottom; ++y) {
+        for (std::int64_t x = left; x <= right; ++x) {
+            for (std::int64_t y = top; y <= bottom; ++y) {
                 std::vector<const CheckedControlCL*>& square = squares_[squareM(x, y)];
                 if (square.size() < MostLarge) {
                     square.push_back(&control);
@@ -91,7 +91,7 @@ public:
 
 private:
     static constexpr int Bits = 8;
-    static std::uint64_t squareM(long x, long y)
+    static std::uint64_t squareM(std::int64_t x, std::int64_t y)
     {
         return static_cast<std::uint64_t>(static_cast<std::uint32_t>(x)) << 32
             | static_cast<std::uint32_t>(y);

@@ -29,6 +29,8 @@ CheckedControlCL controlOf(
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
         control.windowIndex = view.IntM("edit_window_index");
         control.indexAt = offsetOf(view, "edit_window_index");
+        control.arrowsId = view.IntM("spin_function_id");
+        control.arrowsAt = offsetOf(view, "spin_function_id");
     }
     return control;
 }

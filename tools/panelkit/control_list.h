@@ -21,6 +21,8 @@ struct CheckedControlCL
     bool isReadOnly { false };
     bool isDefault { false };
     int group { 0 };
+    int arrowsId { 0 }; // Of a spin edit; 0 for none.
+    std::size_t arrowsAt { 0 };
     bool IsM(std::initializer_list<int> kinds) const
     {
         for (const int other : kinds) {
@@ -31,11 +33,11 @@ struct CheckedControlCL
         return false;
     }
     // Reaches from x to this, and from y to this; of a combo box only what shows while its list is closed.
-    long RightM() const { return static_cast<long>(x) + w; }
-    long BottomM() const
+    std::int64_t RightM() const { return std::int64_t { x } + w; }
+    std::int64_t BottomM() const
     {
         constexpr int ComboHeight = 24;
-        return static_cast<long>(y) + (kind == ComboBoxCode && h > ComboHeight ? ComboHeight : h);
+        return std::int64_t { y } + (kind == ComboBoxCode && h > ComboHeight ? ComboHeight : h);
     }
 };
 

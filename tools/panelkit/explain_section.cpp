@@ -27,16 +27,11 @@ public:
     void ExplainM()
     {
         section_.soundRecords = 0;
-        if (explainCountM()) {
-            return;
+        const bool isSaid = explainCountM() || isBadWordAllM() || isLineDoubledM() || explainHeadM()
+            || isCountWrongM() || isRecordCommentM() || isShortM() || isTextLineMissingM();
+        if (!isSaid) {
+            explainFirstOddityM();
         }
-        if (isBadWordAllM() || isLineDoubledM()) {
-            return;
-        }
-        if (explainHeadM() || isCountWrongM() || isRecordCommentM() || isShortM() || isTextLineMissingM()) {
-            return;
-        }
-        explainFirstOddityM();
     }
 
 private:
@@ -265,6 +260,9 @@ private:
                 return;
             case Says::NumbersForText:
                 addM(Says::NumbersForText, value.begin, { value.field, cost }, oddity.record);
+                return;
+            case Says::RecordInLine: // The record before it has taken too much or too little.
+                addM(oddity.says, value.begin, { cost }, std::max(0, oddity.record - 1));
                 return;
             default:
                 addM(oddity.says, value.begin, { cost }, oddity.record);
