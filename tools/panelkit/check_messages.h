@@ -5,8 +5,8 @@
 // messages; its first one also describes it.
 // clang-format off
 #define PANELKIT_MESSAGES(X) \
-    X(FileIsUtf8, "encoding", Error, "the file is UTF-8, not GBK; convert it: iconv -f UTF-8 -t GBK", "文件是 UTF-8 编码, 不是 GBK; 请转换: iconv -f UTF-8 -t GBK") \
-    X(FileIsUtf16, "encoding", Error, "the file is UTF-16, not GBK; convert it: iconv -f UTF-16 -t GBK", "文件是 UTF-16 编码, 不是 GBK; 请转换: iconv -f UTF-16 -t GBK") \
+    X(FileIsUtf8, "encoding", Error, "the file is UTF-8, not GBK; panelkit convert makes it GBK", "文件是 UTF-8 编码, 不是 GBK; 请用 panelkit convert 转换") \
+    X(FileIsUtf16, "encoding", Error, "the file is UTF-16, not GBK; panelkit convert makes it GBK", "文件是 UTF-16 编码, 不是 GBK; 请用 panelkit convert 转换") \
     X(NoGbkByte, "encoding", Error, "the byte {0} belongs to no GBK character; save the file as GBK (code page 936)", "字节 {0} 不属于任何 GBK 字符; 请将文件存为 GBK (代码页 936)") \
     X(EmptyFile, "empty-file", Error, "the file is empty", "文件是空的") \
     X(MissingSection, "missing-section", Error, "section {0} is missing: without it the dialog has no title, size and font", "缺少 {0} 节: 没有它对话框就没有标题、大小和字体") \
