@@ -1,3 +1,4 @@
+#include "dialog/kinds.h"
 #include "support/description.h"
 #include "tools/run_command.h"
 #include <filesystem>
@@ -33,7 +34,8 @@ TEST(Dump, EverySectionOfTheExamplesIsWhole)
     for (const std::string& file : files) {
         const CommandResultCL result = dump(file);
         EXPECT_EQ(result.code, 0) << file;
-        EXPECT_EQ(countOf(result.output, "\"status\": \"read\"") + countOf(result.output, "\"missing\""), 19)
+        EXPECT_EQ(
+            countOf(result.output, "\"status\": \"read\"") + countOf(result.output, "\"missing\""), KindCount)
             << file;
     }
 }
@@ -66,13 +68,13 @@ TEST(Dump, RealsHaveNoMoreDigitsThanTheyNeed)
     }
 }
 
-TEST(Dump, EmptyFileHasNoDialogAndNineteenMissingSections)
+TEST(Dump, EmptyFileHasNoDialogAndMissesTheSectionOfEveryKind)
 {
     const TempFile file("");
     const CommandResultCL result = dump(file.path());
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.output.rfind("{\n  \"dialog\": null,\n", 0), 0U);
-    EXPECT_EQ(countOf(result.output, "\"missing\""), 19);
+    EXPECT_EQ(countOf(result.output, "\"missing\""), KindCount);
 }
 
 TEST(Dump, BinaryFileIsReadToItsEnd)
