@@ -49,7 +49,6 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/picture_pixels.cpp
   pictures/rotation.cpp
   records/common_box_record.cpp
-  records/field_counter.cpp
   records/field_reader.cpp
   records/fields.cpp
   records/section.cpp

@@ -1,6 +1,5 @@
 // Building: the header and the pass of each kind.
 #include "dialog/basic_dialog.h"
-#include "dialog/with_control.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
 {

@@ -3,7 +3,6 @@
 #include "baselib/gbk_texts.h"
 #include "containers/int2d_arr.h"
 #include "dialog/basic_dialog.h"
-#include "dialog/with_control.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>

@@ -1,7 +1,6 @@
 // What the application does with controls by their function ids, values apart.
 #include "dialog/basic_dialog.h"
 #include "dialog/relation.h"
-#include "dialog/with_control.h"
 
 CWnd* DuBasicDialogCL::GetContrlPtrM(int id, int* kind)
 {

@@ -1,6 +1,5 @@
 // Typed values by function id, and the check of what the user typed.
 #include "dialog/basic_dialog.h"
-#include "dialog/with_control.h"
 
 // Gives see(edit) for the control with that id, if it is a single-line edit; otherwise 0.
 template <class FunctionTP> int DuBasicDialogCL::withSingleEditM(int id, FunctionTP&& see)

@@ -7,12 +7,16 @@ class PANELKIT_API FieldCounterCL : public FieldVisitorCL
 {
 public:
     int ValuesM() const { return count_; }
-    void IntM(const char* name, int& value) override;
-    void RealM(const char* name, float& value) override;
-    void IntsM(const char* name, int* values, int count) override;
-    void RealsM(const char* name, float* values, int count) override;
-    void ColourM(const char* name, ColourTP& colour, int* flag) override;
-    void TextM(const char* name, CharArr& text, const TextFormCL& form) override;
+    void IntM(const char*, int& value) override
+    {
+        value = 0;
+        addM(1);
+    }
+    void RealM(const char*, float&) override { addM(1); }
+    void IntsM(const char*, int*, int count) override { addM(count); }
+    void RealsM(const char*, float*, int count) override { addM(count); }
+    void ColourM(const char*, ColourTP&, int*) override { addM(3); }
+    void TextM(const char*, CharArr&, const TextFormCL&) override { addM(1); }
     void StopReadingM() override { isCounting_ = false; }
 
 private:

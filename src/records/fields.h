@@ -83,18 +83,22 @@ public:
     virtual void ColourM(const char* name, ColourTP& colour, int* flag = nullptr);
     virtual void TextM(const char* name, CharArr& text, const TextFormCL& form);
 
-    virtual void IdM(const char* name, int& value);    // The function id of a control.
-    virtual void IndexM(const char* name, int& value); // A place in an order.
-    virtual void CountM(const char* name, int& value);
-    virtual void FlagM(const char* name, int& value); // 1: yes.
-    virtual void ChoiceM(const char* name, int& value, const ChoicesCL& choices);
-    virtual void LengthM(const char* name, int& value, Along along); // Pixels.
-    virtual void LengthPairM(const char* name, int (&xy)[2]);        // Pixels, along x and along y.
-    virtual void MillisecondsM(const char* name, int& value);
-    virtual void DegreesM(const char* name, float& value);
-    virtual void DegreesPairM(const char* name, float (&values)[2]);
-    virtual void CaptionM(const char* name, CharArr& text, const TextFormCL& form); // For a person to read.
-    virtual void NameM(const char* name, CharArr& file, const TextFormCL& form);    // Of a file.
+    virtual void IdM(const char* name, int& value) { IntM(name, value); }    // The function id of a control.
+    virtual void IndexM(const char* name, int& value) { IntM(name, value); } // A place in an order.
+    virtual void CountM(const char* name, int& value) { IntM(name, value); }
+    virtual void FlagM(const char* name, int& value) { IntM(name, value); } // 1: yes.
+    virtual void ChoiceM(const char* name, int& value, const ChoicesCL&) { IntM(name, value); }
+    virtual void LengthM(const char* name, int& value, Along) { IntM(name, value); } // Pixels.
+    virtual void LengthPairM(const char* name, int (&xy)[2]) { IntsM(name, xy, 2); } // Pixels, x and y.
+    virtual void MillisecondsM(const char* name, int& value) { IntM(name, value); }
+    virtual void DegreesM(const char* name, float& value) { RealM(name, value); }
+    virtual void DegreesPairM(const char* name, float (&values)[2]) { RealsM(name, values, 2); }
+    // A text for a person to read, and the name of a file.
+    virtual void CaptionM(const char* name, CharArr& text, const TextFormCL& form)
+    {
+        TextM(name, text, form);
+    }
+    virtual void NameM(const char* name, CharArr& file, const TextFormCL& form) { TextM(name, file, form); }
     // An int, a real or a text, as another field says (ValueType), and two limits for such values. Of an
     // unknown type they are ints.
     virtual void NumberM(const char* name, int type, simpleValD& value);
