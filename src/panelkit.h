@@ -1,7 +1,8 @@
 #pragma once
 
 // The whole library: the host brings the headers of every kind it builds, the others are for programs that
-// make their own windows, read their own files or shape their own regions.
+// make their own windows, read their own files or shape their own regions. A null pointer
+// where something is wanted is refused: the result is 0 and nothing changes, unless it is said otherwise.
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
 #include "controls/buttons/new_rotate_btn.h"
