@@ -36,7 +36,7 @@ TEST(RadioBox, ClickLeavesOnlyTheClickedOneOfItsGroupChecked)
     ShownDialogCL dialog(HeaderSections
         + radios({ radio(1, 11, 1, 1), radio(2, 12, 1, 1), radio(3, 13, 1, 0), radio(4, 14, 2, 1),
             radio(5, 15, 2, 0) }));
-    EXPECT_EQ(checkedOf(dialog, 11, 15), "xx-x-"); // As described, both.
+    EXPECT_EQ(checkedOf(dialog, 11, 15), "xx-x-"); // Two checks in one group stay until the first click.
     dialog.StoryM();
     dialog.ClickItemM(13);
     EXPECT_EQ(checkedOf(dialog, 11, 15), "--xx-");
