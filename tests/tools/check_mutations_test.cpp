@@ -1,6 +1,6 @@
-// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples. Natively only: it
+// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples. Natively and unsanitized only: it
 // starts the command 600 times, and the answers are the same.
-#if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__) // Hundreds of processes.
+#if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
 #include "baselib/gbk.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "dialog/kinds.h"
