@@ -1,5 +1,5 @@
-// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples. Natively and unsanitized only: it
-// starts the command 600 times, and the answers are the same.
+// How well `panelkit check` finds single mistakes: 200 of them by chance in the examples. Natively and
+// without sanitizers only: it starts the command 600 times, and the answers are the same.
 #if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
 #include "baselib/gbk.h"
 #include "controls/buttons/new_rotate_btn_record.h"
