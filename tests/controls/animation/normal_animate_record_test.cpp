@@ -1,5 +1,5 @@
 #include "controls/animation/normal_animate_record.h"
-#include "read_records.h"
+#include "support/read_records.h"
 
 TEST(NormalAnimateRecord, FieldsStandInFileOrderWithDefaultsForTheRest)
 {
@@ -11,12 +11,12 @@ TEST(NormalAnimateRecord, FieldsStandInFileOrderWithDefaultsForTheRest)
 
 TEST(NormalAnimateRecord, FramesGoToTheFirstRecordWithTheirIdInTheOrderOfTheFile)
 {
-    EXPECT_EQ(
-        read<DVrNormalAnimateArr>("[普通动画控件]\n3\n0\n"
-                                  "1 11 0 0 9 9 1 0 0 0\n1 12 0 0 9 9 1 0 0 0\n1 12 0 0 9 9 2 0 0 0\n"
-                                  "[普通动画控件位图]\n7\n0\n"
-                                  "12 b.bmp\n11 a.bmp\n99 x.bmp\n11 NULL\n11 null\n12 火焰.bmp\n11\tc\n",
-            SectionStatus::Read),
+    EXPECT_EQ(readFields<DVrNormalAnimateArr>(
+                  "[普通动画控件]\n3\n0\n"
+                  "1 11 0 0 9 9 1 0 0 0\n1 12 0 0 9 9 1 0 0 0\n1 12 0 0 9 9 2 0 0 0\n"
+                  "[普通动画控件位图]\n7\n0\n"
+                  "12 b.bmp\n11 a.bmp\n99 x.bmp\n11 NULL\n11 null\n12 火焰.bmp\n11\tc\n",
+                  SectionStatus::Read),
         "control_mode=1 time_lapse=0 sunken=0 notify=0 bitmaps=[a.bmp][c]\n"
         "control_mode=1 time_lapse=0 sunken=0 notify=0 bitmaps=[b.bmp][火焰.bmp]\n"
         "control_mode=2 time_lapse=0 sunken=0 notify=0 bitmaps=\n");
@@ -24,11 +24,11 @@ TEST(NormalAnimateRecord, FramesGoToTheFirstRecordWithTheirIdInTheOrderOfTheFile
 
 TEST(NormalAnimateRecord, WithoutFrameSectionTheKindIsIncomplete)
 {
-    EXPECT_EQ(
-        read<DVrNormalAnimateArr>("[普通动画控件]\n1\n0\n1 11 0 0 9 9 2 5 1 1\n", SectionStatus::Incomplete),
+    EXPECT_EQ(readFields<DVrNormalAnimateArr>(
+                  "[普通动画控件]\n1\n0\n1 11 0 0 9 9 2 5 1 1\n", SectionStatus::Incomplete),
         "control_mode=2 time_lapse=5 sunken=1 notify=1 bitmaps=\n");
-    EXPECT_EQ(read<DVrNormalAnimateArr>("[普通动画控件]\n0\n0\n", SectionStatus::Empty), "");
-    EXPECT_EQ(read<DVrNormalAnimateArr>("nothing", SectionStatus::Missing), "");
+    EXPECT_EQ(readFields<DVrNormalAnimateArr>("[普通动画控件]\n0\n0\n", SectionStatus::Empty), "");
+    EXPECT_EQ(readFields<DVrNormalAnimateArr>("nothing", SectionStatus::Missing), "");
 }
 
 TEST(NormalAnimateRecord, NamesAreAddedToAliveRecordsOnly)

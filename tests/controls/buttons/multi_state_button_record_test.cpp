@@ -1,24 +1,12 @@
 #include "controls/buttons/multi_state_button_record.h"
-#include "records/section.h"
-#include "support/description.h"
-#include "support/printed.h"
+#include "support/read_records.h"
 #include <gtest/gtest.h>
 
 namespace {
 
 std::string multiState(const std::string& utf8, SectionStatus wanted)
 {
-    const DescriptionFileCL file(utf8);
-    VrIOCL io;
-    io.OpenM(file.path(), "r");
-    DVrMultiStateButtonArr records;
-    int count = 0;
-    EXPECT_EQ(slReadSection(io, records, &count), wanted);
-    std::string all;
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        all += printedFields(records[i]) + "\n";
-    }
-    return all;
+    return readFields<DVrMultiStateButtonArr>(utf8, wanted);
 }
 
 } // namespace

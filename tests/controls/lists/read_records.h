@@ -1,26 +1,13 @@
 #pragma once
-#include "support/printed.h"
+#include "support/read_records.h"
 #include <gtest/gtest.h>
-#include <string>
 
 // Each record of a file (UTF-8) as its function id and fields.
 template <class RecordArrTP> std::string read(const std::string& utf8, SectionStatus* status = nullptr)
 {
-    const DescriptionFileCL file(utf8);
-    VrIOCL io;
-    io.OpenM(file.path(), "r");
-    RecordArrTP records;
-    int count = 0;
-    const SectionStatus result = slReadSection(io, records, &count);
-    if (status != nullptr) {
-        *status = result;
-    }
-    std::string all;
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        all += std::to_string(records.ElementAtM(i).GetFuncIDM()) + ": "
-            + printedFields(records.ElementAtM(i)) + "\n";
-    }
-    return all;
+    SectionStatus result {};
+    return readRecords<RecordArrTP>(utf8, status != nullptr ? status : &result,
+        [](auto& record) { return std::to_string(record.GetFuncIDM()) + ": " + printedFields(record); });
 }
 
 inline std::string repeated(const std::string& what, int times)
