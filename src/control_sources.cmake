@@ -49,8 +49,10 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/animate_ctrl.cpp
   toolkit/app.cpp
   toolkit/button.cpp
+  toolkit/color_dialog.cpp
   toolkit/combo_box.cpp
   toolkit/common_control.cpp
+  toolkit/common_dialog.cpp
   toolkit/common_library.cpp
   toolkit/control_objects.cpp
   toolkit/creation_hook.cpp
@@ -59,6 +61,8 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/dialog.cpp
   toolkit/edit.cpp
   toolkit/edit_text.cpp
+  toolkit/file_dialog.cpp
+  toolkit/font_dialog.cpp
   toolkit/gbk_string.cpp
   toolkit/gdi_objects.cpp
   toolkit/header_ctrl.cpp

@@ -5,10 +5,13 @@
 #ifdef PANELKIT_TOOLKIT_SYSTEM
 #include <afxwin.h>
 
+#include <afxdlgs.h>
+
 #include <afxcmn.h>
 #else
 #include "toolkit/app.h"
 #include "toolkit/common_controls.h"
+#include "toolkit/common_dialogs.h"
 #include "toolkit/controls.h"
 #include "toolkit/dc.h"
 #include "toolkit/dialog.h"
