@@ -59,7 +59,10 @@ UINT_PTR CALLBACK CColorDialog::hookM(HWND hWnd, UINT message, WPARAM, LPARAM lP
     if (message != isColorOk) {
         return 0;
     }
-    CColorDialog* dialog = reinterpret_cast<CColorDialog*>(given->lCustData);
+    CColorDialog* dialog = DYNAMIC_DOWNCAST(CColorDialog, FromHandlePermanent(hWnd));
+    if (dialog == nullptr) {
+        return 0;
+    }
     dialog->m_cc.rgbResult = given->rgbResult;
     const BOOL stays = dialog->OnColorOK();
     ::SetWindowLongPtrW(hWnd, DWLP_MSGRESULT, stays); // Where some versions of the system look for it.

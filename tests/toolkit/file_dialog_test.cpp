@@ -94,7 +94,7 @@ TEST_F(FileDialog, OpensAFileOfAChineseName)
         shownFolder = dialog.GetFolderPath();
         EXPECT_FALSE(parent.IsWindowEnabled());
         EXPECT_EQ(::GetWindow(dialog.FrameM(), GW_OWNER), parent.m_hWnd);
-        dialog.AnswerM(L"\u6587");
+        dialog.AnswerM(L"\u6587.txt");
     });
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.initialised, 1);
