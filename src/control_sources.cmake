@@ -36,6 +36,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
+  dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_values.cpp

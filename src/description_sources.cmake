@@ -38,6 +38,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp
+  dialog/reading_diagnostics.cpp
   dialog/relation.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp

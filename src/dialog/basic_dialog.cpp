@@ -1,5 +1,6 @@
 #include "dialog/basic_dialog.h"
 #include "baselib/gbk.h"
+#include "dialog/reading_diagnostics.h"
 
 namespace {
 
