@@ -20,6 +20,8 @@ struct ShowOptionsCL
     std::string language; // As for check.
     bool isStrict { false };
 };
+// As the user wrote the file of a number.
+const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
 // Each prints what it has even when a file can't be used or is faulty; the result is the worst of all files.
 int dumpCommand(const ShowOptionsCL& options);
 int inspectCommand(const ShowOptionsCL& options);
@@ -39,8 +41,10 @@ bool sayFindings(const std::string& file, const std::string& said, const ShowOpt
 
 struct ShotOptionsCL : ShowOptionsCL
 {
-    std::string picture;
-    std::vector<ControlStatusTP> statuses;
+    std::string picture;                   // Of the one file;
+    std::string folder;                    // or where each file's picture goes, which is named after it.
+    std::string outName;                   // What the user wrote for that, as `names`.
+    std::vector<ControlStatusTP> statuses; // Of each file.
 };
 int shotCommand(const ShotOptionsCL& options);
 

@@ -1,6 +1,7 @@
 // On Linux the subcommands that need windows are those of panelkit.exe, started under Wine.
 #include "commands.h"
 #include "description_file.h"
+#include "pictures_to_write.h"
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -69,7 +70,7 @@ std::string underWine(const std::string& file)
 }
 
 // Starts a subcommand with its options on the files, which go on being called what the user wrote, and says
-// meanwhile what check finds in them. more: further files of the subcommand.
+// meanwhile what check finds in them. more: what stands behind the files.
 int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Display display,
     const std::vector<std::string>& more = {})
 {
@@ -80,13 +81,12 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     if (std::none_of(options.files.begin(), options.files.end(), isReadable)) {
         return onEachFile(options, [](const OpenedFileCL&) { return 0; });
     }
-    std::vector<std::string> files = options.files;
-    files.insert(files.end(), more.begin(), more.end());
-    for (const std::string& file : files) {
+    for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
     }
     words.emplace_back("--");
-    std::transform(files.begin(), files.end(), std::back_inserter(words), underWine);
+    std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
+    words.insert(words.end(), more.begin(), more.end());
     return start(std::move(words), display, [&options] {
         int result = 0;
         for (const std::string& file : options.files) {
@@ -113,9 +113,17 @@ int viewCommand(const ShowOptionsCL& options)
 
 int shotCommand(const ShotOptionsCL& options)
 {
+    if (picturesToWrite(options).empty()) {
+        return CannotUse;
+    }
     std::vector<std::string> words { "shot" };
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
     }
-    return startOn(words, options, Display::OurOwn, { options.picture });
+    if (options.folder.empty()) {
+        words.push_back("--out-as=" + options.picture);
+        return startOn(words, options, Display::OurOwn, { underWine(options.picture) });
+    }
+    words.insert(words.end(), { "--out-as=" + options.folder, "-o", underWine(options.folder) });
+    return startOn(words, options, Display::OurOwn);
 }
