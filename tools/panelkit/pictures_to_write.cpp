@@ -14,9 +14,9 @@ std::string inLowerCase(std::string text)
     return text;
 }
 
-bool endsWith(const std::string& name, const std::string& ending)
+std::string endingOf(const std::string& picture)
 {
-    return name.size() > ending.size() && inLowerCase(name.substr(name.size() - ending.size())) == ending;
+    return inLowerCase(fs::u8path(picture).extension().u8string());
 }
 
 bool isFolder(const fs::path& path)
@@ -29,7 +29,7 @@ bool isFolder(const fs::path& path)
 std::string faultOf(const PictureToWriteCL& picture)
 {
     const fs::path path = fs::u8path(picture.path);
-    if (!endsWith(picture.said, ".png") && !isBmpName(picture.said)) {
+    if (endingOf(picture.said) != ".png" && !isBmpName(picture.said)) {
         return "a picture's name ends with .png or .bmp";
     }
     if (!isFolder(path.parent_path())) {
@@ -42,7 +42,7 @@ std::string faultOf(const PictureToWriteCL& picture)
 
 bool isBmpName(const std::string& picture)
 {
-    return endsWith(picture, ".bmp");
+    return endingOf(picture) == ".bmp";
 }
 
 std::vector<PictureToWriteCL> picturesToWrite(const ShotOptionsCL& options)

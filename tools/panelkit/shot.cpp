@@ -5,6 +5,33 @@
 #include "window_picture.h"
 #include <filesystem>
 
+namespace {
+
+// Only the first window of a program finds another one in the foreground, so its caption may be that of a
+// window that isn't active: the others are pictured as that one is, as each would be alone.
+class ShotDialogCL : public PreviewDialogCL
+{
+public:
+    using PreviewDialogCL::PreviewDialogCL;
+    void TakeCaptionOfTheFirstM()
+    {
+        static const BOOL ofTheFirst = isCaptionActive_;
+        SendMessage(WM_NCACTIVATE, static_cast<WPARAM>(ofTheFirst));
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        isCaptionActive_ = message == WM_NCACTIVATE ? static_cast<BOOL>(wParam) : isCaptionActive_;
+        return PreviewDialogCL::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    BOOL isCaptionActive_ { FALSE };
+};
+
+} // namespace
+
 int shotCommand(const ShotOptionsCL& options)
 {
     // Before the current folder changes: the pictures go where the user stands.
@@ -13,7 +40,7 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        PreviewDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name);
         const bool built = dialog.CreateM() == 1;
         for (const auto& [id, status] : options.statuses) {
             if (built && !dialog.SetStatusM(id, status)) {
@@ -21,10 +48,14 @@ int shotCommand(const ShotOptionsCL& options)
                     + std::to_string(status));
             }
         }
+        if (built) {
+            dialog.ShowWindow(SW_SHOW); // The library would take its time, for each picture.
+        }
         if (!built || !dialog.WaitUntilShownM()) {
             complain("the dialog of '" + file.said + "' did not come up");
             return 1;
         }
+        dialog.TakeCaptionOfTheFirstM();
         const PictureToWriteCL& picture = pictures[file.number];
         const std::wstring out = std::filesystem::u8path(picture.path).wstring();
         const bool saved = saveWindow(dialog.m_hWnd, out, isBmpName(picture.said));
