@@ -14,10 +14,10 @@ using ControlStatusTP = std::pair<int, int>;
 struct ShowOptionsCL
 {
     std::vector<std::string> files;
-    // What the user wrote for each file (for shot then for what it writes), where another program starts this
-    // one in the user's name and has said what check finds.
+    // What the user wrote for each file, where another program starts this one in the user's name.
     std::vector<std::string> names;
-    std::string language; // As for check.
+    bool isChecked { false }; // That program says what check finds.
+    std::string language;     // As for check.
     bool isStrict { false };
 };
 // As the user wrote the file of a number.

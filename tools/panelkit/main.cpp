@@ -43,6 +43,7 @@ int run(std::vector<std::string> arguments)
         command->add_flag(
             "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
         command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
+        command->add_flag("--checked", shown.isChecked)->group("");
         return command;
     };
     addForMany("dump", "Prints what the library reads from each FILE, as JSON.")->callback([&] {

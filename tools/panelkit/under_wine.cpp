@@ -37,7 +37,7 @@ int start(std::vector<std::string> arguments, Display display, const std::functi
     const std::string script = fs::weakly_canonical(checkout() / "scripts/wine").string();
     const std::string program = fs::weakly_canonical(checkout() / "build/windows/bin/panelkit.exe").string();
     if (!fs::exists(program)) {
-        return complain("'" + program + "' is not built; scripts/panelkit builds it");
+        return complain("panelkit.exe is not built; scripts/panelkit builds it");
     }
     arguments.insert(arguments.begin(), { script, program });
     std::vector<char*> words;
@@ -54,7 +54,7 @@ int start(std::vector<std::string> arguments, Display display, const std::functi
     const int ours = child < 0 ? 0 : meanwhile();
     int status = 0;
     if (child < 0 || ::waitpid(child, &status, 0) < 0 || !WIFEXITED(status) || WEXITSTATUS(status) == 127) {
-        return complain("cannot start '" + script + "'");
+        return complain("cannot start scripts/wine");
     }
     return std::max(ours, WEXITSTATUS(status));
 }
@@ -84,7 +84,7 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
     }
-    words.emplace_back("--");
+    words.insert(words.end(), { "--checked", "--" });
     std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
     words.insert(words.end(), more.begin(), more.end());
     return start(std::move(words), display, [&options] {
