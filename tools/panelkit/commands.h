@@ -10,9 +10,20 @@ constexpr int CannotUse = 2; // Wrong arguments, or a file that can't be opened.
 // The function id of a control and the status that it is pictured in.
 using ControlStatusTP = std::pair<int, int>;
 
-int dumpCommand(const std::string& file);
-int inspectCommand(const std::string& file);
-int viewCommand(const std::string& file);
+// What the subcommands that show files take.
+struct ShowOptionsCL
+{
+    std::vector<std::string> files;
+    // What the user wrote for each file (for shot then for what it writes), where another program starts this
+    // one in the user's name and has said what check finds.
+    std::vector<std::string> names;
+    std::string language; // As for check.
+    bool isStrict { false };
+};
+// Each prints what it has even when a file can't be used or is faulty; the result is the worst of all files.
+int dumpCommand(const ShowOptionsCL& options);
+int inspectCommand(const ShowOptionsCL& options);
+int viewCommand(const ShowOptionsCL& options);
 
 struct CheckOptionsCL
 {
@@ -22,9 +33,16 @@ struct CheckOptionsCL
     bool isStrict { false };        // Warnings count too.
 };
 int checkCommand(const CheckOptionsCL& options); // 0, 1 with findings, CannotUse.
+// For who shows a file: says on standard error what check finds in it, errors alone unless strict, with the
+// file as `said`. True when the exit code must be 1 for that. Says nothing of a file that can't be read.
+bool sayFindings(const std::string& file, const std::string& said, const ShowOptionsCL& options);
 
-int shotCommand(
-    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
+struct ShotOptionsCL : ShowOptionsCL
+{
+    std::string picture;
+    std::vector<ControlStatusTP> statuses;
+};
+int shotCommand(const ShotOptionsCL& options);
 
 // What authors need at their desk. convert: `out` "" is the file itself; the result is 1 when the other code
 // can't hold the text. ids: `out` "" is standard output, space null a namespace named after the file. format:

@@ -68,6 +68,11 @@ public:
     void SortM(); // In the order of the file, each with its place, each once.
     const std::vector<FindingCL>& ListM() const { return list_; }
     std::size_t CountM(Severity severity) const;
+    bool IsFaultyM(bool isStrict) const // For the exit code.
+    {
+        return CountM(Severity::Error) > 0 || (isStrict && !list_.empty());
+    }
+    std::string TextM(Language language, bool withWarnings) const; // A line each.
 
 private:
     std::string file_; // As the user named it.

@@ -23,7 +23,7 @@ int run(std::vector<std::string> arguments)
     app.set_version_flag("--version", "panelkit " PANELKIT_VERSION);
 
     std::string file;
-    std::string picture;
+    ShotOptionsCL shown;
     std::vector<int> statuses; // In pairs: a control's id, its status.
     int result = 0;
     const auto add = [&](const char* name, const char* what) {
@@ -31,13 +31,28 @@ int run(std::vector<std::string> arguments)
         command->add_option("FILE", file, "the dialog description file")->required();
         return command;
     };
-    add("dump", "Prints what the library reads from FILE, as JSON.")->callback([&] {
-        result = dumpCommand(file);
+    const auto addForMany = [&](const char* name, const char* what) {
+        CLI::App* command = app.add_subcommand(name, what);
+        command->add_option("FILE", shown.files, "the dialog description files")->required();
+        return command;
+    };
+    const auto addShowing = [&](const char* name, const char* what) {
+        CLI::App* command = addForMany(name, what);
+        command->add_option("--lang", shown.language, "language of what check finds: en or zh")
+            ->check(CLI::IsMember({ "en", "zh" }));
+        command->add_flag(
+            "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
+        command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
+        return command;
+    };
+    addForMany("dump", "Prints what the library reads from each FILE, as JSON.")->callback([&] {
+        result = dumpCommand(shown);
     });
-    add("inspect", "Prints the windows that the library builds from FILE, as JSON.")->callback([&] {
-        result = inspectCommand(file);
+    addShowing("inspect", "Prints the windows that the library builds from each FILE, as JSON.")
+        ->callback([&] { result = inspectCommand(shown); });
+    addShowing("view", "Shows the dialog of each FILE, one after the other.")->callback([&] {
+        result = viewCommand(shown);
     });
-    add("view", "Shows the dialog of FILE.")->callback([&] { result = viewCommand(file); });
     CheckOptionsCL options;
     CLI::App* check = app.add_subcommand("check", "Says what is wrong with each FILE, and where.");
     check->add_option("FILE", options.files, "the dialog description files; - is standard input")->required();
@@ -47,8 +62,7 @@ int run(std::vector<std::string> arguments)
         ->check(CLI::IsMember({ "en", "zh" }));
     check->add_flag("--strict", options.isStrict, "warnings count as errors for the exit code");
     check->callback([&] { result = checkCommand(options); });
-    CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
-    shot->add_option("OUT.png", picture, "the picture to write")->required();
+    CLI::App* shot = addShowing("shot", "Writes a picture of the dialog of FILE, frame included.");
     shot->add_option("--status", statuses,
             "pictures control ID in a status of its own: of a bitmap or multi-state button, the frame of a "
             "normal animation, the position of a new rotate button; may be repeated")
@@ -56,11 +70,16 @@ int run(std::vector<std::string> arguments)
         ->type_size(2)
         ->allow_extra_args(false);
     shot->callback([&] {
-        std::vector<ControlStatusTP> pairs;
-        for (size_t i = 1; i < statuses.size(); i += 2) {
-            pairs.emplace_back(statuses[i - 1], statuses[i]);
+        if (shown.files.size() != 2) {
+            result = complain("shot needs FILE and OUT.png (panelkit --help tells more)");
+            return;
         }
-        result = shotCommand(file, picture, pairs);
+        shown.picture = shown.files[1];
+        shown.files.pop_back();
+        for (size_t i = 1; i < statuses.size(); i += 2) {
+            shown.statuses.emplace_back(statuses[i - 1], statuses[i]);
+        }
+        result = shotCommand(shown);
     });
 
     std::string out;

@@ -2,12 +2,10 @@
 #include "description_file.h"
 #include "preview_dialog.h"
 
-int viewCommand(const std::string& file)
+int viewCommand(const ShowOptionsCL& options)
 {
-    std::string name;
-    if (!enterFolderOf(file, &name)) {
-        return CannotUse;
-    }
-    PreviewDialogCL(name).DoModalM();
-    return 0;
+    return showEachFile(options, [](const OpenedFileCL& file) {
+        PreviewDialogCL(file.name).DoModalM();
+        return 0;
+    });
 }
