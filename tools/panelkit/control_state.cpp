@@ -14,7 +14,8 @@ int numberFrom(HWND window, UINT message, int wParam = 0, LPARAM lParam = 0)
 std::wstring windowTextOf(HWND window)
 {
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    text.resize(
+        static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }
 
@@ -121,8 +122,8 @@ void giveListBox(HWND list, const ControlStateCL& state)
         numberFrom(list, LB_SETCURSEL, -1);
     }
     for (const StateLineCL& kept : state.selected) {
-        const int line = lineNow(
-            kept, state.lines, lines, [list](int i) { return lineText(list, ListBoxWords, i); });
+        const int line
+            = lineNow(kept, state.lines, lines, [list](int i) { return lineText(list, ListBoxWords, i); });
         if (line >= 0) {
             many ? numberFrom(list, LB_SETSEL, TRUE, line) : numberFrom(list, LB_SETCURSEL, line);
         }

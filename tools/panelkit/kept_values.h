@@ -6,16 +6,16 @@
 #include <utility>
 
 // What the user has changed in a dialog, carried over to the same dialog built anew: typed texts, checks,
-// selections, and where the user is. A control's successor is the one of its id and kind. What the user left as
-// it was built becomes what the file now says.
+// selections, and where the user is. A control's successor is the one of its id and kind. What the user left
+// as it was built becomes what the file now says.
 class KeptValuesCL
 {
 public:
     void NoteBuiltM(HWND dialog); // The dialog is as its file says.
     // Before its controls go. focus: the one that has the focus, or would have it if the dialog were active.
     void TakeM(HWND dialog, HWND focus);
-    // After NoteBuiltM of the new controls. The successor of the one with the focus, which the caller gives it;
-    // null when there is none.
+    // After NoteBuiltM of the new controls. The successor of the one with the focus, which the caller gives
+    // it; null when there is none.
     HWND GiveBackM(HWND dialog) const;
 
 private:

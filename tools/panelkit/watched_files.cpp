@@ -5,8 +5,8 @@
 namespace {
 
 // Milliseconds. Together with the build they keep within half a second.
-constexpr DWORD LookPeriod = 150;   // Without any notice.
-constexpr DWORD SettlePeriod = 20;  // Between two looks at files that are being written.
+constexpr DWORD LookPeriod = 150;  // Without any notice.
+constexpr DWORD SettlePeriod = 20; // Between two looks at files that are being written.
 constexpr ULONGLONG SettleTime = 60;
 constexpr ULONGLONG AbsenceTime = 200; // A file that is gone may be about to be replaced.
 

@@ -8,8 +8,9 @@
 #include <thread>
 #include <vector>
 
-// Tells when files change, come or go, each written to its end: editors write in steps, and save by deleting or
-// renaming. The system's notices make it quick; because some file systems give none, it looks by itself too.
+// Tells when files change, come or go, each written to its end: editors write in steps, and save by deleting
+// or renaming. The system's notices make it quick; because some file systems give none, it looks by itself
+// too.
 class WatchedFilesCL
 {
 public:
