@@ -67,9 +67,12 @@ TEST(ShownFindings, ExitCodeTellsOfThemOnlyWhenStrictAndTheFileIsShownAllTheSame
     }
 }
 
-TEST(ShownFindings, ProgramThatAnotherStartedInTheUsersNameIsSilentOfThem)
+TEST(ShownFindings, NameTheFileAsTheUserOfAnotherProgramWroteItUnlessThatOneSaysThem)
 {
-    const CommandResultCL result = runCommand("inspect --strict --as=mine.dlg -- \"" + Faulty + "\"");
+    const std::string errors = runCommand("inspect --as=mine.dlg -- \"" + Faulty + "\"").errors;
+    EXPECT_EQ(errors.rfind("mine.dlg:14:18: ", 0), 0U) << errors;
+    const CommandResultCL result
+        = runCommand("inspect --strict --checked --as=mine.dlg -- \"" + Faulty + "\"");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.code, 0);
 }

@@ -14,12 +14,14 @@ using ControlStatusTP = std::pair<int, int>;
 struct ShowOptionsCL
 {
     std::vector<std::string> files;
-    // What the user wrote for each file (for shot then for what it writes), where another program starts this
-    // one in the user's name and has said what check finds.
+    // What the user wrote for each file, where another program starts this one in the user's name.
     std::vector<std::string> names;
-    std::string language; // As for check.
+    bool isChecked { false }; // That program says what check finds.
+    std::string language;     // As for check.
     bool isStrict { false };
 };
+// As the user wrote the file of a number.
+const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
 // Each prints what it has even when a file can't be used or is faulty; the result is the worst of all files.
 int dumpCommand(const ShowOptionsCL& options);
 int inspectCommand(const ShowOptionsCL& options);
@@ -46,8 +48,10 @@ bool sayFindings(const std::string& file, const std::string& said, const ShowOpt
 
 struct ShotOptionsCL : ShowOptionsCL
 {
-    std::string picture;
-    std::vector<ControlStatusTP> statuses;
+    std::string picture;                   // Of the one file;
+    std::string folder;                    // or where each file's picture goes, which is named after it.
+    std::string outName;                   // What the user wrote for that, as `names`.
+    std::vector<ControlStatusTP> statuses; // Of each file.
 };
 int shotCommand(const ShotOptionsCL& options);
 

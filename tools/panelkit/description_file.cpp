@@ -53,9 +53,8 @@ int onEachFile(const ShowOptionsCL& options, const std::function<int(const Opene
 
 int showEachFile(const ShowOptionsCL& options, const std::function<int(const OpenedFileCL&)>& work)
 {
-    const bool isSaid = !options.names.empty();
     return onEachFile(options, [&](const OpenedFileCL& file) {
-        const bool isFaulty = !isSaid && sayFindings(file.path, file.said, options);
+        const bool isFaulty = !options.isChecked && sayFindings(file.path, file.said, options);
         return std::max(work(file), isFaulty ? 1 : 0);
     });
 }

@@ -11,8 +11,6 @@ struct OpenedFileCL
     std::string name;   // As the library is to be given it: its name alone, GBK on Windows.
 };
 
-// As the user wrote the file of a number.
-const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
 // Calls `work` for each file in turn. A file that can't be read is said to be so, and passed over. The result
 // is the worst of all exit codes.
 int onEachFile(const ShowOptionsCL& options, const std::function<int(const OpenedFileCL&)>& work);

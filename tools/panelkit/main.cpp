@@ -37,6 +37,7 @@ int run(std::vector<std::string> arguments)
         command->add_flag(
             "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
         command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
+        command->add_flag("--checked", shown.isChecked)->group("");
         return command;
     };
     addForMany("dump", "Prints what the library reads from each FILE, as JSON.")->callback([&] {
@@ -62,20 +63,29 @@ int run(std::vector<std::string> arguments)
         ->check(CLI::IsMember({ "en", "zh" }));
     check->add_flag("--strict", options.isStrict, "warnings count as errors for the exit code");
     check->callback([&] { result = checkCommand(options); });
-    CLI::App* shot = addShowing("shot", "Writes a picture of the dialog of FILE, frame included.");
+    CLI::App* shot = addShowing("shot",
+        "Writes a picture of the dialog of FILE, frame included, to the OUT.png or OUT.bmp behind it; with "
+        "-o one of "
+        "each FILE.");
     shot->add_option("--status", statuses,
             "pictures control ID in a status of its own: of a bitmap or multi-state button, the frame of a "
             "normal animation, the position of a new rotate button; may be repeated")
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);
+    shot->add_option("-o", shown.folder,
+            "the folder for the picture of each FILE, named after it: a.dlg is pictured in DIR/a.png")
+        ->type_name("DIR");
+    shot->add_option("--out-as", shown.outName)->group("");
     shot->callback([&] {
-        if (shown.files.size() != 2) {
-            result = complain("shot needs FILE and OUT.png (panelkit --help tells more)");
-            return;
+        if (shown.folder.empty()) {
+            if (shown.files.size() != 2) {
+                result = complain("shot needs FILE and OUT.png, or -o DIR with any number of files");
+                return;
+            }
+            shown.picture = shown.files.back();
+            shown.files.pop_back();
         }
-        shown.picture = shown.files[1];
-        shown.files.pop_back();
         for (size_t i = 1; i < statuses.size(); i += 2) {
             shown.statuses.emplace_back(statuses[i - 1], statuses[i]);
         }

@@ -2,6 +2,7 @@
 #include "check.h"
 #include "commands.h"
 #include "description_file.h"
+#include "pictures_to_write.h"
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -37,7 +38,7 @@ int start(std::vector<std::string> arguments, Display display, const std::functi
     const std::string script = fs::weakly_canonical(checkout() / "scripts/wine").string();
     const std::string program = fs::weakly_canonical(checkout() / "build/windows/bin/panelkit.exe").string();
     if (!fs::exists(program)) {
-        return complain("'" + program + "' is not built; scripts/panelkit builds it");
+        return complain("panelkit.exe is not built; scripts/panelkit builds it");
     }
     arguments.insert(arguments.begin(), { script, program });
     std::vector<char*> words;
@@ -54,7 +55,7 @@ int start(std::vector<std::string> arguments, Display display, const std::functi
     const int ours = child < 0 ? 0 : meanwhile();
     int status = 0;
     if (child < 0 || ::waitpid(child, &status, 0) < 0 || !WIFEXITED(status) || WEXITSTATUS(status) == 127) {
-        return complain("cannot start '" + script + "'");
+        return complain("cannot start scripts/wine");
     }
     return std::max(ours, WEXITSTATUS(status));
 }
@@ -70,7 +71,7 @@ std::string underWine(const std::string& file)
 }
 
 // Starts a subcommand with its options on the files, which go on being called what the user wrote, and says
-// meanwhile what check finds in them. more: further files of the subcommand.
+// meanwhile what check finds in them. more: what stands behind the files.
 int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Display display,
     const std::vector<std::string>& more = {})
 {
@@ -81,13 +82,12 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     if (std::none_of(options.files.begin(), options.files.end(), isReadable)) {
         return onEachFile(options, [](const OpenedFileCL&) { return 0; });
     }
-    std::vector<std::string> files = options.files;
-    files.insert(files.end(), more.begin(), more.end());
-    for (const std::string& file : files) {
+    for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
     }
-    words.emplace_back("--");
-    std::transform(files.begin(), files.end(), std::back_inserter(words), underWine);
+    words.insert(words.end(), { "--checked", "--" });
+    std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
+    words.insert(words.end(), more.begin(), more.end());
     return start(std::move(words), display, [&options] {
         int result = 0;
         for (const std::string& file : options.files) {
@@ -124,9 +124,17 @@ int viewCommand(const ViewOptionsCL& options)
 
 int shotCommand(const ShotOptionsCL& options)
 {
+    if (picturesToWrite(options).empty()) {
+        return CannotUse;
+    }
     std::vector<std::string> words { "shot" };
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
     }
-    return startOn(words, options, Display::OurOwn, { options.picture });
+    if (options.folder.empty()) {
+        words.push_back("--out-as=" + options.picture);
+        return startOn(words, options, Display::OurOwn, { underWine(options.picture) });
+    }
+    words.insert(words.end(), { "--out-as=" + options.folder, "-o", underWine(options.folder) });
+    return startOn(words, options, Display::OurOwn);
 }
