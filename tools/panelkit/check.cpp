@@ -15,8 +15,6 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
 Language languageOf(const std::string& option)
 {
     if (!option.empty()) {
@@ -36,18 +34,6 @@ Language languageOf(const std::string& option)
     return Language::English;
 }
 
-bool readStandardInput(std::string* bytes)
-{
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-#endif
-    char block[65536];
-    for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
-        bytes->append(block, read);
-    }
-    return std::ferror(stdin) == 0;
-}
-
 bool readBytes(const fs::path& path, std::string* bytes)
 {
     std::error_code error;
@@ -56,18 +42,6 @@ bool readBytes(const fs::path& path, std::string* bytes)
     bytes->resize(error ? 0 : static_cast<std::size_t>(size));
     return in.is_open()
         && (in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) || bytes->empty());
-}
-
-bool readNamedFile(const std::string& file, std::string* bytes)
-{
-    if (!isRegularFile(file)) {
-        return false;
-    }
-    if (!readBytes(fs::u8path(file), bytes)) {
-        complain("cannot read '" + file + "'");
-        return false;
-    }
-    return true;
 }
 
 FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::string&& bytes)
@@ -82,6 +56,32 @@ FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::stri
     }
     findings.SortM();
     return findings;
+}
+
+namespace {
+
+bool readStandardInput(std::string* bytes)
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+#endif
+    char block[65536];
+    for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
+        bytes->append(block, read);
+    }
+    return std::ferror(stdin) == 0;
+}
+
+bool readNamedFile(const std::string& file, std::string* bytes)
+{
+    if (!isRegularFile(file)) {
+        return false;
+    }
+    if (!readBytes(fs::u8path(file), bytes)) {
+        complain("cannot read '" + file + "'");
+        return false;
+    }
+    return true;
 }
 
 } // namespace

@@ -25,7 +25,14 @@ const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
 // Each prints what it has even when a file can't be used or is faulty; the result is the worst of all files.
 int dumpCommand(const ShowOptionsCL& options);
 int inspectCommand(const ShowOptionsCL& options);
-int viewCommand(const ShowOptionsCL& options);
+
+struct ViewOptionsCL : ShowOptionsCL
+{
+    bool watches { false };      // Follows changes of the file and its pictures.
+    bool logsMessages { false }; // Prints what the dialog gets from its controls.
+    bool showsIds { false };     // Writes on each control what the file calls it.
+};
+int viewCommand(const ViewOptionsCL& options);
 
 struct CheckOptionsCL
 {

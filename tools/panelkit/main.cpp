@@ -1,17 +1,11 @@
 #include "commands.h"
 #include <CLI/CLI.hpp>
-#include <cstdio>
+#include <algorithm>
 #ifdef _WIN32
 #include "application.h"
 #include <fcntl.h>
 #include <io.h>
 #endif
-
-int complain(const std::string& what)
-{
-    std::fprintf(stderr, "panelkit: %s\n", what.c_str());
-    return CannotUse;
-}
 
 namespace {
 
@@ -51,8 +45,14 @@ int run(std::vector<std::string> arguments)
     });
     addShowing("inspect", "Prints the windows that the library builds from each FILE, as JSON.")
         ->callback([&] { result = inspectCommand(shown); });
-    addShowing("view", "Shows the dialog of each FILE, one after the other.")->callback([&] {
-        result = viewCommand(shown);
+    ViewOptionsCL live;
+    CLI::App* view = addShowing("view", "Shows the dialog of each FILE, one after the other.");
+    view->add_flag("--watch", live.watches, "follows each change of FILE and its pictures");
+    view->add_flag("--messages", live.logsMessages, "prints what the dialog gets from its controls");
+    view->add_flag("--ids", live.showsIds, "writes id, place and Tab stop on each control");
+    view->callback([&] {
+        static_cast<ShowOptionsCL&>(live) = shown;
+        result = viewCommand(live);
     });
     CheckOptionsCL options;
     CLI::App* check = app.add_subcommand("check", "Says what is wrong with each FILE, and where.");

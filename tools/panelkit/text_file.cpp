@@ -1,8 +1,15 @@
 #include "text_file.h"
 #include "commands.h"
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+
+int complain(const std::string& what)
+{
+    std::fprintf(stderr, "panelkit: %s\n", what.c_str());
+    return CannotUse;
+}
 
 namespace {
 

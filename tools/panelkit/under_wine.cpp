@@ -1,4 +1,5 @@
 // On Linux the subcommands that need windows are those of panelkit.exe, started under Wine.
+#include "check.h"
 #include "commands.h"
 #include "description_file.h"
 #include "pictures_to_write.h"
@@ -103,12 +104,22 @@ int inspectCommand(const ShowOptionsCL& options)
     return startOn({ "inspect" }, options, Display::OurOwn);
 }
 
-int viewCommand(const ShowOptionsCL& options)
+int viewCommand(const ViewOptionsCL& options)
 {
     if (std::getenv("DISPLAY") == nullptr) {
         return complain("view needs a display (shot writes a picture without one)");
     }
-    return startOn({ "view" }, options, Display::Users);
+    // What the program finds while it runs is told in the user's language too.
+    std::vector<std::string> words { "view",
+        languageOf(options.language) == Language::Chinese ? "--lang=zh" : "--lang=en" };
+    const std::pair<const char*, bool> flags[] { { "--watch", options.watches },
+        { "--messages", options.logsMessages }, { "--ids", options.showsIds } };
+    for (const auto& [flag, isSet] : flags) {
+        if (isSet) {
+            words.emplace_back(flag);
+        }
+    }
+    return startOn(words, options, Display::Users);
 }
 
 int shotCommand(const ShotOptionsCL& options)

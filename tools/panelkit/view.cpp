@@ -1,11 +1,11 @@
 #include "commands.h"
 #include "description_file.h"
-#include "preview_dialog.h"
+#include "live_dialog.h"
 
-int viewCommand(const ShowOptionsCL& options)
+int viewCommand(const ViewOptionsCL& options)
 {
-    return showEachFile(options, [](const OpenedFileCL& file) {
-        PreviewDialogCL(file.name).DoModalM();
+    return showEachFile(options, [&options](const OpenedFileCL& file) {
+        LiveDialogCL(file.name, options).DoModalM();
         return 0;
     });
 }
