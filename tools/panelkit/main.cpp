@@ -1,6 +1,6 @@
 #include "commands.h"
-#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #ifdef _WIN32
 #include "application.h"
 #include <fcntl.h>
