@@ -92,8 +92,7 @@ TEST(Shot, WritesAPictureOfTheWholeWindow)
 
 TEST(Shot, PictureThatCannotBeWrittenGetsOneClearLine)
 {
-    expectComplaint(
-        runCommand("shot \"" + sample("two_kinds.dlg") + "\" no/such/folder/x.png"), "cannot write");
+    expectComplaint(runCommand("shot \"" + exampleFiles()[0] + "\" no/such/folder/x.png"), "cannot write");
 }
 
 TEST(Shot, BitmapButtonIsPicturedInAnyStatus)

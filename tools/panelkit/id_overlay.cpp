@@ -1,0 +1,209 @@
+#include "id_overlay.h"
+#include "controls/base/control_common.h"
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr COLORREF LabelGround = RGB(255, 255, 170);
+constexpr COLORREF LabelInk = RGB(0, 0, 0);
+constexpr COLORREF LabelFrame = RGB(216, 0, 64);
+constexpr int LabelPadding = 2;
+constexpr UINT LabelFormat = DT_LEFT | DT_NOPREFIX;
+
+// Small letters, within a device context.
+class LabelFontCL
+{
+public:
+    explicit LabelFontCL(HDC dc)
+        : dc_(dc)
+        , font_(::CreateFontW(-10, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+              NONANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Tahoma"))
+        , before_(::SelectObject(dc, font_))
+    {
+    }
+    LabelFontCL(const LabelFontCL&) = delete;
+    LabelFontCL& operator=(const LabelFontCL&) = delete;
+    ~LabelFontCL()
+    {
+        ::SelectObject(dc_, before_);
+        ::DeleteObject(font_);
+    }
+
+private:
+    HDC dc_;
+    HFONT font_;
+    HGDIOBJ before_;
+};
+
+// Where Tab stops, in its order.
+std::map<HWND, int> tabNumbers(HWND dialog)
+{
+    std::map<HWND, int> numbers;
+    HWND stop = ::GetNextDlgTabItem(dialog, nullptr, FALSE);
+    while (stop != nullptr && (::GetWindowLongW(stop, GWL_STYLE) & WS_TABSTOP) != 0
+        && numbers.emplace(stop, static_cast<int>(numbers.size()) + 1).second) {
+        stop = ::GetNextDlgTabItem(dialog, stop, FALSE);
+    }
+    return numbers;
+}
+
+std::wstring placeInFile(HWND control, const RECT& shown)
+{
+    int position[2] = { static_cast<int>(shown.left), static_cast<int>(shown.top) };
+    int size[2] = { static_cast<int>(shown.right - shown.left), static_cast<int>(shown.bottom - shown.top) };
+    const auto* const described = dynamic_cast<const DControlCommonCL*>(CWnd::FromHandlePermanent(control));
+    if (described != nullptr) {
+        described->GetPosM(position);
+        described->GetSizeM(size);
+    }
+    return std::to_wstring(position[0]) + L"," + std::to_wstring(position[1]) + L","
+        + std::to_wstring(size[0]) + L"," + std::to_wstring(size[1]);
+}
+
+bool isFree(const RECT& box, const RECT& client, const std::vector<IdLabelCL>& placed)
+{
+    RECT common {};
+    return box.left >= 0 && box.top >= 0 && box.right <= client.right && box.bottom <= client.bottom
+        && std::none_of(placed.begin(), placed.end(),
+            [&](const IdLabelCL& other) { return ::IntersectRect(&common, &box, &other.box) != FALSE; });
+}
+
+// The first free place: in the corners of the control, along it, then ever further below and above.
+RECT placeFor(SIZE size, const RECT& control, const RECT& client, const std::vector<IdLabelCL>& placed)
+{
+    const auto at = [size](LONG x, LONG y) { return RECT { x, y, x + size.cx, y + size.cy }; };
+    const LONG right = control.right - size.cx;
+    const LONG bottom = control.bottom - size.cy;
+    std::vector<RECT> places { at(control.left, control.top), at(right, control.top),
+        at(control.left, bottom), at(right, bottom), at(control.left, control.top - size.cy),
+        at(control.left, control.bottom), at(control.right, control.top),
+        at(control.left - size.cx, control.top) };
+    for (LONG distance = 0; distance < client.bottom; distance += 4) {
+        for (const LONG x : { control.left, right, client.right - size.cx }) {
+            places.push_back(at(x, control.top + distance));
+            places.push_back(at(x, control.top - distance));
+        }
+    }
+    const auto free = std::find_if(
+        places.begin(), places.end(), [&](const RECT& box) { return isFree(box, client, placed); });
+    return free != places.end() ? *free : places.front();
+}
+
+SIZE sizeOf(HDC dc, const std::wstring& words)
+{
+    RECT rect {};
+    ::DrawTextW(dc, words.c_str(), -1, &rect, LabelFormat | DT_CALCRECT);
+    return { rect.right + 2 * LabelPadding, rect.bottom + 1 };
+}
+
+void drawLabels(HDC dc, const std::vector<IdLabelCL>& labels)
+{
+    const LabelFontCL font(dc);
+    const HBRUSH frame = ::CreateSolidBrush(LabelFrame);
+    const HBRUSH ground = ::CreateSolidBrush(LabelGround);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextColor(dc, LabelInk);
+    for (const IdLabelCL& label : labels) {
+        ::FrameRect(dc, &label.control, frame);
+    }
+    for (const IdLabelCL& label : labels) {
+        RECT words = label.box;
+        ::FillRect(dc, &words, ground);
+        words.left += LabelPadding;
+        ::DrawTextW(dc, label.words.c_str(), -1, &words, LabelFormat);
+    }
+    ::DeleteObject(ground);
+    ::DeleteObject(frame);
+}
+
+// What drawLabels draws on.
+HRGN regionOf(const std::vector<IdLabelCL>& labels)
+{
+    const HRGN all = ::CreateRectRgn(0, 0, 0, 0);
+    const HRGN part = ::CreateRectRgn(0, 0, 0, 0);
+    for (const IdLabelCL& label : labels) {
+        const RECT& frame = label.control;
+        ::SetRectRgn(part, frame.left, frame.top, frame.right, frame.bottom);
+        const HRGN inner = ::CreateRectRgn(frame.left + 1, frame.top + 1, frame.right - 1, frame.bottom - 1);
+        ::CombineRgn(part, part, inner, RGN_DIFF);
+        ::DeleteObject(inner);
+        ::CombineRgn(all, all, part, RGN_OR);
+        ::SetRectRgn(part, label.box.left, label.box.top, label.box.right, label.box.bottom);
+        ::CombineRgn(all, all, part, RGN_OR);
+    }
+    ::DeleteObject(part);
+    return all;
+}
+
+} // namespace
+
+std::vector<IdLabelCL> idLabels(HWND dialog)
+{
+    std::vector<IdLabelCL> labels;
+    RECT client {};
+    ::GetClientRect(dialog, &client);
+    const std::map<HWND, int> numbers = tabNumbers(dialog);
+    const HDC dc = ::GetDC(dialog);
+    const LabelFontCL font(dc);
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if (!::IsWindowVisible(child)) {
+            continue;
+        }
+        RECT control {};
+        ::GetWindowRect(child, &control);
+        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&control), 2);
+        const auto number = numbers.find(child);
+        const std::wstring first = std::to_wstring(::GetDlgCtrlID(child)) + L" #"
+            + (number != numbers.end() ? std::to_wstring(number->second) : L"-");
+        const std::wstring second = placeInFile(child, control);
+        // In one line where the control has room for it, else in two.
+        std::wstring words = first + L"  " + second;
+        SIZE size = sizeOf(dc, words);
+        if (size.cx > control.right - control.left) {
+            words = first + L"\n" + second;
+            size = sizeOf(dc, words);
+        }
+        labels.push_back({ control, placeFor(size, control, client, labels), words });
+    }
+    ::ReleaseDC(dialog, dc);
+    return labels;
+}
+
+void drawIds(HWND dialog)
+{
+    const HDC dc = ::GetDCEx(dialog, nullptr, DCX_CACHE); // Over the controls too.
+    drawLabels(dc, idLabels(dialog));
+    ::ReleaseDC(dialog, dc);
+}
+
+void IdOverlayCL::FollowM(HWND dialog)
+{
+    if (!::IsWindowVisible(dialog) || ::IsIconic(dialog)
+        || !createM(dialog, WS_EX_LAYERED | WS_EX_TRANSPARENT, 0)) {
+        HideM();
+        return;
+    }
+    RECT client {};
+    ::GetClientRect(dialog, &client);
+    POINT corner { 0, 0 };
+    ::ClientToScreen(dialog, &corner);
+    std::vector<IdLabelCL> labels = idLabels(dialog);
+    ::SetWindowPos(
+        HandleM(), nullptr, corner.x, corner.y, client.right, client.bottom, SWP_NOACTIVATE | SWP_NOZORDER);
+    if (!(labels == labels_)) {
+        labels_ = std::move(labels);
+        ::SetWindowRgn(HandleM(), regionOf(labels_), TRUE); // The window keeps it.
+        ::InvalidateRect(HandleM(), nullptr, FALSE);
+    }
+    if (!::IsWindowVisible(HandleM())) {
+        ::SetLayeredWindowAttributes(HandleM(), 0, 255, LWA_ALPHA);
+        ::ShowWindow(HandleM(), SW_SHOWNA);
+    }
+}
+
+void IdOverlayCL::paintM(HDC dc, const RECT&)
+{
+    drawLabels(dc, labels_);
+}
