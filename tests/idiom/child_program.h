@@ -8,6 +8,8 @@
 #include <vector>
 #include <windows.h>
 
+#include <commctrl.h>
+
 // One of the programs of examples/idiom in a process of its own, driven by keyboard and mouse and read by
 // what its windows tell anyone who asks. Ended with the object.
 class ChildProgram
