@@ -51,9 +51,15 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/controls.cpp
   toolkit/creation_hook.cpp
   toolkit/dc.cpp
+  toolkit/dc_mapping.cpp
+  toolkit/dc_shapes.cpp
+  toolkit/dc_text.cpp
   toolkit/dialog.cpp
   toolkit/gbk_string.cpp
+  toolkit/gbk_string_format.cpp
+  toolkit/gbk_string_search.cpp
   toolkit/gdi_objects.cpp
+  toolkit/gdi_owners.cpp
   toolkit/image_list.cpp
   toolkit/library.cpp
   toolkit/life.cpp

@@ -5,10 +5,15 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
-// Here, not with the others of its class: the windows know contexts, so those must not know windows.
+// Here, not with the others of their class: the windows know contexts, so those must not know windows.
 CWnd* CDC::GetWindow() const
 {
     return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
+
+int CDC::ExcludeUpdateRgn(CWnd* window)
+{
+    return ::ExcludeUpdateRgn(m_hDC, window->m_hWnd);
 }
 
 CPaintDC::CPaintDC(CWnd* window)
