@@ -110,8 +110,9 @@ BOOL CPartsApp::InitInstance()
     m_strMachineFile = m_lpCmdLine[0] != _T('\0') ? m_lpCmdLine : _T("machine.dlg");
     CPartsDlg dlg;
     m_pMainWnd = &dlg;
-    const INT_PTR nResponse = dlg.DoModal();
-    TRACE(_T("the dialog ended with %d\n"), static_cast<int>(nResponse));
+    if (dlg.DoModal() == -1) {
+        TRACE(_T("the dialog of %s can't be made\n"), m_pszAppName);
+    }
     return FALSE;
 }
 
