@@ -47,26 +47,47 @@ set(PANELKIT_CONTROL_SOURCES
   pictures/region_pixels.cpp
   pictures/rgn_record.cpp
   toolkit/app.cpp
+  toolkit/app_profile.cpp
   toolkit/controls.cpp
   toolkit/creation_hook.cpp
   toolkit/dc.cpp
+  toolkit/ddv.cpp
+  toolkit/ddx.cpp
+  toolkit/ddx_lists.cpp
+  toolkit/diagnostics.cpp
   toolkit/dialog.cpp
+  toolkit/exceptions.cpp
   toolkit/gbk_string.cpp
   toolkit/gdi_objects.cpp
   toolkit/image_list.cpp
   toolkit/library.cpp
   toolkit/life.cpp
   toolkit/list_ctrl.cpp
+  toolkit/menu.cpp
   toolkit/message_box.cpp
   toolkit/message_map.cpp
   toolkit/module.cpp
   toolkit/object.cpp
+  toolkit/scroll_bar_handle.cpp
   toolkit/spin_button.cpp
   toolkit/text.cpp
+  toolkit/thread.cpp
   toolkit/thread_state.cpp
   toolkit/tree_ctrl.cpp
+  toolkit/window_class.cpp
   toolkit/window_dc.cpp
   toolkit/wnd.cpp
+  toolkit/wnd_exchange.cpp
+  toolkit/wnd_menu.cpp
   toolkit/wnd_messages.cpp
+  toolkit/wnd_others.cpp
+  toolkit/wnd_proc.cpp
+  toolkit/wnd_scroll.cpp
+  toolkit/wnd_state.cpp
   toolkit/wnd_window.cpp
+)
+# Not in the library: they go into its import library.
+set(PANELKIT_WINMAIN_SOURCES
+  toolkit/winmain.cpp
+  toolkit/winmain_need.cpp
 )
