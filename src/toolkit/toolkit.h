@@ -6,8 +6,10 @@
 #include <afxwin.h>
 
 #include <afxcmn.h>
+#include <afxtempl.h>
 #else
 #include "toolkit/app.h"
+#include "toolkit/arrays.h"
 #include "toolkit/common_controls.h"
 #include "toolkit/controls.h"
 #include "toolkit/dc.h"
@@ -15,6 +17,8 @@
 #include "toolkit/gbk_string.h"
 #include "toolkit/gdi_objects.h"
 #include "toolkit/geometry.h"
+#include "toolkit/lists.h"
+#include "toolkit/maps.h"
 #include "toolkit/message_box.h"
 #include "toolkit/message_map.h"
 #include "toolkit/module.h"
