@@ -181,6 +181,8 @@ public:
     BOOL DrawState(CPoint at, CSize size, HICON icon, UINT flags, CBrush* brush);
     BOOL DrawState(CPoint at, CSize size, LPCSTR text, UINT flags, BOOL hasPrefix = TRUE, int count = 0,
         HBRUSH brush = nullptr); // count 0: up to the zero
+    BOOL DrawState(CPoint at, CSize size, LPCWSTR text, UINT flags, BOOL hasPrefix = TRUE, int count = 0,
+        HBRUSH brush = nullptr);
     BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
     BOOL FrameRgn(CRgn* region, CBrush* brush, int width, int height);
     BOOL InvertRgn(CRgn* region) { return ::InvertRgn(m_hDC, *region); }
@@ -236,6 +238,7 @@ public:
     }
     // Tab stops are in logical units from the tab origin; none: every eight average characters.
     CSize TabbedTextOut(int x, int y, LPCSTR text, int count, int stops, const INT* stopAt, int tabOrigin);
+    CSize TabbedTextOut(int x, int y, LPCWSTR text, int count, int stops, const INT* stopAt, int tabOrigin);
     CSize TabbedTextOut(int x, int y, const CString& text, int stops, const INT* stopAt, int tabOrigin);
     // The result is the height. DT_MODIFYSTRING is ignored.
     int DrawText(LPCSTR text, int count, LPRECT rect, UINT format);
@@ -243,13 +246,16 @@ public:
     int DrawText(const CString& text, LPRECT rect, UINT format) { return DrawText(text, -1, rect, format); }
     int DrawText(LPCWSTR text, LPRECT rect, UINT format) { return DrawText(text, -1, rect, format); }
     int DrawTextEx(LPCSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
+    int DrawTextEx(LPCWSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
     int DrawTextEx(const CString& text, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
     CSize GetTextExtent(LPCSTR text, int count = -1) const;
     CSize GetTextExtent(LPCWSTR text, int count = -1) const;
     CSize GetTextExtent(const CString& text) const { return GetTextExtent(text, text.GetLength()); }
     CSize GetOutputTextExtent(LPCSTR text, int count = -1) const;
+    CSize GetOutputTextExtent(LPCWSTR text, int count = -1) const;
     CSize GetOutputTextExtent(const CString& text) const;
     CSize GetTabbedTextExtent(LPCSTR text, int count, int stops, const INT* stopAt) const;
+    CSize GetTabbedTextExtent(LPCWSTR text, int count, int stops, const INT* stopAt) const;
     CSize GetTabbedTextExtent(const CString& text, int stops, const INT* stopAt) const;
     UINT SetTextAlign(UINT flags) { return ::SetTextAlign(m_hDC, flags); }
     UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }

@@ -130,9 +130,13 @@ BOOL CDC::DrawState(CPoint at, CSize size, HICON icon, UINT flags, CBrush* brush
 BOOL CDC::DrawState(CPoint at, CSize size, LPCSTR text, UINT flags, BOOL hasPrefix, int count, HBRUSH brush)
 {
     const std::wstring wide = GbkToWide(text, count == 0 ? -1 : count);
-    return ::DrawStateW(m_hDC, brush, nullptr, reinterpret_cast<LPARAM>(wide.c_str()),
-        static_cast<WPARAM>(wide.size()), at.x, at.y, size.cx, size.cy,
-        flags | static_cast<UINT>(hasPrefix ? DST_PREFIXTEXT : DST_TEXT));
+    return DrawState(at, size, wide.c_str(), flags, hasPrefix, 0, brush);
+}
+
+BOOL CDC::DrawState(CPoint at, CSize size, LPCWSTR text, UINT flags, BOOL hasPrefix, int count, HBRUSH brush)
+{
+    return ::DrawStateW(m_hDC, brush, nullptr, reinterpret_cast<LPARAM>(text), static_cast<WPARAM>(count),
+        at.x, at.y, size.cx, size.cy, flags | static_cast<UINT>(hasPrefix ? DST_PREFIXTEXT : DST_TEXT));
 }
 
 BOOL CDC::FrameRgn(CRgn* region, CBrush* brush, int width, int height)

@@ -6,11 +6,6 @@
 
 namespace {
 
-int lengthOfM(const std::wstring& text)
-{
-    return static_cast<int>(text.size());
-}
-
 int lengthOfM(LPCWSTR text, int count)
 {
     return count < 0 && text != nullptr ? static_cast<int>(std::wcslen(text)) : std::max(count, 0);
@@ -19,7 +14,7 @@ int lengthOfM(LPCWSTR text, int count)
 CSize extentM(HDC dc, LPCWSTR text, int count)
 {
     CSize size;
-    ::GetTextExtentPoint32W(dc, text, count, &size);
+    ::GetTextExtentPoint32W(dc, text, lengthOfM(text, count), &size);
     return size;
 }
 
@@ -69,8 +64,7 @@ BOOL characterWidthsM(HDC dc, UINT first, UINT last, LPINT widths)
 
 BOOL CDC::TextOut(int x, int y, LPCSTR text, int count)
 {
-    const std::wstring wide = GbkToWide(text, count);
-    return ::TextOutW(m_hDC, x, y, wide.c_str(), lengthOfM(wide));
+    return TextOut(x, y, GbkToWide(text, count).c_str());
 }
 
 BOOL CDC::TextOut(int x, int y, LPCWSTR text, int count)
@@ -96,9 +90,13 @@ BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, const CString& te
 
 CSize CDC::TabbedTextOut(int x, int y, LPCSTR text, int count, int stops, const INT* stopAt, int tabOrigin)
 {
-    const std::wstring wide = GbkToWide(text, count);
+    return TabbedTextOut(x, y, GbkToWide(text, count).c_str(), -1, stops, stopAt, tabOrigin);
+}
+
+CSize CDC::TabbedTextOut(int x, int y, LPCWSTR text, int count, int stops, const INT* stopAt, int tabOrigin)
+{
     return packedSizeM(static_cast<DWORD>(
-        ::TabbedTextOutW(m_hDC, x, y, wide.c_str(), lengthOfM(wide), stops, stopAt, tabOrigin)));
+        ::TabbedTextOutW(m_hDC, x, y, text, lengthOfM(text, count), stops, stopAt, tabOrigin)));
 }
 
 CSize CDC::TabbedTextOut(int x, int y, const CString& text, int stops, const INT* stopAt, int tabOrigin)
@@ -118,8 +116,14 @@ int CDC::DrawText(LPCWSTR text, int count, LPRECT rect, UINT format)
 
 int CDC::DrawTextEx(LPCSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters)
 {
-    std::wstring wide = GbkToWide(text, count);
-    return ::DrawTextExW(m_hDC, wide.data(), lengthOfM(wide), rect, format & ~DT_MODIFYSTRING, parameters);
+    return DrawTextEx(GbkToWide(text, count).c_str(), -1, rect, format, parameters);
+}
+
+int CDC::DrawTextEx(LPCWSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters)
+{
+    // Without DT_MODIFYSTRING the text is only read.
+    return ::DrawTextExW(
+        m_hDC, const_cast<LPWSTR>(text), lengthOfM(text, count), rect, format & ~DT_MODIFYSTRING, parameters);
 }
 
 int CDC::DrawTextEx(const CString& text, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters)
@@ -129,19 +133,22 @@ int CDC::DrawTextEx(const CString& text, LPRECT rect, UINT format, DRAWTEXTPARAM
 
 CSize CDC::GetTextExtent(LPCSTR text, int count) const
 {
-    const std::wstring wide = GbkToWide(text, count);
-    return extentM(m_hAttribDC, wide.c_str(), lengthOfM(wide));
+    return extentM(m_hAttribDC, GbkToWide(text, count).c_str(), -1);
 }
 
 CSize CDC::GetTextExtent(LPCWSTR text, int count) const
 {
-    return extentM(m_hAttribDC, text, lengthOfM(text, count));
+    return extentM(m_hAttribDC, text, count);
 }
 
 CSize CDC::GetOutputTextExtent(LPCSTR text, int count) const
 {
-    const std::wstring wide = GbkToWide(text, count);
-    return extentM(m_hDC, wide.c_str(), lengthOfM(wide));
+    return extentM(m_hDC, GbkToWide(text, count).c_str(), -1);
+}
+
+CSize CDC::GetOutputTextExtent(LPCWSTR text, int count) const
+{
+    return extentM(m_hDC, text, count);
 }
 
 CSize CDC::GetOutputTextExtent(const CString& text) const
@@ -151,8 +158,12 @@ CSize CDC::GetOutputTextExtent(const CString& text) const
 
 CSize CDC::GetTabbedTextExtent(LPCSTR text, int count, int stops, const INT* stopAt) const
 {
-    const std::wstring wide = GbkToWide(text, count);
-    return packedSizeM(::GetTabbedTextExtentW(m_hAttribDC, wide.c_str(), lengthOfM(wide), stops, stopAt));
+    return GetTabbedTextExtent(GbkToWide(text, count).c_str(), -1, stops, stopAt);
+}
+
+CSize CDC::GetTabbedTextExtent(LPCWSTR text, int count, int stops, const INT* stopAt) const
+{
+    return packedSizeM(::GetTabbedTextExtentW(m_hAttribDC, text, lengthOfM(text, count), stops, stopAt));
 }
 
 CSize CDC::GetTabbedTextExtent(const CString& text, int stops, const INT* stopAt) const
@@ -163,7 +174,7 @@ CSize CDC::GetTabbedTextExtent(const CString& text, int stops, const INT* stopAt
 int CDC::GetTextFace(CString& face) const
 {
     std::wstring wide(static_cast<size_t>(std::max(::GetTextFaceW(m_hAttribDC, 0, nullptr), 1)), L'\0');
-    ::GetTextFaceW(m_hAttribDC, lengthOfM(wide), wide.data());
+    ::GetTextFaceW(m_hAttribDC, static_cast<int>(wide.size()), wide.data());
     face = wide.c_str();
     return face.GetLength();
 }

@@ -85,6 +85,11 @@ public:
     int CompareNoCase(const char* other) const;
     int Collate(const char* other) const; // as the user's language sorts
     int CollateNoCase(const char* other) const;
+    template <class C, AfxIfWide<C> = 0> int Compare(const C* other) const { return Compare(CString(other)); }
+    template <class C, AfxIfWide<C> = 0> int CompareNoCase(const C* other) const
+    {
+        return CompareNoCase(CString(other));
+    }
 
     // A position in the text, -1: not there. What is looked for begins and ends between characters.
     int Find(const char* what, int from = 0) const;
@@ -95,6 +100,7 @@ public:
     {
         return Find(CString(what), from);
     }
+    template <class C, AfxIfWide<C> = 0> int FindOneOf(const C* set) const { return FindOneOf(CString(set)); }
 
     CString Left(int count) const { return Mid(0, count); }
     CString Right(int count) const;
@@ -105,6 +111,10 @@ public:
     // The next piece between characters of that set, none of them empty; start is where the search goes on,
     // -1 with an empty result when there are no more.
     CString Tokenize(const char* separators, int& start) const;
+    template <class C, AfxIfWide<C> = 0> CString Tokenize(const C* separators, int& start) const
+    {
+        return Tokenize(CString(separators), start);
+    }
 
     // Blanks: space, tab, line ends, vertical tab, form feed.
     CString& Trim() { return TrimRight().TrimLeft(); }
@@ -125,6 +135,9 @@ public:
     int Replace(const char* what, const char* by); // result: how many
     int Replace(char what, char by);
     int Remove(char what); // result: how many
+    template <class C, AfxIfWide<C> = 0> CString& Trim(const C* set) { return Trim(CString(set)); }
+    template <class C, AfxIfWide<C> = 0> CString& TrimLeft(const C* set) { return TrimLeft(CString(set)); }
+    template <class C, AfxIfWide<C> = 0> CString& TrimRight(const C* set) { return TrimRight(CString(set)); }
     template <class C, AfxIfWide<C> = 0> int Insert(int at, const C* text)
     {
         return Insert(at, CString(text));
@@ -166,6 +179,7 @@ public:
 
     void Append(const char* text);
     void Append(const char* text, int length);
+    template <class C, AfxIfWide<C> = 0> void Append(const C* text) { *this += text; }
     void AppendChar(char character) { Append(&character, 1); }
     CString& operator+=(const char* text)
     {

@@ -6,8 +6,10 @@
 #include <afxwin.h>
 
 #include <afxcmn.h>
+#include <afxtempl.h>
 #else
 #include "toolkit/app.h"
+#include "toolkit/arrays.h"
 #include "toolkit/cmd_ui.h"
 #include "toolkit/common_controls.h"
 #include "toolkit/controls.h"
@@ -19,6 +21,8 @@
 #include "toolkit/gbk_string.h"
 #include "toolkit/gdi_objects.h"
 #include "toolkit/geometry.h"
+#include "toolkit/lists.h"
+#include "toolkit/maps.h"
 #include "toolkit/menu.h"
 #include "toolkit/message_box.h"
 #include "toolkit/message_map.h"

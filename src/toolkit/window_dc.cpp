@@ -17,35 +17,35 @@ int CDC::ExcludeUpdateRgn(CWnd* window)
 }
 
 CPaintDC::CPaintDC(CWnd* window)
-    : hWnd_(window->m_hWnd)
+    : m_hWnd(window->m_hWnd)
 {
-    Attach(::BeginPaint(hWnd_, &m_ps));
+    Attach(::BeginPaint(m_hWnd, &m_ps));
 }
 
 CPaintDC::~CPaintDC()
 {
     Detach();
-    ::EndPaint(hWnd_, &m_ps);
+    ::EndPaint(m_hWnd, &m_ps);
 }
 
 CClientDC::CClientDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
+    : m_hWnd(window == nullptr ? nullptr : window->m_hWnd)
 {
-    Attach(::GetDC(hWnd_));
+    Attach(::GetDC(m_hWnd));
 }
 
 CClientDC::~CClientDC()
 {
-    ::ReleaseDC(hWnd_, Detach());
+    ::ReleaseDC(m_hWnd, Detach());
 }
 
 CWindowDC::CWindowDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
+    : m_hWnd(window == nullptr ? nullptr : window->m_hWnd)
 {
-    Attach(::GetWindowDC(hWnd_));
+    Attach(::GetWindowDC(m_hWnd));
 }
 
 CWindowDC::~CWindowDC()
 {
-    ::ReleaseDC(hWnd_, Detach());
+    ::ReleaseDC(m_hWnd, Detach());
 }

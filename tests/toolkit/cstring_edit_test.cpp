@@ -280,4 +280,12 @@ TEST_F(CStringEdit, WideTextsAreFoundAndPutIn)
         == L"\x6587"
            L"a\x4E2D"
            L"bc");
+    int at = 0;
+    EXPECT_EQ(text.Tokenize(L"\x4E2D", at),
+        "\xCE\xC4"
+        "a");
+    text.Append(L"\x6587");
+    EXPECT_EQ(text.Trim(L"\x6587").TrimLeft(L"a").TrimRight(L"c"),
+        "\xD6\xD0"
+        "b");
 }

@@ -125,6 +125,16 @@ TEST_F(DcText, NarrowAndWideTextsDrawTheSame)
     EXPECT_EQ(drawn(), expected);
     dc_.DrawState(CPoint(3, 3), CSize(0, 0), text, DSS_NORMAL);
     EXPECT_EQ(drawn(), expected);
+    dc_.TabbedTextOut(3, 3,
+        L"a\x4E2D"
+        L"b\x6587",
+        -1, 0, nullptr, 0);
+    EXPECT_EQ(drawn(), expected);
+    dc_.DrawState(CPoint(3, 3), CSize(0, 0),
+        L"a\x4E2D"
+        L"b\x6587",
+        DSS_NORMAL);
+    EXPECT_EQ(drawn(), expected);
 
     CRect room(0, 0, Width, Height);
     EXPECT_NE(dc_.DrawText(text, room, DT_CENTER | DT_SINGLELINE), 0);
@@ -137,6 +147,10 @@ TEST_F(DcText, NarrowAndWideTextsDrawTheSame)
         room, DT_CENTER | DT_SINGLELINE);
     EXPECT_EQ(drawn(), centred);
     dc_.DrawTextEx(text, room, DT_CENTER | DT_SINGLELINE, nullptr);
+    EXPECT_EQ(drawn(), centred);
+    dc_.DrawTextEx(L"a\x4E2D"
+                   L"b\x6587",
+        -1, room, DT_CENTER | DT_SINGLELINE, nullptr);
     EXPECT_EQ(drawn(), centred);
 }
 
@@ -157,6 +171,8 @@ TEST_F(DcText, TextsAreMeasured)
     EXPECT_EQ(dc_.GetTextExtent("a" ZHONG "b", 3), CSize(expected));
     EXPECT_EQ(dc_.GetTextExtent(L"a\x4E2D"), CSize(expected));
     EXPECT_EQ(dc_.GetOutputTextExtent(text), CSize(expected));
+    EXPECT_EQ(dc_.GetOutputTextExtent(L"a\x4E2D"), CSize(expected));
+    EXPECT_EQ(dc_.GetTabbedTextExtent(L"a\x4E2D", 2, 0, nullptr), CSize(expected));
     EXPECT_EQ(dc_.GetTabbedTextExtent(text, 0, nullptr), CSize(expected));
     const INT stop = 100;
     EXPECT_EQ(dc_.GetTabbedTextExtent("\t" ZHONG, 3, 1, &stop).cx, 100 + dc_.GetTextExtent(ZHONG).cx);
