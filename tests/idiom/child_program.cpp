@@ -177,6 +177,12 @@ void ClickMiddle(HWND window)
     ClickM(window, rect.right / 2, rect.bottom / 2);
 }
 
+void SelectAll()
+{
+    KeyM(VK_HOME);
+    ChordM(VK_SHIFT, VK_END);
+}
+
 COLORREF ScreenPixel(HWND window, int x, int y)
 {
     POINT point { x, y };

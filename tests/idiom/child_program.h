@@ -43,4 +43,5 @@ bool FocusBecomes(const ChildProgram& program, HWND window);
 std::vector<std::wstring> LinesOf(HWND listBox);
 int CountOnScreen(HWND window, COLORREF color); // Pixels of a window of another program as they show.
 void ClickMiddle(HWND window);
+void SelectAll();                                // By the keyboard, in the edit that has the focus.
 COLORREF ScreenPixel(HWND window, int x, int y); // In client pixels of the window.

@@ -70,7 +70,7 @@ TEST_F(CustomDraw, EditTakesDigitsAndShowsWhatIsOutOfRange)
 {
     const HWND edit = ItemM(IDC_NUMBER);
     ClickM(edit, 10, 5);
-    ChordM(VK_CONTROL, 'A');
+    SelectAll();
     TypeM(L"a9x0.");
     EXPECT_TRUE(TextBecomes(dialog_, IDC_NUMBER, L"90"));
     EXPECT_EQ(CountOnScreen(edit, BadColor), 0);
@@ -83,7 +83,7 @@ TEST_F(CustomDraw, EditTakesDigitsAndShowsWhatIsOutOfRange)
     TypeM(L"44");
     EXPECT_TRUE(TextBecomes(dialog_, IDC_NUMBER, L"44"));
     EXPECT_TRUE(Becomes([&] { return CountOnScreen(edit, BadColor) == 0; }));
-    ChordM(VK_CONTROL, 'A');
+    SelectAll();
     ChordM(VK_CONTROL, 'C');
     KeyM(VK_END);
     ChordM(VK_CONTROL, 'V');
@@ -141,7 +141,7 @@ TEST_F(CustomDraw, OpensAPanelkitDialog)
     const HWND name = ::GetDlgItem(machine, 1001);
     EXPECT_EQ(TextOf(machine, 1001), L"Lathe");
     ClickM(name, 10, 10);
-    ChordM(VK_CONTROL, 'A');
+    SelectAll();
     TypeM(L"Drill");
     EXPECT_TRUE(TextBecomes(machine, 1001, L"Drill"));
     KeyM(VK_RETURN);

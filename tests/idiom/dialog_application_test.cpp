@@ -149,7 +149,7 @@ TEST_F(DialogApplication, TakesNothingThatItsFieldsForbid)
 {
     StartM();
     ClickM(ItemM(IDC_PRICE), 10, 5);
-    ChordM(VK_CONTROL, 'A');
+    SelectAll();
     TypeM(L"2000");
     KeyM(VK_RETURN);
     const HWND box = program_->WindowM(L"dialog_application"); // The message about it.
@@ -171,7 +171,7 @@ TEST_F(DialogApplication, KeepsWhatWasAccepted)
     StartM();
     TypeM(L"12");
     ClickM(ItemM(IDC_CUSTOMER), 10, 5);
-    ChordM(VK_CONTROL, 'A');
+    SelectAll();
     TypeM(L"Ann");
     EXPECT_TRUE(TextBecomes(dialog_, IDC_CUSTOMER, L"Ann"));
     KeyM(VK_RETURN);
