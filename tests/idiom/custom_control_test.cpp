@@ -136,10 +136,9 @@ TEST_F(CustomControl, OneMadeAtRunTimeSetsTheColumnsOfTheOther)
     ClickCellM(1, 1);
     EXPECT_TRUE(SelectionBecomesM(L"cell 4"));
     const HWND slider = ::GetDlgItem(dialog_, IDC_ROWS);
-    ::SetFocus(nullptr);
     RECT rect {};
     ::GetClientRect(slider, &rect);
-    ClickM(slider, rect.right - 3, rect.bottom / 2); // Some rows more.
+    ClickM(slider, rect.right - 15, rect.bottom / 3); // On its channel: some rows more.
     EXPECT_TRUE(Becomes([&] { return ::SendMessageW(slider, TBM_GETPOS, 0, 0) > 12; }));
     const int cells = 5 * static_cast<int>(::SendMessageW(slider, TBM_GETPOS, 0, 0));
     ClickCellM(0, 0);
