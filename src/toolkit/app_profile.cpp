@@ -61,6 +61,31 @@ bool readM(HKEY key, LPCSTR entry, DWORD kind, std::vector<BYTE>* to)
     return ::RegQueryValueExW(key, name.c_str(), nullptr, &found, to->data(), &bytes) == ERROR_SUCCESS;
 }
 
+std::wstring iniFileM(LPCSTR name)
+{
+    const std::wstring file = slGbkToShown(name);
+    if (file.find_first_of(L"\\/:") != std::wstring::npos) {
+        return file;
+    }
+    wchar_t folder[MAX_PATH] = {};
+    ::GetWindowsDirectoryW(folder, MAX_PATH);
+    return std::wstring(folder) + L"\\" + file;
+}
+
+// The system writes texts in its own code page, unless the file begins as a wide one.
+bool writeIniM(const std::wstring& file, LPCWSTR section, LPCWSTR entry, LPCWSTR value)
+{
+    const HANDLE made
+        = ::CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (made != INVALID_HANDLE_VALUE) {
+        const wchar_t mark = 0xFEFF;
+        DWORD written = 0;
+        ::WriteFile(made, &mark, sizeof mark, &written, nullptr);
+        ::CloseHandle(made);
+    }
+    return ::WritePrivateProfileStringW(section, entry, value, file.c_str()) != FALSE;
+}
+
 std::wstring iniTextM(LPCSTR section, LPCSTR entry, const std::wstring& otherwise, const std::wstring& file)
 {
     std::vector<wchar_t> text(256);
@@ -122,7 +147,7 @@ UINT CWinApp::GetProfileInt(LPCSTR section, LPCSTR entry, int otherwise)
 {
     if (m_pszRegistryKey == nullptr) {
         return ::GetPrivateProfileIntW(slGbkToShown(section).c_str(), slGbkToShown(entry).c_str(), otherwise,
-            slGbkToShown(m_pszProfileName).c_str());
+            iniFileM(m_pszProfileName).c_str());
     }
     std::vector<BYTE> bytes;
     DWORD value = static_cast<DWORD>(otherwise);
@@ -145,7 +170,7 @@ CString CWinApp::GetProfileString(LPCSTR section, LPCSTR entry, LPCSTR otherwise
 {
     if (m_pszRegistryKey == nullptr) {
         return WideToGbk(
-            iniTextM(section, entry, slGbkToShown(otherwise), slGbkToShown(m_pszProfileName)).c_str())
+            iniTextM(section, entry, slGbkToShown(otherwise), iniFileM(m_pszProfileName)).c_str())
             .c_str();
     }
     std::vector<BYTE> bytes;
@@ -161,9 +186,8 @@ BOOL CWinApp::WriteProfileString(LPCSTR section, LPCSTR entry, LPCSTR value)
     const std::wstring wideEntry = slGbkToShown(entry);
     const std::wstring wideValue = slGbkToShown(value);
     if (m_pszRegistryKey == nullptr) {
-        return ::WritePrivateProfileStringW(slGbkToShown(section).c_str(),
-            entry == nullptr ? nullptr : wideEntry.c_str(), value == nullptr ? nullptr : wideValue.c_str(),
-            slGbkToShown(m_pszProfileName).c_str());
+        return writeIniM(iniFileM(m_pszProfileName), slGbkToShown(section).c_str(),
+            entry == nullptr ? nullptr : wideEntry.c_str(), value == nullptr ? nullptr : wideValue.c_str());
     }
     if (entry == nullptr) {
         const RegistryKeyCL application(GetAppRegistryKey());
@@ -184,7 +208,7 @@ BOOL CWinApp::GetProfileBinary(LPCSTR section, LPCSTR entry, LPBYTE* data, UINT*
     *bytes = 0;
     std::vector<BYTE> found;
     if (m_pszRegistryKey == nullptr) {
-        const std::wstring letters = iniTextM(section, entry, L"", slGbkToShown(m_pszProfileName));
+        const std::wstring letters = iniTextM(section, entry, L"", iniFileM(m_pszProfileName));
         for (size_t i = 0; i + 1 < letters.size(); i += 2) {
             found.push_back(static_cast<BYTE>((letters[i] - L'A') | (letters[i + 1] - L'A') << 4));
         }

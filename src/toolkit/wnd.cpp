@@ -213,10 +213,10 @@ void CWnd::OnNcDestroy()
     if (!life.IsAliveM()) {
         return;
     }
-    CWinThread* thread = ThreadStateCL::ThisM().thread;
-    if (thread != nullptr && thread->m_pMainWnd == this) {
-        thread->MainWndGone();
+    ThreadStateCL& state = ThreadStateCL::ThisM();
+    if (state.thread != nullptr && state.thread->m_pMainWnd == this) {
+        state.thread->MainWndGone();
     }
-    Detach();
+    state.left.erase(Detach()); // no message comes any more
     PostNcDestroy();
 }

@@ -15,6 +15,7 @@ public:
     int oks = 0;
     bool ownerWasEnabled = true;
     bool wasVisible = false;
+    int early = 0;
     UINT key = 0; // pressed in the edit field; 0: the timer ends the dialog with 77
     DialogCL* inner = nullptr;
     int innerResult = 0;
@@ -26,6 +27,9 @@ public:
     }
     afx_msg void OnTimer(UINT_PTR id)
     {
+        if (!IsWindowVisible() && ++early < 100) {
+            return; // due before the loop had nothing else to do
+        }
         KillTimer(id);
         wasVisible = IsWindowVisible() != FALSE;
         HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
