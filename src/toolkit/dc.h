@@ -158,8 +158,8 @@ public:
     BOOL Pie(LPCRECT rect, POINT from, POINT to);
     BOOL AngleArc(int x, int y, int radius, float startAngle, float sweepAngle); // degrees
 
-    void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, *brush); }
-    void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
+    void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, handleM<HBRUSH>(brush)); }
+    void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, handleM<HBRUSH>(brush)); }
     void InvertRect(LPCRECT rect) { ::InvertRect(m_hDC, rect); }
     // Both set the background colour as a side effect.
     void FillSolidRect(LPCRECT rect, COLORREF color);
@@ -183,10 +183,10 @@ public:
         HBRUSH brush = nullptr); // count 0: up to the zero
     BOOL DrawState(CPoint at, CSize size, LPCWSTR text, UINT flags, BOOL hasPrefix = TRUE, int count = 0,
         HBRUSH brush = nullptr);
-    BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
+    BOOL FillRgn(CRgn* region, CBrush* brush);
     BOOL FrameRgn(CRgn* region, CBrush* brush, int width, int height);
-    BOOL InvertRgn(CRgn* region) { return ::InvertRgn(m_hDC, *region); }
-    BOOL PaintRgn(CRgn* region) { return ::PaintRgn(m_hDC, *region); }
+    BOOL InvertRgn(CRgn* region) { return ::InvertRgn(m_hDC, handleM<HRGN>(region)); }
+    BOOL PaintRgn(CRgn* region) { return ::PaintRgn(m_hDC, handleM<HRGN>(region)); }
     BOOL FloodFill(int x, int y, COLORREF border) { return ::FloodFill(m_hDC, x, y, border); }
     BOOL ExtFloodFill(int x, int y, COLORREF c, UINT type) { return ::ExtFloodFill(m_hDC, x, y, c, type); }
     BOOL GradientFill(TRIVERTEX* corners, ULONG cornerCount, void* mesh, ULONG meshCount, DWORD mode);
@@ -272,6 +272,10 @@ public:
     BOOL GetCharABCWidths(UINT first, UINT last, ABC* widths) const;
 
 private:
+    template <class HandleTP> static HandleTP handleM(const CGdiObject* object)
+    {
+        return object == nullptr ? nullptr : static_cast<HandleTP>(object->m_hObject);
+    }
     HGDIOBJ selectM(const CGdiObject* object);
     bool isKnown_ = false; // as the holder of its context
 };

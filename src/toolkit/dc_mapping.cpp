@@ -124,10 +124,10 @@ void CDC::DPtoLP(LPSIZE size) const
 
 int CDC::SelectClipRgn(CRgn* region)
 {
-    return ::SelectClipRgn(m_hDC, region == nullptr ? nullptr : static_cast<HRGN>(*region));
+    return ::SelectClipRgn(m_hDC, handleM<HRGN>(region));
 }
 
 int CDC::SelectClipRgn(CRgn* region, int mode)
 {
-    return ::ExtSelectClipRgn(m_hDC, region == nullptr ? nullptr : static_cast<HRGN>(*region), mode);
+    return ::ExtSelectClipRgn(m_hDC, handleM<HRGN>(region), mode);
 }

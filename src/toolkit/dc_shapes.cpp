@@ -112,8 +112,7 @@ BOOL CDC::DrawState(CPoint at, CSize size, HBITMAP bitmap, UINT flags, HBRUSH br
 
 BOOL CDC::DrawState(CPoint at, CSize size, CBitmap* bitmap, UINT flags, CBrush* brush)
 {
-    const HBRUSH handle = brush == nullptr ? nullptr : static_cast<HBRUSH>(*brush);
-    return DrawState(at, size, static_cast<HBITMAP>(*bitmap), flags, handle);
+    return DrawState(at, size, handleM<HBITMAP>(bitmap), flags, handleM<HBRUSH>(brush));
 }
 
 BOOL CDC::DrawState(CPoint at, CSize size, HICON icon, UINT flags, HBRUSH brush)
@@ -124,7 +123,7 @@ BOOL CDC::DrawState(CPoint at, CSize size, HICON icon, UINT flags, HBRUSH brush)
 
 BOOL CDC::DrawState(CPoint at, CSize size, HICON icon, UINT flags, CBrush* brush)
 {
-    return DrawState(at, size, icon, flags, brush == nullptr ? nullptr : static_cast<HBRUSH>(*brush));
+    return DrawState(at, size, icon, flags, handleM<HBRUSH>(brush));
 }
 
 BOOL CDC::DrawState(CPoint at, CSize size, LPCSTR text, UINT flags, BOOL hasPrefix, int count, HBRUSH brush)
@@ -139,9 +138,14 @@ BOOL CDC::DrawState(CPoint at, CSize size, LPCWSTR text, UINT flags, BOOL hasPre
         at.x, at.y, size.cx, size.cy, flags | static_cast<UINT>(hasPrefix ? DST_PREFIXTEXT : DST_TEXT));
 }
 
+BOOL CDC::FillRgn(CRgn* region, CBrush* brush)
+{
+    return ::FillRgn(m_hDC, handleM<HRGN>(region), handleM<HBRUSH>(brush));
+}
+
 BOOL CDC::FrameRgn(CRgn* region, CBrush* brush, int width, int height)
 {
-    return ::FrameRgn(m_hDC, *region, *brush, width, height);
+    return ::FrameRgn(m_hDC, handleM<HRGN>(region), handleM<HBRUSH>(brush), width, height);
 }
 
 BOOL CDC::BitBlt(int x, int y, int cx, int cy, CDC* from, int fromX, int fromY, DWORD code)
@@ -189,8 +193,7 @@ BOOL CDC::GradientFill(TRIVERTEX* corners, ULONG cornerCount, void* mesh, ULONG 
 
 BOOL CDC::ScrollDC(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn* update, LPRECT updateRect)
 {
-    const HRGN region = update == nullptr ? nullptr : static_cast<HRGN>(*update);
-    return ::ScrollDC(m_hDC, dx, dy, scroll, clip, region, updateRect);
+    return ::ScrollDC(m_hDC, dx, dy, scroll, clip, handleM<HRGN>(update), updateRect);
 }
 
 float CDC::GetMiterLimit() const

@@ -133,6 +133,26 @@ TEST_F(DcShapes, Fills)
     EXPECT_EQ(dc_.GetPixel(CPoint(59, 39)), Red);
 }
 
+TEST_F(DcShapes, NullObjectsDrawNothing)
+{
+    CRgn region;
+    region.CreateRectRgn(0, 0, 10, 10);
+    CBrush red(Red);
+    dc_.FrameRect(CRect(0, 0, 10, 10), nullptr);
+    EXPECT_FALSE(dc_.FillRgn(&region, nullptr));
+    EXPECT_FALSE(dc_.FillRgn(nullptr, &red));
+    EXPECT_FALSE(dc_.FrameRgn(nullptr, &red, 1, 1));
+    EXPECT_FALSE(dc_.InvertRgn(nullptr));
+    EXPECT_FALSE(dc_.PaintRgn(nullptr));
+    EXPECT_FALSE(dc_.BitBlt(0, 0, 10, 10, nullptr, 0, 0, SRCCOPY));
+    EXPECT_FALSE(dc_.AlphaBlend(0, 0, 10, 10, nullptr, 0, 0, 10, 10, BLENDFUNCTION()));
+    EXPECT_EQ(dc_.SelectObject(static_cast<CPen*>(nullptr)), nullptr);
+    for (int at = 0; at < 10; ++at) {
+        EXPECT_EQ(dc_.GetPixel(at, at), White);
+        EXPECT_EQ(dc_.GetPixel(at, 0), White);
+    }
+}
+
 TEST_F(DcShapes, Pictures)
 {
     CBitmap source;
