@@ -1,6 +1,5 @@
 #include "toolkit/app.h"
 #include "baselib/gbk.h"
-#include "toolkit/module.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
 #include <cstdlib>

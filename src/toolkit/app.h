@@ -1,6 +1,8 @@
 #pragma once
 #include "toolkit/gbk_string.h"
+#include "toolkit/module.h"
 #include "toolkit/thread.h"
+#include "toolkit/wide_text.h"
 
 // The program, and its first thread. One object, usually a global one; the program then needs no WinMain.
 class PANELKIT_API CWinApp : public CWinThread
@@ -20,9 +22,17 @@ public:
     BOOL InitInstance() override { return TRUE; }
     HICON LoadIcon(UINT id) const;
     HICON LoadIcon(LPCSTR name) const;
+    AFX_WIDE_TEXT HICON LoadIcon(const WideTP* name) const // MAKEINTRESOURCE too
+    {
+        return ::LoadIconW(AfxGetResourceHandle(), name);
+    }
     HICON LoadStandardIcon(LPCWSTR id) const { return ::LoadIconW(nullptr, id); }
     HCURSOR LoadCursor(UINT id) const;
     HCURSOR LoadCursor(LPCSTR name) const;
+    AFX_WIDE_TEXT HCURSOR LoadCursor(const WideTP* name) const
+    {
+        return ::LoadCursorW(AfxGetResourceHandle(), name);
+    }
     HCURSOR LoadStandardCursor(LPCWSTR id) const { return ::LoadCursorW(nullptr, id); }
     virtual void DoWaitCursor(
         int change); // 1: shows the hourglass, -1: takes one away, 0: shows it again if due

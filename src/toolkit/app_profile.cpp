@@ -1,6 +1,5 @@
 #include "baselib/gbk.h"
 #include "toolkit/app.h"
-#include "toolkit/module.h"
 #include "toolkit/text.h"
 #include <cstdlib>
 #include <cstring>

@@ -110,8 +110,9 @@ public:
     BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* window, LPCRECT ignored = nullptr);
     BOOL TrackPopupMenuEx(UINT flags, int x, int y, CWnd* window, TPMPARAMS* params);
 
-    virtual void DrawItem(LPDRAWITEMSTRUCT) { }       // of MF_OWNERDRAW items
-    virtual void MeasureItem(LPMEASUREITEMSTRUCT) { } // of items of the window's own menu
+    // Of MF_OWNERDRAW items, where the window that shows the menu has no handler.
+    virtual void DrawItem(LPDRAWITEMSTRUCT) { }
+    virtual void MeasureItem(LPMEASUREITEMSTRUCT) { }
 
 private:
     BOOL loadM(LPCWSTR name);

@@ -126,6 +126,7 @@ private:
     HWND askingChildM(UINT message, WPARAM wParam, LPARAM lParam) const;
     HWND measuredChildM(UINT id) const;
     void updateMenuM(CMenu* menu);
+    bool drawMenuM(UINT message, LPARAM lParam);
     bool dispatchM(AFX_MESSAGE& m);
 
     WNDPROC oldProc_ = nullptr; // null: the object doesn't get the window's messages

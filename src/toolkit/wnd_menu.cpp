@@ -1,7 +1,22 @@
 #include "baselib/gbk.h"
 #include "toolkit/cmd_ui.h"
 #include "toolkit/life.h"
+#include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
+
+namespace {
+
+bool holdsItselfM(HMENU menu, UINT id)
+{
+    for (int place = ::GetMenuItemCount(menu) - 1; place >= 0; --place) {
+        if (::GetMenuItemID(menu, place) == id) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 // Here, not with the others of their classes: the windows know menus and updates, so those must not know
 // windows.
@@ -104,6 +119,32 @@ void CWnd::updateMenuM(CMenu* menu)
         }
         ui.DoUpdate(this, FALSE);
     }
+}
+
+// An owner-drawn item asks the window; the object that owns its menu may answer.
+bool CWnd::drawMenuM(UINT message, LPARAM lParam)
+{
+    if (message == WM_DRAWITEM) {
+        auto* item = reinterpret_cast<DRAWITEMSTRUCT*>(lParam);
+        CMenu* menu = item->CtlType == ODT_MENU
+            ? CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(item->hwndItem))
+            : nullptr;
+        if (menu != nullptr) {
+            menu->DrawItem(item);
+        }
+        return menu != nullptr;
+    }
+    auto* item = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
+    if (item->CtlType == ODT_MENU) {
+        // Only the id is known here.
+        for (const auto& [handle, menu] : ThreadStateCL::ThisM().permanentMenus) {
+            if (holdsItselfM(handle, item->itemID)) {
+                menu->MeasureItem(item);
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 void WndHandlersCL::OnInitMenuPopup(CMenu* menu, UINT, BOOL isSystemMenu)

@@ -22,6 +22,10 @@ LRESULT WndHandlersCL::askChildM()
 {
     const MSG current = ThreadStateCL::ThisM().message;
     CWnd* self = static_cast<CWnd*>(this);
+    if ((current.message == WM_DRAWITEM || current.message == WM_MEASUREITEM)
+        && self->drawMenuM(current.message, current.lParam)) {
+        return TRUE;
+    }
     const HWND child = self->askingChildM(current.message, current.wParam, current.lParam);
     LifeCL life(self);
     LRESULT answer = 0;
@@ -83,6 +87,11 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     }
     if (life.IsAliveM() && message == WM_INITMENUPOPUP && HIWORD(lParam) == 0) {
         updateMenuM(CMenu::FromHandle(reinterpret_cast<HMENU>(wParam)));
+    }
+    if (life.IsAliveM() && (message == WM_DRAWITEM || message == WM_MEASUREITEM)
+        && drawMenuM(message, lParam)) {
+        *result = TRUE;
+        return TRUE;
     }
     // What this window has no answer to, the control that asks may have.
     return !life.IsAliveM()

@@ -16,7 +16,16 @@ public:
     BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
     static CWnd* GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
     static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
+    // Null stands for any class or title.
     static CWnd* FindWindow(LPCSTR className, LPCSTR title);
+    AFX_WIDE_TEXT static CWnd* FindWindow(const WideTP* className, LPCWSTR title)
+    {
+        return FromHandle(::FindWindowW(className, title));
+    }
+    AFX_WIDE_TEXT static CWnd* FindWindow(std::nullptr_t, const WideTP* title)
+    {
+        return FromHandle(::FindWindowW(nullptr, title));
+    }
     static CWnd* FindWindowEx(HWND parent, HWND after, LPCSTR className, LPCSTR title);
     static CWnd* WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
     CWnd* ChildWindowFromPoint(POINT point) const

@@ -195,6 +195,38 @@ TEST(CmdUI, ControlsAreAskedFor)
     EXPECT_FALSE(unknown.IsWindowEnabled()) << "nobody handles it";
 }
 
+namespace {
+
+class DrawnMenuCL : public CMenu
+{
+public:
+    int drawn = 0;
+    int measured = 0;
+    void DrawItem(LPDRAWITEMSTRUCT item) override { drawn += static_cast<int>(item->itemID == OpenId); }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override
+    {
+        measured += static_cast<int>(item->itemID == OpenId);
+        item->itemWidth = 50;
+        item->itemHeight = 20;
+    }
+};
+
+} // namespace
+
+TEST(Menu, ObjectDrawsItsItems)
+{
+    MenuWndCL wnd;
+    DrawnMenuCL menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    ASSERT_TRUE(menu.AppendMenu(MF_OWNERDRAW, OpenId, "data"));
+    ActivateM(wnd);
+    Script script([] { ::EndMenu(); });
+    script.WaitM([&menu] { return menu.drawn > 0; }, "the item is drawn").DoM([] { KeyM(VK_ESCAPE); });
+    menu.TrackPopupMenu(TPM_LEFTALIGN, 30, 30, &wnd);
+    EXPECT_EQ(menu.measured, 1);
+    EXPECT_TRUE(wnd.commands.empty());
+}
+
 TEST(Menu, UserPicksAnItemOfAPopup)
 {
     MenuWndCL wnd;

@@ -322,3 +322,13 @@ TEST(WndMembers, TextsAreWideWhereTheyAreGivenSo)
     wnd.SetWindowText(nullptr);
     EXPECT_EQ(wnd.GetWindowTextLength(), 0);
 }
+
+TEST(WndMembers, WindowsAreFoundByTheirTitle)
+{
+    CWnd wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, nullptr, L"\u4E2D toolkit test", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+    EXPECT_EQ(CWnd::FindWindow(nullptr, "\xD6\xD0 toolkit test"), &wnd);
+    EXPECT_EQ(CWnd::FindWindow(nullptr, L"\u4E2D toolkit test"), &wnd);
+    EXPECT_EQ(CWnd::FindWindow(L"AfxWnd", L"\u4E2D toolkit test"), &wnd);
+    EXPECT_EQ(CWnd::FindWindow("AfxWnd", "no such window"), nullptr);
+}
