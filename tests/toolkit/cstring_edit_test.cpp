@@ -284,6 +284,15 @@ TEST_F(CStringEdit, WideTextsAreFoundAndPutIn)
     EXPECT_EQ(text.Tokenize(L"\x4E2D", at),
         "\xCE\xC4"
         "a");
+    EXPECT_EQ(text.SpanIncluding(L"\x6587"
+                                 L"a"),
+        "\xCE\xC4"
+        "a");
+    EXPECT_EQ(text.SpanExcluding(L"\x4E2D"),
+        "\xCE\xC4"
+        "a");
+    EXPECT_EQ(CString("a").Collate(L"a"), 0);
+    EXPECT_EQ(CString("a").CollateNoCase(L"A"), 0);
     text.Append(L"\x6587");
     EXPECT_EQ(text.Trim(L"\x6587").TrimLeft(L"a").TrimRight(L"c"),
         "\xD6\xD0"

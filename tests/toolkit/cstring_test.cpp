@@ -48,6 +48,9 @@ TEST(CString, IsAssignedEveryKindOfText)
     EXPECT_EQ(bytesOf(text), "");
     text.SetString("abc", 2);
     EXPECT_EQ(bytesOf(text), "ab");
+    text.SetString(L"\x4E2D");
+    EXPECT_EQ(bytesOf(text), ZHONG);
+    text.SetString("ab");
     const CString copy(text);
     text.Empty();
     EXPECT_EQ(bytesOf(copy), "ab");
@@ -179,6 +182,8 @@ TEST(CString, IsLoadedFromAStringTable)
     EXPECT_EQ(bytesOf(CString(MAKEINTRESOURCEA(4711))), "");
     AfxFormatString2(text, 1003, "x", "y");
     EXPECT_EQ(bytesOf(text), "x and y and x%3");
+    AfxFormatString2(text, 1003, L"\x4E2D", L"y");
+    EXPECT_EQ(bytesOf(text), ZHONG " and y and " ZHONG "%3");
     AfxFormatString1(text, 1003, "x");
     EXPECT_EQ(bytesOf(text), "x and %2 and x%3");
 }
