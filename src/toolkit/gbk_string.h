@@ -54,6 +54,7 @@ public:
     }
     void SetString(const char* text) { *this = CString(text); }
     void SetString(const char* text, int length) { *this = CString(text, length); }
+    template <class C, AfxIfWide<C> = 0> void SetString(const C* text) { *this = CString(text); }
 
     int GetLength() const { return static_cast<int>(bytes_.empty() ? 0 : bytes_.size() - 1); }
     BOOL IsEmpty() const { return GetLength() == 0; }
@@ -62,8 +63,8 @@ public:
     operator const char*() const { return GetString(); }
     char GetAt(int index) const { return index < 0 || index >= GetLength() ? '\0' : GetString()[index]; }
     char operator[](int index) const { return GetAt(index); }
-    void SetAt(
-        int index, char byte); // outside the text: nothing; the two bytes of a character are the caller's
+    // Outside the text: nothing. The two bytes of a character are the caller's.
+    void SetAt(int index, char byte);
 
     // Room for length bytes and a zero; ReleaseBuffer follows with the length used (-1: up to the zero). Both
     // take the length as it is, also within a character.
@@ -90,6 +91,11 @@ public:
     {
         return CompareNoCase(CString(other));
     }
+    template <class C, AfxIfWide<C> = 0> int Collate(const C* other) const { return Collate(CString(other)); }
+    template <class C, AfxIfWide<C> = 0> int CollateNoCase(const C* other) const
+    {
+        return CollateNoCase(CString(other));
+    }
 
     // A position in the text, -1: not there. What is looked for begins and ends between characters.
     int Find(const char* what, int from = 0) const;
@@ -114,6 +120,14 @@ public:
     template <class C, AfxIfWide<C> = 0> CString Tokenize(const C* separators, int& start) const
     {
         return Tokenize(CString(separators), start);
+    }
+    template <class C, AfxIfWide<C> = 0> CString SpanIncluding(const C* characters) const
+    {
+        return SpanIncluding(CString(characters));
+    }
+    template <class C, AfxIfWide<C> = 0> CString SpanExcluding(const C* characters) const
+    {
+        return SpanExcluding(CString(characters));
     }
 
     // Blanks: space, tab, line ends, vertical tab, form feed.

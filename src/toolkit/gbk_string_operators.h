@@ -73,6 +73,15 @@ AFX_COMPARE_STRINGS(>=)
 PANELKIT_API void AfxFormatString1(CString& to, UINT id, const char* one);
 PANELKIT_API void AfxFormatString2(CString& to, UINT id, const char* one, const char* two);
 
+template <class C, AfxIfWide<C> = 0> void AfxFormatString1(CString& to, UINT id, const C* one)
+{
+    AfxFormatString1(to, id, CString(one));
+}
+template <class C, AfxIfWide<C> = 0> void AfxFormatString2(CString& to, UINT id, const C* one, const C* two)
+{
+    AfxFormatString2(to, id, CString(one), CString(two));
+}
+
 // A wide text, for functions of the window system: ::SetWindowTextW(hWnd, CStringW(text)).
 class CStringW
 {

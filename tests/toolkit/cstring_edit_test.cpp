@@ -256,36 +256,3 @@ TEST_F(CStringEdit, TokensAreThePiecesBetweenSeparators)
         ASSERT_EQ(at, -1);
     }
 }
-
-TEST_F(CStringEdit, BlanksAreTrimmed)
-{
-    EXPECT_EQ(CString(" \t\r\n a b \v\f").Trim(), "a b");
-    EXPECT_EQ(CString("  a ").TrimLeft(), "a ");
-    EXPECT_EQ(CString("  a ").TrimRight(), "  a");
-    EXPECT_EQ(CString("xxaxx").Trim('x'), "a");
-    EXPECT_EQ(CString("xxaxx").TrimLeft('x'), "axx");
-    EXPECT_EQ(CString("xxaxx").TrimRight('x'), "xxa");
-    EXPECT_EQ(CString(" a ").Trim(static_cast<const char*>(nullptr)), " a ");
-    EXPECT_EQ(CString("   ").Trim(), "");
-}
-
-TEST_F(CStringEdit, WideTextsAreFoundAndPutIn)
-{
-    CString text(L"a\x4E2D\x6587");
-    EXPECT_EQ(text.Find(L"\x6587"), 3);
-    EXPECT_EQ(text.Replace(L"\x6587", L"b"), 1);
-    EXPECT_EQ(text.Insert(0, L"\x6587"), 6);
-    EXPECT_EQ(text.Insert(6, 'c'), 7);
-    EXPECT_TRUE(text
-        == L"\x6587"
-           L"a\x4E2D"
-           L"bc");
-    int at = 0;
-    EXPECT_EQ(text.Tokenize(L"\x4E2D", at),
-        "\xCE\xC4"
-        "a");
-    text.Append(L"\x6587");
-    EXPECT_EQ(text.Trim(L"\x6587").TrimLeft(L"a").TrimRight(L"c"),
-        "\xD6\xD0"
-        "b");
-}

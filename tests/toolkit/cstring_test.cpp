@@ -48,6 +48,9 @@ TEST(CString, IsAssignedEveryKindOfText)
     EXPECT_EQ(bytesOf(text), "");
     text.SetString("abc", 2);
     EXPECT_EQ(bytesOf(text), "ab");
+    text.SetString(L"\x4E2D");
+    EXPECT_EQ(bytesOf(text), ZHONG);
+    text.SetString("ab");
     const CString copy(text);
     text.Empty();
     EXPECT_EQ(bytesOf(copy), "ab");
@@ -126,6 +129,48 @@ TEST(CString, TakesPartsOfItself)
     EXPECT_EQ(bytesOf(text), "x");
 }
 
+TEST(CString, BlanksAreTrimmed)
+{
+    EXPECT_EQ(CString(" \t\r\n a b \v\f").Trim(), "a b");
+    EXPECT_EQ(CString("  a ").TrimLeft(), "a ");
+    EXPECT_EQ(CString("  a ").TrimRight(), "  a");
+    EXPECT_EQ(CString("xxaxx").Trim('x'), "a");
+    EXPECT_EQ(CString("xxaxx").TrimLeft('x'), "axx");
+    EXPECT_EQ(CString("xxaxx").TrimRight('x'), "xxa");
+    EXPECT_EQ(CString(" a ").Trim(static_cast<const char*>(nullptr)), " a ");
+    EXPECT_EQ(CString("   ").Trim(), "");
+}
+
+TEST(CString, WideTextsAreFoundAndPutIn)
+{
+    CString text(L"a\x4E2D\x6587");
+    EXPECT_EQ(text.Find(L"\x6587"), 3);
+    EXPECT_EQ(text.Replace(L"\x6587", L"b"), 1);
+    EXPECT_EQ(text.Insert(0, L"\x6587"), 6);
+    EXPECT_EQ(text.Insert(6, 'c'), 7);
+    EXPECT_TRUE(text
+        == L"\x6587"
+           L"a\x4E2D"
+           L"bc");
+    int at = 0;
+    EXPECT_EQ(text.Tokenize(L"\x4E2D", at),
+        "\xCE\xC4"
+        "a");
+    EXPECT_EQ(text.SpanIncluding(L"\x6587"
+                                 L"a"),
+        "\xCE\xC4"
+        "a");
+    EXPECT_EQ(text.SpanExcluding(L"\x4E2D"),
+        "\xCE\xC4"
+        "a");
+    EXPECT_EQ(CString("a").Collate(L"a"), 0);
+    EXPECT_EQ(CString("a").CollateNoCase(L"A"), 0);
+    text.Append(L"\x6587");
+    EXPECT_EQ(text.Trim(L"\x6587").TrimLeft(L"a").TrimRight(L"c"),
+        "\xD6\xD0"
+        "b");
+}
+
 TEST(CString, GivesItsBytes)
 {
     CString text("a" ZHONG);
@@ -179,6 +224,8 @@ TEST(CString, IsLoadedFromAStringTable)
     EXPECT_EQ(bytesOf(CString(MAKEINTRESOURCEA(4711))), "");
     AfxFormatString2(text, 1003, "x", "y");
     EXPECT_EQ(bytesOf(text), "x and y and x%3");
+    AfxFormatString2(text, 1003, L"\x4E2D", L"y");
+    EXPECT_EQ(bytesOf(text), ZHONG " and y and " ZHONG "%3");
     AfxFormatString1(text, 1003, "x");
     EXPECT_EQ(bytesOf(text), "x and %2 and x%3");
 }
