@@ -50,8 +50,10 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/animate_ctrl.cpp
   toolkit/app.cpp
   toolkit/button.cpp
+  toolkit/color_dialog.cpp
   toolkit/combo_box.cpp
   toolkit/common_control.cpp
+  toolkit/common_dialog.cpp
   toolkit/common_library.cpp
   toolkit/control_objects.cpp
   toolkit/app_profile.cpp
@@ -69,6 +71,8 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/ddx_lists.cpp
   toolkit/diagnostics.cpp
   toolkit/exceptions.cpp
+  toolkit/file_dialog.cpp
+  toolkit/font_dialog.cpp
   toolkit/gbk_string.cpp
   toolkit/gbk_string_format.cpp
   toolkit/gbk_string_search.cpp

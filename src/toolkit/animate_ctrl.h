@@ -8,7 +8,7 @@ class PANELKIT_API CAnimateCtrl : public CWnd
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
     BOOL Open(LPCSTR file) { return Open(slGbkToShown(file).c_str()); }
-    BOOL Open(LPCWSTR file) { return SendMessage(ACM_OPENW, 0, AfxTextOf(file)) != 0; }
+    AFX_WIDE_TEXT BOOL Open(const WideTP* file) { return SendMessage(ACM_OPENW, 0, AfxTextOf(file)) != 0; }
     BOOL Open(UINT id); // of the resources
     BOOL Close() { return SendMessage(ACM_OPENW) != 0; }
     // Frames count from 0; to -1: the last. times -1: until it is stopped.

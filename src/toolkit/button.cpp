@@ -8,7 +8,7 @@ BOOL CButton::Create(LPCSTR caption, DWORD style, const RECT& rect, CWnd* parent
     return CWnd::Create("Button", caption, style, rect, parent, id);
 }
 
-BOOL CButton::Create(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+BOOL CButton::createM(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
     return Create(WideToGbk(caption).c_str(), style, rect, parent, id) && AfxKeepWideText(*this, caption);
 }

@@ -8,7 +8,10 @@ class PANELKIT_API CButton : public CWnd
     DECLARE_DYNAMIC(CButton)
 public:
     BOOL Create(LPCSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    BOOL Create(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    AFX_WIDE_TEXT BOOL Create(const WideTP* caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+    {
+        return createM(caption, style, rect, parent, id);
+    }
     void SetCheck(int check) { SendMessage(BM_SETCHECK, AfxWordOf(check)); }
     int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
     void SetState(BOOL pressed) { SendMessage(BM_SETSTATE, AfxWordOf(pressed)); }
@@ -26,4 +29,7 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+private:
+    BOOL createM(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 };

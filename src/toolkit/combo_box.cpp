@@ -80,11 +80,6 @@ BOOL CComboBox::LimitText(int bytes)
     return TRUE;
 }
 
-BOOL CComboBox::SetCueBanner(LPCWSTR text)
-{
-    return AfxSendInt(*this, CB_SETCUEBANNER, 0, AfxTextOf(text)) > 0;
-}
-
 BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO info) const
 {
     info->cbSize = sizeof *info;

@@ -10,10 +10,13 @@ public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     int AddString(LPCSTR text) { return AddString(slGbkToShown(text).c_str()); }
-    int AddString(LPCWSTR text) { return AfxSendInt(*this, CB_ADDSTRING, 0, AfxTextOf(text)); }
+    AFX_WIDE_TEXT int AddString(const WideTP* text)
+    {
+        return AfxSendInt(*this, CB_ADDSTRING, 0, AfxTextOf(text));
+    }
     // Sorts nothing; -1: at the end.
     int InsertString(int index, LPCSTR text) { return InsertString(index, slGbkToShown(text).c_str()); }
-    int InsertString(int index, LPCWSTR text)
+    AFX_WIDE_TEXT int InsertString(int index, const WideTP* text)
     {
         return AfxSendInt(*this, CB_INSERTSTRING, index, AfxTextOf(text));
     }
@@ -21,7 +24,7 @@ public:
     void ResetContent() { SendMessage(CB_RESETCONTENT); }
     // The names of files: attributes are DDL_ numbers, the pattern may have a path.
     int Dir(UINT attributes, LPCSTR pattern) { return Dir(attributes, slGbkToShown(pattern).c_str()); }
-    int Dir(UINT attributes, LPCWSTR pattern)
+    AFX_WIDE_TEXT int Dir(UINT attributes, const WideTP* pattern)
     {
         return AfxSendInt(*this, CB_DIR, static_cast<int>(attributes), AfxTextOf(pattern));
     }
@@ -33,7 +36,7 @@ public:
 
     // From the line after `after` on (-1: the first) and round; without regard to case.
     int FindString(int after, LPCSTR start) const { return FindString(after, slGbkToShown(start).c_str()); }
-    int FindString(int after, LPCWSTR start) const
+    AFX_WIDE_TEXT int FindString(int after, const WideTP* start) const
     {
         return AfxSendInt(*this, CB_FINDSTRING, after, AfxTextOf(start));
     }
@@ -41,12 +44,12 @@ public:
     {
         return FindStringExact(after, slGbkToShown(text).c_str());
     }
-    int FindStringExact(int after, LPCWSTR text) const
+    AFX_WIDE_TEXT int FindStringExact(int after, const WideTP* text) const
     {
         return AfxSendInt(*this, CB_FINDSTRINGEXACT, after, AfxTextOf(text));
     }
     int SelectString(int after, LPCSTR start) { return SelectString(after, slGbkToShown(start).c_str()); }
-    int SelectString(int after, LPCWSTR start)
+    AFX_WIDE_TEXT int SelectString(int after, const WideTP* start)
     {
         return AfxSendInt(*this, CB_SELECTSTRING, after, AfxTextOf(start));
     }
@@ -58,7 +61,10 @@ public:
     BOOL SetEditSel(int first, int end); // 0, -1: all; -1, 0: nothing
     BOOL LimitText(int bytes); // for what the user enters; 0: what the field holds. CB_ERR: there is no field
     BOOL SetCueBanner(LPCSTR text) { return SetCueBanner(slGbkToShown(text).c_str()); }
-    BOOL SetCueBanner(LPCWSTR text);
+    AFX_WIDE_TEXT BOOL SetCueBanner(const WideTP* text)
+    {
+        return AfxSendInt(*this, CB_SETCUEBANNER, 0, AfxTextOf(text)) > 0;
+    }
     void Clear() { SendMessage(WM_CLEAR); }
     void Copy() { SendMessage(WM_COPY); }
     void Cut() { SendMessage(WM_CUT); }

@@ -1,5 +1,6 @@
 #pragma once
 #include "baselib/gbk.h"
+#include "toolkit/wide_text.h"
 #include "toolkit/wnd.h"
 
 // How the classes of controls speak to their windows. Each text goes to the window as UTF-16: of two members

@@ -21,9 +21,10 @@ BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME time)
         != 0;
 }
 
-BOOL CDateTimeCtrl::SetFormat(LPCWSTR format)
+BOOL CDateTimeCtrl::SetFormat(LPCSTR format)
 {
-    return SendMessage(DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(format)) != 0;
+    const std::wstring wide = slGbkToShown(format);
+    return SetFormat(format == nullptr ? static_cast<LPCWSTR>(nullptr) : wide.c_str());
 }
 
 DWORD CDateTimeCtrl::GetRange(LPSYSTEMTIME ends) const

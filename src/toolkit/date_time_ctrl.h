@@ -9,11 +9,11 @@ public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
     DWORD GetTime(LPSYSTEMTIME time) const;    // GDT_VALID, or GDT_NONE: the field is unchecked
     BOOL SetTime(LPSYSTEMTIME time = nullptr); // null: unchecks the field (DTS_SHOWNONE)
-    BOOL SetFormat(LPCSTR format)
+    BOOL SetFormat(LPCSTR format);             // null: the platform's own
+    AFX_WIDE_TEXT BOOL SetFormat(const WideTP* format)
     {
-        return SetFormat(slGbkToShown(format).c_str());
-    } // null: the platform's own
-    BOOL SetFormat(LPCWSTR format);
+        return SendMessage(DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(format)) != 0;
+    }
     // Both ends: two dates; GDTR_MIN and GDTR_MAX say which of them there are.
     DWORD GetRange(LPSYSTEMTIME ends) const;
     BOOL SetRange(DWORD which, LPSYSTEMTIME ends);

@@ -47,11 +47,6 @@ DWORD CEdit::GetSel() const
     return first > 0xFFFF || end > 0xFFFF ? ~0u : static_cast<DWORD>(MAKELONG(first, end));
 }
 
-void CEdit::ReplaceSel(LPCWSTR text, BOOL canUndo)
-{
-    SendMessage(EM_REPLACESEL, AfxWordOf(canUndo), AfxTextOf(text));
-}
-
 void CEdit::SetLimitText(UINT bytes)
 {
     LimitEditText(m_hWnd, bytes);
@@ -153,11 +148,6 @@ void CEdit::SetMargins(UINT left, UINT right)
 BOOL CEdit::SetTabStops(int count, LPINT stops)
 {
     return SendMessage(EM_SETTABSTOPS, AfxWordOf(count), reinterpret_cast<LPARAM>(stops)) != 0;
-}
-
-BOOL CEdit::SetCueBanner(LPCWSTR text, BOOL whileFocused)
-{
-    return SendMessage(EM_SETCUEBANNER, AfxWordOf(whileFocused), AfxTextOf(text)) != 0;
 }
 
 CString CEdit::GetCueBanner() const

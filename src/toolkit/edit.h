@@ -14,7 +14,10 @@ public:
     void GetSel(int& first, int& end) const;
     DWORD GetSel() const; // packed; ~0 where a word is too short for it
     void ReplaceSel(LPCSTR text, BOOL canUndo = FALSE) { ReplaceSel(slGbkToShown(text).c_str(), canUndo); }
-    void ReplaceSel(LPCWSTR text, BOOL canUndo = FALSE);
+    AFX_WIDE_TEXT void ReplaceSel(const WideTP* text, BOOL canUndo = FALSE)
+    {
+        SendMessage(EM_REPLACESEL, AfxWordOf(canUndo), AfxTextOf(text));
+    }
     // For what the user enters. 0: as much as the window can hold.
     void SetLimitText(UINT bytes);
     void LimitText(int bytes = 0) { SetLimitText(static_cast<UINT>(bytes)); }
@@ -54,7 +57,10 @@ public:
     {
         return SetCueBanner(slGbkToShown(text).c_str(), whileFocused);
     }
-    BOOL SetCueBanner(LPCWSTR text, BOOL whileFocused = FALSE);
+    AFX_WIDE_TEXT BOOL SetCueBanner(const WideTP* text, BOOL whileFocused = FALSE)
+    {
+        return SendMessage(EM_SETCUEBANNER, AfxWordOf(whileFocused), AfxTextOf(text)) != 0;
+    }
     CString GetCueBanner() const;
 
     BOOL CanUndo() const { return SendMessage(EM_CANUNDO) != 0; }

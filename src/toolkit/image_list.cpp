@@ -56,18 +56,18 @@ BOOL CImageList::Create(int width, int height, UINT flags, int initial, int grow
 
 BOOL CImageList::Create(UINT bitmapId, int width, int grow, COLORREF mask)
 {
-    return Create(MAKEINTRESOURCEW(bitmapId), width, grow, mask);
+    return loadM(MAKEINTRESOURCEW(bitmapId), width, grow, mask);
 }
 
 BOOL CImageList::Create(LPCSTR bitmapName, int width, int grow, COLORREF mask)
 {
     if (IS_INTRESOURCE(bitmapName)) {
-        return Create(reinterpret_cast<LPCWSTR>(bitmapName), width, grow, mask);
+        return loadM(reinterpret_cast<LPCWSTR>(bitmapName), width, grow, mask);
     }
-    return Create(slGbkToShown(bitmapName).c_str(), width, grow, mask);
+    return loadM(slGbkToShown(bitmapName).c_str(), width, grow, mask);
 }
 
-BOOL CImageList::Create(LPCWSTR bitmapName, int width, int grow, COLORREF mask)
+BOOL CImageList::loadM(LPCWSTR bitmapName, int width, int grow, COLORREF mask)
 {
     NeedCommonControls();
     DeleteImageList();

@@ -1,6 +1,7 @@
 #pragma once
 #include "toolkit/dc.h"
 #include "toolkit/gdi_objects.h"
+#include "toolkit/wide_text.h"
 #include <commctrl.h>
 #include <shellapi.h> // It renames ExtractIcon, for members too.
 
@@ -25,7 +26,10 @@ public:
     // drawn.
     BOOL Create(UINT bitmapId, int width, int grow, COLORREF mask);
     BOOL Create(LPCSTR bitmapName, int width, int grow, COLORREF mask);
-    BOOL Create(LPCWSTR bitmapName, int width, int grow, COLORREF mask);
+    AFX_WIDE_TEXT BOOL Create(const WideTP* bitmapName, int width, int grow, COLORREF mask)
+    {
+        return loadM(bitmapName, width, grow, mask);
+    }
     // One picture: the second drawn over the first, moved by dx and dy.
     BOOL Create(CImageList& one, int first, CImageList& two, int second, int dx, int dy);
     BOOL Create(CImageList* other); // a copy
@@ -64,4 +68,7 @@ public:
     static BOOL DragShowNolock(BOOL show) { return ::ImageList_DragShowNolock(show); }
     static CImageList* GetDragImage(LPPOINT at, LPPOINT hotSpot); // temporary object
     BOOL SetDragCursorImage(int index, CPoint hotSpot);
+
+private:
+    BOOL loadM(LPCWSTR bitmapName, int width, int grow, COLORREF mask);
 };

@@ -16,7 +16,7 @@ BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         || CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
-int CListCtrl::InsertColumn(int column, LPCWSTR heading, int format, int width, int subItem)
+int CListCtrl::insertColumnM(int column, LPCWSTR heading, int format, int width, int subItem)
 {
     LVCOLUMNW what = {};
     what.mask = LVCF_TEXT | LVCF_FMT | (width == -1 ? 0u : LVCF_WIDTH) | (subItem == -1 ? 0u : LVCF_SUBITEM);
@@ -111,11 +111,6 @@ int CListCtrl::HitTest(CPoint at, UINT* flags) const
 int CListCtrl::SubItemHitTest(LVHITTESTINFO* info)
 {
     return static_cast<int>(SendMessage(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(info)));
-}
-
-int CListCtrl::GetStringWidth(LPCWSTR text) const
-{
-    return static_cast<int>(SendMessage(LVM_GETSTRINGWIDTHW, 0, AfxTextOf(text)));
 }
 
 CSize CListCtrl::ApproximateViewRect(CSize size, int count) const

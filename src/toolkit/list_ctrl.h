@@ -20,7 +20,11 @@ public:
     {
         return InsertColumn(column, ItemTextCL(heading).PointerM(), format, width, subItem);
     }
-    int InsertColumn(int column, LPCWSTR heading, int format = LVCFMT_LEFT, int width = -1, int subItem = -1);
+    AFX_WIDE_TEXT int InsertColumn(
+        int column, const WideTP* heading, int format = LVCFMT_LEFT, int width = -1, int subItem = -1)
+    {
+        return insertColumnM(column, heading, format, width, subItem);
+    }
     int InsertColumn(int column, const LVCOLUMNA* what);
     int InsertColumn(int column, const LVCOLUMNW* what);
     BOOL DeleteColumn(int column) { return SendMessage(LVM_DELETECOLUMN, AfxWordOf(column)) != 0; }
@@ -37,12 +41,15 @@ public:
 
     // Rows. Result of the insertions: the index of the new one, -1 on failure.
     int InsertItem(int row, LPCSTR text) { return InsertItem(row, ItemTextCL(text).PointerM()); }
-    int InsertItem(int row, LPCWSTR text) { return InsertItem(LVIF_TEXT, row, text, 0, 0, 0, 0); }
+    AFX_WIDE_TEXT int InsertItem(int row, const WideTP* text)
+    {
+        return InsertItem(LVIF_TEXT, row, text, 0, 0, 0, 0);
+    }
     int InsertItem(int row, LPCSTR text, int image)
     {
         return InsertItem(row, ItemTextCL(text).PointerM(), image);
     }
-    int InsertItem(int row, LPCWSTR text, int image)
+    AFX_WIDE_TEXT int InsertItem(int row, const WideTP* text, int image)
     {
         return InsertItem(LVIF_TEXT | LVIF_IMAGE, row, text, 0, 0, image, 0);
     }
@@ -50,7 +57,11 @@ public:
     {
         return InsertItem(mask, row, ItemTextCL(text).PointerM(), state, stateMask, image, param);
     }
-    int InsertItem(UINT mask, int row, LPCWSTR text, UINT state, UINT stateMask, int image, LPARAM param);
+    AFX_WIDE_TEXT int InsertItem(
+        UINT mask, int row, const WideTP* text, UINT state, UINT stateMask, int image, LPARAM param)
+    {
+        return insertItemM(mask, row, text, state, stateMask, image, param);
+    }
     int InsertItem(const LVITEMA* item);
     int InsertItem(const LVITEMW* item);
     BOOL DeleteItem(int row) { return SendMessage(LVM_DELETEITEM, AfxWordOf(row)) != 0; }
@@ -71,13 +82,19 @@ public:
         return SetItem(
             row, column, mask, ItemTextCL(text).PointerM(), image, state, stateMask, param, indent);
     }
-    BOOL SetItem(int row, int column, UINT mask, LPCWSTR text, int image, UINT state, UINT stateMask,
-        LPARAM param, int indent = 0);
+    AFX_WIDE_TEXT BOOL SetItem(int row, int column, UINT mask, const WideTP* text, int image, UINT state,
+        UINT stateMask, LPARAM param, int indent = 0)
+    {
+        return setItemM(row, column, mask, text, image, state, stateMask, param, indent);
+    }
     BOOL SetItemText(int row, int column, LPCSTR text)
     {
         return SetItemText(row, column, ItemTextCL(text).PointerM());
     }
-    BOOL SetItemText(int row, int column, LPCWSTR text);
+    AFX_WIDE_TEXT BOOL SetItemText(int row, int column, const WideTP* text)
+    {
+        return setItemTextM(row, column, text);
+    }
     int GetItemText(int row, int column, LPSTR to, int size) const; // result: bytes copied
     CString GetItemText(int row, int column) const;
     BOOL SetItemData(int row, DWORD_PTR data);
@@ -140,7 +157,10 @@ public:
     int HitTest(CPoint at, UINT* flags = nullptr) const;
     int SubItemHitTest(LVHITTESTINFO* info); // fills in the column too
     int GetStringWidth(LPCSTR text) const { return GetStringWidth(ItemTextCL(text).PointerM()); }
-    int GetStringWidth(LPCWSTR text) const;
+    AFX_WIDE_TEXT int GetStringWidth(const WideTP* text) const
+    {
+        return static_cast<int>(SendMessage(LVM_GETSTRINGWIDTHW, 0, AfxTextOf(text)));
+    }
     CSize ApproximateViewRect(CSize size = CSize(-1, -1), int count = -1) const;
     CSize SetIconSpacing(CSize size) { return SetIconSpacing(size.cx, size.cy); } // result: the one before
     CSize SetIconSpacing(int width, int height);
@@ -180,6 +200,11 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
 private:
+    int insertColumnM(int column, LPCWSTR heading, int format, int width, int subItem);
+    int insertItemM(UINT mask, int row, LPCWSTR text, UINT state, UINT stateMask, int image, LPARAM param);
+    BOOL setItemM(int row, int column, UINT mask, LPCWSTR text, int image, UINT state, UINT stateMask,
+        LPARAM param, int indent);
+    BOOL setItemTextM(int row, int column, LPCWSTR text);
     BOOL pointM(UINT message, int row, LPPOINT at) const
     {
         return SendMessage(message, AfxWordOf(row), reinterpret_cast<LPARAM>(at)) != 0;

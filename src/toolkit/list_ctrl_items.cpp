@@ -19,7 +19,7 @@ LPARAM pointerM(const void* structure)
 
 } // namespace
 
-int CListCtrl::InsertItem(
+int CListCtrl::insertItemM(
     UINT mask, int row, LPCWSTR text, UINT state, UINT stateMask, int image, LPARAM param)
 {
     LVITEMW item = {};
@@ -63,7 +63,7 @@ BOOL CListCtrl::SetItem(const LVITEMW* item)
     return SendMessage(LVM_SETITEMW, 0, pointerM(item)) != 0;
 }
 
-BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCWSTR text, int image, UINT state, UINT stateMask,
+BOOL CListCtrl::setItemM(int row, int column, UINT mask, LPCWSTR text, int image, UINT state, UINT stateMask,
     LPARAM param, int indent)
 {
     LVITEMW item = {};
@@ -79,7 +79,7 @@ BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCWSTR text, int image,
     return SetItem(&item);
 }
 
-BOOL CListCtrl::SetItemText(int row, int column, LPCWSTR text)
+BOOL CListCtrl::setItemTextM(int row, int column, LPCWSTR text)
 {
     LVITEMW item = {};
     item.iSubItem = column;

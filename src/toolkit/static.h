@@ -7,7 +7,11 @@ class PANELKIT_API CStatic : public CWnd
     DECLARE_DYNAMIC(CStatic)
 public:
     BOOL Create(LPCSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF);
-    BOOL Create(LPCWSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF);
+    AFX_WIDE_TEXT BOOL Create(
+        const WideTP* text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF)
+    {
+        return createM(text, style, rect, parent, id);
+    }
     HBITMAP SetBitmap(HBITMAP bitmap) { return AfxSendHandle(*this, STM_SETIMAGE, IMAGE_BITMAP, bitmap); }
     HBITMAP GetBitmap() const { return AfxSendHandle<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP); }
     HICON SetIcon(HICON icon) { return AfxSendHandle(*this, STM_SETIMAGE, IMAGE_ICON, icon); }
@@ -27,4 +31,7 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+private:
+    BOOL createM(LPCWSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 };

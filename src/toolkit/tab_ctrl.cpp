@@ -16,7 +16,7 @@ BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         || CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
-LONG CTabCtrl::InsertItem(UINT mask, int index, LPCWSTR text, int image, LPARAM param)
+LONG CTabCtrl::insertItemM(UINT mask, int index, LPCWSTR text, int image, LPARAM param)
 {
     TCITEMW item = {};
     item.mask = mask;

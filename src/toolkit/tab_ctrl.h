@@ -10,12 +10,15 @@ class PANELKIT_API CTabCtrl : public CWnd
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
     LONG InsertItem(int index, LPCSTR text) { return InsertItem(index, ItemTextCL(text).PointerM()); }
-    LONG InsertItem(int index, LPCWSTR text) { return InsertItem(TCIF_TEXT, index, text, 0, 0); }
+    AFX_WIDE_TEXT LONG InsertItem(int index, const WideTP* text)
+    {
+        return InsertItem(TCIF_TEXT, index, text, 0, 0);
+    }
     LONG InsertItem(int index, LPCSTR text, int image)
     {
         return InsertItem(index, ItemTextCL(text).PointerM(), image);
     }
-    LONG InsertItem(int index, LPCWSTR text, int image)
+    AFX_WIDE_TEXT LONG InsertItem(int index, const WideTP* text, int image)
     {
         return InsertItem(TCIF_TEXT | TCIF_IMAGE, index, text, image, 0);
     }
@@ -23,7 +26,10 @@ public:
     {
         return InsertItem(mask, index, ItemTextCL(text).PointerM(), image, param);
     }
-    LONG InsertItem(UINT mask, int index, LPCWSTR text, int image, LPARAM param);
+    AFX_WIDE_TEXT LONG InsertItem(UINT mask, int index, const WideTP* text, int image, LPARAM param)
+    {
+        return insertItemM(mask, index, text, image, param);
+    }
     LONG InsertItem(int index, const TCITEMA* item);
     LONG InsertItem(int index, const TCITEMW* item);
     BOOL DeleteItem(int index) { return SendMessage(TCM_DELETEITEM, AfxWordOf(index)) != 0; }
@@ -79,4 +85,7 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+private:
+    LONG insertItemM(UINT mask, int index, LPCWSTR text, int image, LPARAM param);
 };

@@ -36,7 +36,7 @@ BOOL CToolTipCtrl::Create(CWnd* parent, DWORD style)
         CW_USEDEFAULT, CW_USEDEFAULT, parent == nullptr ? nullptr : parent->m_hWnd, nullptr);
 }
 
-BOOL CToolTipCtrl::AddTool(CWnd* wnd, LPCWSTR text, LPCRECT rect, UINT_PTR id)
+BOOL CToolTipCtrl::addToolM(CWnd* wnd, LPCWSTR text, LPCRECT rect, UINT_PTR id)
 {
     TOOLINFOW tool = toolM(wnd, id);
     if (rect != nullptr) {
@@ -62,7 +62,7 @@ void CToolTipCtrl::DelTool(CWnd* wnd, UINT_PTR id)
     SendMessage(TTM_DELTOOLW, 0, toolPointerM(toolM(wnd, id)));
 }
 
-void CToolTipCtrl::UpdateTipText(LPCWSTR text, CWnd* wnd, UINT_PTR id)
+void CToolTipCtrl::updateTextM(LPCWSTR text, CWnd* wnd, UINT_PTR id)
 {
     TOOLINFOW tool = toolM(wnd, id);
     tool.lpszText = const_cast<wchar_t*>(text);

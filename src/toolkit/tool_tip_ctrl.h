@@ -10,17 +10,23 @@ class PANELKIT_API CToolTipCtrl : public CWnd
 public:
     BOOL Create(CWnd* parent, DWORD style = 0);
 
-    BOOL AddTool(CWnd* wnd, LPCWSTR text = LPSTR_TEXTCALLBACKW, LPCRECT rect = nullptr, UINT_PTR id = 0);
-    BOOL AddTool(CWnd* wnd, LPCSTR text, LPCRECT rect = nullptr, UINT_PTR id = 0)
+    BOOL AddTool(CWnd* wnd, LPCSTR text = LPSTR_TEXTCALLBACKA, LPCRECT rect = nullptr, UINT_PTR id = 0)
     {
-        return AddTool(wnd, ItemTextCL(text).PointerM(), rect, id);
+        return addToolM(wnd, ItemTextCL(text).PointerM(), rect, id);
+    }
+    AFX_WIDE_TEXT BOOL AddTool(CWnd* wnd, const WideTP* text, LPCRECT rect = nullptr, UINT_PTR id = 0)
+    {
+        return addToolM(wnd, text, rect, id);
     }
     BOOL AddTool(CWnd* wnd, UINT textId, LPCRECT rect = nullptr, UINT_PTR id = 0); // a text of the resources
     void DelTool(CWnd* wnd, UINT_PTR id = 0);
-    void UpdateTipText(LPCWSTR text, CWnd* wnd, UINT_PTR id = 0);
     void UpdateTipText(LPCSTR text, CWnd* wnd, UINT_PTR id = 0)
     {
-        UpdateTipText(ItemTextCL(text).PointerM(), wnd, id);
+        updateTextM(ItemTextCL(text).PointerM(), wnd, id);
+    }
+    AFX_WIDE_TEXT void UpdateTipText(const WideTP* text, CWnd* wnd, UINT_PTR id = 0)
+    {
+        updateTextM(text, wnd, id);
     }
     void UpdateTipText(UINT textId, CWnd* wnd, UINT_PTR id = 0);
     void GetText(CString& to, CWnd* wnd, UINT_PTR id = 0) const;
@@ -55,8 +61,12 @@ public:
     COLORREF GetTipTextColor() const { return static_cast<COLORREF>(SendMessage(TTM_GETTIPTEXTCOLOR)); }
     void SetTipTextColor(COLORREF color) { SendMessage(TTM_SETTIPTEXTCOLOR, color); }
     BOOL SetTitle(UINT icon, LPCSTR title) { return SetTitle(icon, slGbkToShown(title).c_str()); }
-    BOOL SetTitle(UINT icon, LPCWSTR title)
+    AFX_WIDE_TEXT BOOL SetTitle(UINT icon, const WideTP* title)
     {
         return SendMessage(TTM_SETTITLEW, icon, AfxTextOf(title)) != 0;
     }
+
+private:
+    BOOL addToolM(CWnd* wnd, LPCWSTR text, LPCRECT rect, UINT_PTR id);
+    void updateTextM(LPCWSTR text, CWnd* wnd, UINT_PTR id);
 };

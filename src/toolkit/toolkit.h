@@ -5,6 +5,8 @@
 #ifdef PANELKIT_TOOLKIT_SYSTEM
 #include <afxwin.h>
 
+#include <afxdlgs.h>
+
 #include <afxcmn.h>
 #include <afxtempl.h>
 #else
@@ -12,6 +14,7 @@
 #include "toolkit/arrays.h"
 #include "toolkit/cmd_ui.h"
 #include "toolkit/common_controls.h"
+#include "toolkit/common_dialogs.h"
 #include "toolkit/controls.h"
 #include "toolkit/dc.h"
 #include "toolkit/ddx.h"

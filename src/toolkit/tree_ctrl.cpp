@@ -9,7 +9,7 @@ BOOL CTreeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
     return CWnd::Create("SysTreeView32", nullptr, style, rect, parent, id);
 }
 
-HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
+HTREEITEM CTreeCtrl::insertItemM(UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
     UINT stateMask, LPARAM param, HTREEITEM parent, HTREEITEM after)
 {
     TVINSERTSTRUCTW what = {};
@@ -70,7 +70,7 @@ BOOL CTreeCtrl::SetItem(const TVITEMW* item)
     return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(item)) != 0;
 }
 
-BOOL CTreeCtrl::SetItem(HTREEITEM item, UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
+BOOL CTreeCtrl::setItemM(HTREEITEM item, UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
     UINT stateMask, LPARAM param)
 {
     TVITEMW what = {};

@@ -14,7 +14,8 @@ public:
     {
         return InsertItem(ItemTextCL(text).PointerM(), parent, after);
     }
-    HTREEITEM InsertItem(LPCWSTR text, HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST)
+    AFX_WIDE_TEXT HTREEITEM InsertItem(
+        const WideTP* text, HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST)
     {
         return InsertItem(TVIF_TEXT, text, 0, 0, 0, 0, 0, parent, after);
     }
@@ -23,8 +24,8 @@ public:
     {
         return InsertItem(ItemTextCL(text).PointerM(), image, selectedImage, parent, after);
     }
-    HTREEITEM InsertItem(
-        LPCWSTR text, int image, int selectedImage, HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST)
+    AFX_WIDE_TEXT HTREEITEM InsertItem(const WideTP* text, int image, int selectedImage,
+        HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST)
     {
         const UINT mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
         return InsertItem(mask, text, image, selectedImage, 0, 0, 0, parent, after);
@@ -35,8 +36,11 @@ public:
         return InsertItem(
             mask, ItemTextCL(text).PointerM(), image, selectedImage, state, stateMask, param, parent, after);
     }
-    HTREEITEM InsertItem(UINT mask, LPCWSTR text, int image, int selectedImage, UINT state, UINT stateMask,
-        LPARAM param, HTREEITEM parent, HTREEITEM after);
+    AFX_WIDE_TEXT HTREEITEM InsertItem(UINT mask, const WideTP* text, int image, int selectedImage,
+        UINT state, UINT stateMask, LPARAM param, HTREEITEM parent, HTREEITEM after)
+    {
+        return insertItemM(mask, text, image, selectedImage, state, stateMask, param, parent, after);
+    }
     HTREEITEM InsertItem(TVINSERTSTRUCTA* what);
     HTREEITEM InsertItem(TVINSERTSTRUCTW* what);
     BOOL DeleteItem(HTREEITEM item) { return sendM(TVM_DELETEITEM, 0, item) != 0; }
@@ -83,27 +87,33 @@ public:
         return SetItem(
             item, mask, ItemTextCL(text).PointerM(), image, selectedImage, state, stateMask, param);
     }
-    BOOL SetItem(HTREEITEM item, UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
-        UINT stateMask, LPARAM param);
+    AFX_WIDE_TEXT BOOL SetItem(HTREEITEM item, UINT mask, const WideTP* text, int image, int selectedImage,
+        UINT state, UINT stateMask, LPARAM param)
+    {
+        return setItemM(item, mask, text, image, selectedImage, state, stateMask, param);
+    }
     CString GetItemText(HTREEITEM item) const;
     BOOL SetItemText(HTREEITEM item, LPCSTR text) { return SetItemText(item, ItemTextCL(text).PointerM()); }
-    BOOL SetItemText(HTREEITEM item, LPCWSTR text) { return SetItem(item, TVIF_TEXT, text, 0, 0, 0, 0, 0); }
+    AFX_WIDE_TEXT BOOL SetItemText(HTREEITEM item, const WideTP* text)
+    {
+        return setItemM(item, TVIF_TEXT, text, 0, 0, 0, 0, 0);
+    }
     BOOL GetItemImage(HTREEITEM item, int& image, int& selectedImage) const;
     BOOL SetItemImage(HTREEITEM item, int image, int selectedImage)
     {
         const UINT mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-        return SetItem(item, mask, static_cast<LPCWSTR>(nullptr), image, selectedImage, 0, 0, 0);
+        return setItemM(item, mask, nullptr, image, selectedImage, 0, 0, 0);
     }
     DWORD_PTR GetItemData(HTREEITEM item) const;
     BOOL SetItemData(HTREEITEM item, DWORD_PTR data)
     {
         const LPARAM param = static_cast<LPARAM>(data);
-        return SetItem(item, TVIF_PARAM, static_cast<LPCWSTR>(nullptr), 0, 0, 0, 0, param);
+        return setItemM(item, TVIF_PARAM, nullptr, 0, 0, 0, 0, param);
     }
     UINT GetItemState(HTREEITEM item, UINT mask) const;
     BOOL SetItemState(HTREEITEM item, UINT state, UINT mask)
     {
-        return SetItem(item, TVIF_STATE, static_cast<LPCWSTR>(nullptr), 0, 0, state, mask, 0);
+        return setItemM(item, TVIF_STATE, nullptr, 0, 0, state, mask, 0);
     }
     BOOL GetCheck(HTREEITEM item) const { return GetItemState(item, TVIS_STATEIMAGEMASK) >> 12 == 2; }
     BOOL SetCheck(HTREEITEM item, BOOL check = TRUE)
@@ -141,6 +151,10 @@ public:
     COLORREF SetInsertMarkColor(COLORREF color) { return setColorM(TVM_SETINSERTMARKCOLOR, color); }
 
 private:
+    HTREEITEM insertItemM(UINT mask, LPCWSTR text, int image, int selectedImage, UINT state, UINT stateMask,
+        LPARAM param, HTREEITEM parent, HTREEITEM after);
+    BOOL setItemM(HTREEITEM item, UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
+        UINT stateMask, LPARAM param);
     LRESULT sendM(UINT message, WPARAM wParam, HTREEITEM item) const
     {
         return SendMessage(message, wParam, reinterpret_cast<LPARAM>(item));

@@ -113,6 +113,9 @@ TEST_F(ListCtrl, StructuresCarryGbkOrWideTexts)
     EXPECT_TRUE(list.SetItem(1, 0, LVIF_TEXT | LVIF_PARAM, "s", 0, 0, 0, 5));
     EXPECT_EQ(list.GetItemText(1, 0), "s");
     EXPECT_EQ(list.GetItemData(1), 5u);
+    EXPECT_TRUE(list.SetItem(1, 0, LVIF_PARAM, NULL, 0, 0, 0, 6)); // No text is meant.
+    EXPECT_EQ(list.GetItemData(1), 6u);
+    EXPECT_EQ(list.GetItemText(1, 0), "s");
 }
 
 TEST_F(ListCtrl, ColumnsTellWhatTheyHold)

@@ -141,6 +141,9 @@ TEST_F(TreeCtrl, KnowsStatesAndPlaces)
     EXPECT_FALSE(tree.GetCheck(item));
     EXPECT_TRUE(tree.SetItem(item, TVIF_TEXT | TVIF_PARAM, "other", 0, 0, 0, 0, 5));
     EXPECT_EQ(tree.GetItemText(item), "other");
+    EXPECT_TRUE(tree.SetItem(item, TVIF_PARAM, NULL, 0, 0, 0, 0, 6)); // No text is meant.
+    EXPECT_EQ(tree.GetItemData(item), 6u);
+    EXPECT_EQ(tree.GetItemText(item), "other");
     CRect text;
     ASSERT_TRUE(tree.GetItemRect(item, &text, TRUE));
     UINT flags = 0;
