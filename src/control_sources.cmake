@@ -47,27 +47,76 @@ set(PANELKIT_CONTROL_SOURCES
   pictures/region_functions.cpp
   pictures/region_pixels.cpp
   pictures/rgn_record.cpp
+  toolkit/animate_ctrl.cpp
   toolkit/app.cpp
-  toolkit/controls.cpp
+  toolkit/button.cpp
+  toolkit/color_dialog.cpp
+  toolkit/combo_box.cpp
+  toolkit/common_control.cpp
+  toolkit/common_dialog.cpp
+  toolkit/common_library.cpp
+  toolkit/control_objects.cpp
+  toolkit/app_profile.cpp
   toolkit/creation_hook.cpp
+  toolkit/date_time_ctrl.cpp
   toolkit/dc.cpp
+  toolkit/dc_mapping.cpp
+  toolkit/dc_shapes.cpp
+  toolkit/dc_text.cpp
   toolkit/dialog.cpp
+  toolkit/edit.cpp
+  toolkit/edit_text.cpp
+  toolkit/ddv.cpp
+  toolkit/ddx.cpp
+  toolkit/ddx_lists.cpp
+  toolkit/diagnostics.cpp
+  toolkit/exceptions.cpp
+  toolkit/file_dialog.cpp
+  toolkit/font_dialog.cpp
   toolkit/gbk_string.cpp
+  toolkit/gbk_string_format.cpp
+  toolkit/gbk_string_search.cpp
   toolkit/gdi_objects.cpp
+  toolkit/gdi_owners.cpp
+  toolkit/header_ctrl.cpp
+  toolkit/hot_key_ctrl.cpp
   toolkit/image_list.cpp
   toolkit/library.cpp
   toolkit/life.cpp
+  toolkit/list_box.cpp
   toolkit/list_ctrl.cpp
+  toolkit/list_ctrl_items.cpp
+  toolkit/menu.cpp
   toolkit/message_box.cpp
   toolkit/message_map.cpp
   toolkit/module.cpp
   toolkit/object.cpp
-  toolkit/spin_button.cpp
+  toolkit/progress_ctrl.cpp
+  toolkit/scroll_bar.cpp
+  toolkit/slider_ctrl.cpp
+  toolkit/spin_button_ctrl.cpp
+  toolkit/static.cpp
+  toolkit/tab_ctrl.cpp
+  toolkit/scroll_bar_handle.cpp
   toolkit/text.cpp
+  toolkit/thread.cpp
   toolkit/thread_state.cpp
+  toolkit/tool_tip_ctrl.cpp
   toolkit/tree_ctrl.cpp
+  toolkit/window_class.cpp
   toolkit/window_dc.cpp
   toolkit/wnd.cpp
+  toolkit/wnd_exchange.cpp
+  toolkit/wnd_menu.cpp
   toolkit/wnd_messages.cpp
+  toolkit/wnd_others.cpp
+  toolkit/wnd_proc.cpp
+  toolkit/wnd_scroll.cpp
+  toolkit/wnd_state.cpp
   toolkit/wnd_window.cpp
+)
+# Not in the library: they go into its import library.
+set(PANELKIT_WINMAIN_SOURCES
+  toolkit/winmain.cpp
+  toolkit/winmain_need.cpp
 )

@@ -1,7 +1,5 @@
-#include "toolkit/common_controls.h"
-#include "toolkit/item_text.h"
-#include "toolkit/text.h"
-#include <vector>
+#include "toolkit/tree_ctrl.h"
+#include "toolkit/tool_tip_ctrl.h"
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
@@ -11,26 +9,14 @@ BOOL CTreeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
     return CWnd::Create("SysTreeView32", nullptr, style, rect, parent, id);
 }
 
-HTREEITEM CTreeCtrl::InsertItem(LPCSTR text, HTREEITEM parent, HTREEITEM after)
-{
-    return InsertItem(TVIF_TEXT, text, 0, 0, 0, 0, 0, parent, after);
-}
-
-HTREEITEM CTreeCtrl::InsertItem(LPCSTR text, int image, int selectedImage, HTREEITEM parent, HTREEITEM after)
-{
-    return InsertItem(
-        TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, text, image, selectedImage, 0, 0, 0, parent, after);
-}
-
-HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCSTR text, int image, int selectedImage, UINT state,
+HTREEITEM CTreeCtrl::insertItemM(UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
     UINT stateMask, LPARAM param, HTREEITEM parent, HTREEITEM after)
 {
-    ItemTextCL wide(text);
     TVINSERTSTRUCTW what = {};
     what.hParent = parent;
     what.hInsertAfter = after;
     what.item.mask = mask;
-    what.item.pszText = wide.PointerM();
+    what.item.pszText = const_cast<wchar_t*>(text);
     what.item.iImage = image;
     what.item.iSelectedImage = selectedImage;
     what.item.state = state;
@@ -41,13 +27,11 @@ HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCSTR text, int image, int selectedI
 
 HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTA* what)
 {
-    const TVITEMA& item = what->item;
-    ItemTextCL text((item.mask & TVIF_TEXT) != 0 ? item.pszText : nullptr);
+    WideItemCL<TVITEMW, TVIF_TEXT> item(what->item);
     TVINSERTSTRUCTW wide = {};
     wide.hParent = what->hParent;
     wide.hInsertAfter = what->hInsertAfter;
-    wide.item = { item.mask, item.hItem, item.state, item.stateMask, text.PointerM(), 0, item.iImage,
-        item.iSelectedImage, item.cChildren, item.lParam };
+    wide.item = *item.PointerM();
     return InsertItem(&wide);
 }
 
@@ -58,52 +42,57 @@ HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTW* what)
 
 HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM item, UINT which) const
 {
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, which, reinterpret_cast<LPARAM>(item)));
+    return reinterpret_cast<HTREEITEM>(sendM(TVM_GETNEXTITEM, which, item));
 }
 
-BOOL CTreeCtrl::SelectItem(HTREEITEM item)
+CEdit* CTreeCtrl::EditLabel(HTREEITEM item)
 {
-    return SendMessage(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)) != 0;
+    return AfxEditOf(reinterpret_cast<HWND>(sendM(TVM_EDITLABELW, 0, item)));
 }
 
-BOOL CTreeCtrl::Expand(HTREEITEM item, UINT code)
+BOOL CTreeCtrl::GetItem(TVITEMA* item) const
 {
-    return SendMessage(TVM_EXPAND, code, reinterpret_cast<LPARAM>(item)) != 0;
+    return AskGbkItem<TVITEMW, TVIF_TEXT>(item, [this](TVITEMW* wide) { return GetItem(wide); });
 }
 
-BOOL CTreeCtrl::EnsureVisible(HTREEITEM item)
+BOOL CTreeCtrl::GetItem(TVITEMW* item) const
 {
-    return SendMessage(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item)) != 0;
+    return SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(item)) != 0;
+}
+
+BOOL CTreeCtrl::SetItem(const TVITEMA* item)
+{
+    return SetItem(WideItemCL<TVITEMW, TVIF_TEXT>(*item).PointerM());
+}
+
+BOOL CTreeCtrl::SetItem(const TVITEMW* item)
+{
+    return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(item)) != 0;
+}
+
+BOOL CTreeCtrl::setItemM(HTREEITEM item, UINT mask, LPCWSTR text, int image, int selectedImage, UINT state,
+    UINT stateMask, LPARAM param)
+{
+    TVITEMW what = {};
+    what.mask = mask;
+    what.hItem = item;
+    what.pszText = const_cast<wchar_t*>(text);
+    what.iImage = image;
+    what.iSelectedImage = selectedImage;
+    what.state = state;
+    what.stateMask = stateMask;
+    what.lParam = param;
+    return SetItem(&what);
 }
 
 CString CTreeCtrl::GetItemText(HTREEITEM item) const
 {
-    std::vector<wchar_t> text(128);
-    for (;;) {
-        TVITEMW what = {};
-        what.mask = TVIF_TEXT;
-        what.hItem = item;
-        what.pszText = text.data();
-        what.cchTextMax = static_cast<int>(text.size());
-        if (!SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&what))) {
-            return CString();
-        }
-        size_t used = std::wcslen(what.pszText);
-        if (used + 1 < text.size()) {
-            return CString(WideToGbk(what.pszText).c_str());
-        }
-        text.assign(text.size() * 4, 0);
-    }
-}
-
-BOOL CTreeCtrl::SetItemText(HTREEITEM item, LPCSTR text)
-{
-    ItemTextCL wide(text);
-    TVITEMW what = {};
-    what.mask = TVIF_TEXT;
-    what.hItem = item;
-    what.pszText = wide.PointerM();
-    return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&what)) != 0;
+    const std::string text = WholeItemText<TVITEMW>([&](TVITEMW* what) {
+        what->mask = TVIF_TEXT;
+        what->hItem = item;
+        return GetItem(what);
+    });
+    return CString(text.c_str());
 }
 
 BOOL CTreeCtrl::GetItemImage(HTREEITEM item, int& image, int& selectedImage) const
@@ -111,20 +100,10 @@ BOOL CTreeCtrl::GetItemImage(HTREEITEM item, int& image, int& selectedImage) con
     TVITEMW what = {};
     what.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     what.hItem = item;
-    BOOL got = SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&what)) != 0;
+    const BOOL got = GetItem(&what);
     image = what.iImage;
     selectedImage = what.iSelectedImage;
     return got;
-}
-
-BOOL CTreeCtrl::SetItemImage(HTREEITEM item, int image, int selectedImage)
-{
-    TVITEMW what = {};
-    what.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-    what.hItem = item;
-    what.iImage = image;
-    what.iSelectedImage = selectedImage;
-    return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&what)) != 0;
 }
 
 DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM item) const
@@ -132,17 +111,14 @@ DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM item) const
     TVITEMW what = {};
     what.mask = TVIF_PARAM;
     what.hItem = item;
-    SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&what));
+    GetItem(&what);
     return static_cast<DWORD_PTR>(what.lParam);
 }
 
-BOOL CTreeCtrl::SetItemData(HTREEITEM item, DWORD_PTR data)
+UINT CTreeCtrl::GetItemState(HTREEITEM item, UINT mask) const
 {
-    TVITEMW what = {};
-    what.mask = TVIF_PARAM;
-    what.hItem = item;
-    what.lParam = static_cast<LPARAM>(data);
-    return SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&what)) != 0;
+    return static_cast<UINT>(
+        SendMessage(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), static_cast<LPARAM>(mask)) & mask);
 }
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
@@ -150,14 +126,35 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
     return TreeView_GetItemRect(m_hWnd, item, rect, textOnly);
 }
 
-CImageList* CTreeCtrl::SetImageList(CImageList* list, int which)
+HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* info) const
 {
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(which),
-            reinterpret_cast<LPARAM>(list == nullptr ? nullptr : list->m_hImageList))));
+    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(info)));
 }
 
-CImageList* CTreeCtrl::GetImageList(UINT which) const
+HTREEITEM CTreeCtrl::HitTest(CPoint at, UINT* flags) const
 {
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TVM_GETIMAGELIST, which)));
+    TVHITTESTINFO info = {};
+    info.pt = at;
+    const HTREEITEM item = HitTest(&info);
+    if (flags != nullptr) {
+        *flags = info.flags;
+    }
+    return item;
+}
+
+CImageList* CTreeCtrl::SetImageList(CImageList* list, int which)
+{
+    return AfxImagesOf(SendMessage(TVM_SETIMAGELIST, AfxWordOf(which), AfxHandleOf(list)));
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM item)
+{
+    return AfxOwnedImages(reinterpret_cast<HIMAGELIST>(sendM(TVM_CREATEDRAGIMAGE, 0, item)));
+}
+
+CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* tips)
+{
+    const HWND handle = tips == nullptr ? nullptr : tips->m_hWnd;
+    return AfxToolTipsOf(
+        reinterpret_cast<HWND>(SendMessage(TVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(handle))));
 }

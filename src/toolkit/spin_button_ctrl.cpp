@@ -1,4 +1,4 @@
-#include "toolkit/common_controls.h"
+#include "toolkit/spin_button_ctrl.h"
 
 IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
 
@@ -15,12 +15,22 @@ CWnd* CSpinButtonCtrl::SetBuddy(CWnd* buddy)
         reinterpret_cast<HWND>(SendMessage(UDM_SETBUDDY, reinterpret_cast<WPARAM>(handle))));
 }
 
-void CSpinButtonCtrl::GetRange(int& low, int& high) const
+void CSpinButtonCtrl::GetRange32(int& low, int& high) const
 {
     SendMessage(UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low), reinterpret_cast<LPARAM>(&high));
+}
+
+int CSpinButtonCtrl::GetPos32(LPBOOL isWrong) const
+{
+    return static_cast<int>(SendMessage(UDM_GETPOS32, 0, reinterpret_cast<LPARAM>(isWrong)));
 }
 
 BOOL CSpinButtonCtrl::SetAccel(int count, UDACCEL* steps)
 {
     return SendMessage(UDM_SETACCEL, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(steps)) != 0;
+}
+
+UINT CSpinButtonCtrl::GetAccel(int most, UDACCEL* steps) const
+{
+    return static_cast<UINT>(SendMessage(UDM_GETACCEL, AfxWordOf(most), reinterpret_cast<LPARAM>(steps)));
 }

@@ -1,0 +1,20 @@
+#include "toolkit/button.h"
+#include "toolkit/owner_drawn.h"
+
+IMPLEMENT_DYNAMIC(CButton, CWnd)
+
+BOOL CButton::Create(LPCSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return CWnd::Create("Button", caption, style, rect, parent, id);
+}
+
+BOOL CButton::createM(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return Create(WideToGbk(caption).c_str(), style, rect, parent, id) && AfxKeepWideText(*this, caption);
+}
+
+BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    return AfxDrawnSingle(this, message, lParam, result)
+        || CWnd::OnChildNotify(message, wParam, lParam, result);
+}
