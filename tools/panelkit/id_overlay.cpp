@@ -180,25 +180,26 @@ void drawIds(HWND dialog)
 
 void IdOverlayCL::FollowM(HWND dialog)
 {
-    if (!::IsWindowVisible(dialog) || ::IsIconic(dialog)
-        || !createM(dialog, WS_EX_LAYERED | WS_EX_TRANSPARENT, 0)) {
+    if (!::IsWindowVisible(dialog) || ::IsIconic(dialog) || !createM(dialog, 0)) {
         HideM();
         return;
     }
-    RECT client {};
-    ::GetClientRect(dialog, &client);
-    POINT corner { 0, 0 };
-    ::ClientToScreen(dialog, &corner);
+    RECT place {};
+    ::GetClientRect(dialog, &place);
+    ::MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    RECT before {};
+    ::GetWindowRect(HandleM(), &before);
+    if (!::EqualRect(&place, &before)) {
+        ::SetWindowPos(HandleM(), nullptr, place.left, place.top, place.right - place.left,
+            place.bottom - place.top, SWP_NOACTIVATE | SWP_NOZORDER);
+    }
     std::vector<IdLabelCL> labels = idLabels(dialog);
-    ::SetWindowPos(
-        HandleM(), nullptr, corner.x, corner.y, client.right, client.bottom, SWP_NOACTIVATE | SWP_NOZORDER);
     if (!(labels == labels_)) {
         labels_ = std::move(labels);
         ::SetWindowRgn(HandleM(), regionOf(labels_), TRUE); // The window keeps it.
         ::InvalidateRect(HandleM(), nullptr, FALSE);
     }
     if (!::IsWindowVisible(HandleM())) {
-        ::SetLayeredWindowAttributes(HandleM(), 0, 255, LWA_ALPHA);
         ::ShowWindow(HandleM(), SW_SHOWNA);
     }
 }

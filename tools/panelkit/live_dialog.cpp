@@ -134,6 +134,16 @@ void LiveDialogCL::rebuildM()
     dockM();
 }
 
+void LiveDialogCL::followControlsM()
+{
+    overlay_.FollowM(m_hWnd);
+    const HWND focus = ::GetFocus();
+    if (focus != overlaidFocus_ && IsWindowEnabled() && !isDroppedDownM()) {
+        overlaidFocus_ = focus;
+        overlay_.RaiseM();
+    }
+}
+
 // To the control that had it, else to where a new dialog has it.
 void LiveDialogCL::giveFocusM(HWND control)
 {
@@ -177,7 +187,7 @@ LRESULT LiveDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
         if (wParam == OverlayTimer) {
-            overlay_.FollowM(m_hWnd);
+            followControlsM();
             return 0;
         }
         break;
