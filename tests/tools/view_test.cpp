@@ -119,4 +119,15 @@ TEST(View, MessagesArePrintedAsTheyHappen)
     EXPECT_EQ(view.CloseM(dialog), 0U);
 }
 
+TEST(View, ManyFilesAreShownOneAfterTheOther)
+{
+    std::string second = HeaderSections + CancelButton;
+    second.replace(second.find("参数设置"), std::string("参数设置").size(), "第二个");
+    const DescriptionFileCL files[2] { DescriptionFileCL(HeaderSections + CancelButton),
+        DescriptionFileCL(second) };
+    RunningViewCL view("", files[0].path() + std::string("\" \"") + files[1].path());
+    ::PostMessageW(view.DialogM("参数设置"), WM_CLOSE, 0, 0);
+    EXPECT_EQ(view.CloseM(view.DialogM("第二个")), 0U);
+}
+
 #endif
