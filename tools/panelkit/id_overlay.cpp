@@ -17,8 +17,8 @@ class LabelFontCL
 public:
     explicit LabelFontCL(HDC dc)
         : dc_(dc)
-        , font_(::CreateFontW(-10, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
-              NONANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Tahoma"))
+        , font_(::CreateFontW(-11, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+              DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Tahoma"))
         , before_(::SelectObject(dc, font_))
     {
     }
@@ -53,7 +53,8 @@ std::wstring placeInFile(HWND control, const RECT& shown)
     int position[2] = { static_cast<int>(shown.left), static_cast<int>(shown.top) };
     int size[2] = { static_cast<int>(shown.right - shown.left), static_cast<int>(shown.bottom - shown.top) };
     const auto* const described = dynamic_cast<const DControlCommonCL*>(CWnd::FromHandlePermanent(control));
-    if (described != nullptr) {
+    int given[2] {};
+    if (described != nullptr && described->GetSizeM(given) == 1 && given[0] != 0) { // Not arrows.
         described->GetPosM(position);
         described->GetSizeM(size);
     }

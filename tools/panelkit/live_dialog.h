@@ -46,7 +46,8 @@ private:
     std::unique_ptr<MessageLogCL> log_;
     std::unique_ptr<WatchedFilesCL> watched_;
     HWND left_ { nullptr };          // The control that had the focus when the dialog was left,
-    HWND awaiting_ { nullptr };      // and its successor, which gets it when the user comes back.
+    HWND awaiting_ { nullptr };      // and its successor, if there is one, which gets it
+    bool awaitsFocus_ { false };     // when the user comes back.
     HWND overlaidFocus_ { nullptr }; // The focus since which the ids are on top.
     POINT filePlace_ {};             // Where the file last said that the window is.
     bool isBuilding_ { false };
