@@ -125,6 +125,16 @@ TEST(Shot, NewRotateButtonsThatTheLibraryLeavesToTheApplicationAreShown)
     EXPECT_EQ(shot.ColoursM(shot.NewRotateButtonM(), "--status 11 1"), (CountsTP { 0, Area, 0 }));
 }
 
+TEST(Shot, IdsAreWrittenOnControls)
+{
+    constexpr std::uint32_t LabelGround = 0xFFFFAA;
+    ShotCL shot;
+    EXPECT_EQ(shot.TakeM(shot.BmpButtonM()).code, 0);
+    EXPECT_EQ(PngPictureCL(shot.picture.path()).CountM(LabelGround), 0);
+    EXPECT_EQ(shot.TakeM(shot.BmpButtonM(), "--ids").code, 0);
+    EXPECT_GT(PngPictureCL(shot.picture.path()).CountM(LabelGround), 100);
+}
+
 TEST(Shot, StatusThatNoControlHasGetsOneClearLine)
 {
     ShotCL shot;

@@ -85,10 +85,12 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
     if (name.empty()) {
         return;
     }
-    findings.AddPictureM(name);
     auto found = states_.find(name);
     if (found == states_.end()) {
         found = states_.emplace(name, stateM(name)).first;
+    }
+    if (found->second != State::Remote) {
+        findings.AddPictureM(name);
     }
     switch (found->second) {
     case State::Missing:

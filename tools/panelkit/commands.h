@@ -52,6 +52,7 @@ struct ShotOptionsCL : ShowOptionsCL
     std::string folder;                    // or where each file's picture goes, which is named after it.
     std::string outName;                   // What the user wrote for that, as `names`.
     std::vector<ControlStatusTP> statuses; // Of each file.
+    bool showsIds { false };               // As view does.
 };
 int shotCommand(const ShotOptionsCL& options);
 

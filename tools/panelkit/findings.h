@@ -67,7 +67,10 @@ public:
         list_.push_back({ says, offset, std::move(details) });
     }
     void AddPictureM(const std::string& name) { pictures_.insert(name); }
-    const std::set<std::string>& PicturesM() const { return pictures_; } // The names in the file, GBK.
+    const std::set<std::string>& PicturesM() const
+    {
+        return pictures_;
+    }             // Those on this machine, as named: GBK.
     void SortM(); // In the order of the file, each with its place, each once.
     const std::vector<FindingCL>& ListM() const { return list_; }
     std::size_t CountM(Severity severity) const;

@@ -88,7 +88,7 @@ int heightOf(HWND bar, int width)
 
 void FindingsBarCL::ShowM(HWND dialog, const FindingsCL& findings, Language language)
 {
-    if (createM(dialog, 0, WS_BORDER)) {
+    if (createM(dialog, WS_BORDER)) {
         ::SetWindowTextW(HandleM(), barText(findings, language).c_str());
         ::ShowWindow(HandleM(), SW_SHOWNA);
         DockM(dialog);

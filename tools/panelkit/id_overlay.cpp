@@ -17,8 +17,8 @@ class LabelFontCL
 public:
     explicit LabelFontCL(HDC dc)
         : dc_(dc)
-        , font_(::CreateFontW(-10, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
-              NONANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Tahoma"))
+        , font_(::CreateFontW(-11, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+              DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Tahoma"))
         , before_(::SelectObject(dc, font_))
     {
     }
@@ -53,7 +53,8 @@ std::wstring placeInFile(HWND control, const RECT& shown)
     int position[2] = { static_cast<int>(shown.left), static_cast<int>(shown.top) };
     int size[2] = { static_cast<int>(shown.right - shown.left), static_cast<int>(shown.bottom - shown.top) };
     const auto* const described = dynamic_cast<const DControlCommonCL*>(CWnd::FromHandlePermanent(control));
-    if (described != nullptr) {
+    int given[2] {};
+    if (described != nullptr && described->GetSizeM(given) == 1 && given[0] != 0) { // Not arrows.
         described->GetPosM(position);
         described->GetSizeM(size);
     }
@@ -61,33 +62,51 @@ std::wstring placeInFile(HWND control, const RECT& shown)
         + std::to_wstring(size[0]) + L"," + std::to_wstring(size[1]);
 }
 
-bool isFree(const RECT& box, const RECT& client, const std::vector<IdLabelCL>& placed)
+bool isFree(const RECT& box, const RECT& client, const std::vector<RECT>& placed)
 {
     RECT common {};
     return box.left >= 0 && box.top >= 0 && box.right <= client.right && box.bottom <= client.bottom
         && std::none_of(placed.begin(), placed.end(),
-            [&](const IdLabelCL& other) { return ::IntersectRect(&common, &box, &other.box) != FALSE; });
+            [&](const RECT& other) { return ::IntersectRect(&common, &box, &other) != FALSE; });
 }
 
-// The first free place: in the corners of the control, along it, then ever further below and above.
-RECT placeFor(SIZE size, const RECT& control, const RECT& client, const std::vector<IdLabelCL>& placed)
+// Steps away from a place, the nearest first.
+const std::vector<POINT>& stepsAway()
+{
+    static const std::vector<POINT> steps = [] {
+        std::vector<POINT> all;
+        for (LONG y = -72; y <= 72; y += 3) {
+            for (LONG x = -120; x <= 120; x += 6) {
+                all.push_back({ x, y });
+            }
+        }
+        std::stable_sort(all.begin(), all.end(),
+            [](const POINT& a, const POINT& b) { return a.x * a.x + a.y * a.y < b.x * b.x + b.y * b.y; });
+        return all;
+    }();
+    return steps;
+}
+
+// The first free place: in the corners of the control, else ever further away.
+RECT placeFor(SIZE size, const RECT& control, const RECT& client, const std::vector<RECT>& placed)
 {
     const auto at = [size](LONG x, LONG y) { return RECT { x, y, x + size.cx, y + size.cy }; };
     const LONG right = control.right - size.cx;
     const LONG bottom = control.bottom - size.cy;
-    std::vector<RECT> places { at(control.left, control.top), at(right, control.top),
-        at(control.left, bottom), at(right, bottom), at(control.left, control.top - size.cy),
-        at(control.left, control.bottom), at(control.right, control.top),
-        at(control.left - size.cx, control.top) };
-    for (LONG distance = 0; distance < client.bottom; distance += 4) {
-        for (const LONG x : { control.left, right, client.right - size.cx }) {
-            places.push_back(at(x, control.top + distance));
-            places.push_back(at(x, control.top - distance));
+    for (const RECT& box : { at(control.left, control.top), at(right, control.top), at(control.left, bottom),
+             at(right, bottom) }) {
+        if (isFree(box, client, placed)) {
+            return box;
         }
     }
-    const auto free = std::find_if(
-        places.begin(), places.end(), [&](const RECT& box) { return isFree(box, client, placed); });
-    return free != places.end() ? *free : places.front();
+    constexpr std::size_t MostPlaced = 200; // Among more nobody reads them, and looking takes long.
+    for (const POINT& step : stepsAway()) {
+        const RECT box = at(control.left + step.x, control.top + step.y);
+        if (placed.size() < MostPlaced && isFree(box, client, placed)) {
+            return box;
+        }
+    }
+    return at(control.left, control.top);
 }
 
 SIZE sizeOf(HDC dc, const std::wstring& words)
@@ -95,6 +114,45 @@ SIZE sizeOf(HDC dc, const std::wstring& words)
     RECT rect {};
     ::DrawTextW(dc, words.c_str(), -1, &rect, LabelFormat | DT_CALCRECT);
     return { rect.right + 2 * LabelPadding, rect.bottom + 1 };
+}
+
+// Not yet placed: its box is at the origin.
+IdLabelCL labelOf(HDC dc, HWND dialog, HWND control, const std::wstring& tabNumber)
+{
+    RECT frame {};
+    ::GetWindowRect(control, &frame);
+    ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&frame), 2);
+    const std::wstring first = std::to_wstring(::GetDlgCtrlID(control)) + L" #" + tabNumber;
+    const std::wstring second = placeInFile(control, frame);
+    // In one line where the control has room for it, else in two.
+    std::wstring words = first + L"  " + second;
+    SIZE size = sizeOf(dc, words);
+    if (size.cx > frame.right - frame.left) {
+        words = first + L"\n" + second;
+        size = sizeOf(dc, words);
+    }
+    return { frame, { 0, 0, size.cx, size.cy }, words };
+}
+
+// Small controls first: large ones have other corners.
+void placeLabels(HWND dialog, std::vector<IdLabelCL>& labels)
+{
+    RECT client {};
+    ::GetClientRect(dialog, &client);
+    std::vector<IdLabelCL*> order;
+    for (IdLabelCL& label : labels) {
+        order.push_back(&label);
+    }
+    const auto area = [](const RECT& rect) {
+        return static_cast<long long>(rect.right - rect.left) * (rect.bottom - rect.top);
+    };
+    std::stable_sort(order.begin(), order.end(),
+        [&area](const IdLabelCL* a, const IdLabelCL* b) { return area(a->control) < area(b->control); });
+    std::vector<RECT> placed;
+    for (IdLabelCL* const label : order) {
+        label->box = placeFor({ label->box.right, label->box.bottom }, label->control, client, placed);
+        placed.push_back(label->box);
+    }
 }
 
 void drawLabels(HDC dc, const std::vector<IdLabelCL>& labels)
@@ -141,33 +199,21 @@ HRGN regionOf(const std::vector<IdLabelCL>& labels)
 std::vector<IdLabelCL> idLabels(HWND dialog)
 {
     std::vector<IdLabelCL> labels;
-    RECT client {};
-    ::GetClientRect(dialog, &client);
     const std::map<HWND, int> numbers = tabNumbers(dialog);
     const HDC dc = ::GetDC(dialog);
-    const LabelFontCL font(dc);
-    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (!::IsWindowVisible(child)) {
-            continue;
+    {
+        const LabelFontCL font(dc);
+        for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT)) {
+            if (::IsWindowVisible(child)) {
+                const auto number = numbers.find(child);
+                labels.push_back(labelOf(
+                    dc, dialog, child, number != numbers.end() ? std::to_wstring(number->second) : L"-"));
+            }
         }
-        RECT control {};
-        ::GetWindowRect(child, &control);
-        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&control), 2);
-        const auto number = numbers.find(child);
-        const std::wstring first = std::to_wstring(::GetDlgCtrlID(child)) + L" #"
-            + (number != numbers.end() ? std::to_wstring(number->second) : L"-");
-        const std::wstring second = placeInFile(child, control);
-        // In one line where the control has room for it, else in two.
-        std::wstring words = first + L"  " + second;
-        SIZE size = sizeOf(dc, words);
-        if (size.cx > control.right - control.left) {
-            words = first + L"\n" + second;
-            size = sizeOf(dc, words);
-        }
-        labels.push_back({ control, placeFor(size, control, client, labels), words });
     }
     ::ReleaseDC(dialog, dc);
+    placeLabels(dialog, labels);
     return labels;
 }
 
@@ -180,25 +226,26 @@ void drawIds(HWND dialog)
 
 void IdOverlayCL::FollowM(HWND dialog)
 {
-    if (!::IsWindowVisible(dialog) || ::IsIconic(dialog)
-        || !createM(dialog, WS_EX_LAYERED | WS_EX_TRANSPARENT, 0)) {
+    if (!::IsWindowVisible(dialog) || ::IsIconic(dialog) || !createM(dialog, 0)) {
         HideM();
         return;
     }
-    RECT client {};
-    ::GetClientRect(dialog, &client);
-    POINT corner { 0, 0 };
-    ::ClientToScreen(dialog, &corner);
+    RECT place {};
+    ::GetClientRect(dialog, &place);
+    ::MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    RECT before {};
+    ::GetWindowRect(HandleM(), &before);
+    if (!::EqualRect(&place, &before)) {
+        ::SetWindowPos(HandleM(), nullptr, place.left, place.top, place.right - place.left,
+            place.bottom - place.top, SWP_NOACTIVATE | SWP_NOZORDER);
+    }
     std::vector<IdLabelCL> labels = idLabels(dialog);
-    ::SetWindowPos(
-        HandleM(), nullptr, corner.x, corner.y, client.right, client.bottom, SWP_NOACTIVATE | SWP_NOZORDER);
     if (!(labels == labels_)) {
         labels_ = std::move(labels);
         ::SetWindowRgn(HandleM(), regionOf(labels_), TRUE); // The window keeps it.
         ::InvalidateRect(HandleM(), nullptr, FALSE);
     }
     if (!::IsWindowVisible(HandleM())) {
-        ::SetLayeredWindowAttributes(HandleM(), 0, 255, LWA_ALPHA);
         ::ShowWindow(HandleM(), SW_SHOWNA);
     }
 }

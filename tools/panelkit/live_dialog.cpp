@@ -113,7 +113,7 @@ void LiveDialogCL::rebuildM()
     const ValidationPauseCL rebuilding(m_hWnd); // No field is left or entered by it.
     const bool isVisible = IsWindowVisible() != FALSE;
     const bool isActive = ::GetActiveWindow() == m_hWnd;
-    kept_.TakeM(m_hWnd, isActive ? ::GetFocus() : awaiting_ != nullptr ? awaiting_ : left_);
+    kept_.TakeM(m_hWnd, isActive ? ::GetFocus() : awaitsFocus_ ? awaiting_ : left_);
     isBuilding_ = true;
     SetRedraw(FALSE);
     RebuildM();
@@ -122,7 +122,8 @@ void LiveDialogCL::rebuildM()
     if (isActive) {
         giveFocusM(successor);
     } else {
-        awaiting_ = successor; // Now it would make the dialog active.
+        awaiting_ = successor;
+        awaitsFocus_ = true; // Now it would make the dialog active.
     }
     isBuilding_ = false;
     if (isVisible) { // The style that the file says has taken that away.
@@ -134,10 +135,20 @@ void LiveDialogCL::rebuildM()
     dockM();
 }
 
+void LiveDialogCL::followControlsM()
+{
+    overlay_.FollowM(m_hWnd);
+    const HWND focus = ::GetFocus();
+    if (focus != overlaidFocus_ && IsWindowEnabled() && !isDroppedDownM()) {
+        overlaidFocus_ = focus;
+        overlay_.RaiseM();
+    }
+}
+
 // To the control that had it, else to where a new dialog has it.
 void LiveDialogCL::giveFocusM(HWND control)
 {
-    awaiting_ = nullptr;
+    awaitsFocus_ = false;
     const HWND wanted = control != nullptr ? control : ::GetNextDlgTabItem(m_hWnd, nullptr, FALSE);
     ::SetFocus(wanted != nullptr ? wanted : m_hWnd);
 }
@@ -177,7 +188,7 @@ LRESULT LiveDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
         if (wParam == OverlayTimer) {
-            overlay_.FollowM(m_hWnd);
+            followControlsM();
             return 0;
         }
         break;
@@ -192,7 +203,7 @@ LRESULT LiveDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_ACTIVATE:
         if (LOWORD(wParam) == WA_INACTIVE) {
             left_ = ::GetFocus();
-            awaiting_ = nullptr;
+            awaitsFocus_ = false;
         }
         break;
     default:
@@ -201,7 +212,7 @@ LRESULT LiveDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const LRESULT result = PreviewDialogCL::WindowProc(message, wParam, lParam);
     if (message == WM_WINDOWPOSCHANGED && !isBuilding_) {
         dockM();
-    } else if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && awaiting_ != nullptr) {
+    } else if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && awaitsFocus_) {
         giveFocusM(awaiting_);
     }
     return result;

@@ -34,6 +34,7 @@ private:
     void rebuildM();
     void giveFocusM(HWND control);
     void keepPlaceM(WINDOWPOS& place);
+    void followControlsM();
     void dockM();
 
     ViewOptionsCL options_;
@@ -44,9 +45,11 @@ private:
     IdOverlayCL overlay_;
     std::unique_ptr<MessageLogCL> log_;
     std::unique_ptr<WatchedFilesCL> watched_;
-    HWND left_ { nullptr };     // The control that had the focus when the dialog was left,
-    HWND awaiting_ { nullptr }; // and its successor, which gets it when the user comes back.
-    POINT filePlace_ {};        // Where the file last said that the window is.
+    HWND left_ { nullptr };          // The control that had the focus when the dialog was left,
+    HWND awaiting_ { nullptr };      // and its successor, if there is one, which gets it
+    bool awaitsFocus_ { false };     // when the user comes back.
+    HWND overlaidFocus_ { nullptr }; // The focus since which the ids are on top.
+    POINT filePlace_ {};             // Where the file last said that the window is.
     bool isBuilding_ { false };
     bool wasBuilt_ { false };
 };

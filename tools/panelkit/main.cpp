@@ -73,6 +73,7 @@ int run(std::vector<std::string> arguments)
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);
+    shot->add_flag("--ids", shown.showsIds, "writes id, place and Tab stop on each control");
     shot->add_option("-o", shown.folder,
             "the folder for the picture of each FILE, named after it: a.dlg is pictured in DIR/a.png")
         ->type_name("DIR");

@@ -7,7 +7,7 @@ PopupCL::~PopupCL()
     }
 }
 
-bool PopupCL::createM(HWND dialog, DWORD exStyle, DWORD style)
+bool PopupCL::createM(HWND dialog, DWORD style)
 {
     if (window_ != nullptr) {
         return true;
@@ -18,7 +18,7 @@ bool PopupCL::createM(HWND dialog, DWORD exStyle, DWORD style)
     type.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     type.lpszClassName = L"PanelkitViewPopup";
     ::RegisterClassW(&type); // Fails from the second time on, as it is there.
-    window_ = ::CreateWindowExW(exStyle | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, type.lpszClassName, L"",
+    window_ = ::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, type.lpszClassName, L"",
         style | WS_POPUP, 0, 0, 1, 1, dialog, nullptr, type.hInstance, nullptr);
     if (window_ != nullptr) {
         ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -30,6 +30,16 @@ void PopupCL::HideM()
 {
     if (window_ != nullptr) {
         ::ShowWindow(window_, SW_HIDE);
+    }
+}
+
+void PopupCL::RaiseM()
+{
+    if (window_ != nullptr && ::IsWindowVisible(window_)) {
+        for (const HWND place : { HWND_TOPMOST, HWND_NOTOPMOST }) { // A place that it has is no move.
+            ::SetWindowPos(window_, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        }
+        ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
 }
 

@@ -12,9 +12,12 @@ public:
 
     HWND HandleM() const { return window_; } // Null before the first showing.
     void HideM();
+    // To the top. Owned windows stay above their owner by themselves, but on a display without a window
+    // manager Wine brings the owner to the top whenever the focus moves.
+    void RaiseM();
 
 protected:
-    bool createM(HWND dialog, DWORD exStyle, DWORD style); // Once, hidden; whether it is there.
+    bool createM(HWND dialog, DWORD style); // Once, hidden; whether it is there.
     virtual void paintM(HDC dc, const RECT& client) = 0;
     virtual bool isHit() const { return true; } // False: clicks go to what is below.
 

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "description_file.h"
+#include "id_overlay.h"
 #include "pictures_to_write.h"
 #include "preview_dialog.h"
 #include "window_picture.h"
@@ -56,6 +57,9 @@ int shotCommand(const ShotOptionsCL& options)
             return 1;
         }
         dialog.TakeCaptionOfTheFirstM();
+        if (options.showsIds) {
+            drawIds(dialog.m_hWnd);
+        }
         const PictureToWriteCL& picture = pictures[file.number];
         const std::wstring out = std::filesystem::u8path(picture.path).wstring();
         const bool saved = saveWindow(dialog.m_hWnd, out, isBmpName(picture.said));

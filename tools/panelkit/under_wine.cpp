@@ -131,6 +131,9 @@ int shotCommand(const ShotOptionsCL& options)
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
     }
+    if (options.showsIds) {
+        words.emplace_back("--ids");
+    }
     if (options.folder.empty()) {
         words.push_back("--out-as=" + options.picture);
         return startOn(words, options, Display::OurOwn, { underWine(options.picture) });

@@ -213,6 +213,30 @@ TEST(Keep, UserWhoIsElsewhereFindsTheFieldAgain)
     ASSERT_TRUE(ActivateM(dialog.m_hWnd));
     EXPECT_EQ(::GetFocus(), dialog.ItemM(12));
     EXPECT_EQ(dialog.TextM(12), "5678");
+    // Or the first one, when it is gone.
+    ASSERT_TRUE(ActivateM(editor.HandleM()));
+    dialog.ChangeToM(editOf("42"));
+    ASSERT_TRUE(ActivateM(dialog.m_hWnd));
+    EXPECT_EQ(::GetFocus(), dialog.ItemM(11));
+}
+
+TEST(Keep, PicturesThatWereClickedOn)
+{
+    const WorkFolderCL folder;
+    const SmallPictureCL red(0xC01001, 40, 40);
+    const SmallPictureCL green(0x02C020, 40, 40);
+    writeBytes("red.bmp", red.bytes());
+    writeBytes("green.bmp", green.bytes());
+    const std::string sections = "[多态按钮]\n1\n0\n20 120 20 30 40 40 7\nNULL\n[多态按钮数据]\n2\n0\n"
+                                 "120 7 green.bmp\n120 9 red.bmp\n";
+    writeDescription(sections);
+    LivePreviewCL dialog;
+    const auto reds = [&dialog] { return Pixels(dialog.m_hWnd).CountM(RGB(0xC0, 0x10, 0x01)); };
+    EXPECT_EQ(reds(), 0);
+    ClickM(dialog.ItemM(120), 20, 20);
+    ASSERT_TRUE(PumpUntil([&] { return reds() == 1600; }));
+    dialog.ChangeToM(sections);
+    EXPECT_EQ(reds(), 1600);
 }
 
 TEST(Keep, ListThatIsOpenIsWaitedFor)

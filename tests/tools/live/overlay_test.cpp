@@ -91,6 +91,8 @@ TEST(Ids, LabelsAreSeenAndLetClicksThrough)
     PumpPending();
     const IdLabelCL label = idLabels(dialog.m_hWnd).at(0);
     EXPECT_GT(Pixels(dialog.OverlayM()).CountM(RGB(255, 255, 170)), 100);
+    const auto isOnTop = [] { return Pixels(::GetDesktopWindow()).CountM(RGB(255, 255, 170)) > 100; };
+    EXPECT_TRUE(PumpUntil(isOnTop));
     EXPECT_EQ(::GetForegroundWindow(), dialog.m_hWnd);
     ClickM(dialog.m_hWnd, label.box.left + 3, label.box.top + 3);
     EXPECT_EQ(::SendMessageW(dialog.ItemM(21), BM_GETCHECK, 0, 0), BST_CHECKED);
