@@ -1,4 +1,5 @@
-# Sourced by the tests of what users get: tools is the prefix of the binutils.
+# Sourced by the tests of what users get: tools is the prefix of the binutils, run starts a Windows program.
+fail() { echo "$*"; exit 1; }
 
 # The Nth fenced block of a language on a page.
 block() { # page language number
@@ -19,4 +20,13 @@ needs_no_runtime() { # program
     echo "$1 needs these"
     return 1
   fi
+}
+
+# The application of docs/using.md prints what the first edit holds.
+application() { # program command
+  local said
+  needs_no_runtime "$1"
+  "$run" "$2" new --force panel.dlg >/dev/null
+  said=$("$run" "$1" | tr -d '\r')
+  [ "$said" = 未命名 ] || fail "$1 said: $said"
 }
