@@ -13,7 +13,7 @@ fail() { # what, with lines on standard input
 }
 
 "${tools}objdump" -p "$build/bin/panelkit.dll" | sed -n '/Name Pointer\] Table/,/^$/s/^\t\[ *[0-9]*\].* //p' |
-  sed -E 's/^(\?|Z)/_\1/; s/^_{0,1}_Z/_Z/' | c++filt | sort -u >"$folder/exports"
+  sed 's/@[0-9]*$//' | c++filt | sort -u >"$folder/exports"
 "$CXX" -std=c++17 -I"$sources/src" -MM "$sources/src/panelkit.h" | tr -s ' \\' '\n\n' | grep '\.h$' |
   xargs cat | sed 's|//.*||; /^ *#/d' >"$folder/headers"
 
