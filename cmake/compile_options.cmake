@@ -1,10 +1,13 @@
-# Flags of all of our own code; third-party code is built without the warnings.
+# Flags of all of our own code; third-party code is built without the warnings. By language: the compiler of
+# resources understands none of them.
 add_library(panelkit_options INTERFACE)
 target_compile_options(panelkit_options INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wshadow=local;-Wnon-virtual-dtor;-Woverloaded-virtual>
+  # Whose project we are part of has a compiler of his own, which may know other warnings.
+  $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<BOOL:${PROJECT_IS_TOP_LEVEL}>>:-Werror>
   # Seeing through the calls between the files of a unity build, it takes every cast to a base for a null one.
-  $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wnull-dereference>
-  -Wno-cast-function-type -Wno-attributes)
+  $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>>:-Wnull-dereference>
+  $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type;-Wno-attributes>)
 if(PANELKIT_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
@@ -14,3 +17,20 @@ if(WIN32)
   # No compiler runtime beside the programs: each carries its own.
   add_link_options(-static -static-libgcc -static-libstdc++)
 endif()
+
+# What Windows shows as the details of a program or library, and installers compare.
+function(panelkit_version_resource target description)
+  if(WIN32)
+    set(PANELKIT_FILE $<TARGET_FILE_NAME:${target}>)
+    set(PANELKIT_DESCRIPTION ${description})
+    get_target_property(type ${target} TYPE)
+    set(PANELKIT_FILE_TYPE VFT_APP)
+    if(type STREQUAL "SHARED_LIBRARY")
+      set(PANELKIT_FILE_TYPE VFT_DLL)
+    endif()
+    set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${resource}.in @ONLY)
+    file(GENERATE OUTPUT ${resource} INPUT ${resource}.in TARGET ${target})
+    target_sources(${target} PRIVATE ${resource})
+  endif()
+endfunction()

@@ -1,4 +1,6 @@
-# Run by the install: panelkit.h and what it reaches. Other headers are the library's own.
+# Run by the install: panelkit.h and what it reaches. Other headers are the library's own. In src each includes
+# the others from src; installed, from beside itself: an application has one folder in its include path, and its
+# own dialog/... are not taken for ours.
 cmake_policy(VERSION 3.25)
 set(todo panelkit.h)
 set(public)
@@ -6,12 +8,16 @@ while(todo)
   list(POP_FRONT todo header)
   if(NOT header IN_LIST public)
     list(APPEND public ${header})
-    get_filename_component(folder ${header} DIRECTORY)
-    file(INSTALL ${PANELKIT_SOURCE}/${header} DESTINATION ${CMAKE_INSTALL_PREFIX}/include/panelkit/${folder})
+    get_filename_component(folder "${header}" DIRECTORY)
     file(STRINGS ${PANELKIT_SOURCE}/${header} lines REGEX "^ *# *include \"")
+    file(READ ${PANELKIT_SOURCE}/${header} text)
     foreach(line ${lines})
       string(REGEX REPLACE "^[^\"]*\"([^\"]*)\".*" "\\1" included "${line}")
       list(APPEND todo ${included})
+      file(RELATIVE_PATH near ${PANELKIT_SOURCE}/${folder} ${PANELKIT_SOURCE}/${included})
+      string(REPLACE "\"${included}\"" "\"${near}\"" text "${text}")
     endforeach()
+    file(WRITE ${PANELKIT_STAGE}/${header} "${text}")
+    file(INSTALL ${PANELKIT_STAGE}/${header} DESTINATION ${CMAKE_INSTALL_PREFIX}/include/panelkit/${folder})
   endif()
 endwhile()

@@ -12,7 +12,9 @@ packages=(
   # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
   libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
-test_packages=(g++ googletest clang-format ccache)
+# The sources of examples/idiom are compiled by clang too, and for 32 bit.
+test_packages=(g++ googletest clang-format ccache pkgconf clang g++-mingw-w64-i686-posix)
+packages32=(g++-mingw-w64-i686-posix) # For the 32-bit build alone.
 
 say() { echo "$*" >&2; }
 

@@ -23,11 +23,13 @@ set(PANELKIT_CONTROL_SOURCES
   controls/labels/label.cpp
   controls/lists/bitmap_list_box.cpp
   controls/lists/combo_box.cpp
+  controls/lists/combo_box_value.cpp
   controls/lists/list_box.cpp
   controls/lists/list_control.cpp
   controls/lists/text_list_box.cpp
   controls/lists/tree.cpp
   controls/lists/tree_pictures.cpp
+  controls/lists/tree_value.cpp
   controls/text/multi_edit.cpp
   controls/text/single_edit.cpp
   controls/text/spin_button.cpp
@@ -36,6 +38,9 @@ set(PANELKIT_CONTROL_SOURCES
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
+  dialog/basic_dialog_by_id.cpp
+  dialog/basic_dialog_by_id_lines.cpp
+  dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_values.cpp
@@ -55,16 +60,28 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/common_dialog.cpp
   toolkit/common_library.cpp
   toolkit/control_objects.cpp
+  toolkit/app_profile.cpp
   toolkit/creation_hook.cpp
   toolkit/date_time_ctrl.cpp
   toolkit/dc.cpp
+  toolkit/dc_mapping.cpp
+  toolkit/dc_shapes.cpp
+  toolkit/dc_text.cpp
   toolkit/dialog.cpp
   toolkit/edit.cpp
   toolkit/edit_text.cpp
+  toolkit/ddv.cpp
+  toolkit/ddx.cpp
+  toolkit/ddx_lists.cpp
+  toolkit/diagnostics.cpp
+  toolkit/exceptions.cpp
   toolkit/file_dialog.cpp
   toolkit/font_dialog.cpp
   toolkit/gbk_string.cpp
+  toolkit/gbk_string_format.cpp
+  toolkit/gbk_string_search.cpp
   toolkit/gdi_objects.cpp
+  toolkit/gdi_owners.cpp
   toolkit/header_ctrl.cpp
   toolkit/hot_key_ctrl.cpp
   toolkit/image_list.cpp
@@ -73,6 +90,7 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/list_box.cpp
   toolkit/list_ctrl.cpp
   toolkit/list_ctrl_items.cpp
+  toolkit/menu.cpp
   toolkit/message_box.cpp
   toolkit/message_map.cpp
   toolkit/module.cpp
@@ -83,12 +101,26 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/spin_button_ctrl.cpp
   toolkit/static.cpp
   toolkit/tab_ctrl.cpp
+  toolkit/scroll_bar_handle.cpp
   toolkit/text.cpp
+  toolkit/thread.cpp
   toolkit/thread_state.cpp
   toolkit/tool_tip_ctrl.cpp
   toolkit/tree_ctrl.cpp
+  toolkit/window_class.cpp
   toolkit/window_dc.cpp
   toolkit/wnd.cpp
+  toolkit/wnd_exchange.cpp
+  toolkit/wnd_menu.cpp
   toolkit/wnd_messages.cpp
+  toolkit/wnd_others.cpp
+  toolkit/wnd_proc.cpp
+  toolkit/wnd_scroll.cpp
+  toolkit/wnd_state.cpp
   toolkit/wnd_window.cpp
+)
+# Not in the library: they go into its import library.
+set(PANELKIT_WINMAIN_SOURCES
+  toolkit/winmain.cpp
+  toolkit/winmain_need.cpp
 )

@@ -10,6 +10,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/io_read.cpp
   baselib/io_search.cpp
   baselib/io_write.cpp
+  baselib/moved_bytes.cpp
   baselib/number_text.cpp
   baselib/path.cpp
   baselib/string.cpp
@@ -17,6 +18,8 @@ set(PANELKIT_DESCRIPTION_SOURCES
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
   controls/animation/spec_animate_record.cpp
+  controls/base/control_value.cpp
+  controls/base/value_text.cpp
   controls/buttons/bmp_button_record.cpp
   controls/buttons/check_box_record.cpp
   controls/buttons/multi_state_button_record.cpp
@@ -38,6 +41,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
   dialog/dialog_header.cpp
+  dialog/reading_diagnostics.cpp
   dialog/relation.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp

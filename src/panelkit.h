@@ -11,6 +11,7 @@
 #include "controls/text/text_box.h"
 #include "controls/text/tool_tip.h"
 #include "dialog/basic_dialog.h"
+#include "dialog/reading_diagnostics.h"
 #include "dialog/relation.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/bmp_record.h"

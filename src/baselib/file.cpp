@@ -1,21 +1,23 @@
 #include "baselib/file.h"
 #include "baselib/gbk.h"
-#include <filesystem>
+#include <cstdint>
 #include <new>
+#include <sys/stat.h>
 
 namespace {
 
+// The length of a regular file, -1 for anything else.
+std::int64_t regularLength(const char* path)
+{
 #ifdef _WIN32
-std::filesystem::path platformPath(const char* path)
-{
-    return slGbkToWide(path);
-}
+    struct _stat64 status = {};
+    const bool known = _wstat64(slGbkToWide(path).c_str(), &status) == 0;
 #else
-std::filesystem::path platformPath(const char* path)
-{
-    return path;
-}
+    struct stat status = {};
+    const bool known = stat(path, &status) == 0;
 #endif
+    return known && (status.st_mode & S_IFMT) == S_IFREG ? status.st_size : -1;
+}
 
 } // namespace
 
@@ -31,13 +33,8 @@ FILE* slOpenFile(const char* path, bool writing)
 std::unique_ptr<char[]> slReadFile(const char* path, std::size_t* size)
 {
     *size = 0;
-    std::error_code failed;
-    const std::filesystem::path name = platformPath(path);
-    if (!std::filesystem::is_regular_file(name, failed) || failed) {
-        return nullptr;
-    }
-    const std::uintmax_t length = std::filesystem::file_size(name, failed);
-    if (failed || length >= static_cast<std::uintmax_t>(PTRDIFF_MAX)) {
+    const std::int64_t length = regularLength(path);
+    if (length < 0 || length >= PTRDIFF_MAX) {
         return nullptr;
     }
     FILE* const file = slOpenFile(path, false);

@@ -101,18 +101,22 @@ protected:
     }
 
 private:
-    static constexpr int InlineLength = 4;
-    static constexpr int DefaultIncrement = 10;
-    static constexpr int LabelSize = 260; // What the texts around a list's elements need.
+    // Enumerators and inline functions: nothing private is exported.
+    enum
+    {
+        InlineLength = 4,
+        DefaultIncrement = 10,
+        LabelSize = 260 // What the texts around a list's elements need.
+    };
 
-    static void constructM(T* slots, int n);
-    static void letGoM(T* slots, int n);
-    static T& spareM();
-    int slotOfM(const T* item) const;
-    void dropHeapStoreM();
-    void returnToInlineM();
-    void inputElementsM(VrIOCL* io, int n);
-    static void outputLabelledM(VrIOCL* io, int number, const char* label);
+    static inline void constructM(T* slots, int n);
+    static inline void letGoM(T* slots, int n);
+    static inline T& spareM();
+    inline int slotOfM(const T* item) const;
+    inline void dropHeapStoreM();
+    inline void returnToInlineM();
+    inline void inputElementsM(VrIOCL* io, int n);
+    static inline void outputLabelledM(VrIOCL* io, int number, const char* label);
 
     T* heapStore_ { nullptr }; // Null while the inline store is in use.
     T inlineStore_[InlineLength];

@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/moved_bytes.h"
 #include "containers/arr.h"
 #include "containers/arr_block.h"
 #include "containers/int_arr.h"
@@ -79,6 +80,7 @@ template <class T> int Arr<T>::PurgeAllM(IntArr* remap)
     if (bound_ > InlineLength && left <= InlineLength) {
         std::copy_n(slots, left, inlineStore_);
         if (ArrBlock<T>::DropM(heapStore_)) {
+            slTellMovedBytes(heapStore_, length_ * sizeof(T), nullptr);
             ArrBlock<T>::FreeM(heapStore_);
         }
         heapStore_ = nullptr;

@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/moved_bytes.h"
 #include "containers/arr.h"
 #include "containers/arr_block.h"
 #include <algorithm>
@@ -101,6 +102,7 @@ template <class T> int Arr<T>::AddSizeM(int n)
     }
     if (heapStore_ != nullptr && !ArrBlock<T>::IsSharedM(heapStore_)) {
         std::memcpy(static_cast<void*>(block), static_cast<const void*>(heapStore_), length_ * sizeof(T));
+        slTellMovedBytes(heapStore_, length_ * sizeof(T), block);
         ArrBlock<T>::FreeM(heapStore_);
     } else {
         // Inline elements live on until the array dies, those of a shared block until its other owners go.
@@ -187,6 +189,7 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
     slots[bound_].~T(); // The moved bytes overwrite it.
     std::memmove(
         static_cast<void*>(slots + i + 1), static_cast<const void*>(slots + i), (bound_ - i) * sizeof(T));
+    slTellMovedBytes(slots + i, (bound_ - i) * sizeof(T), slots + i + 1);
     constructM(slots + i, 1);
     slots[i] = *source;
     letGoM(&overwritten, 1);

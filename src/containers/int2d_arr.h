@@ -2,7 +2,7 @@
 #include "containers/tagged_arr.h"
 
 // A list of int pairs with alive and deleted slots; see TaggedArr for what is shared and copied.
-class PANELKIT_API Int2DArr : public TaggedArr<2>
+class Int2DArr : public TaggedArr<2>
 {
 public:
     int SetItemM(const int pair[2], int index) { return TaggedArr::SetItemM(pair, index); }

@@ -2,7 +2,7 @@
 #include "containers/tagged_arr.h"
 
 // A list of int triples with alive and deleted slots; see TaggedArr for what is shared and copied.
-class PANELKIT_API Int3DArr : public TaggedArr<3>
+class Int3DArr : public TaggedArr<3>
 {
 public:
     int SetItemM(const int triple[3], int index) { return TaggedArr::SetItemM(triple, index); }

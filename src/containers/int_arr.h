@@ -2,7 +2,7 @@
 #include "containers/tagged_arr.h"
 
 // A list of ints with alive and deleted slots; see TaggedArr for what is shared and copied.
-class PANELKIT_API IntArr : public TaggedArr<1>
+class IntArr : public TaggedArr<1>
 {
 public:
     int SetItemM(int value, int index) { return TaggedArr::SetItemM(&value, index); }

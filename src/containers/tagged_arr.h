@@ -50,7 +50,7 @@ private:
     };
 
     bool insideM(int index) const { return index >= 0 && index < GetBoundM(); }
-    Store& storeM();
+    inline Store& storeM(); // Inline: nothing private is exported.
 
     std::shared_ptr<Store> store_;
 };

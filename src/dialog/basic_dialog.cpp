@@ -1,5 +1,6 @@
 #include "dialog/basic_dialog.h"
 #include "baselib/gbk.h"
+#include "dialog/reading_diagnostics.h"
 
 namespace {
 
@@ -56,9 +57,9 @@ int DuBasicDialogCL::DoModalM(CWnd* parent)
 
 BOOL DuBasicDialogCL::OnInitDialog()
 {
-    CDialog::OnInitDialog();
     DestroyM();
     InitDlgM(this, 1);
+    CDialog::OnInitDialog(); // The host's data exchange finds the controls.
     timerId_ = SetTimer(StartTimer, StartPeriod, nullptr);
     return TRUE;
 }

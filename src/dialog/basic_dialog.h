@@ -19,9 +19,15 @@
 #include "controls/text/single_edit.h"
 #include "controls/text/spin_edit.h"
 #include "dialog/control_index.h"
+#include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/values.h"
 #include "pictures/bitmap_record.h"
+#include <memory>
+
+class ReadingDiagnosticsCL;
+class VrIOCL;
 
 // The dialog host: owns the records and controls of every kind and builds them from a description file.
 // Applications derive from it. Null where a pointer is wanted is refused: nothing happens, the result is 0.
@@ -40,6 +46,12 @@ public:
     int SetConfigFileM(const char* path);
     // The control that takes the focus without a value check.
     int SetCancelIdM(int id) { return slKeep(cancelId_, id); }
+
+    // From now on the callback is told, while a dialog is built, what its file lacks or says wrongly: that it
+    // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
+    // what it would be told goes to the debugger (OutputDebugString), the same text only once. Before the
+    // first call nobody is told, and nothing is looked for, unless a debugger runs the program.
+    void SetDiagnosticsM(DiagnosticTP callback, void* context);
 
     // Shows the dialog without a template: the description file says all that one could. parent: the owner,
     // not kept; null: for DoModalM the constructor's, else the application's main window.
@@ -73,6 +85,9 @@ public:
     int AddItemM(int id, int position, const char* text); // The result of the control's AddItemM.
     int DelItemM(int id); // The number is the control's id and the index of the line to delete; 1 if found.
     int SetSelM(int id);  // The number is the control's id and the index of the line to select; 1 if found.
+
+    // The values of every kind, and lines, by function id: typed, checked, in one style. The host keeps it.
+    DialogValuesCL& ValuesM() { return values_; }
 
     // Values of single-line edits; the results are those of the edit's SetValueM, SetCurValM, GetValueM and
     // GetCurValM.
@@ -112,6 +127,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class DialogValuesCL;
     template <class RowTP> struct KindMembersCL
     {
         typename RowTP::Controls controls;
@@ -128,6 +144,8 @@ private:
     void fillIndexM();
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     void initM(CWnd* parent, int mode);
+    void beginDiagnosticsM();
+    void openFileM(VrIOCL& io);
     template <class RowTP> void buildKindM(CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
     Int2DArr stackedM();
@@ -139,11 +157,13 @@ private:
     int lastLeftId_ { 0 };
     int cancelId_ { 0 };
     char configFile_[TextSize] {};
+    std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
     CFont font_;
     DVrBitmapCL background_;
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
     ControlIndexCL index_;
+    DialogValuesCL values_ { *this };
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };

@@ -7,6 +7,7 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         return 0;
     }
     builtIn_ = parent->GetSafeHwnd();
+    beginDiagnosticsM();
     initM(parent, mode);
     slEachKindAsBuilt([this, parent](auto row) { buildKindM<decltype(row)>(parent); });
     if (mode == 1) {
@@ -25,7 +26,7 @@ HWND DuBasicDialogCL::parentM() const
 void DuBasicDialogCL::initM(CWnd* parent, int mode)
 {
     VrIOCL io;
-    io.OpenM(configFile_, "r");
+    openFileM(io);
     if (slReadDialogHeader(io, header_) == 0) {
         return;
     }
@@ -66,7 +67,7 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
     int count = 0;
     {
         VrIOCL io;
-        io.OpenM(configFile_, "r");
+        openFileM(io);
         if (slReadSection(io, records, &count) != SectionStatus::Read) {
             return;
         }

@@ -1,8 +1,7 @@
 // The passes over all controls once they exist: stacking order and font.
-#include "baselib/gbk.h"
-#include "baselib/gbk_texts.h"
 #include "containers/int2d_arr.h"
 #include "dialog/basic_dialog.h"
+#include "dialog/dialog_font.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
@@ -80,12 +79,7 @@ void DuBasicDialogCL::initCtrlZOrderM(CWnd* parent)
 
 void DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
 {
-    LOGFONTA font {};
-    font.lfHeight = fontOption == INT_MIN ? INT_MAX : -fontOption;
-    font.lfWeight = FW_NORMAL;
-    font.lfCharSet = GB2312_CHARSET;
-    font.lfPitchAndFamily = FF_MODERN;
-    slCopyText(font.lfFaceName, LF_FACESIZE, DialogFontFace);
+    const LOGFONTA font = slDialogFont(fontOption);
     font_.DeleteObject();
     font_.CreateFontIndirect(&font);
     const auto windows = topmostById(parent);

@@ -120,7 +120,7 @@ int DuBasicDialogCL::SetSelM(int id)
 int DuBasicDialogCL::initItemRelationM()
 {
     VrIOCL io;
-    io.OpenM(configFile_, "r");
+    openFileM(io);
     const SectionStatus status = slReadRelations(io, [this](const RelationCL& relation) {
         CWnd* child = CWnd::FromHandlePermanent(::GetDlgItem(parentM(), relation.control));
         if (auto* control = dynamic_cast<DControlCommonCL*>(child)) {

@@ -52,7 +52,7 @@ std::size_t slNextValue(const VrIOCL& io)
 
 void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
 {
-    observer_->ValueM({ section_, record_, name, part, span, fate });
+    observer_->ValueM({ section_, record_, name, part, span, fate, isFileName_ });
 }
 
 template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
@@ -160,6 +160,13 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
     } else {
         text.SetM("");
     }
+}
+
+void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
+{
+    isFileName_ = true;
+    TextM(name, file, form);
+    isFileName_ = false;
 }
 
 void FieldReaderCL::StopReadingM()

@@ -32,6 +32,7 @@ public:
     void RealsM(const char* name, float* values, int count) override;
     void ColourM(const char* name, ColourTP& colour, int* flag) override;
     void TextM(const char* name, CharArr& text, const TextFormCL& form) override;
+    void NameM(const char* name, CharArr& file, const TextFormCL& form) override;
     void StopReadingM() override;
 
 private:
@@ -46,6 +47,7 @@ private:
     int record_ { 0 };
     bool isStopped_;
     bool isSkipped_ { false };
+    bool isFileName_ { false };
 };
 
 // Where the next value would begin: the offset of the next byte of the open file that is no blank.

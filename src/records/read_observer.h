@@ -32,6 +32,7 @@ struct ValueSeenCL
     int part; // Its number, from 0, among the values of a field with several: x and y, red, green and blue.
     SpanCL span; // What was found; what is no number to the next blank, at most 259 bytes. Or empty.
     Fate fate;
+    bool isFileName { false };
 };
 
 // Why an entry belongs to no record.

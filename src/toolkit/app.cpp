@@ -1,16 +1,11 @@
 #include "toolkit/app.h"
-#include "toolkit/module.h"
+#include "baselib/gbk.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
 #include <cstdlib>
 #include <cstring>
-#include <utility>
 
-IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
-
-BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
-END_MESSAGE_MAP()
 
 namespace {
 
@@ -25,79 +20,39 @@ std::string programNameM()
     return WideToGbk(name.substr(0, name.rfind(L'.')).c_str());
 }
 
+// Nested calls show one hourglass; the outermost puts back the cursor that was there.
+void waitM(int change)
+{
+    ThreadStateCL& state = ThreadStateCL::ThisM();
+    const int before = state.waits;
+    state.waits = before + change < 0 ? 0 : before + change;
+    if (state.waits > 0) {
+        const HCURSOR old = ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
+        if (before == 0) {
+            state.beforeWait = old;
+        }
+    } else if (before > 0) {
+        ::SetCursor(state.beforeWait);
+    }
+}
+
+void doWaitM(int change)
+{
+    if (theApplication != nullptr) {
+        theApplication->DoWaitCursor(change);
+    } else {
+        waitM(change);
+    }
+}
+
 } // namespace
-
-CWinThread::CWinThread()
-{
-    ThreadStateCL& state = ThreadStateCL::ThisM();
-    outer_ = std::exchange(state.thread, this);
-}
-
-CWinThread::~CWinThread()
-{
-    ThreadStateCL& state = ThreadStateCL::ThisM();
-    if (state.thread == this) {
-        state.thread = outer_;
-    }
-}
-
-void CWinThread::MainWndGone()
-{
-    m_pMainWnd = nullptr;
-    if (isRunning_) {
-        ::PostQuitMessage(0);
-    }
-}
-
-int CWinThread::Run()
-{
-    LoopCL loop(true);
-    isRunning_ = true;
-    LONG idleCount = 0;
-    for (;;) {
-        MSG next;
-        while (!::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idleCount)) {
-            ++idleCount;
-        }
-        idleCount = 0;
-        if (!PumpMessage()) {
-            break;
-        }
-    }
-    isRunning_ = false;
-    return ExitInstance();
-}
-
-int CWinThread::ExitInstance()
-{
-    return m_nExitCode;
-}
-
-BOOL CWinThread::PumpMessage()
-{
-    MSG message;
-    BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
-    if (got <= 0) {
-        m_nExitCode = got == 0 ? static_cast<int>(message.wParam) : -1;
-        return FALSE;
-    }
-    if (!PreTranslateMessage(&message)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-    return TRUE;
-}
-
-BOOL CWinThread::OnIdle(LONG)
-{
-    ThreadStateCL::ThisM().CleanTemporariesM();
-    return FALSE;
-}
 
 CWinApp::CWinApp(LPCSTR name)
     : m_pszAppName(::strdup(name == nullptr ? programNameM().c_str() : name))
+    , m_pszProfileName(::strdup((std::string(m_pszAppName) + ".INI").c_str()))
     , m_hInstance(::GetModuleHandleW(nullptr))
 {
+    becomeCurrentM();
     theApplication = this;
 }
 
@@ -107,6 +62,8 @@ CWinApp::~CWinApp()
         theApplication = nullptr;
     }
     std::free(const_cast<char*>(m_pszAppName));
+    std::free(const_cast<char*>(m_pszProfileName));
+    std::free(const_cast<char*>(m_pszRegistryKey));
 }
 
 HICON CWinApp::LoadIcon(UINT id) const
@@ -114,23 +71,60 @@ HICON CWinApp::LoadIcon(UINT id) const
     return ::LoadIconW(AfxGetResourceHandle(), MAKEINTRESOURCEW(id));
 }
 
+HICON CWinApp::LoadIcon(LPCSTR name) const
+{
+    return ::LoadIconW(AfxGetResourceHandle(), slGbkToShown(name).c_str());
+}
+
+HCURSOR CWinApp::LoadCursor(UINT id) const
+{
+    return ::LoadCursorW(AfxGetResourceHandle(), MAKEINTRESOURCEW(id));
+}
+
+HCURSOR CWinApp::LoadCursor(LPCSTR name) const
+{
+    return ::LoadCursorW(AfxGetResourceHandle(), slGbkToShown(name).c_str());
+}
+
+void CWinApp::DoWaitCursor(int change)
+{
+    waitM(change);
+}
+
+CWaitCursor::CWaitCursor()
+{
+    doWaitM(1);
+}
+
+CWaitCursor::~CWaitCursor()
+{
+    doWaitM(-1);
+}
+
+void CWaitCursor::Restore()
+{
+    doWaitM(0);
+}
+
+// Here, not with the others of its class: the application is a target too.
+void CCmdTarget::BeginWaitCursor()
+{
+    doWaitM(1);
+}
+
+void CCmdTarget::EndWaitCursor()
+{
+    doWaitM(-1);
+}
+
+void CCmdTarget::RestoreWaitCursor()
+{
+    doWaitM(0);
+}
+
 CWinApp* AfxGetApp()
 {
     return theApplication;
-}
-
-CWinThread* AfxGetThread()
-{
-    ThreadStateCL& state = ThreadStateCL::ThisM();
-    if (state.thread == nullptr) {
-        state.ownThread = std::make_unique<CWinThread>();
-    }
-    return state.thread;
-}
-
-CWnd* AfxGetMainWnd()
-{
-    return AfxGetThread()->GetMainWnd();
 }
 
 LPCSTR AfxGetAppName()
@@ -140,11 +134,6 @@ LPCSTR AfxGetAppName()
     }
     static const std::string name = programNameM();
     return name.c_str();
-}
-
-BOOL AfxPreTranslateMessage(MSG* message)
-{
-    return AfxGetThread()->PreTranslateMessage(message);
 }
 
 int AfxWinMain(HINSTANCE instance, HINSTANCE, LPSTR commandLine, int show)

@@ -1,5 +1,5 @@
 #include "toolkit/creation_hook.h"
-#include "toolkit/module.h"
+#include "toolkit/thread.h"
 #include "toolkit/thread_state.h"
 #include <utility>
 
@@ -50,7 +50,7 @@ LRESULT CreationHookCL::catchM(WPARAM wParam, LPARAM lParam)
     try {
         take_(WndM(), reinterpret_cast<HWND>(wParam));
     } catch (...) {
-        AfxLogFailure("PreSubclassWindow", nullptr);
+        AfxAnswerException({ reinterpret_cast<HWND>(wParam), WM_NULL, 0, 0, 0, {} });
     }
     return 0;
 }

@@ -1,19 +1,15 @@
 #include "toolkit/dc.h"
-#include "baselib/gbk.h"
+#include "toolkit/gdi_owners.h"
 #include "toolkit/thread_state.h"
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CDC, CObject)
 
-namespace {
-
-std::wstring wideTextM(LPCSTR text, int count)
+CDC::~CDC()
 {
-    return count < 0 ? slGbkToShown(text)
-                     : slGbkToShown(std::string(text, static_cast<size_t>(count)).c_str());
+    DeleteDC();
+    Detach();
 }
-
-} // namespace
 
 BOOL CDC::Attach(HDC dc)
 {
@@ -22,18 +18,26 @@ BOOL CDC::Attach(HDC dc)
     }
     m_hDC = dc;
     m_hAttribDC = dc;
+    GdiOwnersCL::AddM(dc, this);
+    isKnown_ = true;
     return TRUE;
 }
 
 HDC CDC::Detach()
 {
+    if (std::exchange(isKnown_, false)) {
+        GdiOwnersCL::RemoveM(this);
+    }
     m_hAttribDC = nullptr;
     return std::exchange(m_hDC, nullptr);
 }
 
 CDC* CDC::FromHandle(HDC dc)
 {
-    return ThreadStateCL::ThisM().dcs.GetM<CDC, &CDC::m_hDC, &CDC::m_hAttribDC>(dc);
+    CDC* const owner = DYNAMIC_DOWNCAST(CDC, GdiOwnersCL::FindM(dc));
+    return owner != nullptr && owner->m_hDC == dc
+        ? owner
+        : ThreadStateCL::ThisM().dcs.GetM<CDC, &CDC::m_hDC, &CDC::m_hAttribDC>(dc);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* like)
@@ -41,14 +45,39 @@ BOOL CDC::CreateCompatibleDC(CDC* like)
     return Attach(::CreateCompatibleDC(like == nullptr ? nullptr : like->m_hDC));
 }
 
+namespace {
+
+// Null stays null.
+class NameCL
+{
+public:
+    explicit NameCL(LPCSTR text)
+        : isNull_(text == nullptr)
+        , wide_(text)
+    {
+    }
+    LPCWSTR GetM() const { return isNull_ ? nullptr : wide_.GetString(); }
+
+private:
+    bool isNull_;
+    CStringW wide_;
+};
+
+} // namespace
+
 BOOL CDC::CreateDC(LPCSTR driver, LPCSTR device, LPCSTR output, const void* mode)
 {
-    auto name
-        = [](LPCSTR text, const std::wstring& wide) { return text == nullptr ? nullptr : wide.c_str(); };
-    std::wstring wideDriver = slGbkToShown(driver);
-    std::wstring wideDevice = slGbkToShown(device);
-    std::wstring wideOutput = slGbkToShown(output);
-    return Attach(::CreateDCW(name(driver, wideDriver), name(device, wideDevice), name(output, wideOutput),
+    return CreateDC(NameCL(driver).GetM(), NameCL(device).GetM(), NameCL(output).GetM(), mode);
+}
+
+BOOL CDC::CreateDC(LPCWSTR driver, LPCWSTR device, LPCWSTR output, const void* mode)
+{
+    return Attach(::CreateDCW(driver, device, output, static_cast<const DEVMODEW*>(mode)));
+}
+
+BOOL CDC::CreateIC(LPCSTR driver, LPCSTR device, LPCSTR output, const void* mode)
+{
+    return Attach(::CreateICW(NameCL(driver).GetM(), NameCL(device).GetM(), NameCL(output).GetM(),
         static_cast<const DEVMODEW*>(mode)));
 }
 
@@ -99,142 +128,69 @@ CGdiObject* CDC::SelectObject(CGdiObject* object)
 
 CPen* CDC::GetCurrentPen() const
 {
-    return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN)));
+    return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hAttribDC, OBJ_PEN)));
 }
 
 CBrush* CDC::GetCurrentBrush() const
 {
-    return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH)));
+    return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hAttribDC, OBJ_BRUSH)));
 }
 
 CFont* CDC::GetCurrentFont() const
 {
-    return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT)));
+    return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hAttribDC, OBJ_FONT)));
 }
 
 CBitmap* CDC::GetCurrentBitmap() const
 {
-    return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP)));
+    return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hAttribDC, OBJ_BITMAP)));
 }
 
-CPoint CDC::SetViewportOrg(int x, int y)
+CPalette* CDC::SelectPalette(CPalette* palette, BOOL asBackground)
 {
-    CPoint old;
-    ::SetViewportOrgEx(m_hDC, x, y, &old);
-    return old;
+    return palette == nullptr ? nullptr
+                              : CPalette::FromHandle(::SelectPalette(m_hDC, *palette, asBackground));
 }
 
-CPoint CDC::SetWindowOrg(int x, int y)
+CPalette* CDC::GetCurrentPalette() const
 {
-    CPoint old;
-    ::SetWindowOrgEx(m_hDC, x, y, &old);
-    return old;
-}
-
-CPoint CDC::SetBrushOrg(int x, int y)
-{
-    CPoint old;
-    ::SetBrushOrgEx(m_hDC, x, y, &old);
-    return old;
-}
-
-int CDC::SelectClipRgn(CRgn* region)
-{
-    return ::SelectClipRgn(m_hDC, region == nullptr ? nullptr : static_cast<HRGN>(*region));
-}
-
-int CDC::SelectClipRgn(CRgn* region, int mode)
-{
-    return ::ExtSelectClipRgn(m_hDC, region == nullptr ? nullptr : static_cast<HRGN>(*region), mode);
-}
-
-CPoint CDC::MoveTo(int x, int y)
-{
-    CPoint old;
-    ::MoveToEx(m_hDC, x, y, &old);
-    return old;
-}
-
-CPoint CDC::GetCurrentPosition() const
-{
-    CPoint at;
-    ::GetCurrentPositionEx(m_hDC, &at);
-    return at;
-}
-
-void CDC::FillSolidRect(LPCRECT rect, COLORREF color)
-{
-    // An opaque text of no characters fills without making a brush.
-    ::SetBkColor(m_hDC, color);
-    ::ExtTextOutW(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
-}
-
-void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF color)
-{
-    FillSolidRect(CRect(x, y, x + cx, y + cy), color);
-}
-
-void CDC::Draw3dRect(LPCRECT rect, COLORREF topLeft, COLORREF bottomRight)
-{
-    int width = rect->right - rect->left;
-    int height = rect->bottom - rect->top;
-    FillSolidRect(rect->left, rect->top, width - 1, 1, topLeft);
-    FillSolidRect(rect->left, rect->top, 1, height - 1, topLeft);
-    FillSolidRect(rect->right - 1, rect->top, 1, height, bottomRight);
-    FillSolidRect(rect->left, rect->bottom - 1, width, 1, bottomRight);
-}
-
-BOOL CDC::BitBlt(int x, int y, int cx, int cy, CDC* from, int fromX, int fromY, DWORD code)
-{
-    return ::BitBlt(m_hDC, x, y, cx, cy, from == nullptr ? nullptr : from->m_hDC, fromX, fromY, code);
-}
-
-BOOL CDC::StretchBlt(
-    int x, int y, int cx, int cy, CDC* from, int fromX, int fromY, int fromCx, int fromCy, DWORD code)
-{
-    HDC source = from == nullptr ? nullptr : from->m_hDC;
-    return ::StretchBlt(m_hDC, x, y, cx, cy, source, fromX, fromY, fromCx, fromCy, code);
-}
-
-BOOL CDC::TextOut(int x, int y, LPCSTR text, int count)
-{
-    std::wstring wide = wideTextM(text, count);
-    return ::TextOutW(m_hDC, x, y, wide.c_str(), static_cast<int>(wide.size()));
-}
-
-BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCSTR text, UINT count, INT* widths)
-{
-    std::wstring wide = wideTextM(text, static_cast<int>(count));
-    return ::ExtTextOutW(m_hDC, x, y, options, rect, wide.c_str(), static_cast<UINT>(wide.size()), widths);
-}
-
-int CDC::DrawText(LPCSTR text, int count, LPRECT rect, UINT format)
-{
-    std::wstring wide = wideTextM(text, count);
-    return ::DrawTextW(m_hDC, wide.c_str(), static_cast<int>(wide.size()), rect, format & ~DT_MODIFYSTRING);
-}
-
-CSize CDC::GetTextExtent(LPCSTR text, int count) const
-{
-    std::wstring wide = wideTextM(text, count);
-    CSize size;
-    ::GetTextExtentPoint32W(m_hDC, wide.c_str(), static_cast<int>(wide.size()), &size);
-    return size;
+    return CPalette::FromHandle(static_cast<HPALETTE>(::GetCurrentObject(m_hAttribDC, OBJ_PAL)));
 }
 
 // Objects made to suit a context are made here: contexts select objects, so those must not know contexts.
 BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc)
 {
+    return CreatePointFont(tenthsOfPoint, CStringW(face).GetString(), dc);
+}
+
+BOOL CFont::CreatePointFontIndirect(const LOGFONTW* font, CDC* dc)
+{
     HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
-    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hDC, LOGPIXELSY);
+    int dotsPerInch = ::GetDeviceCaps(dc == nullptr ? screen : dc->m_hAttribDC, LOGPIXELSY);
     if (screen != nullptr) {
         ::ReleaseDC(nullptr, screen);
     }
-    return CreateFont(-::MulDiv(tenthsOfPoint, dotsPerInch, 720), 0, 0, 0, FW_NORMAL, 0, 0, 0,
-        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, face);
+    LOGFONTW sized = *font;
+    sized.lfHeight = -::MulDiv(font->lfHeight, dotsPerInch, 720);
+    return CreateFontIndirect(&sized);
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height)
 {
     return dc != nullptr && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
+}
+
+BOOL CBitmap::CreateDiscardableBitmap(CDC* dc, int width, int height)
+{
+    return dc != nullptr && Attach(::CreateDiscardableBitmap(dc->m_hDC, width, height));
+}
+
+BOOL CPalette::CreateHalftonePalette(CDC* dc)
+{
+    return dc != nullptr && Attach(::CreateHalftonePalette(dc->m_hDC));
+}
+
+BOOL CRgn::CreateFromPath(CDC* dc)
+{
+    return dc != nullptr && Attach(::PathToRegion(dc->m_hDC));
 }

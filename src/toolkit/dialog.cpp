@@ -1,6 +1,7 @@
 #include "toolkit/dialog.h"
 #include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/cmd_ui.h"
 #include "toolkit/creation_hook.h"
 #include "toolkit/life.h"
 #include "toolkit/module.h"
@@ -47,7 +48,7 @@ BOOL CDialog::createM(LPCDLGTEMPLATE dialogTemplate, HWND owner)
     return made != nullptr;
 }
 
-INT_PTR CALLBACK CDialog::dialogProcM(HWND hWnd, UINT message, WPARAM, LPARAM)
+INT_PTR CALLBACK CDialog::dialogProcM(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_INITDIALOG) {
         return FALSE; // the message map has had its turn before
@@ -56,7 +57,7 @@ INT_PTR CALLBACK CDialog::dialogProcM(HWND hWnd, UINT message, WPARAM, LPARAM)
     try {
         return dialog == nullptr || dialog->OnInitDialog();
     } catch (...) {
-        AfxLogFailure("OnInitDialog threw an exception", nullptr);
+        AfxAnswerException({ hWnd, message, wParam, lParam, 0, {} });
         return TRUE;
     }
 }
@@ -100,83 +101,89 @@ HWND CDialog::modalOwnerM() const
     return parent_ == nullptr ? ::GetLastActivePopup(owner) : owner;
 }
 
-int CDialog::DoModal()
+LPCDLGTEMPLATE CDialog::modalTemplateM() const
 {
-    LPCDLGTEMPLATE dialogTemplate = template_;
-    if (dialogTemplate == nullptr) {
-        dialogTemplate = templateName_ != nullptr && !IS_INTRESOURCE(templateName_)
-            ? findTemplateM(slGbkToShown(templateName_).c_str())
-            : findTemplateM(templateName_ != nullptr ? reinterpret_cast<LPCWSTR>(templateName_)
-                                                     : MAKEINTRESOURCEW(templateId_));
+    if (template_ != nullptr) {
+        return template_;
     }
+    if (wideTemplateName_ != nullptr) {
+        return findTemplateM(wideTemplateName_);
+    }
+    if (templateName_ != nullptr && !IS_INTRESOURCE(templateName_)) {
+        return findTemplateM(slGbkToShown(templateName_).c_str());
+    }
+    return findTemplateM(
+        templateName_ != nullptr ? reinterpret_cast<LPCWSTR>(templateName_) : MAKEINTRESOURCEW(templateId_));
+}
+
+INT_PTR CDialog::DoModal()
+{
+    LPCDLGTEMPLATE dialogTemplate = modalTemplateM();
     if (dialogTemplate == nullptr) {
         return -1;
     }
     HWND owner = modalOwnerM();
-    bool wasEnabled = owner != nullptr && ::IsWindowEnabled(owner);
-    if (wasEnabled) {
-        ::EnableWindow(owner, FALSE);
+    HWND disabledOwner = owner != nullptr && ::IsWindowEnabled(owner) ? owner : nullptr;
+    if (disabledOwner != nullptr) {
+        ::EnableWindow(disabledOwner, FALSE);
     }
-    modalResult_ = -1;
-    isEnded_ = false;
-    isModal_ = true;
+    beginModalM();
     LifeCL life(this);
-    if (createM(dialogTemplate, owner) && life.IsAliveM()) {
-        runModalM();
+    try {
+        if (createM(dialogTemplate, owner) && life.IsAliveM()) {
+            RunModalLoop(MLF_SHOWONIDLE);
+        }
+    } catch (...) {
+        leaveModalM(disabledOwner, life);
+        throw;
     }
-    int result = life.IsAliveM() ? modalResult_ : -1;
+    return leaveModalM(disabledOwner, life);
+}
+
+int CDialog::leaveModalM(HWND disabledOwner, const LifeCL& life)
+{
     if (life.IsAliveM() && m_hWnd != nullptr) {
         SetWindowPos(
             nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
     // Before the dialog goes: else the system would activate some other program's window.
-    if (wasEnabled) {
-        ::EnableWindow(owner, TRUE);
+    if (disabledOwner != nullptr) {
+        ::EnableWindow(disabledOwner, TRUE);
         if (life.IsAliveM() && m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd) {
-            ::SetActiveWindow(owner);
+            ::SetActiveWindow(disabledOwner);
         }
     }
-    if (life.IsAliveM()) {
-        isModal_ = false;
-        DestroyWindow();
+    if (!life.IsAliveM()) {
+        return -1;
     }
+    int result = endModalM();
+    DestroyWindow();
     return result;
-}
-
-void CDialog::runModalM()
-{
-    LifeCL life(this);
-    LoopCL loop;
-    CWinThread* thread = AfxGetThread();
-    HWND hWnd = m_hWnd;
-    bool isShown = IsWindowVisible() != FALSE;
-    while (life.IsAliveM() && !isEnded_ && m_hWnd == hWnd) {
-        MSG next;
-        if (!::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE)) {
-            if (!isShown) {
-                isShown = true;
-                ShowWindow(SW_SHOWNORMAL);
-                UpdateWindow();
-                continue;
-            }
-            thread->OnIdle(0);
-        }
-        if (!thread->PumpMessage()) {
-            ::PostQuitMessage(thread->ExitCode()); // the loops outside must end too
-            return;
-        }
-    }
 }
 
 void CDialog::EndDialog(int result)
 {
-    if (!isModal_) {
+    if (isModalM()) {
+        EndModalLoop(result);
+    } else {
         ::EndDialog(m_hWnd, result);
-        return;
     }
-    modalResult_ = result;
-    isEnded_ = true;
-    PostMessage(WM_NULL); // the loop may be waiting
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    if (!UpdateData(FALSE)) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE)) {
+        EndDialog(IDOK);
+    }
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* message)
@@ -191,7 +198,8 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* inf
         return TRUE;
     }
     // Commands of menus and such go on to the owner, then the application; control ids lie below them.
-    bool isMenuCommand = nCode == 0 && nID >= 0x8000 && nID < 0xF000;
+    bool isMenuCommand
+        = (nCode == CN_COMMAND || nCode == CN_UPDATE_COMMAND_UI) && nID >= 0x8000 && nID < 0xF000;
     if (!life.IsAliveM() || !isMenuCommand || (GetStyle() & WS_CHILD)) {
         return FALSE;
     }

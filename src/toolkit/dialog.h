@@ -1,6 +1,8 @@
 #pragma once
 #include "toolkit/wnd.h"
 
+class LifeCL;
+
 // A dialog window, modal or not, from a template of the program's resources or one in memory.
 class PANELKIT_API CDialog : public CWnd
 {
@@ -17,6 +19,11 @@ public:
         , parent_(parent)
     {
     }
+    AFX_WIDE_TEXT explicit CDialog(const WideTP* templateName, CWnd* parent = nullptr)
+        : wideTemplateName_(templateName)
+        , parent_(parent)
+    {
+    }
     explicit CDialog(int templateId, CWnd* parent = nullptr)
         : CDialog(static_cast<UINT>(templateId), parent)
     {
@@ -27,12 +34,16 @@ public:
     // caller's.
     BOOL Create(UINT templateId, CWnd* parent = nullptr);
     BOOL Create(LPCSTR templateName, CWnd* parent = nullptr);
+    AFX_WIDE_TEXT BOOL Create(const WideTP* templateName, CWnd* parent = nullptr)
+    {
+        return CreateIndirect(findTemplateM(templateName), parent);
+    }
     BOOL CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* init = nullptr);
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr);
 
     // Shows the dialog and keeps its owner disabled until EndDialog. Result: what EndDialog said; -1: no
-    // dialog.
-    virtual int DoModal();
+    // dialog. An exception out of the message loop passes, when the dialog is gone and the owner enabled.
+    virtual INT_PTR DoModal();
     virtual void EndDialog(int result);
 
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
@@ -45,12 +56,13 @@ public:
     void SetDefID(UINT id) { SendMessage(DM_SETDEFID, id); }
     DWORD GetDefID() const { return static_cast<DWORD>(SendMessage(DM_GETDEFID)); }
 
-    virtual BOOL OnInitDialog() { return TRUE; } // TRUE: the focus goes to the first control
+    // Shows the members in the controls (UpdateData). TRUE: the focus goes to the first control.
+    virtual BOOL OnInitDialog();
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info) override;
 
 protected:
-    virtual void OnOK() { EndDialog(IDOK); }
+    virtual void OnOK(); // ends the dialog, if the controls show what the members can hold (UpdateData)
     virtual void OnCancel() { EndDialog(IDCANCEL); }
     DECLARE_MESSAGE_MAP()
 
@@ -59,13 +71,12 @@ private:
     LPCDLGTEMPLATE findTemplateM(LPCWSTR name) const;
     BOOL createM(LPCDLGTEMPLATE dialogTemplate, HWND owner);
     HWND modalOwnerM() const;
-    void runModalM();
+    LPCDLGTEMPLATE modalTemplateM() const;
+    int leaveModalM(HWND disabledOwner, const LifeCL& life);
 
     UINT templateId_ = 0;
     LPCSTR templateName_ = nullptr;
+    LPCWSTR wideTemplateName_ = nullptr;
     LPCDLGTEMPLATE template_ = nullptr;
     CWnd* parent_ = nullptr;
-    int modalResult_ = -1;
-    bool isModal_ = false;
-    bool isEnded_ = false;
 };

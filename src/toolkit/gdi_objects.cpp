@@ -1,5 +1,6 @@
 #include "toolkit/gdi_objects.h"
 #include "baselib/gbk.h"
+#include "toolkit/gdi_owners.h"
 #include "toolkit/module.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
@@ -12,15 +13,36 @@ IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
 IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
+IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
 
 namespace {
 
-template <class ObjectTP> ObjectTP* temporaryM(HGDIOBJ handle)
+template <class ObjectTP> ObjectTP* objectM(HGDIOBJ handle)
 {
-    return ThreadStateCL::ThisM().gdi.GetM<ObjectTP, &CGdiObject::m_hObject>(handle);
+    ObjectTP* const owner = DYNAMIC_DOWNCAST(ObjectTP, GdiOwnersCL::FindM(handle));
+    return owner != nullptr && owner->m_hObject == handle
+        ? owner
+        : ThreadStateCL::ThisM().gdi.GetM<ObjectTP, &CGdiObject::m_hObject>(handle);
+}
+
+LOGFONTW wideFontM(const LOGFONTA& font)
+{
+    // The two layouts agree up to the face name.
+    LOGFONTW wide = {};
+    std::memcpy(&wide, &font, offsetof(LOGFONTA, lfFaceName));
+    char face[LF_FACESIZE + 1] = {}; // the given name may fill its array without a final zero
+    std::memcpy(face, font.lfFaceName, LF_FACESIZE);
+    CStringW(face).CopyM(wide.lfFaceName, LF_FACESIZE);
+    return wide;
 }
 
 } // namespace
+
+CGdiObject::~CGdiObject()
+{
+    DeleteObject();
+    Detach();
+}
 
 BOOL CGdiObject::Attach(HGDIOBJ object)
 {
@@ -28,11 +50,16 @@ BOOL CGdiObject::Attach(HGDIOBJ object)
         return FALSE;
     }
     m_hObject = object;
+    GdiOwnersCL::AddM(object, this);
+    isKnown_ = true;
     return TRUE;
 }
 
 HGDIOBJ CGdiObject::Detach()
 {
+    if (std::exchange(isKnown_, false)) {
+        GdiOwnersCL::RemoveM(this);
+    }
     return std::exchange(m_hObject, nullptr);
 }
 
@@ -43,27 +70,39 @@ BOOL CGdiObject::DeleteObject()
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ object)
 {
-    return temporaryM<CGdiObject>(object);
+    return objectM<CGdiObject>(object);
 }
 CPen* CPen::FromHandle(HPEN pen)
 {
-    return temporaryM<CPen>(pen);
+    return objectM<CPen>(pen);
 }
 CBrush* CBrush::FromHandle(HBRUSH brush)
 {
-    return temporaryM<CBrush>(brush);
+    return objectM<CBrush>(brush);
 }
 CFont* CFont::FromHandle(HFONT font)
 {
-    return temporaryM<CFont>(font);
+    return objectM<CFont>(font);
 }
 CBitmap* CBitmap::FromHandle(HBITMAP bitmap)
 {
-    return temporaryM<CBitmap>(bitmap);
+    return objectM<CBitmap>(bitmap);
 }
 CRgn* CRgn::FromHandle(HRGN region)
 {
-    return temporaryM<CRgn>(region);
+    return objectM<CRgn>(region);
+}
+
+CPalette* CPalette::FromHandle(HPALETTE palette)
+{
+    return objectM<CPalette>(palette);
+}
+
+int CPalette::GetEntryCount() const
+{
+    WORD count = 0;
+    GetObject(sizeof count, &count);
+    return count;
 }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pattern)
@@ -73,13 +112,14 @@ BOOL CBrush::CreatePatternBrush(CBitmap* pattern)
 
 BOOL CFont::CreateFontIndirect(const LOGFONTA* font)
 {
-    // The two layouts agree up to the face name.
-    LOGFONTW wide = {};
-    std::memcpy(&wide, font, offsetof(LOGFONTA, lfFaceName));
-    char face[LF_FACESIZE + 1] = {}; // the given name may fill its array without a final zero
-    std::memcpy(face, font->lfFaceName, LF_FACESIZE);
-    slGbkToShown(face).copy(wide.lfFaceName, LF_FACESIZE - 1);
+    const LOGFONTW wide = wideFontM(*font);
     return CreateFontIndirect(&wide);
+}
+
+BOOL CFont::CreatePointFontIndirect(const LOGFONTA* font, CDC* dc)
+{
+    const LOGFONTW wide = wideFontM(*font);
+    return CreatePointFontIndirect(&wide, dc);
 }
 
 int CFont::GetLogFont(LOGFONTA* font) const
@@ -106,7 +146,21 @@ BOOL CBitmap::LoadBitmap(UINT id)
 
 BOOL CBitmap::LoadBitmap(LPCSTR name)
 {
-    return Attach(::LoadBitmapW(AfxGetResourceHandle(), slGbkToShown(name).c_str()));
+    if (IS_INTRESOURCE(name)) {
+        return LoadBitmap(LOWORD(reinterpret_cast<UINT_PTR>(name)));
+    }
+    return LoadBitmap(CStringW(name).GetString());
+}
+
+BOOL CBitmap::LoadBitmap(LPCWSTR name)
+{
+    return Attach(::LoadBitmapW(AfxGetResourceHandle(), name));
+}
+
+BOOL CBitmap::LoadMappedBitmap(UINT id, UINT flags, COLORMAP* map, int mapCount)
+{
+    return Attach(
+        ::CreateMappedBitmap(AfxGetResourceHandle(), static_cast<INT_PTR>(id), flags, map, mapCount));
 }
 
 DWORD CBitmap::GetBitmapBits(DWORD size, void* to) const
@@ -124,6 +178,13 @@ CSize CBitmap::GetBitmapDimension() const
     SIZE size = {};
     ::GetBitmapDimensionEx(*this, &size);
     return size;
+}
+
+CSize CBitmap::SetBitmapDimension(int width, int height)
+{
+    SIZE before = {};
+    ::SetBitmapDimensionEx(*this, width, height, &before);
+    return before;
 }
 
 int CRgn::CombineRgn(const CRgn* one, const CRgn* two, int mode)

@@ -1,17 +1,20 @@
 #pragma once
+#include "toolkit/gbk_string.h"
 #include "toolkit/geometry.h"
 #include "toolkit/object.h"
+#include <commctrl.h>
 
 class CDC;
 
-// Owns one GDI object and deletes it with itself. Not copyable. The toolkit keeps no pointer to it, so it may
-// be moved by its bytes at any time; FromHandle therefore always gives a temporary object, never this one.
+// Owns one GDI object and deletes it with itself. Not copyable. The toolkit knows which object holds a
+// handle: while it holds one, it may be moved by its bytes only as an element of an Arr. Texts are GBK or
+// wide; a null handle or object is no success.
 class PANELKIT_API CGdiObject : public CObject
 {
     DECLARE_DYNAMIC(CGdiObject)
 public:
     CGdiObject() = default;
-    ~CGdiObject() override { DeleteObject(); }
+    ~CGdiObject() override;
 
     HGDIOBJ m_hObject = nullptr;
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
@@ -20,15 +23,19 @@ public:
     BOOL Attach(HGDIOBJ object); // FALSE: null; what was held before is not deleted
     HGDIOBJ Detach();
     BOOL DeleteObject(); // FALSE: there was none
-    int GetObject(int size, void* to) const { return ::GetObjectW(m_hObject, size, to); }
+    int GetObject(int size, void* to) const { return ::GetObjectW(m_hObject, size, to); } // wide structures
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
     BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
     BOOL operator==(const CGdiObject& other) const { return m_hObject == other.m_hObject; }
     BOOL operator!=(const CGdiObject& other) const { return m_hObject != other.m_hObject; }
 
-    // Temporary object (see CWnd::FromHandle); null for a null handle.
+    // The object of the calling thread that holds the handle and is of that class, else a temporary one (see
+    // CWnd::FromHandle); null for a null handle.
     static CGdiObject* FromHandle(HGDIOBJ object);
+
+private:
+    bool isKnown_ = false; // as the holder of its handle
 };
 
 class PANELKIT_API CPen : public CGdiObject
@@ -37,10 +44,21 @@ class PANELKIT_API CPen : public CGdiObject
 public:
     CPen() = default;
     CPen(int style, int width, COLORREF color) { CreatePen(style, width, color); }
+    CPen(int style, int width, const LOGBRUSH* brush, int styleCount = 0, const DWORD* styles = nullptr)
+    {
+        CreatePen(style, width, brush, styleCount, styles);
+    }
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
     BOOL CreatePen(int style, int width, COLORREF color) { return Attach(::CreatePen(style, width, color)); }
-    BOOL CreatePenIndirect(LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
+    BOOL CreatePen(
+        int style, int width, const LOGBRUSH* brush, int styleCount = 0, const DWORD* styles = nullptr)
+    {
+        return Attach(::ExtCreatePen(static_cast<DWORD>(style), static_cast<DWORD>(width), brush,
+            static_cast<DWORD>(styleCount), styles));
+    }
+    BOOL CreatePenIndirect(const LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
     int GetLogPen(LOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
+    int GetExtLogPen(EXTLOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
     static CPen* FromHandle(HPEN pen);
 };
 
@@ -60,6 +78,10 @@ public:
     BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
     BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
     BOOL CreatePatternBrush(CBitmap* pattern);
+    BOOL CreateDIBPatternBrush(const void* packed, UINT use)
+    {
+        return Attach(::CreateDIBPatternBrushPt(packed, use));
+    }
     int GetLogBrush(LOGBRUSH* brush) const { return GetObject(sizeof *brush, brush); }
     static CBrush* FromHandle(HBRUSH brush);
 };
@@ -72,10 +94,30 @@ public:
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     BOOL CreateFontIndirect(const LOGFONTW* font) { return Attach(::CreateFontIndirectW(font)); }
     BOOL CreateFontIndirect(const LOGFONTA* font); // face name in GBK
+    // A null face: any that suits the rest.
     BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
         BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
         BYTE pitchAndFamily, LPCSTR face);
-    BOOL CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc = nullptr); // null dc: the screen
+    template <class C, AfxIfWide<C> = 0>
+    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
+        BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
+        BYTE pitchAndFamily, const C* face)
+    {
+        return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline,
+            strikeOut, charSet, outPrecision, clipPrecision, quality, pitchAndFamily, face));
+    }
+    // Sizes in tenths of a point; a null context: the screen.
+    BOOL CreatePointFont(int tenthsOfPoint, LPCSTR face, CDC* dc = nullptr);
+    template <class C, AfxIfWide<C> = 0> BOOL CreatePointFont(int tenths, const C* face, CDC* dc = nullptr)
+    {
+        LOGFONTW font = {};
+        font.lfHeight = tenths;
+        font.lfCharSet = DEFAULT_CHARSET;
+        CStringW(face).CopyM(font.lfFaceName, LF_FACESIZE);
+        return CreatePointFontIndirect(&font, dc);
+    }
+    BOOL CreatePointFontIndirect(const LOGFONTW* font, CDC* dc = nullptr); // lfHeight is the size
+    BOOL CreatePointFontIndirect(const LOGFONTA* font, CDC* dc = nullptr); // face name in GBK
     int GetLogFont(LOGFONTW* font) const { return GetObject(sizeof *font, font); }
     int GetLogFont(LOGFONTA* font) const; // face name in GBK
     static CFont* FromHandle(HFONT font);
@@ -87,8 +129,13 @@ class PANELKIT_API CBitmap : public CGdiObject
 public:
     CBitmap() = default;
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
-    BOOL LoadBitmap(UINT id); // from the application's resources
-    BOOL LoadBitmap(LPCSTR name);
+    BOOL LoadBitmap(UINT id);     // from the application's resources
+    BOOL LoadBitmap(LPCSTR name); // or MAKEINTRESOURCE
+    BOOL LoadBitmap(LPCWSTR name);
+    BOOL LoadOEMBitmap(UINT id) { return Attach(::LoadBitmapW(nullptr, MAKEINTRESOURCEW(id))); }
+    // From the application's resources, with the colours of the map replaced; null map: those that stand for
+    // the system's colours.
+    BOOL LoadMappedBitmap(UINT id, UINT flags = 0, COLORMAP* map = nullptr, int mapCount = 0);
     BOOL CreateBitmap(int width, int height, UINT planes, UINT bits, const void* pixels)
     {
         return Attach(::CreateBitmap(width, height, planes, bits, pixels));
@@ -98,7 +145,9 @@ public:
     int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
     DWORD GetBitmapBits(DWORD size, void* to) const;
     DWORD SetBitmapBits(DWORD size, const void* from);
-    CSize GetBitmapDimension() const;
+    CSize GetBitmapDimension() const; // in tenths of a millimetre, as set
+    CSize SetBitmapDimension(int width, int height);
+    BOOL CreateDiscardableBitmap(CDC* dc, int width, int height);
     static CBitmap* FromHandle(HBITMAP bitmap);
 };
 
@@ -134,6 +183,7 @@ public:
     {
         return Attach(::ExtCreateRegion(transform, static_cast<DWORD>(size), data));
     }
+    BOOL CreateFromPath(CDC* dc); // the path that it holds, which is then gone
     int GetRegionData(RGNDATA* data, int size) const
     {
         return static_cast<int>(::GetRegionData(handleM(), static_cast<DWORD>(size), data));
@@ -157,4 +207,30 @@ public:
 
 private:
     HRGN handleM() const { return static_cast<HRGN>(m_hObject); }
+};
+
+class PANELKIT_API CPalette : public CGdiObject
+{
+    DECLARE_DYNAMIC(CPalette)
+public:
+    CPalette() = default;
+    operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
+    BOOL CreatePalette(const LOGPALETTE* palette) { return Attach(::CreatePalette(palette)); }
+    BOOL CreateHalftonePalette(CDC* dc);
+    int GetEntryCount() const;
+    UINT GetPaletteEntries(UINT first, UINT count, PALETTEENTRY* to) const
+    {
+        return ::GetPaletteEntries(*this, first, count, to);
+    }
+    UINT SetPaletteEntries(UINT first, UINT count, const PALETTEENTRY* from)
+    {
+        return ::SetPaletteEntries(*this, first, count, from);
+    }
+    void AnimatePalette(UINT first, UINT count, const PALETTEENTRY* from)
+    {
+        ::AnimatePalette(*this, first, count, from);
+    }
+    UINT GetNearestPaletteIndex(COLORREF color) const { return ::GetNearestPaletteIndex(*this, color); }
+    BOOL ResizePalette(UINT count) { return ::ResizePalette(*this, count); }
+    static CPalette* FromHandle(HPALETTE palette);
 };

@@ -2,6 +2,7 @@
 #include "toolkit/platform.h"
 
 class CPoint;
+class CRect;
 
 class CSize : public tagSIZE
 {
@@ -19,14 +20,37 @@ public:
         : CSize(size.cx, size.cy)
     {
     }
+    CSize(POINT point)
+        : CSize(point.x, point.y)
+    {
+    }
+    explicit CSize(DWORD packed) // two signed halves
+        : CSize(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)))
+    {
+    }
+    void SetSize(int width, int height) { *this = CSize(width, height); }
     bool operator==(SIZE other) const { return cx == other.cx && cy == other.cy; }
     bool operator!=(SIZE other) const { return !(*this == other); }
+    void operator+=(SIZE other) { SetSize(cx + other.cx, cy + other.cy); }
+    void operator-=(SIZE other) { SetSize(cx - other.cx, cy - other.cy); }
     CSize operator+(SIZE other) const { return CSize(cx + other.cx, cy + other.cy); }
     CSize operator-(SIZE other) const { return CSize(cx - other.cx, cy - other.cy); }
     CSize operator-() const { return CSize(-cx, -cy); }
+    inline CPoint operator+(POINT point) const;
+    inline CPoint operator-(POINT point) const; // the point moved back by this size
+    inline CRect operator+(const RECT* rect) const;
+    inline CRect operator-(const RECT* rect) const; // the rectangle moved back by this size
 };
 
-class CPoint : public tagPOINT
+// A rectangle gives its corners as references to points: the compiler must know that these lie in other
+// things.
+#ifdef __GNUC__
+#define AFX_MAY_ALIAS __attribute__((may_alias))
+#else
+#define AFX_MAY_ALIAS
+#endif
+
+class AFX_MAY_ALIAS CPoint : public tagPOINT
 {
 public:
     CPoint()
@@ -42,6 +66,10 @@ public:
         : CPoint(point.x, point.y)
     {
     }
+    CPoint(SIZE size)
+        : CPoint(size.cx, size.cy)
+    {
+    }
     // A mouse position as lParam carries it: two signed halves.
     explicit CPoint(LPARAM packed)
         : CPoint(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)))
@@ -53,6 +81,7 @@ public:
         y += dy;
     }
     void Offset(SIZE by) { Offset(by.cx, by.cy); }
+    void Offset(POINT by) { Offset(by.x, by.y); }
     void SetPoint(int left, int top) { *this = CPoint(left, top); }
     bool operator==(POINT other) const { return x == other.x && y == other.y; }
     bool operator!=(POINT other) const { return !(*this == other); }
@@ -63,6 +92,10 @@ public:
     CPoint operator-() const { return CPoint(-x, -y); }
     void operator+=(SIZE by) { Offset(by); }
     void operator-=(SIZE by) { Offset(-by.cx, -by.cy); }
+    void operator+=(POINT by) { Offset(by); }
+    void operator-=(POINT by) { Offset(-by.x, -by.y); }
+    inline CRect operator+(const RECT* rect) const;
+    inline CRect operator-(const RECT* rect) const; // the rectangle moved back by this point
 };
 
 class CRect : public tagRECT
@@ -93,9 +126,15 @@ public:
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
     CSize Size() const { return CSize(Width(), Height()); }
-    CPoint TopLeft() const { return CPoint(left, top); }
-    CPoint BottomRight() const { return CPoint(right, bottom); }
+    // References: rect.TopLeft().Offset(1, 1) moves that corner.
+    CPoint& TopLeft() { return *reinterpret_cast<CPoint*>(this); }
+    CPoint& BottomRight() { return *(reinterpret_cast<CPoint*>(this) + 1); }
+    const CPoint& TopLeft() const { return *reinterpret_cast<const CPoint*>(this); }
+    const CPoint& BottomRight() const { return *(reinterpret_cast<const CPoint*>(this) + 1); }
     CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
+    static CPoint CenterPoint(LPCRECT rect) { return CRect(rect).CenterPoint(); }
+    static void SwapLeftRight(LPRECT rect) { std::swap(rect->left, rect->right); }
+    void SwapLeftRight() { SwapLeftRight(this); }
     operator LPRECT() { return this; }
     operator LPCRECT() const { return this; }
 
@@ -103,12 +142,15 @@ public:
     BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
     BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
     void SetRect(int l, int t, int r, int b) { ::SetRect(this, l, t, r, b); }
+    void SetRect(POINT topLeft, POINT bottomRight) { *this = CRect(topLeft, bottomRight); }
     void SetRectEmpty() { ::SetRectEmpty(this); }
     void CopyRect(LPCRECT from) { ::CopyRect(this, from); }
     BOOL EqualRect(LPCRECT other) const { return ::EqualRect(this, other); }
     void InflateRect(int dx, int dy) { ::InflateRect(this, dx, dy); }
     void InflateRect(SIZE by) { ::InflateRect(this, by.cx, by.cy); }
     void InflateRect(int l, int t, int r, int b) { SetRect(left - l, top - t, right + r, bottom + b); }
+    void InflateRect(LPCRECT by) { InflateRect(by->left, by->top, by->right, by->bottom); }
+    void DeflateRect(LPCRECT by) { DeflateRect(by->left, by->top, by->right, by->bottom); }
     void DeflateRect(int dx, int dy) { ::InflateRect(this, -dx, -dy); }
     void DeflateRect(SIZE by) { ::InflateRect(this, -by.cx, -by.cy); }
     void DeflateRect(int l, int t, int r, int b) { SetRect(left + l, top + t, right - r, bottom - b); }
@@ -116,6 +158,14 @@ public:
     void OffsetRect(POINT by) { ::OffsetRect(this, by.x, by.y); }
     void OffsetRect(SIZE by) { ::OffsetRect(this, by.cx, by.cy); }
     void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
+    void MoveToXY(POINT to) { MoveToXY(to.x, to.y); }
+    void MoveToX(int x) { OffsetRect(x - left, 0); }
+    void MoveToY(int y) { OffsetRect(0, y - top); }
+    CRect MulDiv(int by, int divisor) const
+    {
+        return CRect(::MulDiv(left, by, divisor), ::MulDiv(top, by, divisor), ::MulDiv(right, by, divisor),
+            ::MulDiv(bottom, by, divisor));
+    }
     // Swaps what is the wrong way round, so that width and height are not negative.
     void NormalizeRect()
     {
@@ -128,10 +178,27 @@ public:
 
     bool operator==(const RECT& other) const { return ::EqualRect(this, &other) != FALSE; }
     bool operator!=(const RECT& other) const { return !(*this == other); }
+    // A point or a size moves; a rectangle grows or, subtracted, shrinks by its four numbers.
     void operator+=(POINT by) { OffsetRect(by); }
-    void operator-=(POINT by) { ::OffsetRect(this, -by.x, -by.y); }
-    CRect operator+(POINT by) const { return CRect(left + by.x, top + by.y, right + by.x, bottom + by.y); }
-    CRect operator-(POINT by) const { return CRect(left - by.x, top - by.y, right - by.x, bottom - by.y); }
+    void operator+=(SIZE by) { OffsetRect(by); }
+    void operator+=(LPCRECT by) { InflateRect(by); }
+    void operator-=(POINT by) { OffsetRect(-by.x, -by.y); }
+    void operator-=(SIZE by) { OffsetRect(-by.cx, -by.cy); }
+    void operator-=(LPCRECT by) { DeflateRect(by); }
+    template <class ByTP> CRect operator+(const ByTP& by) const
+    {
+        CRect result(*this);
+        result += by;
+        return result;
+    }
+    template <class ByTP> CRect operator-(const ByTP& by) const
+    {
+        CRect result(*this);
+        result -= by;
+        return result;
+    }
+    void operator&=(const RECT& other) { ::IntersectRect(this, this, &other); }
+    void operator|=(const RECT& other) { ::UnionRect(this, this, &other); }
     CRect operator&(const RECT& other) const
     {
         CRect result;
@@ -145,3 +212,28 @@ public:
         return result;
     }
 };
+
+inline CPoint CSize::operator+(POINT point) const
+{
+    return CPoint(cx + point.x, cy + point.y);
+}
+inline CPoint CSize::operator-(POINT point) const
+{
+    return CPoint(cx - point.x, cy - point.y);
+}
+inline CRect CSize::operator+(const RECT* rect) const
+{
+    return CRect(rect) + *this;
+}
+inline CRect CSize::operator-(const RECT* rect) const
+{
+    return CRect(rect) - *this;
+}
+inline CRect CPoint::operator+(const RECT* rect) const
+{
+    return CRect(rect) + *this;
+}
+inline CRect CPoint::operator-(const RECT* rect) const
+{
+    return CRect(rect) - *this;
+}

@@ -1,9 +1,10 @@
-#include <windows.h>
+#include "toolkit/thread_state.h"
 
-BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
+BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID atEndOfProgram)
 {
-    if (reason == DLL_PROCESS_ATTACH) {
-        DisableThreadLibraryCalls(instance);
+    // At the end of the program the system takes all back, and other threads were stopped anywhere.
+    if (reason == DLL_THREAD_DETACH || (reason == DLL_PROCESS_DETACH && atEndOfProgram == nullptr)) {
+        ThreadStateCL::ThreadEndsM();
     }
     return TRUE;
 }

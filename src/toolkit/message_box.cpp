@@ -1,8 +1,8 @@
 #include "toolkit/message_box.h"
 #include "baselib/gbk.h"
 #include "toolkit/app.h"
+#include "toolkit/exceptions.h"
 #include "toolkit/module.h"
-#include "toolkit/text.h"
 #include "toolkit/wnd.h"
 
 namespace {
@@ -17,15 +17,32 @@ HWND messageBoxOwnerM()
 
 } // namespace
 
-int AfxMessageBox(LPCSTR text, UINT type, UINT)
+int AfxShowMessage(LPCWSTR text, UINT type)
 {
-    return ::MessageBoxW(
-        messageBoxOwnerM(), slGbkToShown(text).c_str(), slGbkToShown(AfxGetAppName()).c_str(), type);
+    return ::MessageBoxW(messageBoxOwnerM(), text, slGbkToShown(AfxGetAppName()).c_str(), type);
 }
 
-int AfxMessageBox(UINT textId, UINT type, UINT helpId)
+int AfxMessageBox(LPCSTR text, UINT type, UINT)
+{
+    return AfxShowMessage(slGbkToShown(text).c_str(), type);
+}
+
+int AfxMessageBox(UINT textId, UINT type, UINT)
 {
     const wchar_t* text = nullptr;
     int length = ::LoadStringW(AfxGetResourceHandle(), textId, reinterpret_cast<LPWSTR>(&text), 0);
-    return AfxMessageBox(WideToGbk(text, length).c_str(), type, helpId);
+    return AfxShowMessage(std::wstring(text, static_cast<size_t>(length)).c_str(), type);
+}
+
+// Here, not with the others of its class: the windows know exceptions, so those must not know windows.
+int CException::ReportError(UINT type, UINT textId)
+{
+    char text[512];
+    if (GetErrorMessage(text, sizeof text)) {
+        return AfxMessageBox(text, type);
+    }
+    if (textId != 0) {
+        return AfxMessageBox(textId, type);
+    }
+    return AfxMessageBox(L"\u64CD\u4F5C\u5931\u8D25\u3002", type); // 操作失败。
 }

@@ -61,6 +61,10 @@ public:
     // Offers command or notification nCode of control nID to the map; a notification has WM_NOTIFY in the
     // high word of nCode. With info: only tells who would handle it. Result: handled.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info);
+    // The hourglass, as CWaitCursor shows it.
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    void RestoreWaitCursor();
 
 protected:
     static const AFX_MSGMAP* GetThisMessageMap();
@@ -106,6 +110,11 @@ protected:                                                                      
 #define ON_MESSAGE(message, memberFxn)                                                                       \
     AFX_ENTRY(message, 0, 0, 0, m.result = (self->*(memberFxn))(m.wParam, m.lParam); return true;)
 #define ON_REGISTERED_MESSAGE(variable, memberFxn) ON_MESSAGE(variable, memberFxn)
+#define ON_MESSAGE_VOID(message, memberFxn)                                                                  \
+    AFX_ENTRY(message, 0, 0, 0, (self->*(memberFxn))(); m.result = 0; return true;)
+#define ON_THREAD_MESSAGE(message, memberFxn)                                                                \
+    AFX_ENTRY(message, 0, 0, 0, (self->*(memberFxn))(m.wParam, m.lParam); return true;)
+#define ON_REGISTERED_THREAD_MESSAGE(variable, memberFxn) ON_THREAD_MESSAGE(variable, memberFxn)
 
 #define ON_CONTROL_RANGE(code, first, last, memberFxn)                                                       \
     AFX_ENTRY(WM_COMMAND, code, first, last, (self->*(memberFxn))(m.id); return true;)
@@ -113,8 +122,10 @@ protected:                                                                      
     AFX_ENTRY(WM_COMMAND, code, id, id, (self->*(memberFxn))(); return true;)
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(0, id, memberFxn)
 #define ON_COMMAND_RANGE(first, last, memberFxn) ON_CONTROL_RANGE(0, first, last, memberFxn)
-#define ON_COMMAND_EX(id, memberFxn)                                                                         \
-    AFX_ENTRY(WM_COMMAND, 0, id, id, return (self->*(memberFxn))(m.id) != FALSE;)
+// The argument must not have the name of a member of m. FALSE from the handler: the command goes on.
+#define ON_COMMAND_EX(nID, memberFxn) ON_COMMAND_EX_RANGE(nID, nID, memberFxn)
+#define ON_COMMAND_EX_RANGE(first, last, memberFxn)                                                          \
+    AFX_ENTRY(WM_COMMAND, 0, first, last, return (self->*(memberFxn))(m.id) != FALSE;)
 #define ON_NOTIFY(code, id, memberFxn) ON_NOTIFY_BODY(code, id, id, memberFxn)
 #define ON_NOTIFY_BODY(code, first, last, memberFxn)                                                         \
     AFX_ENTRY(WM_NOTIFY, code, first, last, AFX_NOTIFY* notify = static_cast<AFX_NOTIFY*>(m.extra);          \
@@ -122,6 +133,10 @@ protected:                                                                      
 #define ON_NOTIFY_RANGE(code, first, last, memberFxn)                                                        \
     AFX_ENTRY(WM_NOTIFY, code, first, last, AFX_NOTIFY* notify = static_cast<AFX_NOTIFY*>(m.extra);          \
               (self->*(memberFxn))(m.id, notify->pNMHDR, notify->pResult); return true;)
+#define ON_NOTIFY_EX(code, nID, memberFxn) ON_NOTIFY_EX_RANGE(code, nID, nID, memberFxn)
+#define ON_NOTIFY_EX_RANGE(code, first, last, memberFxn)                                                     \
+    AFX_ENTRY(WM_NOTIFY, code, first, last, AFX_NOTIFY* notify = static_cast<AFX_NOTIFY*>(m.extra);          \
+              return (self->*(memberFxn))(m.id, notify->pNMHDR, notify->pResult) != FALSE;)
 #define ON_CONTROL_REFLECT(code, memberFxn)                                                                  \
     AFX_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, (self->*(memberFxn))(); return true;)
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                               \
@@ -157,5 +172,16 @@ protected:                                                                      
 #define ON_CBN_DBLCLK(id, memberFxn) ON_CONTROL(CBN_DBLCLK, id, memberFxn)
 #define ON_CBN_SETFOCUS(id, memberFxn) ON_CONTROL(CBN_SETFOCUS, id, memberFxn)
 #define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
+#define ON_EN_HSCROLL(id, memberFxn) ON_CONTROL(EN_HSCROLL, id, memberFxn)
+#define ON_EN_VSCROLL(id, memberFxn) ON_CONTROL(EN_VSCROLL, id, memberFxn)
+#define ON_EN_ERRSPACE(id, memberFxn) ON_CONTROL(EN_ERRSPACE, id, memberFxn)
+#define ON_LBN_ERRSPACE(id, memberFxn) ON_CONTROL(LBN_ERRSPACE, id, memberFxn)
+#define ON_LBN_SELCANCEL(id, memberFxn) ON_CONTROL(LBN_SELCANCEL, id, memberFxn)
+#define ON_CBN_ERRSPACE(id, memberFxn) ON_CONTROL(CBN_ERRSPACE, id, memberFxn)
+#define ON_CBN_EDITUPDATE(id, memberFxn) ON_CONTROL(CBN_EDITUPDATE, id, memberFxn)
+#define ON_CBN_SELENDCANCEL(id, memberFxn) ON_CONTROL(CBN_SELENDCANCEL, id, memberFxn)
+#define ON_STN_ENABLE(id, memberFxn) ON_CONTROL(STN_ENABLE, id, memberFxn)
+#define ON_STN_DISABLE(id, memberFxn) ON_CONTROL(STN_DISABLE, id, memberFxn)
+#define ON_BN_PAINT(id, memberFxn) ON_CONTROL(BN_PAINT, id, memberFxn)
 
 #include "toolkit/window_messages.h"

@@ -1,6 +1,7 @@
 #pragma once
 #include "toolkit/platform.h"
 
+class CDumpContext;
 class CObject;
 
 // What a class knows of itself at run time: its name, its base and, where it can, how to make an object.
@@ -27,6 +28,8 @@ public:
     }
     static CRuntimeClass* GetThisClass();
     static CRuntimeClass classCObject;
+    virtual void AssertValid() const { }            // asserts that the object is in order; for ASSERT_VALID
+    virtual void Dump(CDumpContext& context) const; // tells what the object holds
 
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
@@ -76,3 +79,13 @@ inline CObject* AfxDynamicDownCast(const CRuntimeClass* runtimeClass, CObject* o
 {
     return object != nullptr && object->IsKindOf(runtimeClass) ? object : nullptr;
 }
+
+// The object as the class that it is known to be of; asserted.
+#define STATIC_DOWNCAST(class_name, object)                                                                  \
+    (static_cast<class_name*>(AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
+inline CObject* AfxStaticDownCast([[maybe_unused]] const CRuntimeClass* runtimeClass, CObject* object)
+{
+    ASSERT(object == nullptr || object->IsKindOf(runtimeClass));
+    return object;
+}
+#define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))

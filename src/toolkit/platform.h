@@ -21,6 +21,24 @@
 
 #include "baselib/api.h"
 
+// The character of the classes is char, in GBK, and so are TCHAR and the text macros of <tchar.h>, although
+// the window system's own names stand for its wide functions. An application may include that header itself,
+// before or after this one.
+#ifndef _INC_TCHAR
+#undef _UNICODE
+#include <tchar.h>
+#define _UNICODE
+#endif
+#undef _T
+#undef _TEXT
+#define _T(text) text
+#define _TEXT(text) text
+#define TCHAR char
+#define LPTSTR LPSTR
+#define LPCTSTR LPCSTR
+#define PTSTR PSTR
+#define PCTSTR PCSTR
+
 #ifndef ASSERT
 #define ASSERT(condition) assert(condition)
 #endif

@@ -1,4 +1,5 @@
 #include "toolkit/text.h"
+#include "baselib/gbk.h"
 #include <algorithm>
 #include <cwchar>
 
@@ -23,4 +24,11 @@ std::string WideToGbk(const wchar_t* text, int length)
     std::string gbk(static_cast<size_t>(std::max(room, 0)), '\0');
     ::WideCharToMultiByte(GbkCodePage, 0, text, length, gbk.data(), room, "?", nullptr);
     return gbk;
+}
+
+std::wstring GbkToWide(const char* text, int length)
+{
+    return length < 0 || text == nullptr
+        ? slGbkToShown(text)
+        : slGbkToShown(std::string(text, static_cast<size_t>(length)).c_str());
 }

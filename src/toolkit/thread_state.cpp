@@ -17,31 +17,20 @@ bool isDc(HDC dc)
 {
     return ::GetObjectType(dc) != 0;
 }
+bool isMenu(HMENU menu)
+{
+    return ::IsMenu(menu) != FALSE;
+}
 bool isWindow(HWND hWnd)
 {
     return ::IsWindow(hWnd) != FALSE;
 }
 
-struct HolderCL
+// The window system's own storage: that of the language may be gone when the thread's last objects go.
+DWORD slotM()
 {
-    ThreadStateCL* state = nullptr;
-    ~HolderCL()
-    {
-        if (state != nullptr) {
-            // Objects that go ask for the state once more.
-            state->loopDepth = state->depth;
-            state->loopSerial = 0;
-            state->CleanTemporariesM();
-            state->ownThread.reset();
-            delete std::exchange(state, nullptr);
-        }
-    }
-};
-
-HolderCL& holderM()
-{
-    static thread_local HolderCL holder;
-    return holder;
+    static const DWORD slot = ::TlsAlloc();
+    return slot;
 }
 
 } // namespace
@@ -51,7 +40,9 @@ ThreadStateCL::ThreadStateCL()
     , gdi(&isGdiObject)
     , dcs(&isDc)
     , imageLists(&isImageList)
+    , menus(&isMenu)
 {
+    menus.UseSerialM(&serial);
     imageLists.UseSerialM(&serial);
     wnds.UseSerialM(&serial);
     gdi.UseSerialM(&serial);
@@ -60,16 +51,36 @@ ThreadStateCL::ThreadStateCL()
 
 ThreadStateCL& ThreadStateCL::ThisM()
 {
-    HolderCL& holder = holderM();
-    if (holder.state == nullptr) {
-        holder.state = new ThreadStateCL;
+    ThreadStateCL* state = KnownM();
+    if (state == nullptr) {
+        state = new ThreadStateCL;
+        ::TlsSetValue(slotM(), state);
     }
-    return *holder.state;
+    return *state;
 }
 
 ThreadStateCL* ThreadStateCL::KnownM()
 {
-    return holderM().state;
+    // Asking the system for it resets the last error, which belongs to the caller.
+    const DWORD error = ::GetLastError();
+    auto* const state = static_cast<ThreadStateCL*>(::TlsGetValue(slotM()));
+    ::SetLastError(error);
+    return state;
+}
+
+void ThreadStateCL::ThreadEndsM()
+{
+    ThreadStateCL* const state = KnownM();
+    if (state == nullptr) {
+        return;
+    }
+    // Objects that go ask for the state once more.
+    state->loopDepth = state->depth;
+    state->loopSerial = 0;
+    state->CleanTemporariesM();
+    state->ownThread.reset();
+    ::TlsSetValue(slotM(), nullptr);
+    delete state;
 }
 
 void ThreadStateCL::CleanTemporariesM()
@@ -82,6 +93,7 @@ void ThreadStateCL::CleanTemporariesM()
     gdi.CleanM(loopSerial);
     dcs.CleanM(loopSerial);
     imageLists.CleanM(loopSerial);
+    menus.CleanM(loopSerial);
 }
 
 LoopCL::LoopCL(bool isOutermost)

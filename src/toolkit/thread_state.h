@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 class CreationHookCL;
+class CMenu;
 class CWinThread;
 class CWnd;
 class LifeCL;
@@ -14,18 +15,26 @@ struct ThreadStateCL
     ThreadStateCL();
     static ThreadStateCL& ThisM();
     static ThreadStateCL* KnownM(); // null: none made yet, or the thread is ending
+    static void ThreadEndsM();      // the calling thread
 
     std::unordered_map<HWND, CWnd*> permanent;
+    std::unordered_map<HMENU, CMenu*> permanentMenus;
+    // Windows whose object has left while another procedure still calls AfxWndProc: what that calls in turn.
+    std::unordered_map<HWND, WNDPROC> left;
     TemporariesCL<HWND> wnds;
     TemporariesCL<HGDIOBJ> gdi;
     TemporariesCL<HDC> dcs;
     TemporariesCL<HIMAGELIST> imageLists;
+    TemporariesCL<HMENU> menus;
     unsigned long long serial = 0;
 
     MSG message = {}; // being handled by the innermost window procedure
     int depth = 0;    // of window procedures
     LifeCL* lives = nullptr;
     CreationHookCL* creations = nullptr;
+    HWND exchanging = nullptr; // the window that UpdateData is working on
+    int waits = 0;             // for the hourglass
+    HCURSOR beforeWait = nullptr;
 
     int loopDepth = 0;                 // depth of window procedures when the innermost message loop began
     unsigned long long loopSerial = 0; // objects up to this one belong to code outside that loop

@@ -5,42 +5,47 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
-// Here, not with the others of its class: the windows know contexts, so those must not know windows.
+// Here, not with the others of their class: the windows know contexts, so those must not know windows.
 CWnd* CDC::GetWindow() const
 {
     return CWnd::FromHandle(::WindowFromDC(m_hDC));
 }
 
-CPaintDC::CPaintDC(CWnd* window)
-    : hWnd_(window->m_hWnd)
+int CDC::ExcludeUpdateRgn(CWnd* window)
 {
-    Attach(::BeginPaint(hWnd_, &m_ps));
+    return ::ExcludeUpdateRgn(m_hDC, window->m_hWnd);
+}
+
+CPaintDC::CPaintDC(CWnd* window)
+    : m_hWnd(window->m_hWnd)
+{
+    Attach(::BeginPaint(m_hWnd, &m_ps));
 }
 
 CPaintDC::~CPaintDC()
 {
     Detach();
-    ::EndPaint(hWnd_, &m_ps);
+    ::EndPaint(m_hWnd, &m_ps);
 }
 
 CClientDC::CClientDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
+    : m_hWnd(window == nullptr ? nullptr : window->m_hWnd)
 {
-    Attach(::GetDC(hWnd_));
+    Attach(::GetDC(m_hWnd));
 }
 
 CClientDC::~CClientDC()
 {
-    ::ReleaseDC(hWnd_, Detach());
+    ::ReleaseDC(m_hWnd, Detach());
 }
 
 CWindowDC::CWindowDC(CWnd* window)
-    : hWnd_(window == nullptr ? nullptr : window->m_hWnd)
+    : m_hWnd(window == nullptr ? nullptr : window->m_hWnd)
 {
-    Attach(::GetWindowDC(hWnd_));
+    Attach(::GetWindowDC(m_hWnd));
 }
 
 CWindowDC::~CWindowDC()
 {
-    ::ReleaseDC(hWnd_, Detach());
+    ::ReleaseDC(m_hWnd, Detach());
 }

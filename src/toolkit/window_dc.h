@@ -10,8 +10,8 @@ public:
     ~CPaintDC() override;
     PAINTSTRUCT m_ps = {};
 
-private:
-    HWND hWnd_;
+protected:
+    HWND m_hWnd;
 };
 
 class PANELKIT_API CClientDC : public CDC
@@ -21,8 +21,8 @@ public:
     explicit CClientDC(CWnd* window); // null: the screen
     ~CClientDC() override;
 
-private:
-    HWND hWnd_;
+protected:
+    HWND m_hWnd;
 };
 
 class PANELKIT_API CWindowDC : public CDC
@@ -32,6 +32,6 @@ public:
     explicit CWindowDC(CWnd* window); // null: the screen
     ~CWindowDC() override;
 
-private:
-    HWND hWnd_;
+protected:
+    HWND m_hWnd;
 };

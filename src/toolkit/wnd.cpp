@@ -4,6 +4,7 @@
 #include "toolkit/creation_hook.h"
 #include "toolkit/life.h"
 #include "toolkit/module.h"
+#include "toolkit/text.h"
 #include "toolkit/thread_state.h"
 #include <utility>
 
@@ -33,13 +34,13 @@ CWnd::~CWnd()
     }
 }
 
-CWnd* CWnd::FromHandle(HWND hWnd)
+CWnd* WndCallsCL::FromHandle(HWND hWnd)
 {
     CWnd* permanent = FromHandlePermanent(hWnd);
     return permanent != nullptr ? permanent : ThreadStateCL::ThisM().wnds.GetM<CWnd, &CWnd::m_hWnd>(hWnd);
 }
 
-CWnd* CWnd::FromHandlePermanent(HWND hWnd)
+CWnd* WndCallsCL::FromHandlePermanent(HWND hWnd)
 {
     auto& permanent = ThreadStateCL::ThisM().permanent;
     auto found = permanent.find(hWnd);
@@ -62,14 +63,18 @@ HWND CWnd::Detach()
     HWND hWnd = std::exchange(m_hWnd, nullptr);
     WNDPROC oldProc = std::exchange(oldProc_, nullptr);
     if (hWnd != nullptr) {
-        auto& permanent = ThreadStateCL::ThisM().permanent;
-        auto found = permanent.find(hWnd);
-        if (found != permanent.end() && found->second == this) {
-            permanent.erase(found);
+        ThreadStateCL& state = ThreadStateCL::ThisM();
+        auto found = state.permanent.find(hWnd);
+        if (found != state.permanent.end() && found->second == this) {
+            state.permanent.erase(found);
         }
-        if (oldProc != nullptr
-            && reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(hWnd, GWLP_WNDPROC)) == AfxWndProc) {
+        if (oldProc == nullptr || !::IsWindow(hWnd)) {
+            return hWnd;
+        }
+        if (reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(hWnd, GWLP_WNDPROC)) == AfxWndProc) {
             ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(oldProc));
+        } else {
+            state.left[hWnd] = oldProc; // somebody's procedure goes on calling ours
         }
     }
     return hWnd;
@@ -78,6 +83,14 @@ HWND CWnd::Detach()
 void CWnd::takeMessagesM()
 {
     PreSubclassWindow();
+    auto& left = ThreadStateCL::ThisM().left;
+    const auto place = left.find(m_hWnd);
+    if (place != left.end()) {
+        // Still below somebody's procedure: a second place above it would make the two call each other.
+        oldProc_ = place->second;
+        left.erase(place);
+        return;
+    }
     auto old = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
     oldProc_ = old == AfxWndProc ? ::DefWindowProcW : old;
@@ -109,18 +122,16 @@ bool CWnd::letGoOfWindowM()
     return life.IsAliveM() && m_hWnd == nullptr;
 }
 
-BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
+BOOL CWnd::createM(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, int x, int y, int width,
     int height, HWND parent, HMENU idOrMenu, LPVOID param)
 {
     if (!letGoOfWindowM()) {
         return FALSE;
     }
-    std::wstring wideClass = slGbkToShown(className);
-    std::wstring wideTitle = slGbkToShown(title);
     CREATESTRUCT cs = {};
     cs.dwExStyle = exStyle;
-    cs.lpszClass = className == nullptr ? nullptr : wideClass.c_str();
-    cs.lpszName = wideTitle.c_str();
+    cs.lpszClass = className;
+    cs.lpszName = title == nullptr ? L"" : title;
     cs.style = static_cast<LONG>(style);
     cs.x = x;
     cs.y = y;
@@ -139,7 +150,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, 
         made = ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
             cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
         if (made == nullptr) {
-            AfxLogFailure("CreateWindowEx", className);
+            AfxLogFailure(
+                "CreateWindowEx", IS_INTRESOURCE(cs.lpszClass) ? nullptr : WideToGbk(cs.lpszClass).c_str());
         }
         hasCaught = hook.HasCaughtM();
     }
@@ -150,12 +162,18 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, 
     return made != nullptr;
 }
 
+BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
+    int height, HWND parent, HMENU idOrMenu, LPVOID param)
+{
+    return createM(exStyle, WindowClassNameCL(className), slGbkToShown(title).c_str(), style, x, y, width,
+        height, parent, idOrMenu, param);
+}
+
 BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, const RECT& rect,
     CWnd* parent, UINT id, LPVOID param)
 {
     return CreateEx(exStyle, className, title, style, rect.left, rect.top, rect.right - rect.left,
-        rect.bottom - rect.top, parent == nullptr ? nullptr : parent->m_hWnd,
-        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), param);
+        rect.bottom - rect.top, handleOfM(parent), idM(id), param);
 }
 
 BOOL CWnd::Create(
@@ -195,10 +213,10 @@ void CWnd::OnNcDestroy()
     if (!life.IsAliveM()) {
         return;
     }
-    CWinThread* thread = ThreadStateCL::ThisM().thread;
-    if (thread != nullptr && thread->m_pMainWnd == this) {
-        thread->MainWndGone();
+    ThreadStateCL& state = ThreadStateCL::ThisM();
+    if (state.thread != nullptr && state.thread->m_pMainWnd == this) {
+        state.thread->MainWndGone();
     }
-    Detach();
+    state.left.erase(Detach()); // no message comes any more
     PostNcDestroy();
 }

@@ -1,24 +1,38 @@
-#include "toolkit/app.h"
 #include "toolkit/creation_hook.h"
 #include "toolkit/life.h"
-#include "toolkit/module.h"
 #include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
-#include <utility>
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
 ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
-const MSG* CWnd::GetCurrentMessage()
+const MSG* WndCallsCL::GetCurrentMessage()
 {
     return &ThreadStateCL::ThisM().message;
 }
 
-LRESULT CWnd::Default()
+LRESULT WndHandlersCL::Default()
 {
     MSG current = ThreadStateCL::ThisM().message;
-    return DefWindowProc(current.message, current.wParam, current.lParam);
+    return static_cast<CWnd*>(this)->DefWindowProc(current.message, current.wParam, current.lParam);
+}
+
+LRESULT WndHandlersCL::askChildM()
+{
+    const MSG current = ThreadStateCL::ThisM().message;
+    CWnd* self = static_cast<CWnd*>(this);
+    if ((current.message == WM_DRAWITEM || current.message == WM_MEASUREITEM)
+        && self->drawMenuM(current.message, current.lParam)) {
+        return TRUE;
+    }
+    const HWND child = self->askingChildM(current.message, current.wParam, current.lParam);
+    LifeCL life(self);
+    LRESULT answer = 0;
+    if (self->reflectM(child, current.message, current.wParam, current.lParam, &answer) || !life.IsAliveM()) {
+        return answer;
+    }
+    return self->DefWindowProc(current.message, current.wParam, current.lParam);
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -41,49 +55,12 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     LifeCL life(this);
     AFX_MESSAGE m = { message, wParam, lParam, 0, 0, 0, nullptr };
-    BOOL isTaken = FALSE;
     switch (message) {
     case WM_COMMAND:
         *result = 0;
         return OnCommand(wParam, lParam);
     case WM_NOTIFY:
         return lParam != 0 && OnNotify(wParam, lParam, result);
-    case WM_CTLCOLORMSGBOX:
-    case WM_CTLCOLOREDIT:
-    case WM_CTLCOLORLISTBOX:
-    case WM_CTLCOLORBTN:
-    case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSCROLLBAR:
-    case WM_CTLCOLORSTATIC:
-        isTaken = reflectM(reinterpret_cast<HWND>(lParam), message, wParam, lParam, result);
-        m.message = WM_CTLCOLOR;
-        m.id = message - WM_CTLCOLORMSGBOX;
-        break;
-    case WM_DRAWITEM:
-        isTaken
-            = reflectM(reinterpret_cast<DRAWITEMSTRUCT*>(lParam)->hwndItem, message, wParam, lParam, result);
-        break;
-    case WM_COMPAREITEM:
-        isTaken = reflectM(
-            reinterpret_cast<COMPAREITEMSTRUCT*>(lParam)->hwndItem, message, wParam, lParam, result);
-        break;
-    case WM_DELETEITEM:
-        isTaken = reflectM(
-            reinterpret_cast<DELETEITEMSTRUCT*>(lParam)->hwndItem, message, wParam, lParam, result);
-        break;
-    case WM_MEASUREITEM:
-        isTaken = reflectM(measuredChildM(reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->CtlID), message,
-            wParam, lParam, result);
-        break;
-    case WM_HSCROLL:
-    case WM_VSCROLL:
-        isTaken = reflectM(reinterpret_cast<HWND>(lParam), message, wParam, lParam, result);
-        break;
-    case WM_PARENTNOTIFY:
-        if (LOWORD(wParam) == WM_CREATE || LOWORD(wParam) == WM_DESTROY) {
-            isTaken = reflectM(reinterpret_cast<HWND>(lParam), message, wParam, lParam, result);
-        }
-        break;
     case WM_REFLECT_BASE + WM_COMMAND:
         m.code = static_cast<short>(HIWORD(wParam));
         break;
@@ -98,14 +75,64 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     default:
         break;
     }
-    if (isTaken || !life.IsAliveM()) {
+    bool isDone = dispatchM(m);
+    if (!isDone && life.IsAliveM() && message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) {
+        m.message = WM_CTLCOLOR;
+        m.id = message - WM_CTLCOLORMSGBOX;
+        isDone = dispatchM(m);
+    }
+    if (isDone) {
+        *result = m.result;
         return TRUE;
     }
-    if (!dispatchM(m)) {
-        return FALSE;
+    if (life.IsAliveM() && message == WM_INITMENUPOPUP && HIWORD(lParam) == 0) {
+        updateMenuM(CMenu::FromHandle(reinterpret_cast<HMENU>(wParam)));
     }
-    *result = m.result;
-    return TRUE;
+    if (life.IsAliveM() && (message == WM_DRAWITEM || message == WM_MEASUREITEM)
+        && drawMenuM(message, lParam)) {
+        *result = TRUE;
+        return TRUE;
+    }
+    // What this window has no answer to, the control that asks may have.
+    return !life.IsAliveM()
+        || reflectM(askingChildM(message, wParam, lParam), message, wParam, lParam, result)
+        || !life.IsAliveM();
+}
+
+// The control that asks its parent by this message; null: none does.
+HWND CWnd::askingChildM(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    switch (message) {
+    case WM_CTLCOLORMSGBOX:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSCROLLBAR:
+    case WM_CTLCOLORSTATIC:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CHARTOITEM:
+    case WM_VKEYTOITEM:
+        return reinterpret_cast<HWND>(lParam);
+    case WM_DRAWITEM: {
+        const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        return item->CtlType == ODT_MENU ? nullptr : item->hwndItem;
+    }
+    case WM_MEASUREITEM: {
+        const auto* item = reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam);
+        return item->CtlType == ODT_MENU ? nullptr : measuredChildM(item->CtlID);
+    }
+    case WM_COMPAREITEM:
+        return reinterpret_cast<const COMPAREITEMSTRUCT*>(lParam)->hwndItem;
+    case WM_DELETEITEM:
+        return reinterpret_cast<const DELETEITEMSTRUCT*>(lParam)->hwndItem;
+    case WM_PARENTNOTIFY:
+        return LOWORD(wParam) == WM_CREATE || LOWORD(wParam) == WM_DESTROY ? reinterpret_cast<HWND>(lParam)
+                                                                           : nullptr;
+    default:
+        return nullptr;
+    }
 }
 
 bool CWnd::dispatchM(AFX_MESSAGE& m)
@@ -124,7 +151,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     if (child != nullptr && reflectM(child, WM_COMMAND, wParam, lParam, &ignored)) {
         return TRUE;
     }
-    if (!life.IsAliveM()) {
+    // What UpdateData itself changes is no news.
+    if (!life.IsAliveM() || (child != nullptr && ThreadStateCL::ThisM().exchanging == m_hWnd)) {
         return TRUE;
     }
     // From a menu or an accelerator the code is no notification.
@@ -170,77 +198,4 @@ BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
 {
     UINT kind = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC ? WM_CTLCOLOR : message;
     return OnWndMsg(WM_REFLECT_BASE + kind, wParam, lParam, result);
-}
-
-BOOL CWnd::PreTranslateMessage(MSG*)
-{
-    return FALSE;
-}
-
-BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
-{
-    for (HWND at = message->hwnd; at != nullptr; at = ::GetParent(at)) {
-        CWnd* wnd = FromHandlePermanent(at);
-        if (wnd != nullptr && wnd->PreTranslateMessage(message)) {
-            return TRUE;
-        }
-        if (at == stop) {
-            break;
-        }
-    }
-    return FALSE;
-}
-
-// Here, not with the thread: the windows know it, so it must not know them.
-BOOL CWinThread::PreTranslateMessage(MSG* message)
-{
-    if (message->hwnd == nullptr) {
-        return FALSE;
-    }
-    HWND mainWnd = m_pMainWnd == nullptr ? nullptr : m_pMainWnd->m_hWnd;
-    return CWnd::WalkPreTranslateTree(mainWnd, message);
-}
-
-// What the window procedure does with the members of a window's object. As a function it could not be their
-// friend without losing its import.
-struct WindowMessageCL
-{
-    static LRESULT HandleM(CWnd* wnd, const LifeCL& life, const MSG& message)
-    {
-        const HWND hWnd = message.hwnd;
-        const LRESULT result = wnd->WindowProc(message.message, message.wParam, message.lParam);
-        if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == hWnd) {
-            wnd->CWnd::OnNcDestroy(); // its own handler didn't pass the message on
-        }
-        return result;
-    }
-};
-
-LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    ThreadStateCL& state = ThreadStateCL::ThisM();
-    CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
-    if (wnd == nullptr) {
-        return ::DefWindowProcW(hWnd, message, wParam, lParam);
-    }
-    MSG outerMessage = state.message;
-    state.message = { hWnd, message, wParam, lParam, 0, {} };
-    ++state.depth;
-    LRESULT result = 0;
-    {
-        LifeCL life(wnd);
-        try {
-            result = WindowMessageCL::HandleM(wnd, life, { hWnd, message, wParam, lParam, 0, {} });
-        } catch (...) {
-            // The window system's frames below cannot carry an exception.
-            AfxLogFailure("a message handler threw an exception", nullptr);
-            result = message == WM_CREATE ? -1 : 0;
-            if (message == WM_PAINT) {
-                ::ValidateRect(hWnd, nullptr); // else it would come again at once
-            }
-        }
-    }
-    --state.depth;
-    state.message = outerMessage;
-    return result;
 }

@@ -29,93 +29,115 @@ BOOL modifyM(HWND hWnd, int which, DWORD remove, DWORD add, UINT swpFlags)
     return TRUE;
 }
 
-HWND handleOf(const CWnd* wnd)
+void sendDownM(HWND parent, const MSG& message, bool deep, bool permanentOnly)
 {
-    return wnd == nullptr ? nullptr : wnd->m_hWnd;
+    HWND next = nullptr;
+    for (HWND child = ::GetTopWindow(parent); child != nullptr; child = next) {
+        next = ::GetNextWindow(child, GW_HWNDNEXT); // the child may go
+        if (!permanentOnly) {
+            ::SendMessageW(child, message.message, message.wParam, message.lParam);
+        } else if (CWnd::FromHandlePermanent(child) != nullptr) {
+            AfxWndProc(child, message.message, message.wParam, message.lParam);
+        }
+        if (deep && ::IsWindow(child)) {
+            sendDownM(child, message, deep, permanentOnly);
+        }
+    }
 }
 
 } // namespace
 
-BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT swpFlags)
+HWND WndCallsCL::handleOfM(const CWnd* wnd)
+{
+    return wnd == nullptr ? nullptr : wnd->m_hWnd;
+}
+
+BOOL WndCallsCL::ModifyStyle(DWORD remove, DWORD add, UINT swpFlags)
 {
     return modifyM(m_hWnd, GWL_STYLE, remove, add, swpFlags);
 }
 
-BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT swpFlags)
+BOOL WndCallsCL::ModifyStyleEx(DWORD remove, DWORD add, UINT swpFlags)
 {
     return modifyM(m_hWnd, GWL_EXSTYLE, remove, add, swpFlags);
 }
 
-void CWnd::SetWindowText(LPCSTR text)
+void WndCallsCL::SetWindowText(LPCSTR text)
 {
     ::SetWindowTextW(m_hWnd, slGbkToShown(text).c_str());
 }
 
-int CWnd::GetWindowText(LPSTR to, int size) const
+int WndCallsCL::GetWindowText(LPSTR to, int size) const
 {
     return slCopyText(to, size, textOfM(m_hWnd));
 }
 
-void CWnd::GetWindowText(CString& to) const
+void WndCallsCL::GetWindowText(CString& to) const
 {
     to = textOfM(m_hWnd).c_str();
 }
 
-int CWnd::GetWindowTextLength() const
+int WndCallsCL::GetWindowTextLength() const
 {
     return static_cast<int>(textOfM(m_hWnd).size());
 }
 
-void CWnd::SetDlgItemText(int id, LPCSTR text)
+void WndCallsCL::SetDlgItemText(int id, LPCSTR text)
 {
     ::SetDlgItemTextW(m_hWnd, id, slGbkToShown(text).c_str());
 }
 
-int CWnd::GetDlgItemText(int id, LPSTR to, int size) const
+int WndCallsCL::GetDlgItemText(int id, LPSTR to, int size) const
 {
     return slCopyText(to, size, textOfM(::GetDlgItem(m_hWnd, id)));
 }
 
-int CWnd::GetDlgItemText(int id, CString& to) const
+int WndCallsCL::GetDlgItemText(int id, CString& to) const
 {
     to = textOfM(::GetDlgItem(m_hWnd, id)).c_str();
     return to.GetLength();
 }
 
-void CWnd::SetFont(CFont* font, BOOL redraw)
+void WndCallsCL::SetFont(CFont* font, BOOL redraw)
 {
     HFONT handle = font == nullptr ? nullptr : static_cast<HFONT>(*font);
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(handle), redraw ? 1 : 0);
 }
 
-CFont* CWnd::GetFont() const
+CFont* WndCallsCL::GetFont() const
 {
     return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
 }
 
-HICON CWnd::SetIcon(HICON icon, BOOL big)
+HICON WndCallsCL::SetIcon(HICON icon, BOOL big)
 {
     return reinterpret_cast<HICON>(
         SendMessage(WM_SETICON, big ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(icon)));
 }
 
-int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
+int WndCallsCL::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
 {
-    return ::MessageBoxW(m_hWnd, slGbkToShown(text).c_str(),
-        slGbkToShown(caption == nullptr ? AfxGetAppName() : caption).c_str(), type);
+    const std::wstring wideCaption = slGbkToShown(caption);
+    return showMessageM(slGbkToShown(text).c_str(), caption == nullptr ? nullptr : wideCaption.c_str(), type);
 }
 
-void CWnd::MoveWindow(LPCRECT rect, BOOL redraw)
+int WndCallsCL::showMessageM(LPCWSTR text, LPCWSTR caption, UINT type)
+{
+    return ::MessageBoxW(
+        m_hWnd, text, caption == nullptr ? slGbkToShown(AfxGetAppName()).c_str() : caption, type);
+}
+
+void WndCallsCL::MoveWindow(LPCRECT rect, BOOL redraw)
 {
     MoveWindow(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, redraw);
 }
 
-BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags)
+BOOL WndCallsCL::SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags)
 {
-    return ::SetWindowPos(m_hWnd, handleOf(after), x, y, width, height, flags);
+    return ::SetWindowPos(m_hWnd, handleOfM(after), x, y, width, height, flags);
 }
 
-void CWnd::CenterWindow(CWnd* over)
+void WndCallsCL::CenterWindow(CWnd* over)
 {
     HWND base = over != nullptr ? over->m_hWnd : ::GetParent(m_hWnd);
     CRect area;
@@ -134,55 +156,43 @@ void CWnd::CenterWindow(CWnd* over)
     SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void CWnd::ClientToScreen(LPRECT rect) const
+void WndCallsCL::ClientToScreen(LPRECT rect) const
 {
     ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(rect), 2);
 }
 
-void CWnd::ScreenToClient(LPRECT rect) const
+void WndCallsCL::ScreenToClient(LPRECT rect) const
 {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rect), 2);
 }
 
-void CWnd::MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const
+void WndCallsCL::MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const
 {
-    ::MapWindowPoints(m_hWnd, handleOf(to), points, count);
+    ::MapWindowPoints(m_hWnd, handleOfM(to), points, count);
 }
 
-void CWnd::MapWindowPoints(CWnd* to, LPRECT rect) const
+void WndCallsCL::MapWindowPoints(CWnd* to, LPRECT rect) const
 {
-    ::MapWindowPoints(m_hWnd, handleOf(to), reinterpret_cast<POINT*>(rect), 2);
+    ::MapWindowPoints(m_hWnd, handleOfM(to), reinterpret_cast<POINT*>(rect), 2);
 }
 
-void CWnd::InvalidateRgn(CRgn* region, BOOL erase)
+void WndCallsCL::InvalidateRgn(CRgn* region, BOOL erase)
 {
     ::InvalidateRgn(m_hWnd, region == nullptr ? nullptr : static_cast<HRGN>(*region), erase);
 }
 
-BOOL CWnd::RedrawWindow(LPCRECT rect, CRgn* region, UINT flags)
+BOOL WndCallsCL::RedrawWindow(LPCRECT rect, CRgn* region, UINT flags)
 {
     return ::RedrawWindow(m_hWnd, rect, region == nullptr ? nullptr : static_cast<HRGN>(*region), flags);
 }
 
-int CWnd::ReleaseDC(CDC* dc)
+int WndCallsCL::ReleaseDC(CDC* dc)
 {
     return dc == nullptr ? 0 : ::ReleaseDC(m_hWnd, dc->m_hDC);
 }
 
-CWnd* CWnd::FindWindow(LPCSTR className, LPCSTR title)
+void WndCallsCL::SendMessageToDescendants(
+    UINT message, WPARAM wParam, LPARAM lParam, BOOL deep, BOOL permanentOnly)
 {
-    std::wstring wideClass = slGbkToShown(className);
-    std::wstring wideTitle = slGbkToShown(title);
-    return FromHandle(::FindWindowW(
-        className == nullptr ? nullptr : wideClass.c_str(), title == nullptr ? nullptr : wideTitle.c_str()));
-}
-
-CWnd* CWnd::SetParent(CWnd* parent)
-{
-    return FromHandle(::SetParent(m_hWnd, handleOf(parent)));
-}
-
-CWnd* CWnd::GetNextDlgTabItem(CWnd* from, BOOL previous) const
-{
-    return FromHandle(::GetNextDlgTabItem(m_hWnd, handleOf(from), previous));
+    sendDownM(m_hWnd, { nullptr, message, wParam, lParam, 0, {} }, deep != FALSE, permanentOnly != FALSE);
 }

@@ -49,6 +49,59 @@ TEST(GdiObjects, RegionsCombineAndCompare)
     EXPECT_FALSE(left.PtInRegion(7, 7));
 }
 
+TEST(GdiObjects, PensAndBrushesOfEveryKind)
+{
+    const LOGBRUSH look = { BS_SOLID, RGB(1, 2, 3), 0 };
+    const DWORD dashes[] = { 4, 2 };
+    CPen pen(PS_GEOMETRIC | PS_USERSTYLE, 3, &look, 2, dashes);
+    EXPECT_EQ(pen.GetObjectType(), static_cast<UINT>(OBJ_EXTPEN));
+    LOGPEN simple = { PS_DOT, { 1, 0 }, RGB(1, 2, 3) };
+    CPen dotted;
+    ASSERT_TRUE(dotted.CreatePenIndirect(&simple));
+    LOGPEN read = {};
+    EXPECT_NE(dotted.GetLogPen(&read), 0);
+    EXPECT_EQ(read.lopnStyle, static_cast<UINT>(PS_DOT));
+    CBrush hatch(HS_CROSS, RGB(1, 2, 3));
+    LOGBRUSH brush = {};
+    EXPECT_NE(hatch.GetLogBrush(&brush), 0);
+    EXPECT_EQ(brush.lbStyle, static_cast<UINT>(BS_HATCHED));
+    const WORD bits[8] = { 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55 };
+    CBitmap pattern;
+    ASSERT_TRUE(pattern.CreateBitmap(8, 8, 1, 1, bits));
+    CBrush patterned(&pattern);
+    EXPECT_NE(patterned.GetLogBrush(&brush), 0);
+    EXPECT_EQ(brush.lbStyle, static_cast<UINT>(BS_PATTERN));
+    CBrush system;
+    ASSERT_TRUE(system.CreateSysColorBrush(COLOR_BTNFACE));
+    EXPECT_NE(system.GetLogBrush(&brush), 0);
+    EXPECT_EQ(brush.lbColor, ::GetSysColor(COLOR_BTNFACE));
+    CBrush none;
+    EXPECT_FALSE(none.CreatePatternBrush(nullptr));
+    EXPECT_TRUE(none.CreateStockObject(DC_BRUSH));
+}
+
+TEST(GdiObjects, BitmapsKeepTheirBitsAndDimension)
+{
+    CBitmap bitmap;
+    const BYTE bits[] = { 0xF0, 0, 0x0F, 0 };
+    ASSERT_TRUE(bitmap.CreateBitmap(8, 2, 1, 1, bits));
+    BYTE read[4] = {};
+    EXPECT_EQ(bitmap.GetBitmapBits(sizeof read, read), 4u);
+    EXPECT_EQ(read[2], 0x0F);
+    read[0] = 0x55;
+    EXPECT_EQ(bitmap.SetBitmapBits(sizeof read, read), 4u);
+    BITMAP look = {};
+    EXPECT_NE(bitmap.GetBitmap(&look), 0);
+    EXPECT_EQ(CSize(look.bmWidth, look.bmHeight), CSize(8, 2));
+    EXPECT_EQ(bitmap.SetBitmapDimension(30, 40), CSize(0, 0));
+    EXPECT_EQ(bitmap.GetBitmapDimension(), CSize(30, 40));
+    CBitmap none;
+    EXPECT_FALSE(none.LoadBitmap("NO_SUCH_PICTURE"));
+    EXPECT_FALSE(none.LoadBitmap(L"NO_SUCH_PICTURE"));
+    EXPECT_FALSE(none.LoadBitmap(MAKEINTRESOURCEA(4711)));
+    EXPECT_FALSE(none.CreateCompatibleBitmap(nullptr, 1, 1));
+}
+
 TEST(GdiObjects, FontFaceIsGbk)
 {
     LOGFONTA wanted = {};

@@ -18,22 +18,15 @@ class ParentCL : public CWnd
 public:
     ParentCL() { CreateEx(0, nullptr, "parent", WS_OVERLAPPEDWINDOW, 0, 0, 300, 300, nullptr, nullptr); }
     std::vector<std::string> seen;
-    HBRUSH brush = nullptr;
 
     afx_msg void OnClicked() { seen.push_back("parent clicked"); }
     afx_msg void OnChange() { seen.push_back("parent change"); }
-    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT kind)
-    {
-        seen.push_back("parent color " + std::to_string(kind));
-        return brush;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(ParentCL, CWnd)
 ON_BN_CLICKED(7, &ParentCL::OnClicked)
 ON_EN_CHANGE(8, &ParentCL::OnChange)
-ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 class ChildCL : public CStatic
@@ -42,8 +35,6 @@ public:
     std::vector<UINT> messages;
     bool hasSeenCreate = false;
     int preSubclassed = 0;
-    HBRUSH brush = nullptr;
-    std::vector<std::string>* seen = nullptr;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override
     {
         cs.style |= WS_VISIBLE | WS_GROUP | SS_CENTER;
@@ -65,19 +56,11 @@ public:
         hasSeenCreate = true;
         return CStatic::OnCreate(cs);
     }
-    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind)
-    {
-        if (seen != nullptr && dc->m_hDC != nullptr) {
-            seen->push_back("child color " + std::to_string(kind));
-        }
-        return brush;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(ChildCL, CStatic)
 ON_WM_CREATE()
-ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
 class ButtonCL : public CButton
@@ -294,29 +277,6 @@ TEST(Wnd, PreCreateWindowAddsStylesAndPreSubclassWindowRunsOnce)
     wchar_t name[20] = {};
     ::GetClassNameW(child, name, 20);
     EXPECT_STREQ(name, L"Static");
-}
-
-TEST(Wnd, ReflectedColourGoesToTheChildFirstAndToTheParentWithoutABrush)
-{
-    ParentCL parent;
-    ChildCL child;
-    child.seen = &parent.seen;
-    ASSERT_TRUE(child.Create("text", 0, Place, &parent, 5));
-    CBrush own(RGB(1, 2, 3));
-    CBrush parents(RGB(4, 5, 6));
-    parent.brush = parents;
-    CClientDC dc(&child);
-    WPARAM context = reinterpret_cast<WPARAM>(dc.m_hDC);
-    LPARAM window = reinterpret_cast<LPARAM>(child.m_hWnd);
-    parent.seen.clear();
-    EXPECT_EQ(
-        parent.SendMessage(WM_CTLCOLORSTATIC, context, window), reinterpret_cast<LRESULT>(parents.m_hObject));
-    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child color 6", "parent color 6" }));
-    child.brush = own;
-    parent.seen.clear();
-    EXPECT_EQ(
-        parent.SendMessage(WM_CTLCOLORSTATIC, context, window), reinterpret_cast<LRESULT>(own.m_hObject));
-    EXPECT_EQ(parent.seen, (std::vector<std::string> { "child color 6" }));
 }
 
 TEST(Wnd, CommandIsOfferedToTheChildAndThenToTheParent)

@@ -46,6 +46,21 @@ std::set<std::string> allCodes()
     return codes;
 }
 
+// Of all findings those that this command finds: texts are measured only where a window system is.
+std::string foundHere(const std::string& findings)
+{
+#ifdef _WIN32
+    return findings;
+#else
+    std::string found;
+    std::istringstream in(findings);
+    for (std::string line; std::getline(in, line);) {
+        found += line.find("[label-cut]") == std::string::npos ? line + "\n" : "";
+    }
+    return found;
+#endif
+}
+
 // A file of these bytes among the samples' pictures.
 class NeighbourCL
 {
@@ -118,10 +133,10 @@ TEST(Check, EverySampleHasExactlyItsFindings)
             const std::string path = entry.path().string();
             const CommandResultCL result = check(path);
             const std::string expected
-                = wholeFile(std::filesystem::path(path).replace_extension(".findings").string());
+                = foundHere(wholeFile(std::filesystem::path(path).replace_extension(".findings").string()));
             EXPECT_EQ(placesOf(result.output, path), expected) << result.output;
             EXPECT_EQ(result.code, expected.find("error") != std::string::npos ? 1 : 0) << path;
-            EXPECT_EQ(check(path, "--strict").code, 1) << path;
+            EXPECT_EQ(check(path, "--strict").code, expected.empty() ? 0 : 1) << path;
             ++samples;
         }
     }
@@ -160,10 +175,14 @@ TEST(Check, EveryCodeIsDocumentedWithExamplesThatHold)
             const std::size_t line = std::stoul(block.place) + (block.how.empty() ? headLines : 0);
             const std::string expected
                 = std::to_string(line) + block.place.substr(block.place.find(':')) + ": ";
+            wrong.insert(block.heading);
+            if (foundHere(expected + "[" + block.heading + "]").empty()) {
+                EXPECT_EQ(places, "");
+                continue;
+            }
             EXPECT_EQ(places.rfind(expected, 0), 0U) << block.heading << " at " << expected << "\n" << places;
             EXPECT_NE(places.find("[" + block.heading + "]"), std::string::npos) << places;
             EXPECT_EQ(countOf(places, "\n"), 1) << places;
-            wrong.insert(block.heading);
         }
     }
     EXPECT_EQ(wrong, allCodes());

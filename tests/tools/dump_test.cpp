@@ -142,7 +142,7 @@ TEST(Command, WrongArgumentsGetOneClearLine)
 {
     expectComplaint(runCommand(""), "subcommand");
     expectComplaint(runCommand("dump"), "FILE");
-    expectComplaint(runCommand("dump a b"), "b");
+    expectComplaint(runCommand("format a b"), "b");
     expectComplaint(runCommand("frobnicate x"), "");
     expectComplaint(runCommand("shot x"), "OUT.png");
     expectComplaint(runCommand("dump --nonsense x"), "--nonsense");

@@ -5,7 +5,7 @@
 #include <vector>
 #include <wincodec.h>
 
-// The pixels of a PNG file, 0xRRGGBB, row by row from the top; none when it can't be read.
+// The pixels of a PNG or BMP file, 0xRRGGBB, row by row from the top; none when it can't be read.
 class PngPictureCL
 {
 public:
@@ -15,6 +15,7 @@ public:
         EXPECT_TRUE(readM(std::wstring(path.begin(), path.end()))) << path;
         ::CoUninitialize();
     }
+    const std::vector<std::uint32_t>& PixelsM() const { return pixels_; }
     int CountM(std::uint32_t colour) const
     {
         int count = 0;

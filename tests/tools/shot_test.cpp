@@ -92,8 +92,7 @@ TEST(Shot, WritesAPictureOfTheWholeWindow)
 
 TEST(Shot, PictureThatCannotBeWrittenGetsOneClearLine)
 {
-    expectComplaint(
-        runCommand("shot \"" + sample("two_kinds.dlg") + "\" no/such/folder/x.png"), "cannot write");
+    expectComplaint(runCommand("shot \"" + exampleFiles()[0] + "\" no/such/folder/x.png"), "cannot write");
 }
 
 TEST(Shot, BitmapButtonIsPicturedInAnyStatus)
@@ -124,6 +123,16 @@ TEST(Shot, NewRotateButtonsThatTheLibraryLeavesToTheApplicationAreShown)
     ShotCL shot;
     EXPECT_EQ(shot.ColoursM(shot.NewRotateButtonM()), (CountsTP { Area, 0, 0 }));
     EXPECT_EQ(shot.ColoursM(shot.NewRotateButtonM(), "--status 11 1"), (CountsTP { 0, Area, 0 }));
+}
+
+TEST(Shot, IdsAreWrittenOnControls)
+{
+    constexpr std::uint32_t LabelGround = 0xFFFFAA;
+    ShotCL shot;
+    EXPECT_EQ(shot.TakeM(shot.BmpButtonM()).code, 0);
+    EXPECT_EQ(PngPictureCL(shot.picture.path()).CountM(LabelGround), 0);
+    EXPECT_EQ(shot.TakeM(shot.BmpButtonM(), "--ids").code, 0);
+    EXPECT_GT(PngPictureCL(shot.picture.path()).CountM(LabelGround), 100);
 }
 
 TEST(Shot, StatusThatNoControlHasGetsOneClearLine)

@@ -2,6 +2,7 @@
 #include "check.h"
 #include "baselib/gbk.h"
 #include "commands.h"
+#include "text_file.h"
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -14,10 +15,11 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-Language languageOfUser()
+Language languageOf(const std::string& option)
 {
+    if (!option.empty()) {
+        return option == "zh" ? Language::Chinese : Language::English;
+    }
 #ifdef _WIN32
     if (PRIMARYLANGID(::GetUserDefaultUILanguage()) == LANG_CHINESE) {
         return Language::Chinese;
@@ -32,35 +34,14 @@ Language languageOfUser()
     return Language::English;
 }
 
-bool readStandardInput(std::string* bytes)
-{
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-#endif
-    char block[65536];
-    for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
-        bytes->append(block, read);
-    }
-    return std::ferror(stdin) == 0;
-}
-
-bool readNamedFile(const std::string& file, std::string* bytes)
+bool readBytes(const fs::path& path, std::string* bytes)
 {
     std::error_code error;
-    const fs::path path = fs::u8path(file);
-    if (!fs::is_regular_file(path, error)) {
-        complain("cannot open '" + file
-            + "': " + (fs::exists(path, error) ? "not a regular file" : "no such file"));
-        return false;
-    }
     std::ifstream in(path, std::ios::binary);
     const auto size = fs::file_size(path, error);
     bytes->resize(error ? 0 : static_cast<std::size_t>(size));
-    if (!in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) && !bytes->empty()) {
-        complain("cannot read '" + file + "'");
-        return false;
-    }
-    return true;
+    return in.is_open()
+        && (in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) || bytes->empty());
 }
 
 FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::string&& bytes)
@@ -77,13 +58,37 @@ FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::stri
     return findings;
 }
 
+namespace {
+
+bool readStandardInput(std::string* bytes)
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+#endif
+    char block[65536];
+    for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
+        bytes->append(block, read);
+    }
+    return std::ferror(stdin) == 0;
+}
+
+bool readNamedFile(const std::string& file, std::string* bytes)
+{
+    if (!isRegularFile(file)) {
+        return false;
+    }
+    if (!readBytes(fs::u8path(file), bytes)) {
+        complain("cannot read '" + file + "'");
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int checkCommand(const CheckOptionsCL& options)
 {
-    const Language language = options.language == "zh" ? Language::Chinese
-        : options.language == "en"                     ? Language::English
-                                                       : languageOfUser();
+    const Language language = languageOf(options.language);
     std::vector<FindingsCL> all;
     bool isUnreadable = false;
     bool isFaulty = false;
@@ -96,8 +101,7 @@ int checkCommand(const CheckOptionsCL& options)
         }
         all.push_back(checkBytes(isInput ? "<stdin>" : file,
             isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes)));
-        isFaulty = isFaulty || all.back().CountM(Severity::Error) > 0
-            || (options.isStrict && all.back().CountM(Severity::Warning) > 0);
+        isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {
         printFindingsAsJson(all, language);
@@ -107,4 +111,18 @@ int checkCommand(const CheckOptionsCL& options)
         printFindings(all, language);
     }
     return isUnreadable ? CannotUse : isFaulty ? 1 : 0;
+}
+
+bool sayFindings(const std::string& file, const std::string& said, const ShowOptionsCL& options)
+{
+    std::error_code error;
+    const fs::path path = fs::u8path(file);
+    std::string bytes;
+    if (!fs::is_regular_file(path, error) || !readBytes(path, &bytes)) {
+        return false;
+    }
+    const FindingsCL findings = checkBytes(said, path.parent_path(), std::move(bytes));
+    const std::string text = findings.TextM(languageOf(options.language), options.isStrict);
+    std::fwrite(text.data(), 1, text.size(), stderr);
+    return options.isStrict && findings.IsFaultyM(true);
 }

@@ -73,5 +73,7 @@
     X(NoLabel, "no-label", Warning, "no label stands directly before this control in Tab order, or the one that does stands elsewhere", "Tab 顺序中紧挨此控件之前没有标题, 或该标题不在其旁边") \
     X(NoAccessibleName, "no-accessible-name", Warning, "the picture control has no name: no label stands directly before it in Tab order", "图片控件没有名称: Tab 顺序中紧挨它之前没有标题") \
     X(LowContrast, "low-contrast", Warning, "black text on the colour {0} has a contrast of {1}:1, below 4.5:1", "黑色文字在颜色 {0} 上的对比度为 {1}:1, 低于 4.5:1") \
+    X(CaptionCut, "label-cut", Warning, "the text is {0} pixels wide, but the control shows {1} of them", "文本宽 {0} 像素, 但控件只显示 {1} 像素") \
+    X(LinesCut, "label-cut", Warning, "the text takes {0} lines, but the control shows {1}", "文本需要 {0} 行, 但控件只显示 {1} 行") \
     X(HiddenBehind, "hidden-behind", Warning, "the control lies wholly behind the one of line {0}", "该控件完全被第 {0} 行的控件遮住")
 // clang-format on

@@ -89,6 +89,9 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
     if (found == states_.end()) {
         found = states_.emplace(name, stateM(name)).first;
     }
+    if (found->second != State::Remote) {
+        findings.AddPictureM(name);
+    }
     switch (found->second) {
     case State::Missing:
         findings.AddM(Says::MissingFile, offset, { slGbkToUtf8(name.c_str()) });

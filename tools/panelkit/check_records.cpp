@@ -20,8 +20,12 @@ CheckedControlCL controlOf(
         view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
         view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
         offsetOf(view, "position") };
-    if (kind == LabelCode) {
-        control.hasText = !view.FindM("text")->text->EmptyM();
+    if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
+        const char* const name = control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption";
+        control.caption = view.FindM(name)->text;
+        control.captionAt = offsetOf(view, name);
+        control.hasText = kind == LabelCode && !control.caption->EmptyM();
+        control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
     }
     control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
     control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
@@ -88,6 +92,9 @@ public:
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
         checkPlaces(file_, controls_, findings_);
+#ifdef _WIN32
+        checkCaptions(file_, controls_, findings_);
+#endif
         checkOrder(file_, controls_, findings_);
     }
 

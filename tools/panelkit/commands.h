@@ -10,9 +10,29 @@ constexpr int CannotUse = 2; // Wrong arguments, or a file that can't be opened.
 // The function id of a control and the status that it is pictured in.
 using ControlStatusTP = std::pair<int, int>;
 
-int dumpCommand(const std::string& file);
-int inspectCommand(const std::string& file);
-int viewCommand(const std::string& file);
+// What the subcommands that show files take.
+struct ShowOptionsCL
+{
+    std::vector<std::string> files;
+    // What the user wrote for each file, where another program starts this one in the user's name.
+    std::vector<std::string> names;
+    bool isChecked { false }; // That program says what check finds.
+    std::string language;     // As for check.
+    bool isStrict { false };
+};
+// As the user wrote the file of a number.
+const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
+// Each prints what it has even when a file can't be used or is faulty; the result is the worst of all files.
+int dumpCommand(const ShowOptionsCL& options);
+int inspectCommand(const ShowOptionsCL& options);
+
+struct ViewOptionsCL : ShowOptionsCL
+{
+    bool watches { false };      // Follows changes of the file and its pictures.
+    bool logsMessages { false }; // Prints what the dialog gets from its controls.
+    bool showsIds { false };     // Writes on each control what the file calls it.
+};
+int viewCommand(const ViewOptionsCL& options);
 
 struct CheckOptionsCL
 {
@@ -22,9 +42,19 @@ struct CheckOptionsCL
     bool isStrict { false };        // Warnings count too.
 };
 int checkCommand(const CheckOptionsCL& options); // 0, 1 with findings, CannotUse.
+// For who shows a file: says on standard error what check finds in it, errors alone unless strict, with the
+// file as `said`. True when the exit code must be 1 for that. Says nothing of a file that can't be read.
+bool sayFindings(const std::string& file, const std::string& said, const ShowOptionsCL& options);
 
-int shotCommand(
-    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses);
+struct ShotOptionsCL : ShowOptionsCL
+{
+    std::string picture;                   // Of the one file;
+    std::string folder;                    // or where each file's picture goes, which is named after it.
+    std::string outName;                   // What the user wrote for that, as `names`.
+    std::vector<ControlStatusTP> statuses; // Of each file.
+    bool showsIds { false };               // As view does.
+};
+int shotCommand(const ShotOptionsCL& options);
 
 // What authors need at their desk. convert: `out` "" is the file itself; the result is 1 when the other code
 // can't hold the text. ids: `out` "" is standard output, space null a namespace named after the file. format:

@@ -18,6 +18,9 @@ struct CheckedControlCL
     int x, y, w, h;
     std::size_t idAt, indexAt, positionAt; // Offsets in the file.
     bool hasText { false };
+    const CharArr* caption { nullptr }; // Of a kind that shows one; GBK,
+    std::size_t captionAt { 0 };        // and where the file has it.
+    bool isSunken { false };
     bool isReadOnly { false };
     bool isDefault { false };
     int group { 0 };
@@ -74,4 +77,6 @@ void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& finding
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+// Only where a window system is.
+void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);

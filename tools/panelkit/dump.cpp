@@ -86,17 +86,20 @@ JsonTP newRotateButtonsOf(VrIOCL& io)
 
 } // namespace
 
-int dumpCommand(const std::string& file)
+int dumpCommand(const ShowOptionsCL& options)
 {
-    std::string name;
-    if (!enterFolderOf(file, &name)) {
-        return CannotUse;
-    }
-    VrIOCL io;
-    io.OpenM(name.c_str(), "r");
-    JsonTP sections = JsonTP::array();
-    slEachKindAsBuilt([&](auto row) { sections.push_back(sectionOf<typename decltype(row)::Records>(io)); });
-    printJson({ { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
-        { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } });
-    return 0;
+    DocumentsCL documents(options.files.size());
+    const int result = onEachFile(options, [&documents](const OpenedFileCL& file) {
+        VrIOCL io;
+        io.OpenM(file.name.c_str(), "r");
+        JsonTP sections = JsonTP::array();
+        slEachKindAsBuilt(
+            [&](auto row) { sections.push_back(sectionOf<typename decltype(row)::Records>(io)); });
+        documents.AddM(file.said,
+            { { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
+                { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } });
+        return 0;
+    });
+    documents.PrintM();
+    return result;
 }

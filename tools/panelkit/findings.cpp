@@ -74,22 +74,31 @@ std::string summary(std::size_t errors, std::size_t warnings, std::size_t files,
 
 } // namespace
 
+std::string FindingsCL::TextM(Language language, bool withWarnings) const
+{
+    std::string text;
+    for (const FindingCL& finding : list_) {
+        const MessageCL& message = messageOf(finding.says);
+        const bool isError = message.severity == Severity::Error;
+        const char* const word = language == Language::English ? severityName(message.severity)
+            : isError                                          ? "错误"
+                                                               : "警告";
+        if (isError || withWarnings) {
+            text += file_ + ":" + std::to_string(finding.place.line) + ":"
+                + std::to_string(finding.place.column) + ": " + word + ": " + finding.TextM(language) + " ["
+                + message.code + "]\n";
+        }
+    }
+    return text;
+}
+
 void printFindings(const std::vector<FindingsCL>& files, Language language)
 {
     std::size_t errors = 0;
     std::size_t warnings = 0;
     std::string out;
     for (const FindingsCL& file : files) {
-        for (const FindingCL& finding : file.ListM()) {
-            const MessageCL& message = messageOf(finding.says);
-            const bool isError = message.severity == Severity::Error;
-            const char* const word = language == Language::English ? severityName(message.severity)
-                : isError                                          ? "错误"
-                                                                   : "警告";
-            out += file.FileM() + ":" + std::to_string(finding.place.line) + ":"
-                + std::to_string(finding.place.column) + ": " + word + ": " + finding.TextM(language) + " ["
-                + message.code + "]\n";
-        }
+        out += file.TextM(language, true);
         errors += file.CountM(Severity::Error);
         warnings += file.CountM(Severity::Warning);
     }

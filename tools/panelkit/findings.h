@@ -2,6 +2,7 @@
 #include "baselib/file_text.h"
 #include "check_messages.h"
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -65,14 +66,25 @@ public:
     {
         list_.push_back({ says, offset, std::move(details) });
     }
+    void AddPictureM(const std::string& name) { pictures_.insert(name); }
+    const std::set<std::string>& PicturesM() const
+    {
+        return pictures_;
+    }             // Those on this machine, as named: GBK.
     void SortM(); // In the order of the file, each with its place, each once.
     const std::vector<FindingCL>& ListM() const { return list_; }
     std::size_t CountM(Severity severity) const;
+    bool IsFaultyM(bool isStrict) const // For the exit code.
+    {
+        return CountM(Severity::Error) > 0 || (isStrict && !list_.empty());
+    }
+    std::string TextM(Language language, bool withWarnings) const; // A line each.
 
 private:
     std::string file_; // As the user named it.
     std::shared_ptr<const FileTextCL> text_;
     std::vector<FindingCL> list_;
+    std::set<std::string> pictures_;
 };
 
 // Printed on standard output.

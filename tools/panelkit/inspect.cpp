@@ -62,32 +62,38 @@ JsonTP controlOf(HWND window, HWND dialog)
     return control;
 }
 
+JsonTP documentOf(HWND dialog)
+{
+    RECT rect {};
+    ::GetWindowRect(dialog, &rect);
+    JsonTP controls = JsonTP::array();
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        controls.push_back(controlOf(child, dialog));
+    }
+    return { { "dialog",
+                 { { "title", textOf(dialog) },
+                     { "style", hexWord(static_cast<DWORD>(::GetWindowLongW(dialog, GWL_STYLE))) },
+                     { "rect", rectOf(rect) } } },
+        { "controls", std::move(controls) } };
+}
+
 } // namespace
 
-int inspectCommand(const std::string& file)
+int inspectCommand(const ShowOptionsCL& options)
 {
-    std::string name;
-    if (!enterFolderOf(file, &name)) {
-        return CannotUse;
-    }
-    DuBasicDialogCL dialog;
-    dialog.SetConfigFileM(name.c_str());
-    if (dialog.CreateM() != 1) {
-        complain("the dialog of '" + file + "' can't be created");
-        return 1;
-    }
-    RECT rect {};
-    ::GetWindowRect(dialog.m_hWnd, &rect);
-    JsonTP controls = JsonTP::array();
-    for (HWND child = ::GetWindow(dialog.m_hWnd, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        controls.push_back(controlOf(child, dialog.m_hWnd));
-    }
-    printJson({ { "dialog",
-                    { { "title", textOf(dialog.m_hWnd) },
-                        { "style", hexWord(static_cast<DWORD>(::GetWindowLongW(dialog.m_hWnd, GWL_STYLE))) },
-                        { "rect", rectOf(rect) } } },
-        { "controls", std::move(controls) } });
-    dialog.DestroyWindow();
-    return 0;
+    DocumentsCL documents(options.files.size());
+    const int result = showEachFile(options, [&documents](const OpenedFileCL& file) {
+        DuBasicDialogCL dialog;
+        dialog.SetConfigFileM(file.name.c_str());
+        if (dialog.CreateM() != 1) {
+            complain("the dialog of '" + file.said + "' can't be created");
+            return 1;
+        }
+        documents.AddM(file.said, documentOf(dialog.m_hWnd));
+        dialog.DestroyWindow();
+        return 0;
+    });
+    documents.PrintM();
+    return result;
 }

@@ -97,6 +97,23 @@ void printJson(const JsonTP& document)
     PrinterCL().PrintM(document);
 }
 
+void DocumentsCL::AddM(const std::string& file, JsonTP&& document)
+{
+    JsonTP named = JsonTP::object();
+    if (isList_) {
+        named["file"] = file;
+    }
+    named.update(std::move(document));
+    documents_.push_back(std::move(named));
+}
+
+void DocumentsCL::PrintM() const
+{
+    if (!documents_.empty()) {
+        printJson(isList_ ? documents_ : documents_[0]);
+    }
+}
+
 std::string hexWord(unsigned long word)
 {
     char text[16];

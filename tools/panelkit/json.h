@@ -6,6 +6,22 @@
 using JsonTP = nlohmann::ordered_json;
 
 void printJson(const JsonTP& document);
+// What a subcommand says of each file, printed at the end: of one file its document, of several a list of
+// them, each with its "file" in front.
+class DocumentsCL
+{
+public:
+    explicit DocumentsCL(std::size_t files)
+        : isList_(files > 1)
+    {
+    }
+    void AddM(const std::string& file, JsonTP&& document);
+    void PrintM() const; // Nothing without a document.
+
+private:
+    bool isList_;
+    JsonTP documents_ = JsonTP::array();
+};
 std::string hexWord(unsigned long word); // "0x" and eight upper-case digits.
 
 // Writes each field that it sees as a key of an object; a row of one field is that field's value alone.

@@ -1,17 +1,11 @@
 #include "commands.h"
+#include <algorithm>
 #include <CLI/CLI.hpp>
-#include <cstdio>
 #ifdef _WIN32
 #include "application.h"
 #include <fcntl.h>
 #include <io.h>
 #endif
-
-int complain(const std::string& what)
-{
-    std::fprintf(stderr, "panelkit: %s\n", what.c_str());
-    return CannotUse;
-}
 
 namespace {
 
@@ -23,7 +17,7 @@ int run(std::vector<std::string> arguments)
     app.set_version_flag("--version", "panelkit " PANELKIT_VERSION);
 
     std::string file;
-    std::string picture;
+    ShotOptionsCL shown;
     std::vector<int> statuses; // In pairs: a control's id, its status.
     int result = 0;
     const auto add = [&](const char* name, const char* what) {
@@ -31,13 +25,35 @@ int run(std::vector<std::string> arguments)
         command->add_option("FILE", file, "the dialog description file")->required();
         return command;
     };
-    add("dump", "Prints what the library reads from FILE, as JSON.")->callback([&] {
-        result = dumpCommand(file);
+    const auto addForMany = [&](const char* name, const char* what) {
+        CLI::App* command = app.add_subcommand(name, what);
+        command->add_option("FILE", shown.files, "the dialog description files")->required();
+        return command;
+    };
+    const auto addShowing = [&](const char* name, const char* what) {
+        CLI::App* command = addForMany(name, what);
+        command->add_option("--lang", shown.language, "language of what check finds: en or zh")
+            ->check(CLI::IsMember({ "en", "zh" }));
+        command->add_flag(
+            "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
+        command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
+        command->add_flag("--checked", shown.isChecked)->group("");
+        return command;
+    };
+    addForMany("dump", "Prints what the library reads from each FILE, as JSON.")->callback([&] {
+        result = dumpCommand(shown);
     });
-    add("inspect", "Prints the windows that the library builds from FILE, as JSON.")->callback([&] {
-        result = inspectCommand(file);
+    addShowing("inspect", "Prints the windows that the library builds from each FILE, as JSON.")
+        ->callback([&] { result = inspectCommand(shown); });
+    ViewOptionsCL live;
+    CLI::App* view = addShowing("view", "Shows the dialog of each FILE, one after the other.");
+    view->add_flag("--watch", live.watches, "follows each change of FILE and its pictures");
+    view->add_flag("--messages", live.logsMessages, "prints what the dialog gets from its controls");
+    view->add_flag("--ids", live.showsIds, "writes id, place and Tab stop on each control");
+    view->callback([&] {
+        static_cast<ShowOptionsCL&>(live) = shown;
+        result = viewCommand(live);
     });
-    add("view", "Shows the dialog of FILE.")->callback([&] { result = viewCommand(file); });
     CheckOptionsCL options;
     CLI::App* check = app.add_subcommand("check", "Says what is wrong with each FILE, and where.");
     check->add_option("FILE", options.files, "the dialog description files; - is standard input")->required();
@@ -47,20 +63,34 @@ int run(std::vector<std::string> arguments)
         ->check(CLI::IsMember({ "en", "zh" }));
     check->add_flag("--strict", options.isStrict, "warnings count as errors for the exit code");
     check->callback([&] { result = checkCommand(options); });
-    CLI::App* shot = add("shot", "Writes a picture of the dialog of FILE, frame included.");
-    shot->add_option("OUT.png", picture, "the picture to write")->required();
+    CLI::App* shot = addShowing("shot",
+        "Writes a picture of the dialog of FILE, frame included, to the OUT.png or OUT.bmp behind it; with "
+        "-o one of "
+        "each FILE.");
     shot->add_option("--status", statuses,
             "pictures control ID in a status of its own: of a bitmap or multi-state button, the frame of a "
             "normal animation, the position of a new rotate button; may be repeated")
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);
+    shot->add_flag("--ids", shown.showsIds, "writes id, place and Tab stop on each control");
+    shot->add_option("-o", shown.folder,
+            "the folder for the picture of each FILE, named after it: a.dlg is pictured in DIR/a.png")
+        ->type_name("DIR");
+    shot->add_option("--out-as", shown.outName)->group("");
     shot->callback([&] {
-        std::vector<ControlStatusTP> pairs;
-        for (size_t i = 1; i < statuses.size(); i += 2) {
-            pairs.emplace_back(statuses[i - 1], statuses[i]);
+        if (shown.folder.empty()) {
+            if (shown.files.size() != 2) {
+                result = complain("shot needs FILE and OUT.png, or -o DIR with any number of files");
+                return;
+            }
+            shown.picture = shown.files.back();
+            shown.files.pop_back();
         }
-        result = shotCommand(file, picture, pairs);
+        for (size_t i = 1; i < statuses.size(); i += 2) {
+            shown.statuses.emplace_back(statuses[i - 1], statuses[i]);
+        }
+        result = shotCommand(shown);
     });
 
     std::string out;

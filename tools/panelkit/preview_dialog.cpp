@@ -73,6 +73,16 @@ BOOL PreviewDialogCL::OnInitDialog()
     return result;
 }
 
+void PreviewDialogCL::RebuildM()
+{
+    newRotateButtons_.clear();
+    DestroyM();
+    SendMessage(DM_SETDEFID, 0); // The button that was default is gone.
+    ::SetWindowTextW(m_hWnd, L"");
+    InitDlgM(this, 1);
+    addNewRotateButtonsM();
+}
+
 void PreviewDialogCL::addNewRotateButtonsM()
 {
     VrIOCL io;

@@ -11,6 +11,7 @@ class PreviewDialogCL : public DuBasicDialogCL
 public:
     explicit PreviewDialogCL(const std::string& file); // In the current folder, as the library takes it.
 
+    void RebuildM();        // All controls anew, from the file as it now is.
     bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
     // Puts the control with that id in a status as an application could: the status of a bitmap button or
     // multi-state button, the frame of a normal animation (it then stands still), the position of a new

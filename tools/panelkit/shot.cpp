@@ -1,32 +1,69 @@
-#include "application.h"
 #include "commands.h"
 #include "description_file.h"
-#include "png.h"
+#include "id_overlay.h"
+#include "pictures_to_write.h"
 #include "preview_dialog.h"
+#include "window_picture.h"
 #include <filesystem>
 
-int shotCommand(
-    const std::string& file, const std::string& picture, const std::vector<ControlStatusTP>& statuses)
+namespace {
+
+// Only the first window of a program finds another one in the foreground, so its caption may be that of a
+// window that isn't active: the others are pictured as that one is, as each would be alone.
+class ShotDialogCL : public PreviewDialogCL
 {
-    // Before the current folder changes: the picture goes where the user stands.
-    const std::wstring out = std::filesystem::absolute(std::filesystem::u8path(picture)).wstring();
-    std::string name;
-    if (!enterFolderOf(file, &name)) {
+public:
+    using PreviewDialogCL::PreviewDialogCL;
+    void TakeCaptionOfTheFirstM()
+    {
+        static const BOOL ofTheFirst = isCaptionActive_;
+        SendMessage(WM_NCACTIVATE, static_cast<WPARAM>(ofTheFirst));
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        isCaptionActive_ = message == WM_NCACTIVATE ? static_cast<BOOL>(wParam) : isCaptionActive_;
+        return PreviewDialogCL::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    BOOL isCaptionActive_ { FALSE };
+};
+
+} // namespace
+
+int shotCommand(const ShotOptionsCL& options)
+{
+    // Before the current folder changes: the pictures go where the user stands.
+    const std::vector<PictureToWriteCL> pictures = picturesToWrite(options);
+    if (pictures.empty()) {
         return CannotUse;
     }
-    PreviewDialogCL dialog(name);
-    const bool built = dialog.CreateM() == 1;
-    for (const auto& [id, status] : statuses) {
-        if (built && !dialog.SetStatusM(id, status)) {
-            return complain("control " + std::to_string(id) + " of '" + file + "' has no status "
-                + std::to_string(status));
+    return showEachFile(options, [&](const OpenedFileCL& file) {
+        ShotDialogCL dialog(file.name);
+        const bool built = dialog.CreateM() == 1;
+        for (const auto& [id, status] : options.statuses) {
+            if (built && !dialog.SetStatusM(id, status)) {
+                return complain("control " + std::to_string(id) + " of '" + file.said + "' has no status "
+                    + std::to_string(status));
+            }
         }
-    }
-    if (!built || !dialog.WaitUntilShownM()) {
-        complain("the dialog of '" + file + "' did not come up");
-        return 1;
-    }
-    const bool saved = saveWindowAsPng(dialog.m_hWnd, out);
-    dialog.DestroyWindow();
-    return saved ? 0 : complain("cannot write '" + picture + "'");
+        if (built) {
+            dialog.ShowWindow(SW_SHOW); // The library would take its time, for each picture.
+        }
+        if (!built || !dialog.WaitUntilShownM()) {
+            complain("the dialog of '" + file.said + "' did not come up");
+            return 1;
+        }
+        dialog.TakeCaptionOfTheFirstM();
+        if (options.showsIds) {
+            drawIds(dialog.m_hWnd);
+        }
+        const PictureToWriteCL& picture = pictures[file.number];
+        const std::wstring out = std::filesystem::u8path(picture.path).wstring();
+        const bool saved = saveWindow(dialog.m_hWnd, out, isBmpName(picture.said));
+        dialog.DestroyWindow();
+        return saved ? 0 : complain("cannot write '" + picture.said + "'");
+    });
 }

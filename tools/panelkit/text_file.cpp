@@ -1,8 +1,15 @@
 #include "text_file.h"
 #include "commands.h"
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+
+int complain(const std::string& what)
+{
+    std::fprintf(stderr, "panelkit: %s\n", what.c_str());
+    return CannotUse;
+}
 
 namespace {
 
@@ -29,14 +36,19 @@ std::filesystem::path freePathBeside(const std::filesystem::path& path)
 
 bool isRegularFile(const std::string& file)
 {
+    return isRegularFile(file, file);
+}
+
+bool isRegularFile(const std::string& file, const std::string& said)
+{
     std::error_code error;
     const std::filesystem::path path = std::filesystem::u8path(file);
     if (!std::filesystem::exists(path, error)) {
-        complain("cannot open '" + file + "': no such file");
+        complain("cannot open '" + said + "': no such file");
         return false;
     }
     if (!std::filesystem::is_regular_file(path, error)) {
-        complain("cannot open '" + file + "': not a regular file");
+        complain("cannot open '" + said + "': not a regular file");
         return false;
     }
     return true;

@@ -1,13 +1,11 @@
 #include "commands.h"
 #include "description_file.h"
-#include "preview_dialog.h"
+#include "live_dialog.h"
 
-int viewCommand(const std::string& file)
+int viewCommand(const ViewOptionsCL& options)
 {
-    std::string name;
-    if (!enterFolderOf(file, &name)) {
-        return CannotUse;
-    }
-    PreviewDialogCL(name).DoModalM();
-    return 0;
+    return showEachFile(options, [&options](const OpenedFileCL& file) {
+        LiveDialogCL(file.name, options).DoModalM();
+        return 0;
+    });
 }

@@ -3,7 +3,7 @@
 
 // Keeps a shown control from redrawing itself for as long as this lives, then has it drawn once. Null:
 // nothing.
-class PANELKIT_API FillingCL
+class FillingCL
 {
 public:
     explicit FillingCL(CWnd* control)

@@ -1,4 +1,4 @@
-#include "png.h"
+#include "window_picture.h"
 #include <utility>
 #include <vector>
 #include <wincodec.h>
@@ -49,7 +49,7 @@ std::vector<BYTE> pixelsOf(HWND window, int width, int height)
     return pixels;
 }
 
-bool savePng(const std::wstring& file, std::vector<BYTE>& pixels, int width, int height)
+bool save(const std::wstring& file, bool asBmp, std::vector<BYTE>& pixels, int width, int height)
 {
     const UINT columns = static_cast<UINT>(width);
     const UINT rows = static_cast<UINT>(height);
@@ -63,7 +63,8 @@ bool savePng(const std::wstring& file, std::vector<BYTE>& pixels, int width, int
                IID_IWICImagingFactory, reinterpret_cast<void**>(&factory)))
         && SUCCEEDED(factory->CreateStream(&stream))
         && SUCCEEDED(stream->InitializeFromFilename(file.c_str(), GENERIC_WRITE))
-        && SUCCEEDED(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder))
+        && SUCCEEDED(factory->CreateEncoder(
+            asBmp ? GUID_ContainerFormatBmp : GUID_ContainerFormatPng, nullptr, &encoder))
         && SUCCEEDED(encoder->Initialize(stream.GetM(), WICBitmapEncoderNoCache))
         && SUCCEEDED(encoder->CreateNewFrame(&frame, nullptr)) && SUCCEEDED(frame->Initialize(nullptr))
         && SUCCEEDED(frame->SetSize(columns, rows)) && SUCCEEDED(frame->SetPixelFormat(&format))
@@ -75,7 +76,7 @@ bool savePng(const std::wstring& file, std::vector<BYTE>& pixels, int width, int
 
 } // namespace
 
-bool saveWindowAsPng(HWND window, const std::wstring& file)
+bool saveWindow(HWND window, const std::wstring& file, bool asBmp)
 {
     RECT rect {};
     ::GetWindowRect(window, &rect);
@@ -85,7 +86,7 @@ bool saveWindowAsPng(HWND window, const std::wstring& file)
         return false;
     }
     std::vector<BYTE> pixels = pixelsOf(window, width, height);
-    const bool saved = savePng(file, pixels, width, height);
+    const bool saved = save(file, asBmp, pixels, width, height);
     ::CoUninitialize();
     return saved;
 }

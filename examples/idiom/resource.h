@@ -1,0 +1,68 @@
+// The ids of the three programs' resources.
+#ifndef IDIOM_RESOURCE_H
+#define IDIOM_RESOURCE_H
+
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
+// dialog_application
+#define IDR_ORDER 101
+#define IDD_ORDER 102
+#define IDD_ABOUT 103
+
+#define IDC_CUSTOMER 1001
+#define IDC_QUANTITY 1002
+#define IDC_PRICE 1003
+#define IDC_GOODS 1004
+#define IDC_TOTAL 1005
+#define IDC_EXPRESS 1006
+#define IDC_PAY_CASH 1007
+#define IDC_PAY_CARD 1008
+#define IDC_WORDS 1010
+#define IDC_SPLIT 1011
+#define IDC_LIST 1012
+#define IDC_SWATCH 1013
+#define IDC_SEND 1014
+#define IDC_PROGRESS 1015
+#define IDC_CLOCK 1016
+#define IDC_QUANTITY_SPIN 1017
+#define IDC_ABOUT_TEXT 1018
+
+#define IDM_FILE_OPEN 2001
+#define IDM_FILE_EXIT 2002
+#define IDM_LIST_CLEAR 2003
+#define IDM_LIST_SORT 2004
+#define IDM_ORDER_EXPRESS 2005
+#define IDM_HELP_ABOUT 2006
+#define IDM_GOODS_FIRST 2010
+#define IDM_GOODS_LAST 2012
+
+#define IDS_TITLE 3001
+#define IDS_BAD_QUANTITY 3002
+#define IDS_SENT 3003
+#define IDS_FILE_FILTER 3004
+#define IDS_CANNOT_OPEN 3005
+#define IDS_GOODS_FIRST 3010
+
+// custom_control
+#define IDD_GRID_HOST 201
+#define IDC_GRID 1101
+#define IDC_SELECTION 1102
+#define IDC_ACTIVATED 1103
+#define IDC_ROWS 1104
+#define IDC_SECOND_GRID 1105
+#define IDC_SECOND_PLACE 1106
+
+// custom_draw
+#define IDD_PARTS 301
+#define IDB_TREE 303
+#define IDC_PARTS 1201
+#define IDC_NUMBER 1202
+#define IDC_ADD 1203
+#define IDC_COLOUR 1204
+#define IDC_TREE 1205
+#define IDC_STATUS 1206
+#define IDC_MACHINE 1207
+
+#endif

@@ -1,0 +1,44 @@
+#pragma once
+#include "toolkit/menu.h"
+#include "toolkit/message_map.h"
+
+// What an ON_UPDATE_COMMAND_UI handler is asked about: an item of a menu, or a control. Texts are GBK, or
+// wide.
+class PANELKIT_API CCmdUI
+{
+public:
+    CCmdUI() = default;
+    virtual ~CCmdUI() = default;
+    CCmdUI(const CCmdUI&) = delete;
+    CCmdUI& operator=(const CCmdUI&) = delete;
+
+    UINT m_nID = 0;
+    UINT m_nIndex = 0;           // place in the menu
+    CMenu* m_pMenu = nullptr;    // null: a control
+    CMenu* m_pSubMenu = nullptr; // the item is this submenu
+    CWnd* m_pOther = nullptr;    // the control
+    BOOL m_bEnableChanged = FALSE;
+    BOOL m_bContinueRouting = FALSE;
+    UINT m_nIndexMax = 0;
+
+    virtual void Enable(BOOL on = TRUE);
+    virtual void SetCheck(int check = 1); // 0, 1, or 2 for undetermined
+    virtual void SetRadio(BOOL on = TRUE);
+    virtual void SetText(LPCSTR text);
+    AFX_WIDE_TEXT void SetText(const WideTP* text) { setTextM(text); }
+    void ContinueRouting() { m_bContinueRouting = TRUE; } // the handler has not dealt with it after all
+    // Asks the target. disableIfNoHandler: what no ON_COMMAND knows is disabled, unless the target enabled
+    // it.
+    BOOL DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler);
+
+private:
+    void setTextM(LPCWSTR text);
+};
+
+#define CN_COMMAND 0
+#define CN_UPDATE_COMMAND_UI (-1)
+
+#define ON_UPDATE_COMMAND_UI_RANGE(first, last, memberFxn)                                                   \
+    AFX_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, first, last, CCmdUI* ui = static_cast<CCmdUI*>(m.extra);     \
+              ui->m_bContinueRouting = FALSE; (self->*(memberFxn))(ui); return !ui->m_bContinueRouting;)
+#define ON_UPDATE_COMMAND_UI(nID, memberFxn) ON_UPDATE_COMMAND_UI_RANGE(nID, nID, memberFxn)

@@ -1,0 +1,110 @@
+#pragma once
+#include "toolkit/object.h"
+#include <exception>
+#include <utility>
+
+// Exceptions are thrown as pointers to objects on the heap. Who catches one with catch deletes it by Delete;
+// the macros below do so themselves.
+class PANELKIT_API CException : public CObject
+{
+    DECLARE_DYNAMIC(CException)
+public:
+    CException() = default;
+    explicit CException(BOOL autoDelete)
+        : isAutoDeleted_(autoDelete)
+    {
+    }
+    void Delete(); // nothing for one that was made with FALSE
+    // The text for the user in GBK, cut between characters to size bytes with the zero. FALSE: there is none.
+    virtual BOOL GetErrorMessage(LPSTR to, UINT size, PUINT helpId = nullptr) const;
+    // Shows the text in a message box; without one that of the string resource textId, else a general one.
+    virtual int ReportError(UINT type = MB_OK, UINT textId = 0);
+
+private:
+    BOOL isAutoDeleted_ = TRUE;
+};
+
+// One that is told by a fixed text.
+class PANELKIT_API CSimpleException : public CException
+{
+    DECLARE_DYNAMIC(CSimpleException)
+public:
+    using CException::CException;
+    BOOL GetErrorMessage(LPSTR to, UINT size, PUINT helpId = nullptr) const override;
+
+protected:
+    virtual LPCWSTR textM() const { return nullptr; } // null: none
+};
+
+#define AFX_SIMPLE_EXCEPTION(class_name)                                                                     \
+    class PANELKIT_API class_name : public CSimpleException                                                  \
+    {                                                                                                        \
+        DECLARE_DYNAMIC(class_name)                                                                          \
+    public:                                                                                                  \
+        using CSimpleException::CSimpleException;                                                            \
+                                                                                                             \
+    protected:                                                                                               \
+        LPCWSTR textM() const override;                                                                      \
+    };
+AFX_SIMPLE_EXCEPTION(CMemoryException)
+AFX_SIMPLE_EXCEPTION(CResourceException)
+AFX_SIMPLE_EXCEPTION(CUserException) // ends what the user has begun and has been told the reason of
+AFX_SIMPLE_EXCEPTION(CNotSupportedException)
+AFX_SIMPLE_EXCEPTION(CInvalidArgException)
+#undef AFX_SIMPLE_EXCEPTION
+
+[[noreturn]] PANELKIT_API void AfxThrowMemoryException();
+[[noreturn]] PANELKIT_API void AfxThrowResourceException();
+[[noreturn]] PANELKIT_API void AfxThrowUserException();
+[[noreturn]] PANELKIT_API void AfxThrowNotSupportedException();
+[[noreturn]] PANELKIT_API void AfxThrowInvalidArgException();
+[[noreturn]] PANELKIT_API void AfxAbort(); // ends the program at once
+
+// Deletes the exception at the end of a CATCH block, unless it goes on or another one leaves the block.
+class AfxCaught
+{
+public:
+    explicit AfxCaught(CException* caught)
+        : caught_(caught)
+        , flying_(std::uncaught_exceptions())
+    {
+    }
+    ~AfxCaught()
+    {
+        if (caught_ != nullptr && std::uncaught_exceptions() == flying_) {
+            caught_->Delete();
+        }
+    }
+    AfxCaught(const AfxCaught&) = delete;
+    AfxCaught& operator=(const AfxCaught&) = delete;
+
+private:
+    CException* caught_;
+    int flying_;
+};
+
+#define TRY                                                                                                  \
+    {                                                                                                        \
+        try {
+#define AFX_CATCH(class_name, e)                                                                             \
+    }                                                                                                        \
+    catch (class_name * e)                                                                                   \
+    {                                                                                                        \
+        const AfxCaught afxCaught(e);
+#define CATCH(class_name, e) AFX_CATCH(class_name, e)
+#define AND_CATCH(class_name, e) AFX_CATCH(class_name, e)
+#define CATCH_ALL(e) AFX_CATCH(CException, e)
+#define AND_CATCH_ALL(e) AFX_CATCH(CException, e)
+#define END_CATCH                                                                                            \
+    }                                                                                                        \
+    }
+#define END_CATCH_ALL END_CATCH
+#define END_TRY                                                                                              \
+    }                                                                                                        \
+    catch (CException * afxException)                                                                        \
+    {                                                                                                        \
+        afxException->Delete();                                                                              \
+    }                                                                                                        \
+    }
+#define THROW(e) throw e
+#define THROW_LAST() throw

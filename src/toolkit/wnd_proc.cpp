@@ -1,0 +1,136 @@
+#include "toolkit/app.h"
+#include "toolkit/life.h"
+#include "toolkit/thread_state.h"
+#include "toolkit/wnd.h"
+
+BOOL CWnd::PreTranslateMessage(MSG*)
+{
+    return FALSE;
+}
+
+BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
+{
+    for (HWND at = message->hwnd; at != nullptr; at = ::GetParent(at)) {
+        CWnd* wnd = FromHandlePermanent(at);
+        if (wnd != nullptr && wnd->PreTranslateMessage(message)) {
+            return TRUE;
+        }
+        if (at == stop) {
+            break;
+        }
+    }
+    return FALSE;
+}
+
+// Here, not with the thread: the windows know it, so it must not know them.
+BOOL CWinThread::PreTranslateMessage(MSG* message)
+{
+    if (message->hwnd == nullptr) {
+        return dispatchThreadMessageM(*message);
+    }
+    HWND mainWnd = m_pMainWnd == nullptr ? nullptr : m_pMainWnd->m_hWnd;
+    return CWnd::WalkPreTranslateTree(mainWnd, message);
+}
+
+// What the window procedure does with the members of a window's object. As a function it could not be their
+// friend without losing its import.
+struct WindowMessageCL
+{
+    static LRESULT HandleM(CWnd* wnd, const LifeCL& life, const MSG& message)
+    {
+        const HWND hWnd = message.hwnd;
+        const LRESULT result = wnd->WindowProc(message.message, message.wParam, message.lParam);
+        if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == hWnd) {
+            wnd->CWnd::OnNcDestroy(); // its own handler didn't pass the message on
+        }
+        return result;
+    }
+    // Of a window whose object has left while another procedure calls ours.
+    static LRESULT PassM(ThreadStateCL& state, const MSG& message)
+    {
+        const auto place = state.left.find(message.hwnd);
+        const WNDPROC next = place == state.left.end() ? ::DefWindowProcW : place->second;
+        if (message.message == WM_NCDESTROY && place != state.left.end()) {
+            state.left.erase(place);
+        }
+        return ::CallWindowProcW(next, message.hwnd, message.message, message.wParam, message.lParam);
+    }
+};
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ThreadStateCL& state = ThreadStateCL::ThisM();
+    const MSG handled = { hWnd, message, wParam, lParam, 0, {} };
+    CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
+    if (wnd == nullptr || state.left.count(hWnd) != 0) {
+        return WindowMessageCL::PassM(state, handled);
+    }
+    MSG outerMessage = state.message;
+    state.message = handled;
+    ++state.depth;
+    LRESULT result = 0;
+    {
+        LifeCL life(wnd);
+        try {
+            result = WindowMessageCL::HandleM(wnd, life, handled);
+        } catch (...) {
+            // The window system's frames below cannot carry an exception.
+            result = AfxAnswerException(handled);
+        }
+    }
+    --state.depth;
+    state.message = outerMessage;
+    return result;
+}
+
+void CWnd::beginModalM()
+{
+    modalResult_ = -1;
+    modal_ = Modal::Running;
+}
+
+int CWnd::endModalM()
+{
+    modal_ = Modal::No;
+    return modalResult_;
+}
+
+void CWnd::EndModalLoop(int result)
+{
+    modalResult_ = result;
+    modal_ = Modal::Ended;
+    PostMessage(WM_NULL); // the loop may be waiting
+}
+
+int CWnd::RunModalLoop(DWORD flags)
+{
+    const bool isOwn = !isModalM();
+    if (isOwn) {
+        beginModalM();
+    }
+    LifeCL life(this);
+    LoopCL loop;
+    CWinThread* thread = AfxGetThread();
+    HWND hWnd = m_hWnd;
+    bool isShown = (flags & MLF_SHOWONIDLE) == 0 || IsWindowVisible() != FALSE;
+    while (life.IsAliveM() && ContinueModal() && m_hWnd == hWnd) {
+        MSG next;
+        if (!::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE)) {
+            if (!isShown) {
+                isShown = true;
+                ShowWindow(SW_SHOWNORMAL);
+                UpdateWindow();
+                continue;
+            }
+            thread->OnIdle(0);
+        }
+        if (!thread->PumpMessage()) {
+            ::PostQuitMessage(thread->ExitCode()); // the loops outside must end too
+            break;
+        }
+    }
+    if (!life.IsAliveM()) {
+        return -1;
+    }
+    return isOwn ? endModalM() : modalResult_;
+}
