@@ -8,11 +8,6 @@ BOOL CButton::Create(LPCSTR caption, DWORD style, const RECT& rect, CWnd* parent
     return CWnd::Create("Button", caption, style, rect, parent, id);
 }
 
-BOOL CButton::createM(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
-{
-    return Create(WideToGbk(caption).c_str(), style, rect, parent, id) && AfxKeepWideText(*this, caption);
-}
-
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     return AfxDrawnSingle(this, message, lParam, result)

@@ -10,7 +10,7 @@ public:
     BOOL Create(LPCSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
     AFX_WIDE_TEXT BOOL Create(const WideTP* caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
     {
-        return createM(caption, style, rect, parent, id);
+        return CWnd::Create("Button", caption, style, rect, parent, id);
     }
     void SetCheck(int check) { SendMessage(BM_SETCHECK, AfxWordOf(check)); }
     int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
@@ -29,7 +29,4 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
-
-private:
-    BOOL createM(LPCWSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 };

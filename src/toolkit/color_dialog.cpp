@@ -27,7 +27,7 @@ COLORREF* CColorDialog::GetSavedCustomColors()
     return saved.data();
 }
 
-CColorDialog::ModalTP CColorDialog::DoModal()
+INT_PTR CColorDialog::DoModal()
 {
     using CallTP = BOOL(WINAPI*)(CHOOSECOLORW*);
     const auto call = reinterpret_cast<CallTP>(reinterpret_cast<void*>(systemCallM("ChooseColorW")));

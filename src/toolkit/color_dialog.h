@@ -10,7 +10,7 @@ public:
     explicit CColorDialog(COLORREF initial = 0, DWORD flags = 0, CWnd* parent = nullptr);
 
     CHOOSECOLOR m_cc;           // may be changed before DoModal; holds the outcome after it
-    ModalTP DoModal() override; // IDOK or IDCANCEL
+    INT_PTR DoModal() override; // IDOK or IDCANCEL
     COLORREF GetColor() const { return m_cc.rgbResult; }
     void SetCurrentColor(COLORREF color);    // while the dialog is there
     static COLORREF* GetSavedCustomColors(); // the sixteen that the user mixes, as long as the program runs

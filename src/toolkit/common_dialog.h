@@ -38,7 +38,6 @@ public:
     }
 
 protected:
-    typedef decltype(std::declval<CDialog>().DoModal()) ModalTP;
     void OnOK() override { Default(); }
     void OnCancel() override { Default(); }
     HWND ownerM() const;

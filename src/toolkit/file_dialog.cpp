@@ -84,7 +84,7 @@ CFileDialog::CFileDialog(BOOL isOpen, AfxGivenText defaultExtension, AfxGivenTex
     }
 }
 
-CFileDialog::ModalTP CFileDialog::DoModal()
+INT_PTR CFileDialog::DoModal()
 {
     const std::wstring filter = wideListM(m_ofn.lpstrFilter);
     const WideOrNullCL folder(m_ofn.lpstrInitialDir);

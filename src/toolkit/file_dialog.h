@@ -22,7 +22,7 @@ public:
     OPENFILENAMEA& GetOFN() { return m_ofn; }
     const OPENFILENAMEA& GetOFN() const { return m_ofn; }
     // IDOK, or IDCANCEL: also when the names don't fit into the buffer. CommDlgExtendedError tells more.
-    ModalTP DoModal() override;
+    INT_PTR DoModal() override;
 
     // After IDOK, or while the dialog is there (from OnInitDone on).
     CString GetPathName() const;

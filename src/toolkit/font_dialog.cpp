@@ -12,7 +12,7 @@ namespace {
 constexpr size_t CommonBytes = offsetof(LOGFONTW, lfFaceName);
 static_assert(CommonBytes == offsetof(LOGFONTA, lfFaceName), "what a font has before its face");
 
-LOGFONTW wideFontM(const LOGFONTA& font)
+LOGFONTW wideLogFontM(const LOGFONTA& font)
 {
     LOGFONTW wide = {};
     std::memcpy(&wide, &font, CommonBytes);
@@ -22,7 +22,7 @@ LOGFONTW wideFontM(const LOGFONTA& font)
     return wide;
 }
 
-LOGFONTA gbkFontM(const LOGFONTW& font)
+LOGFONTA gbkLogFontM(const LOGFONTW& font)
 {
     LOGFONTA gbk = {};
     std::memcpy(&gbk, &font, CommonBytes);
@@ -54,13 +54,13 @@ void CFontDialog::initializeM(const LOGFONTW* font)
 {
     if (font != nullptr) {
         m_cf.Flags |= CF_INITTOLOGFONTSTRUCT;
-        m_lf = gbkFontM(*font);
+        m_lf = gbkLogFontM(*font);
     }
 }
 
-CFontDialog::ModalTP CFontDialog::DoModal()
+INT_PTR CFontDialog::DoModal()
 {
-    LOGFONTW font = wideFontM(m_lf);
+    LOGFONTW font = wideLogFontM(m_lf);
     wchar_t style[LF_FACESIZE] = {};
     CHOOSEFONTW wide = {};
     wide.lStructSize = sizeof wide;
@@ -81,7 +81,7 @@ CFontDialog::ModalTP CFontDialog::DoModal()
     if (call == nullptr || !call(&wide)) {
         return IDCANCEL;
     }
-    m_lf = gbkFontM(font);
+    m_lf = gbkLogFontM(font);
     slCopyText(style_, static_cast<int>(sizeof style_), WideToGbk(style));
     m_cf.iPointSize = wide.iPointSize;
     m_cf.rgbColors = wide.rgbColors;
@@ -101,7 +101,7 @@ UINT_PTR CALLBACK CFontDialog::hookM(HWND hWnd, UINT message, WPARAM, LPARAM lPa
 
 LOGFONTW CFontDialog::fontM() const
 {
-    LOGFONTW font = wideFontM(m_lf);
+    LOGFONTW font = wideLogFontM(m_lf);
     if (m_hWnd != nullptr) {
         SendMessage(WM_CHOOSEFONT_GETLOGFONT, 0, reinterpret_cast<LPARAM>(&font));
     }
@@ -110,7 +110,7 @@ LOGFONTW CFontDialog::fontM() const
 
 void CFontDialog::GetCurrentFont(LOGFONTA* to) const
 {
-    *to = gbkFontM(fontM());
+    *to = gbkLogFontM(fontM());
 }
 
 void CFontDialog::GetCurrentFont(LOGFONTW* to) const
@@ -120,7 +120,7 @@ void CFontDialog::GetCurrentFont(LOGFONTW* to) const
 
 CString CFontDialog::GetFaceName() const
 {
-    return CString(gbkFontM(fontM()).lfFaceName);
+    return CString(gbkLogFontM(fontM()).lfFaceName);
 }
 
 CString CFontDialog::GetStyleName() const

@@ -20,7 +20,7 @@ public:
 
     CHOOSEFONTA m_cf; // may be changed before DoModal; holds the outcome after it. Its font is m_lf
     LOGFONTA m_lf;
-    ModalTP DoModal() override; // IDOK or IDCANCEL
+    INT_PTR DoModal() override; // IDOK or IDCANCEL
 
     // After IDOK, or of what is selected while the dialog is there.
     void GetCurrentFont(LOGFONTA* to) const;

@@ -32,12 +32,3 @@ template <class ListTP> BOOL AfxDrawnList(ListTP* list, UINT message, LPARAM lPa
         return AfxDrawnSingle(list, message, lParam, result);
     }
 }
-
-// After a window was created with the GBK form of its text: what GBK cannot say of it too. Always TRUE.
-inline BOOL AfxKeepWideText(const CWnd& control, LPCWSTR text)
-{
-    if (text != nullptr && slGbkToShown(WideToGbk(text).c_str()) != text) {
-        ::SetWindowTextW(control.m_hWnd, text);
-    }
-    return TRUE;
-}

@@ -8,11 +8,6 @@ BOOL CStatic::Create(LPCSTR text, DWORD style, const RECT& rect, CWnd* parent, U
     return CWnd::Create("Static", text, style, rect, parent, id);
 }
 
-BOOL CStatic::createM(LPCWSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
-{
-    return Create(WideToGbk(text).c_str(), style, rect, parent, id) && AfxKeepWideText(*this, text);
-}
-
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     return AfxDrawnSingle(this, message, lParam, result)

@@ -10,7 +10,7 @@ public:
     AFX_WIDE_TEXT BOOL Create(
         const WideTP* text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF)
     {
-        return createM(text, style, rect, parent, id);
+        return CWnd::Create("Static", text, style, rect, parent, id);
     }
     HBITMAP SetBitmap(HBITMAP bitmap) { return AfxSendHandle(*this, STM_SETIMAGE, IMAGE_BITMAP, bitmap); }
     HBITMAP GetBitmap() const { return AfxSendHandle<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP); }
@@ -31,7 +31,4 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
-
-private:
-    BOOL createM(LPCWSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 };

@@ -55,20 +55,6 @@ public:
     }
 };
 
-// Offers the keys of its list boxes to them.
-class KeyParentCL : public ParentWindowCL
-{
-public:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        CWnd* list = message == WM_VKEYTOITEM ? FromHandlePermanent(reinterpret_cast<HWND>(lParam)) : nullptr;
-        LRESULT answer = 0;
-        return list != nullptr && list->SendChildNotifyLastMsg(&answer)
-            ? answer
-            : ParentWindowCL::WindowProc(message, wParam, lParam);
-    }
-};
-
 } // namespace
 
 TEST_F(ListBox, TextsAreGbk)
@@ -176,10 +162,9 @@ TEST_F(ListBox, ListsFilesOfChineseNames)
 
 TEST_F(ListBox, OwnerDrawnAsksItsVirtualFunctions)
 {
-    KeyParentCL keys;
     OwnListCL own;
     const DWORD style = WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_SORT | LBS_WANTKEYBOARDINPUT;
-    ASSERT_TRUE(own.Create(style, Place, &keys, 2));
+    ASSERT_TRUE(own.Create(style, Place, &parent, 2));
     EXPECT_EQ(own.measured, 1);
     EXPECT_EQ(own.GetItemHeight(0), 31);
     const auto add = [&](LPARAM data) { return own.SendMessage(LB_ADDSTRING, 0, data); };
@@ -188,7 +173,7 @@ TEST_F(ListBox, OwnerDrawnAsksItsVirtualFunctions)
     EXPECT_EQ(add(20), 1);
     own.RedrawWindow();
     EXPECT_FALSE(own.drawn.empty());
-    ASSERT_TRUE(ActivateM(keys));
+    ASSERT_TRUE(ActivateM(parent));
     ASSERT_TRUE(FocusM(own));
     own.SetCurSel(0);
     KeyM(VK_F2);
