@@ -4,6 +4,8 @@
 #include "toolkit/module.h"
 #include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
+#include <mutex>
+#include <set>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CImageList, CObject)
@@ -29,17 +31,52 @@ int addMaskedM(HIMAGELIST list, HBITMAP bitmap, COLORREF mask)
     return addMasked != nullptr ? addMasked(list, bitmap, mask) : -1;
 }
 
+// The handles that objects own, for as long as this lives. The objects themselves may be moved by their
+// bytes.
+class OwnedCL
+{
+public:
+    std::set<HIMAGELIST>& handles = knownM().handles;
+
+private:
+    struct KnownTP
+    {
+        std::set<HIMAGELIST> handles;
+        std::mutex mutex;
+    };
+    static KnownTP& knownM()
+    {
+        static KnownTP& known = *new KnownTP; // Objects of static life outlast any order of its end.
+        return known;
+    }
+    std::lock_guard<std::mutex> lock_ { knownM().mutex };
+};
+
 } // namespace
 
 BOOL CImageList::Attach(HIMAGELIST list)
 {
     m_hImageList = list;
+    if (list != nullptr) {
+        OwnedCL owned;
+        owned.handles.insert(list);
+    }
     return list != nullptr;
 }
 
 HIMAGELIST CImageList::Detach()
 {
+    if (m_hImageList != nullptr) {
+        OwnedCL owned;
+        owned.handles.erase(m_hImageList);
+    }
     return std::exchange(m_hImageList, nullptr);
+}
+
+BOOL CImageList::IsOwned(HIMAGELIST list)
+{
+    OwnedCL owned;
+    return owned.handles.count(list) != 0;
 }
 
 CImageList* CImageList::FromHandle(HIMAGELIST list)

@@ -19,6 +19,7 @@ public:
     BOOL Attach(HIMAGELIST list);
     HIMAGELIST Detach();
     static CImageList* FromHandle(HIMAGELIST list); // temporary object; null for a null handle
+    static BOOL IsOwned(HIMAGELIST list);           // an object that is not a temporary one will delete it
 
     // A list that the object still has is deleted first.
     BOOL Create(int width, int height, UINT flags, int initial, int grow);

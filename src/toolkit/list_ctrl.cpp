@@ -10,6 +10,22 @@ BOOL CListCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
     return CWnd::Create("SysListView32", nullptr, style, rect, parent, id);
 }
 
+BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
+ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+void CListCtrl::OnDestroy()
+{
+    if ((GetStyle() & LVS_SHAREIMAGELISTS) == 0) {
+        for (const int which : { LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE }) {
+            if (CImageList::IsOwned(AfxSendHandle<HIMAGELIST>(*this, LVM_GETIMAGELIST, AfxWordOf(which)))) {
+                SetImageList(nullptr, which);
+            }
+        }
+    }
+    CWnd::OnDestroy();
+}
+
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     return AfxDrawnSingle(this, message, lParam, result)

@@ -197,6 +197,8 @@ public:
     virtual void DrawItem(LPDRAWITEMSTRUCT) { } // of LVS_OWNERDRAWFIXED
 
 protected:
+    afx_msg void OnDestroy(); // keeps the window from deleting what objects own
+    DECLARE_MESSAGE_MAP()
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
 private:

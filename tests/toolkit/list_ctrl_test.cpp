@@ -305,3 +305,15 @@ TEST_F(ListCtrl, DrawsItselfWhereItsOwnerIsToDraw)
     drawn.RedrawWindow();
     EXPECT_EQ(drawn.drawn, (std::vector<UINT> { 0, 1 }));
 }
+
+TEST_F(ListCtrl, LeavesPicturesToTheirObject)
+{
+    CImageList pictures;
+    ASSERT_TRUE(pictures.Create(16, 16, ILC_COLOR24, 0, 4));
+    ASSERT_TRUE(pictures.SetImageCount(3));
+    makeM();
+    list.SetImageList(&pictures, LVSIL_SMALL);
+    list.DestroyWindow();
+    EXPECT_EQ(pictures.GetImageCount(), 3);
+    EXPECT_TRUE(pictures.DeleteImageList());
+}
