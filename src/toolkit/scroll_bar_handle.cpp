@@ -1,4 +1,4 @@
-#include "toolkit/controls.h"
+#include "toolkit/scroll_bar.h"
 
 // Here, not with the others of its class: the controls know windows, so those must not know controls.
 HWND WndRelationsCL::scrollBarHandleM(int bar) const
