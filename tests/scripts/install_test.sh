@@ -22,21 +22,6 @@ int main()
 EOF
 "$compiler" -std=c++17 -Wall -Wextra -Werror -Iinclude/panelkit "$folder/application.cpp" -o "$folder/application.exe" \
   -Llib -lpanelkit -lgdi32 -lcomctl32 -MD -MF "$folder/read"
-# An application object is enough; a WinMain of the program's own goes before the one that comes along.
-cat >"$folder/object.cpp" <<'EOT'
-#include "panelkit.h"
-CWinApp application;
-#ifdef HAS_OWN
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR line, int show)
-{
-    return AfxWinMain(instance, previous, line, show);
-}
-#endif
-EOT
-for own in -UHAS_OWN -DHAS_OWN; do
-  "$compiler" -std=c++17 -Wall -Wextra -Werror "$own" -Iinclude/panelkit "$folder/object.cpp" -o "$folder/object.exe" \
-    -Llib -lpanelkit -lgdi32 -lcomctl32 -mwindows
-done
 tr -s ' \\' '\n\n' <"$folder/read" | sed -n 's|^.*include/panelkit/||p' | sort >"$folder/headers_read"
 find include/panelkit -type f -printf '%P\n' | sort >"$folder/headers_installed"
 diff "$folder/headers_read" "$folder/headers_installed" || { echo "left: read, right: installed"; exit 1; }

@@ -145,6 +145,7 @@ TEST(Menu, OneFromATemplate)
     CMenu missing;
     EXPECT_FALSE(missing.LoadMenu(4711));
     EXPECT_FALSE(missing.LoadMenu("no such menu"));
+    EXPECT_FALSE(missing.LoadMenu(MAKEINTRESOURCE(4711)));
     EXPECT_EQ(missing.m_hMenu, nullptr);
 }
 
