@@ -25,7 +25,7 @@ template <class ObjectTP> ObjectTP* objectM(HGDIOBJ handle)
         : ThreadStateCL::ThisM().gdi.GetM<ObjectTP, &CGdiObject::m_hObject>(handle);
 }
 
-LOGFONTW wideFontM(const LOGFONTA& font)
+LOGFONTW ofGbkFontM(const LOGFONTA& font)
 {
     // The two layouts agree up to the face name.
     LOGFONTW wide = {};
@@ -112,13 +112,13 @@ BOOL CBrush::CreatePatternBrush(CBitmap* pattern)
 
 BOOL CFont::CreateFontIndirect(const LOGFONTA* font)
 {
-    const LOGFONTW wide = wideFontM(*font);
+    const LOGFONTW wide = ofGbkFontM(*font);
     return CreateFontIndirect(&wide);
 }
 
 BOOL CFont::CreatePointFontIndirect(const LOGFONTA* font, CDC* dc)
 {
-    const LOGFONTW wide = wideFontM(*font);
+    const LOGFONTW wide = ofGbkFontM(*font);
     return CreatePointFontIndirect(&wide, dc);
 }
 
