@@ -1,7 +1,7 @@
 # cmake --install gives a folder that may be moved: programs and panelkit.dll in bin, what a linker, CMake and
 # pkg-config need in lib, the headers, the docs.
 install(DIRECTORY docs/ DESTINATION share/doc/panelkit)
-install(FILES CHANGELOG.md README.md DESTINATION share/doc/panelkit)
+install(FILES CHANGELOG.md DESTINATION share/doc/panelkit)
 install(TARGETS panelkit_command)
 install(TARGETS panelkit EXPORT panelkitTargets)
 install(CODE "set(PANELKIT_SOURCE \"${PROJECT_SOURCE_DIR}/src\")

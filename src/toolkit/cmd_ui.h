@@ -35,10 +35,7 @@ private:
     void setTextM(LPCWSTR text);
 };
 
-#define CN_COMMAND 0
-#define CN_UPDATE_COMMAND_UI (-1)
-
 #define ON_UPDATE_COMMAND_UI_RANGE(first, last, memberFxn)                                                   \
-    AFX_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, first, last, CCmdUI* ui = static_cast<CCmdUI*>(m.extra);     \
+    AFX_ENTRY(WM_UPDATE_COMMAND_UI, 0, first, last, CCmdUI* ui = static_cast<CCmdUI*>(m.extra);              \
               ui->m_bContinueRouting = FALSE; (self->*(memberFxn))(ui); return !ui->m_bContinueRouting;)
 #define ON_UPDATE_COMMAND_UI(nID, memberFxn) ON_UPDATE_COMMAND_UI_RANGE(nID, nID, memberFxn)

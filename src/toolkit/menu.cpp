@@ -46,6 +46,12 @@ LPCWSTR pictureWordM(const CBitmap* bitmap)
 
 } // namespace
 
+HMENU CMenu::GetSafeHmenu() const
+{
+    const CMenu* const volatile self = this; // may be null, as the compiler does not know
+    return self == nullptr ? nullptr : self->m_hMenu;
+}
+
 BOOL CMenu::Attach(HMENU menu)
 {
     if (menu == nullptr) {

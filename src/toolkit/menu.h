@@ -16,7 +16,7 @@ public:
     ~CMenu() override { DestroyMenu(); }
 
     HMENU m_hMenu = nullptr;
-    HMENU GetSafeHmenu() const { return m_hMenu; }
+    HMENU GetSafeHmenu() const; // null also where there is no object
     operator HMENU() const { return m_hMenu; }
     BOOL operator==(const CMenu& other) const { return m_hMenu == other.m_hMenu; }
     BOOL operator!=(const CMenu& other) const { return m_hMenu != other.m_hMenu; }

@@ -31,8 +31,11 @@ const AFX_MSGMAP_ENTRY* CCmdTarget::findEntryM(UINT message, int code, UINT id) 
 
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* extra, AFX_CMDHANDLERINFO* info)
 {
-    UINT kind = HIWORD(static_cast<DWORD>(nCode)) == WM_NOTIFY ? WM_NOTIFY : WM_COMMAND;
-    int code = static_cast<short>(LOWORD(static_cast<DWORD>(nCode)));
+    // The question about a command has a number of its own: combo boxes have a notification of its code.
+    const bool isQuestion = nCode == CN_UPDATE_COMMAND_UI;
+    const bool isNotify = !isQuestion && HIWORD(static_cast<DWORD>(nCode)) == WM_NOTIFY;
+    const UINT kind = isQuestion ? WM_UPDATE_COMMAND_UI : isNotify ? WM_NOTIFY : WM_COMMAND;
+    const int code = isQuestion ? 0 : static_cast<short>(LOWORD(static_cast<DWORD>(nCode)));
     const AFX_MSGMAP_ENTRY* entry = findEntryM(kind, code, nID);
     if (entry == nullptr) {
         return FALSE;

@@ -51,6 +51,10 @@ struct AFX_CMDHANDLERINFO
 #define WM_CTLCOLOR 0x0019 // the one number that stands for the seven of the window system
 #endif
 #define WM_REFLECT_BASE 0xBC00
+// Stands for the question that ON_UPDATE_COMMAND_UI answers; no such message is sent.
+#define WM_UPDATE_COMMAND_UI 0xBBFF
+#define CN_COMMAND 0
+#define CN_UPDATE_COMMAND_UI (-1)
 
 // Something with a message map.
 class PANELKIT_API CCmdTarget : public CObject

@@ -12,7 +12,7 @@ class PANELKIT_API WndCallsCL : public CCmdTarget
 {
 public:
     HWND m_hWnd = nullptr;
-    HWND GetSafeHwnd() const { return m_hWnd; }
+    HWND GetSafeHwnd() const; // null also where there is no object
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const WndCallsCL& other) const { return m_hWnd == other.m_hWnd; }
     BOOL operator!=(const WndCallsCL& other) const { return m_hWnd != other.m_hWnd; }

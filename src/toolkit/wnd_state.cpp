@@ -19,6 +19,13 @@ constexpr int PathSize = MAX_PATH;
 
 } // namespace
 
+HWND WndCallsCL::GetSafeHwnd() const
+{
+    // Applications call it for a null, which the compiler would take for impossible.
+    const WndCallsCL* const volatile self = this;
+    return self == nullptr ? nullptr : self->m_hWnd;
+}
+
 int WndCallsCL::GetCheckedRadioButton(int first, int last) const
 {
     for (int id = first; id <= last; ++id) {

@@ -121,11 +121,3 @@ TEST(WaitCursor, ShowsTheHourglassAsLongAsTheOutermostLives)
     }
     EXPECT_EQ(::GetCursor(), arrow);
 }
-
-TEST(Diagnostics, ObjectIsCheckedAsTheClassItIsKnownToBe)
-{
-    CButton button;
-    CWnd* const wnd = &button;
-    EXPECT_EQ(STATIC_DOWNCAST(CButton, wnd), &button);
-    EXPECT_EQ(STATIC_DOWNCAST(CButton, static_cast<CWnd*>(nullptr)), nullptr);
-}

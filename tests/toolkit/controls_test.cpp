@@ -73,7 +73,7 @@ TEST(Controls, NotificationGoesToTheChildElseToTheParent)
 TEST(Controls, OwnMessagesCarryAllOfTheirParameters)
 {
     ParentCL parent;
-    WPARAM big = static_cast<WPARAM>(1) << 40;
+    WPARAM big = static_cast<WPARAM>(1) << (sizeof(WPARAM) * 8 - 24); // Beyond 32 bits where there are more.
     EXPECT_EQ(parent.SendMessage(WM_USER + 600, big, 2), static_cast<LRESULT>(big) - 2);
 }
 

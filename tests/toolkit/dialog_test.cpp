@@ -121,6 +121,11 @@ TEST(Dialog, WithoutATemplateThereIsNoDialog)
     DialogCL dialog(4711);
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_FALSE(dialog.Create(4711));
+    EXPECT_FALSE(dialog.Create(MAKEINTRESOURCE(4711)));
+    DialogCL wide(L"no such template");
+    EXPECT_EQ(wide.DoModal(), -1);
+    DialogCL number(MAKEINTRESOURCE(4711));
+    EXPECT_EQ(number.DoModal(), -1);
     EXPECT_EQ(dialog.initialised, 0);
 }
 

@@ -37,6 +37,7 @@ protected:
         commands.push_back(id);
         return TRUE;
     }
+    afx_msg void OnNoRoom() { commands.push_back(0); }
     afx_msg void OnUpdateSave(CCmdUI* ui) { ui->Enable(canSave); }
     afx_msg void OnUpdateOpen(CCmdUI* ui) { ui->SetText("\xB4\xF2\xBF\xAA"); } // 打开
     afx_msg void OnUpdateSize(CCmdUI* ui) { ui->SetRadio(ui->m_nID == LargeId); }
@@ -45,6 +46,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(MenuWndCL, OwnerCL)
 ON_COMMAND_EX_RANGE(OpenId, LargeId, &MenuWndCL::OnAny)
+ON_CBN_ERRSPACE(SaveId, &MenuWndCL::OnNoRoom)
 ON_UPDATE_COMMAND_UI(SaveId, &MenuWndCL::OnUpdateSave)
 ON_UPDATE_COMMAND_UI(OpenId, &MenuWndCL::OnUpdateOpen)
 ON_UPDATE_COMMAND_UI_RANGE(SmallId, LargeId, &MenuWndCL::OnUpdateSize)
@@ -143,6 +145,7 @@ TEST(Menu, OneFromATemplate)
     CMenu missing;
     EXPECT_FALSE(missing.LoadMenu(4711));
     EXPECT_FALSE(missing.LoadMenu("no such menu"));
+    EXPECT_FALSE(missing.LoadMenu(MAKEINTRESOURCE(4711)));
     EXPECT_EQ(missing.m_hMenu, nullptr);
 }
 
@@ -176,6 +179,19 @@ TEST(CmdUI, ItemsAreAskedForBeforeTheMenuOpens)
     wnd.canSave = true;
     wnd.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
     EXPECT_FALSE(menu.GetMenuState(SaveId, MF_BYCOMMAND) & MF_GRAYED);
+}
+
+TEST(CmdUI, NotificationOfTheSameCodeIsNoQuestion)
+{
+    MenuWndCL wnd;
+    const RECT place = { 0, 0, 50, 90 };
+    CComboBox combo;
+    ASSERT_TRUE(combo.Create(WS_VISIBLE | CBS_DROPDOWNLIST, place, &wnd, SaveId));
+    wnd.SendMessage(WM_COMMAND, MAKEWPARAM(SaveId, CBN_ERRSPACE), reinterpret_cast<LPARAM>(combo.m_hWnd));
+    EXPECT_EQ(wnd.commands, (std::vector<UINT> { 0 }));
+    wnd.UpdateDialogControls(&wnd, FALSE);
+    EXPECT_EQ(wnd.commands.size(), 1U);
+    EXPECT_FALSE(combo.IsWindowEnabled());
 }
 
 TEST(CmdUI, ControlsAreAskedFor)

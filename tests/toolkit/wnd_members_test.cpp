@@ -323,6 +323,16 @@ TEST(WndMembers, TextsAreWideWhereTheyAreGivenSo)
     EXPECT_EQ(wnd.GetWindowTextLength(), 0);
 }
 
+TEST(WndMembers, NoObjectHasNoHandle)
+{
+    CWnd* volatile noWindow = nullptr;
+    CMenu* volatile noMenu = nullptr;
+    EXPECT_EQ(noWindow->GetSafeHwnd(), nullptr);
+    EXPECT_EQ(noMenu->GetSafeHmenu(), nullptr);
+    const OwnerCL wnd;
+    EXPECT_EQ(wnd.GetSafeHwnd(), wnd.m_hWnd);
+}
+
 TEST(WndMembers, WindowsAreFoundByTheirTitle)
 {
     CWnd wnd;
