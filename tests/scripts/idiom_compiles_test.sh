@@ -4,27 +4,27 @@
 set -uo pipefail
 root=$1
 sources=("$root"/examples/idiom/*.cpp)
-# As an application would compile them: its character set is its own matter.
-options=(-std=c++17 -fsyntax-only -Wall -Wextra -Werror -I"$root/src")
-out=$(mktemp)
-trap 'rm -f "$out"' EXIT
-failed=0
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
 
-for machine in x86_64 i686; do
-  library=$(ls -d /usr/lib/gcc/$machine-w64-mingw32/*-posix/include/c++ | tail -1)
-  for compiler in "$machine-w64-mingw32-g++-posix" "clang++ --target=$machine-w64-windows-gnu"; do
-    command=($compiler "${options[@]}")
-    # It finds the platform's headers itself, those of the C++ library only where another g++ stands first.
-    [[ $compiler != clang* ]] || command+=(-isystem "$library" -isystem "$library/$machine-w64-mingw32")
-    command -v "${command[0]}" >/dev/null || { echo "not installed: ${command[0]}"; failed=1; continue; }
-    for source in "${sources[@]}"; do
-      if ! "${command[@]}" "$source" >"$out" 2>&1; then
-        echo "== $compiler: ${source##*/}"
-        cat "$out"
-        failed=1
-      fi
-    done
+compile() { # compiler...
+  local source failed=0
+  command -v "$1" >/dev/null || { echo "not installed: $1"; return 1; }
+  for source in "${sources[@]}"; do
+    # As an application would: its character set is its own matter.
+    "$@" -std=c++17 -fsyntax-only -Wall -Wextra -Werror -I"$root/src" "$source" 2>&1 || failed=1
   done
+  return "$failed"
+}
+
+failed=0
+for machine in x86_64 i686; do
+  # clang finds the platform's headers itself, those of the C++ library it must be told.
+  library=$(ls -d /usr/lib/gcc/$machine-w64-mingw32/*-posix/include/c++ | tail -1)
+  compile $machine-w64-mingw32-g++-posix >"$folder/g++" &
+  compile clang++ --target=$machine-w64-windows-gnu -isystem "$library" -isystem "$library/$machine-w64-mingw32" \
+    >"$folder/clang++" || { failed=1; echo "== clang++, $machine"; cat "$folder/clang++"; }
+  wait $! || { failed=1; echo "== g++, $machine"; cat "$folder/g++"; }
 done
 [ "$failed" -eq 0 ] && echo "${#sources[@]} sources compile for four targets"
 exit "$failed"
