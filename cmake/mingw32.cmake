@@ -1,3 +1,3 @@
 # Cross build for 32-bit Windows.
-set(processor i686)
+set(PANELKIT_PROCESSOR i686)
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)
