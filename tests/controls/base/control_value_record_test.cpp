@@ -106,8 +106,9 @@ TEST(ControlValue, KnowsItsParts)
     EXPECT_TRUE(value.IsOfM(NumberPart | TextPart | LinesPart));
     EXPECT_FALSE(value.IsOfM(NumberPart));
     EXPECT_EQ(value.OnlyM(NumberPart).PartsM(), static_cast<unsigned>(NumberPart));
-    value.text = ValueTextCL(nullptr); // No text is no part.
+    value.text = ValueTextCL(nullptr); // No text is no part, and nothing to set.
     EXPECT_EQ(value.PartsM(), static_cast<unsigned>(NumberPart));
+    EXPECT_FALSE(value.IsOfM(NumberPart | TextPart));
 }
 
 TEST(ControlValue, LinesMustExistAndBeOneWhereOneCanBeSelected)
