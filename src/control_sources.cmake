@@ -75,6 +75,7 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/ddx_lists.cpp
   toolkit/diagnostics.cpp
   toolkit/exceptions.cpp
+  toolkit/file.cpp
   toolkit/file_dialog.cpp
   toolkit/font_dialog.cpp
   toolkit/gbk_string.cpp
@@ -100,6 +101,8 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/slider_ctrl.cpp
   toolkit/spin_button_ctrl.cpp
   toolkit/static.cpp
+  toolkit/stdio_file.cpp
+  toolkit/sync.cpp
   toolkit/tab_ctrl.cpp
   toolkit/scroll_bar_handle.cpp
   toolkit/text.cpp

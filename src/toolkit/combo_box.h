@@ -9,13 +9,19 @@ class PANELKIT_API CComboBox : public CWnd
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
-    int AddString(LPCSTR text) { return AddString(slGbkToShown(text).c_str()); }
+    int AddString(LPCSTR text)
+    {
+        return AfxSendInt(*this, CB_ADDSTRING, 0, AfxLineText(*this, text, CBS_HASSTRINGS));
+    }
     AFX_WIDE_TEXT int AddString(const WideTP* text)
     {
         return AfxSendInt(*this, CB_ADDSTRING, 0, AfxTextOf(text));
     }
     // Sorts nothing; -1: at the end.
-    int InsertString(int index, LPCSTR text) { return InsertString(index, slGbkToShown(text).c_str()); }
+    int InsertString(int index, LPCSTR text)
+    {
+        return AfxSendInt(*this, CB_INSERTSTRING, index, AfxLineText(*this, text, CBS_HASSTRINGS));
+    }
     AFX_WIDE_TEXT int InsertString(int index, const WideTP* text)
     {
         return AfxSendInt(*this, CB_INSERTSTRING, index, AfxTextOf(text));
@@ -35,20 +41,26 @@ public:
     int GetLBTextLen(int index) const;
 
     // From the line after `after` on (-1: the first) and round; without regard to case.
-    int FindString(int after, LPCSTR start) const { return FindString(after, slGbkToShown(start).c_str()); }
+    int FindString(int after, LPCSTR start) const
+    {
+        return AfxSendInt(*this, CB_FINDSTRING, after, AfxLineText(*this, start, CBS_HASSTRINGS));
+    }
     AFX_WIDE_TEXT int FindString(int after, const WideTP* start) const
     {
         return AfxSendInt(*this, CB_FINDSTRING, after, AfxTextOf(start));
     }
     int FindStringExact(int after, LPCSTR text) const
     {
-        return FindStringExact(after, slGbkToShown(text).c_str());
+        return AfxSendInt(*this, CB_FINDSTRINGEXACT, after, AfxLineText(*this, text, CBS_HASSTRINGS));
     }
     AFX_WIDE_TEXT int FindStringExact(int after, const WideTP* text) const
     {
         return AfxSendInt(*this, CB_FINDSTRINGEXACT, after, AfxTextOf(text));
     }
-    int SelectString(int after, LPCSTR start) { return SelectString(after, slGbkToShown(start).c_str()); }
+    int SelectString(int after, LPCSTR start)
+    {
+        return AfxSendInt(*this, CB_SELECTSTRING, after, AfxLineText(*this, start, CBS_HASSTRINGS));
+    }
     AFX_WIDE_TEXT int SelectString(int after, const WideTP* start)
     {
         return AfxSendInt(*this, CB_SELECTSTRING, after, AfxTextOf(start));

@@ -18,6 +18,30 @@ inline LPARAM AfxTextOf(LPCWSTR text)
     return reinterpret_cast<LPARAM>(text == nullptr ? L"" : text);
 }
 
+// A text in GBK for a message about a line of a list: made wide, or the pointer itself where the lines of a
+// list that its owner draws are no texts but whatever the application takes them for.
+class AfxLineText
+{
+public:
+    AfxLineText(const CWnd& list, LPCSTR text, DWORD hasStrings)
+        : text_(text)
+    {
+        const DWORD style = list.m_hWnd != nullptr ? list.GetStyle() : 0;
+        isText_ = (style & hasStrings) != 0 || (style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) == 0;
+        if (isText_) {
+            wide_ = slGbkToShown(text);
+        }
+    }
+    operator LPARAM() const { return isText_ ? AfxTextOf(wide_.c_str()) : reinterpret_cast<LPARAM>(text_); }
+
+private:
+    LPCSTR text_;
+    bool isText_;
+    std::wstring wide_;
+};
+static_assert(LBS_OWNERDRAWFIXED == CBS_OWNERDRAWFIXED && LBS_OWNERDRAWVARIABLE == CBS_OWNERDRAWVARIABLE,
+    "a combo box has the numbers of a list box for these");
+
 // -1 without a window, so that a caller's loop over items ends.
 inline int AfxSendInt(const CWnd& control, UINT message, int wParam = 0, LPARAM lParam = 0)
 {

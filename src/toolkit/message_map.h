@@ -79,7 +79,8 @@ protected:
 #define DECLARE_MESSAGE_MAP()                                                                                \
 protected:                                                                                                   \
     static const AFX_MSGMAP* GetThisMessageMap();                                                            \
-    const AFX_MSGMAP* GetMessageMap() const override;
+    AFX_DECLARED_BEGIN virtual const AFX_MSGMAP* GetMessageMap() const;                                      \
+    AFX_DECLARED_END
 
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
     const AFX_MSGMAP* theClass::GetMessageMap() const                                                        \

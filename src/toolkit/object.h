@@ -40,11 +40,23 @@ protected:
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 
+// Before and behind what the macros declare: an application's classes may mark what they override or not, and
+// clang would warn of those who do both.
+#ifdef __clang__
+#define AFX_DECLARED_BEGIN                                                                                   \
+    _Pragma("clang diagnostic push") _Pragma("clang diagnostic ignored \"-Winconsistent-missing-override\"")
+#define AFX_DECLARED_END _Pragma("clang diagnostic pop")
+#else
+#define AFX_DECLARED_BEGIN
+#define AFX_DECLARED_END
+#endif
+
 #define DECLARE_DYNAMIC(class_name)                                                                          \
 public:                                                                                                      \
     static CRuntimeClass class##class_name;                                                                  \
     static CRuntimeClass* GetThisClass();                                                                    \
-    CRuntimeClass* GetRuntimeClass() const override;
+    AFX_DECLARED_BEGIN virtual CRuntimeClass* GetRuntimeClass() const;                                       \
+    AFX_DECLARED_END
 
 #define DECLARE_DYNCREATE(class_name)                                                                        \
     DECLARE_DYNAMIC(class_name)                                                                              \

@@ -14,12 +14,14 @@
 #define NOMINMAX
 #endif
 #include <cassert>
+#include <type_traits>
 #include <utility>
 #include <windows.h>
 
 #include <commctrl.h>
 
 #include "baselib/api.h"
+#include "toolkit/narrow_names.h"
 
 // The character of the classes is char, in GBK, and so are TCHAR and the text macros of <tchar.h>, although
 // the window system's own names stand for its wide functions. An application may include that header itself,
@@ -38,6 +40,21 @@
 #define LPCTSTR LPCSTR
 #define PTSTR PSTR
 #define PCTSTR PCSTR
+
+// The window system has them as macros, which would hide those of the standard library; numbers of different
+// types go together as they do there.
+template <class A, class B,
+    std::enable_if_t<std::is_arithmetic<A>::value && std::is_arithmetic<B>::value, int> = 0>
+constexpr std::common_type_t<A, B> min(A a, B b)
+{
+    return a < b ? a : b;
+}
+template <class A, class B,
+    std::enable_if_t<std::is_arithmetic<A>::value && std::is_arithmetic<B>::value, int> = 0>
+constexpr std::common_type_t<A, B> max(A a, B b)
+{
+    return a > b ? a : b;
+}
 
 #ifndef ASSERT
 #define ASSERT(condition) assert(condition)

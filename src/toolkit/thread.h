@@ -60,7 +60,7 @@ protected:
     void becomeCurrentM(); // the object of the calling thread
 
 private:
-    friend CWinThread* AfxGetThread();
+    friend PANELKIT_API CWinThread* AfxGetThread();
     static unsigned __stdcall runM(void* thread);
     BOOL dispatchThreadMessageM(const MSG& message);
 

@@ -34,6 +34,27 @@ BOOL AfxRegisterClass(WNDCLASSW* windowClass)
     return ::RegisterClassW(windowClass) != 0;
 }
 
+BOOL GetClassInfo(HINSTANCE module, LPCSTR name, WNDCLASSA* to)
+{
+    WNDCLASSW known = {};
+    if (!::GetClassInfoW(module, WindowClassNameCL(name), &known)) {
+        return FALSE;
+    }
+    *to = { known.style, known.lpfnWndProc, known.cbClsExtra, known.cbWndExtra, known.hInstance, known.hIcon,
+        known.hCursor, known.hbrBackground, nullptr, name };
+    return TRUE;
+}
+
+BOOL AfxRegisterClass(WNDCLASSA* windowClass)
+{
+    const WindowClassNameCL name(windowClass->lpszClassName);
+    const WindowClassNameCL menu(windowClass->lpszMenuName);
+    WNDCLASSW wide = { windowClass->style, windowClass->lpfnWndProc, windowClass->cbClsExtra,
+        windowClass->cbWndExtra, windowClass->hInstance, windowClass->hIcon, windowClass->hCursor,
+        windowClass->hbrBackground, menu, name };
+    return AfxRegisterClass(&wide);
+}
+
 AfxClassName AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon)
 {
     char text[96];

@@ -28,7 +28,19 @@ private:
     std::wstring wide_;
 };
 
+// As an application describes a class: with names in GBK. The window procedure is that of a wide window.
+#undef WNDCLASS
+#define WNDCLASS WNDCLASSA
+#undef GetClassInfo
+inline BOOL GetClassInfo(HINSTANCE module, LPCWSTR name, WNDCLASSW* to)
+{
+    return ::GetClassInfoW(module, name, to);
+}
+PANELKIT_API BOOL GetClassInfo(
+    HINSTANCE module, LPCSTR name, WNDCLASSA* to); // the names in *to stay the caller's
+
 PANELKIT_API BOOL AfxRegisterClass(WNDCLASSW* windowClass); // TRUE also when it is registered already
+PANELKIT_API BOOL AfxRegisterClass(WNDCLASSA* windowClass);
 // Registers a class by what it looks like. Throws a CResourceException where the system refuses.
 PANELKIT_API AfxClassName AfxRegisterWndClass(
     UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr, HICON icon = nullptr);

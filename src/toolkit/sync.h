@@ -1,0 +1,103 @@
+#pragma once
+#include "toolkit/object.h"
+
+// Objects that threads wait for. A name in GBK (null: none) makes one object of all processes' that have it.
+// A handle that the system refuses is null, and every wait for it fails.
+class PANELKIT_API CSyncObject : public CObject
+{
+    DECLARE_DYNAMIC(CSyncObject)
+public:
+    ~CSyncObject() override;
+    operator HANDLE() const { return m_hObject; }
+    virtual BOOL Lock(DWORD timeoutMs = INFINITE); // FALSE: the time is over, or there is no such object
+    virtual BOOL Unlock() = 0;
+    virtual BOOL Unlock(LONG count, LPLONG previous = nullptr);
+
+    HANDLE m_hObject;
+
+protected:
+    explicit CSyncObject(HANDLE object)
+        : m_hObject(object)
+    {
+    }
+};
+
+class PANELKIT_API CEvent : public CSyncObject
+{
+    DECLARE_DYNAMIC(CEvent)
+public:
+    explicit CEvent(BOOL isSet = FALSE, BOOL isManual = FALSE, LPCSTR name = nullptr,
+        LPSECURITY_ATTRIBUTES security = nullptr);
+    BOOL SetEvent() { return ::SetEvent(m_hObject); }
+    BOOL ResetEvent() { return ::ResetEvent(m_hObject); }
+    BOOL PulseEvent() { return ::PulseEvent(m_hObject); }
+    using CSyncObject::Unlock;
+    BOOL Unlock() override { return TRUE; }
+};
+
+class PANELKIT_API CMutex : public CSyncObject
+{
+    DECLARE_DYNAMIC(CMutex)
+public:
+    explicit CMutex(BOOL isOwned = FALSE, LPCSTR name = nullptr, LPSECURITY_ATTRIBUTES security = nullptr);
+    using CSyncObject::Unlock;
+    BOOL Unlock() override { return ::ReleaseMutex(m_hObject); }
+};
+
+class PANELKIT_API CSemaphore : public CSyncObject
+{
+    DECLARE_DYNAMIC(CSemaphore)
+public:
+    explicit CSemaphore(
+        LONG count = 1, LONG most = 1, LPCSTR name = nullptr, LPSECURITY_ATTRIBUTES security = nullptr);
+    BOOL Unlock() override { return Unlock(1); }
+    BOOL Unlock(LONG count, LPLONG previous = nullptr) override
+    {
+        return ::ReleaseSemaphore(m_hObject, count, previous);
+    }
+};
+
+// Of one process; it has no handle, and waiting for it knows no end.
+class PANELKIT_API CCriticalSection : public CSyncObject
+{
+    DECLARE_DYNAMIC(CCriticalSection)
+public:
+    CCriticalSection();
+    ~CCriticalSection() override;
+    operator CRITICAL_SECTION*() { return &m_sect; }
+    BOOL Lock() { return Lock(INFINITE); }
+    BOOL Lock(DWORD timeoutMs) override;
+    using CSyncObject::Unlock;
+    BOOL Unlock() override;
+
+    CRITICAL_SECTION m_sect;
+};
+
+// Holds an object as long as it lives: what it has locked it unlocks.
+class PANELKIT_API CSingleLock
+{
+public:
+    explicit CSingleLock(CSyncObject* object, BOOL locks = FALSE)
+        : object_(object)
+    {
+        if (locks) {
+            Lock();
+        }
+    }
+    ~CSingleLock() { Unlock(); }
+    CSingleLock(const CSingleLock&) = delete;
+    CSingleLock& operator=(const CSingleLock&) = delete;
+    BOOL Lock(DWORD timeoutMs = INFINITE) { return isLocked_ = object_->Lock(timeoutMs); }
+    BOOL Unlock()
+    {
+        if (isLocked_) {
+            isLocked_ = !object_->Unlock();
+        }
+        return !isLocked_;
+    }
+    BOOL IsLocked() const { return isLocked_; }
+
+private:
+    CSyncObject* object_;
+    BOOL isLocked_ = FALSE;
+};
