@@ -1,8 +1,9 @@
 #pragma once
 
-// Included by platform.h behind the window system's headers: the structures in which an application hands
-// texts to the controls have texts of TCHAR, that is char, and the messages that take them are theirs. What
-// the controls themselves send (NMLVDISPINFO and its like) stays wide.
+// Included by platform.h behind the window system's headers where an application defines
+// PANELKIT_NARROW_NAMES, for sources that fill these structures with texts of TCHAR, that is char: the names
+// of the structures, and the messages that take them, then are the narrow ones. What the controls themselves
+// send (NMLVDISPINFO and its like) stays wide.
 #undef LVCOLUMN
 #define LVCOLUMN LVCOLUMNA
 #undef LPLVCOLUMN

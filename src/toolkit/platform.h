@@ -21,7 +21,9 @@
 #include <commctrl.h>
 
 #include "baselib/api.h"
+#ifdef PANELKIT_NARROW_NAMES
 #include "toolkit/narrow_names.h"
+#endif
 
 // The character of the classes is char, in GBK, and so are TCHAR and the text macros of <tchar.h>, although
 // the window system's own names stand for its wide functions. An application may include that header itself,

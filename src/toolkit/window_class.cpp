@@ -34,24 +34,41 @@ BOOL AfxRegisterClass(WNDCLASSW* windowClass)
     return ::RegisterClassW(windowClass) != 0;
 }
 
-BOOL GetClassInfo(HINSTANCE module, LPCSTR name, WNDCLASSA* to)
+AfxGivenName::operator LPCWSTR() const
+{
+    if (!isGbk_ || IS_INTRESOURCE(name_)) {
+        return static_cast<LPCWSTR>(name_);
+    }
+    return AfxClassName(static_cast<LPCSTR>(name_));
+}
+
+AfxWndClass::operator WNDCLASSW() const
+{
+    return { style, lpfnWndProc, cbClsExtra, cbWndExtra, hInstance, hIcon, hCursor, hbrBackground,
+        lpszMenuName, lpszClassName };
+}
+
+AfxWndClass& AfxWndClass::operator=(const WNDCLASSW& known)
+{
+    return *this
+        = AfxWndClass { known.style, known.lpfnWndProc, known.cbClsExtra, known.cbWndExtra, known.hInstance,
+              known.hIcon, known.hCursor, known.hbrBackground, known.lpszMenuName, known.lpszClassName };
+}
+
+BOOL GetClassInfoW(HINSTANCE module, const AfxGivenName& name, AfxWndClass* to)
 {
     WNDCLASSW known = {};
-    if (!::GetClassInfoW(module, WindowClassNameCL(name), &known)) {
+    if (!::GetClassInfoW(module, static_cast<LPCWSTR>(name), &known)) {
         return FALSE;
     }
-    *to = { known.style, known.lpfnWndProc, known.cbClsExtra, known.cbWndExtra, known.hInstance, known.hIcon,
-        known.hCursor, known.hbrBackground, nullptr, name };
+    *to = known;
+    to->lpszClassName = name;
     return TRUE;
 }
 
-BOOL AfxRegisterClass(WNDCLASSA* windowClass)
+BOOL AfxRegisterClass(AfxWndClass* windowClass)
 {
-    const WindowClassNameCL name(windowClass->lpszClassName);
-    const WindowClassNameCL menu(windowClass->lpszMenuName);
-    WNDCLASSW wide = { windowClass->style, windowClass->lpfnWndProc, windowClass->cbClsExtra,
-        windowClass->cbWndExtra, windowClass->hInstance, windowClass->hIcon, windowClass->hCursor,
-        windowClass->hbrBackground, menu, name };
+    WNDCLASSW wide = *windowClass;
     return AfxRegisterClass(&wide);
 }
 

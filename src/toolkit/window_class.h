@@ -28,19 +28,63 @@ private:
     std::wstring wide_;
 };
 
-// As an application describes a class: with names in GBK. The window procedure is that of a wide window.
-#undef WNDCLASS
-#define WNDCLASS WNDCLASSA
-#undef GetClassInfo
-inline BOOL GetClassInfo(HINSTANCE module, LPCWSTR name, WNDCLASSW* to)
+// The name in a description of a window class, as the application wrote it: GBK or wide, or an atom.
+class PANELKIT_API AfxGivenName
 {
-    return ::GetClassInfoW(module, name, to);
+public:
+    AfxGivenName() = default;
+    AfxGivenName(std::nullptr_t)
+        : AfxGivenName(static_cast<LPCWSTR>(nullptr))
+    {
+    }
+    AfxGivenName(LPCSTR name)
+        : name_(name)
+        , isGbk_(true)
+    {
+    }
+    AfxGivenName(LPCWSTR name)
+        : name_(name)
+        , isGbk_(false)
+    {
+    }
+    operator LPCWSTR() const; // of a name in GBK the characters live as long as the program
+
+private:
+    const void* name_;
+    bool isGbk_; // false where all bytes are zeroed: then there is no name
+};
+
+// As an application describes a class, by names of either kind. The window procedure is that of a wide
+// window.
+struct PANELKIT_API AfxWndClass
+{
+    UINT style;
+    WNDPROC lpfnWndProc;
+    int cbClsExtra;
+    int cbWndExtra;
+    HINSTANCE hInstance;
+    HICON hIcon;
+    HCURSOR hCursor;
+    HBRUSH hbrBackground;
+    AfxGivenName lpszMenuName;
+    AfxGivenName lpszClassName;
+
+    operator WNDCLASSW() const;
+    AfxWndClass& operator=(const WNDCLASSW& known);
+};
+#undef WNDCLASS
+#define WNDCLASS AfxWndClass
+
+// What the names RegisterClass and GetClassInfo stand for, for such descriptions and names.
+inline ATOM RegisterClassW(const AfxWndClass* windowClass)
+{
+    const WNDCLASSW wide = *windowClass;
+    return ::RegisterClassW(&wide);
 }
-PANELKIT_API BOOL GetClassInfo(
-    HINSTANCE module, LPCSTR name, WNDCLASSA* to); // the names in *to stay the caller's
+PANELKIT_API BOOL GetClassInfoW(HINSTANCE module, const AfxGivenName& name, AfxWndClass* to);
 
 PANELKIT_API BOOL AfxRegisterClass(WNDCLASSW* windowClass); // TRUE also when it is registered already
-PANELKIT_API BOOL AfxRegisterClass(WNDCLASSA* windowClass);
+PANELKIT_API BOOL AfxRegisterClass(AfxWndClass* windowClass);
 // Registers a class by what it looks like. Throws a CResourceException where the system refuses.
 PANELKIT_API AfxClassName AfxRegisterWndClass(
     UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr, HICON icon = nullptr);

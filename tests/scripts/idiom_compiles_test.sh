@@ -11,8 +11,8 @@ compile() { # compiler...
   local source failed=0
   command -v "$1" >/dev/null || { echo "not installed: $1"; return 1; }
   for source in "${sources[@]}"; do
-    # As an application would: its character set is its own matter.
-    "$@" -std=c++17 -fsyntax-only -Wall -Wextra -Werror -I"$root/src" "$source" 2>&1 || failed=1
+    # As an application would: its character set is its own matter. These want the structures of controls narrow.
+    "$@" -std=c++17 -DPANELKIT_NARROW_NAMES -fsyntax-only -Wall -Wextra -Werror -I"$root/src" "$source" 2>&1 || failed=1
   done
   return "$failed"
 }
