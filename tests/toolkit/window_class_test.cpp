@@ -79,3 +79,25 @@ TEST(WindowClass, WideNamesAndTitles)
     EXPECT_EQ(classOfM(child), L"Static");
     EXPECT_EQ(child.GetWindowTextLength(), 2);
 }
+
+TEST(WindowClass, DescribedByNamesOfEitherKind)
+{
+    WNDCLASS look = {};
+    look.lpfnWndProc = ::DefWindowProc;
+    look.hInstance = ::GetModuleHandle(nullptr);
+    look.lpszClassName = "PanelkitNarrowly\xD6\xD0"; // GBK for U+4E2D.
+    ASSERT_TRUE(AfxRegisterClass(&look));
+    EXPECT_TRUE(AfxRegisterClass(&look)); // It is there already.
+    look.lpszClassName = L"PanelkitWidely";
+    ASSERT_NE(::RegisterClass(&look), 0);
+
+    WNDCLASSW known = {};
+    EXPECT_TRUE(::GetClassInfoW(look.hInstance, L"PanelkitNarrowly\u4E2D", &known));
+    WNDCLASS found = {};
+    ASSERT_TRUE(::GetClassInfo(look.hInstance, "PanelkitNarrowly\xD6\xD0", &found));
+    EXPECT_EQ(found.lpfnWndProc, look.lpfnWndProc);
+    EXPECT_STREQ(LPCWSTR(found.lpszClassName), L"PanelkitNarrowly\u4E2D");
+    ASSERT_TRUE(::GetClassInfo(look.hInstance, L"PanelkitWidely", &found));
+    EXPECT_FALSE(::GetClassInfo(look.hInstance, "PanelkitUnknown", &found));
+    EXPECT_EQ(LPCWSTR(WNDCLASS().lpszClassName), nullptr);
+}
