@@ -23,11 +23,13 @@ set(PANELKIT_CONTROL_SOURCES
   controls/labels/label.cpp
   controls/lists/bitmap_list_box.cpp
   controls/lists/combo_box.cpp
+  controls/lists/combo_box_value.cpp
   controls/lists/list_box.cpp
   controls/lists/list_control.cpp
   controls/lists/text_list_box.cpp
   controls/lists/tree.cpp
   controls/lists/tree_pictures.cpp
+  controls/lists/tree_value.cpp
   controls/text/multi_edit.cpp
   controls/text/single_edit.cpp
   controls/text/spin_button.cpp
@@ -36,6 +38,8 @@ set(PANELKIT_CONTROL_SOURCES
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
   dialog/basic_dialog_build.cpp
+  dialog/basic_dialog_by_id.cpp
+  dialog/basic_dialog_by_id_lines.cpp
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp

@@ -17,6 +17,8 @@ set(PANELKIT_DESCRIPTION_SOURCES
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
   controls/animation/spec_animate_record.cpp
+  controls/base/control_value.cpp
+  controls/base/value_text.cpp
   controls/buttons/bmp_button_record.cpp
   controls/buttons/check_box_record.cpp
   controls/buttons/multi_state_button_record.cpp

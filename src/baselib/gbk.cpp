@@ -36,7 +36,7 @@ template <typename Store> void decode(const char* text, std::size_t length, Stor
     }
 }
 
-void appendUtf8(std::string& out, char16_t code)
+void appendUtf8(std::string& out, std::uint32_t code)
 {
     if (code < 0x80) {
         out += static_cast<char>(code);
@@ -44,10 +44,24 @@ void appendUtf8(std::string& out, char16_t code)
         out += static_cast<char>(0xC0 | (code >> 6));
         out += static_cast<char>(0x80 | (code & 0x3F));
     } else {
-        out += static_cast<char>(0xE0 | (code >> 12));
+        if (code < 0x10000) {
+            out += static_cast<char>(0xE0 | (code >> 12));
+        } else {
+            out += static_cast<char>(0xF0 | (code >> 18));
+            out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
+        }
         out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
         out += static_cast<char>(0x80 | (code & 0x3F));
     }
+}
+
+bool isHighHalf(char16_t code)
+{
+    return code >= 0xD800 && code <= 0xDBFF;
+}
+bool isLowHalf(char16_t code)
+{
+    return code >= 0xDC00 && code <= 0xDFFF;
 }
 
 // From UTF-16 to the two bytes of a pair, 0 where there is none.
@@ -222,9 +236,8 @@ std::string slUtf16ToGbk(const char16_t* text, std::size_t length, int* lost)
     std::string out;
     int missing = 0;
     for (std::size_t k = 0; text != nullptr && k < length; ++k) {
-        const bool high = text[k] >= 0xD800 && text[k] <= 0xDBFF;
         missing += appendGbk(out, text[k]) ? 0 : 1;
-        if (high && k + 1 < length && text[k + 1] >= 0xDC00 && text[k + 1] <= 0xDFFF) {
+        if (isHighHalf(text[k]) && k + 1 < length && isLowHalf(text[k + 1])) {
             ++k; // The two halves are one character.
         }
     }
@@ -244,6 +257,38 @@ std::string slUtf8ToGbk(const std::string& text, int* lost)
     }
     if (lost != nullptr) {
         *lost = missing;
+    }
+    return out;
+}
+
+std::u16string slUtf8ToUtf16(const std::string& text)
+{
+    std::u16string out;
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at < end;) {
+        const std::uint32_t code = takeUtf8(at, end);
+        if (code < 0x10000) {
+            const auto unit = static_cast<char16_t>(code);
+            out += isHighHalf(unit) || isLowHalf(unit) ? Replacement : unit;
+        } else {
+            out += code > 0x10FFFF ? Replacement : static_cast<char16_t>(0xD7C0 + (code >> 10));
+            out.append(code > 0x10FFFF ? 0 : 1, static_cast<char16_t>(0xDC00 + (code & 0x3FF)));
+        }
+    }
+    return out;
+}
+
+std::string slUtf16ToUtf8(const char16_t* text, std::size_t length)
+{
+    std::string out;
+    for (std::size_t k = 0; text != nullptr && k < length; ++k) {
+        const bool isPair = isHighHalf(text[k]) && k + 1 < length && isLowHalf(text[k + 1]);
+        if (isPair) {
+            appendUtf8(out, 0x10000U + ((text[k] - 0xD800U) << 10) + (text[k + 1] - 0xDC00U));
+            ++k;
+        } else {
+            appendUtf8(out, isHighHalf(text[k]) || isLowHalf(text[k]) ? Replacement : text[k]);
+        }
     }
     return out;
 }

@@ -57,6 +57,10 @@ PANELKIT_API std::string slGbkToUtf8(const char* text, std::size_t length);
 PANELKIT_API std::string slUtf16ToGbk(const char16_t* text, std::size_t length, int* lost = nullptr);
 PANELKIT_API std::string slUtf8ToGbk(const std::string& text, int* lost = nullptr);
 
+// Between the two Unicode forms: what is no character gives U+FFFD.
+PANELKIT_API std::u16string slUtf8ToUtf16(const std::string& text);
+PANELKIT_API std::string slUtf16ToUtf8(const char16_t* text, std::size_t length);
+
 #ifdef _WIN32
 inline std::wstring slGbkToWide(const char* text)
 {

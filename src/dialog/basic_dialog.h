@@ -22,6 +22,7 @@
 #include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/values.h"
 #include "pictures/bitmap_record.h"
 #include <memory>
 
@@ -85,6 +86,9 @@ public:
     int DelItemM(int id); // The number is the control's id and the index of the line to delete; 1 if found.
     int SetSelM(int id);  // The number is the control's id and the index of the line to select; 1 if found.
 
+    // The values of every kind, and lines, by function id: typed, checked, in one style. The host keeps it.
+    DialogValuesCL& ValuesM() { return values_; }
+
     // Values of single-line edits; the results are those of the edit's SetValueM, SetCurValM, GetValueM and
     // GetCurValM.
     int SetSingleEditValM(int id, int value);
@@ -123,6 +127,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class DialogValuesCL;
     template <class RowTP> struct KindMembersCL
     {
         typename RowTP::Controls controls;
@@ -158,6 +163,7 @@ private:
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
     ControlIndexCL index_;
+    DialogValuesCL values_ { *this };
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };

@@ -49,8 +49,10 @@ enum Ability : unsigned
     HoldsLines = 2,      // AddItemM(data, text), DelItemM(line), SetSelM(line).
     HoldsTypedValue = 4, // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
     ShowsFrames = 8,     // GetCurIdxM, DispBmpM.
-    StandsInGroups = 16, // ShowObjectM(index, show) on the array.
-    HasLineHeight = 32   // SetItemHeightM() on the array, once the font is set.
+    StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
+    HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
+    HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
+    ListsLines = 128     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -100,29 +102,35 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
-    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue,
+    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue | HasValue,
         &DVrSingleEditArr::InitSingleEditM>,
-    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked, &DVrMultiEditArr::InitMultiEditM>,
-    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacked, &DVrSpinEditArr::InitSpinEditM>,
-    KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6, Stacked | HoldsLines | HasLineHeight,
-        &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
-    KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7, Stacked | HoldsLines,
-        &DVrBmpListBoxArr::InitBmpListBoxM, &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
-    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacked | HoldsLines,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked | HasValue,
+        &DVrMultiEditArr::InitMultiEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacked | HasValue,
+        &DVrSpinEditArr::InitSpinEditM>,
+    KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines, &DVrTextListBoxArr::InitTextListBoxM,
+        &DVrTextListBoxArr::InitTextListBoxStrM>,
+    KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
+        Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
+        &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
+    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacked | HoldsLines | HasValue | ListsLines,
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked, &DVrListCtrlArr::InitListCtrlM,
-        &DVrListCtrlArr::InitListCtrlStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines,
+        &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacked,
         &DVrStandardButtonArr::InitStandardButtonM>,
-    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacked | StandsInGroups,
+    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacked | StandsInGroups | HasValue,
         &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked, &DVrCheckBoxArr::InitCheckBoxM>,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue,
+        &DVrCheckBoxArr::InitCheckBoxM>,
     KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked, &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked | HasValue,
         &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, 0, &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, 0, &DVrTreeArr::InitTreeM, &DVrTreeArr::InitTreeStrM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
+        &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
 
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);

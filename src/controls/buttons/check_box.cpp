@@ -23,6 +23,11 @@ BOOL DuCheckBoxCL::PreCreateWindow(CREATESTRUCT& create)
     return CButton::PreCreateWindow(create);
 }
 
+bool DuCheckBoxCL::WriteValueM(const ControlValueCL& value)
+{
+    return m_hWnd != nullptr && value.IsOfM(CheckedPart) && SetCurCheckM(*value.checked ? 1 : 0) == 1;
+}
+
 int DuCheckBoxCL::SetCurCheckM(int state)
 {
     if (m_hWnd != nullptr) {

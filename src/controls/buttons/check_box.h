@@ -8,7 +8,8 @@ class PANELKIT_API DuCheckBoxCL : public CheckableButtonCL
 public:
     using CheckableButtonCL::CheckableButtonCL;
 
-    int SetCurCheckM(int state); // 1 checks, every other value unchecks.
+    int SetCurCheckM(int state);                   // 1 checks, every other value unchecks.
+    bool WriteValueM(const ControlValueCL& value); // Posts nothing.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

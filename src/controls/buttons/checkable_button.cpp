@@ -4,6 +4,15 @@ BEGIN_MESSAGE_MAP(CheckableButtonCL, CButton)
 ON_WM_CREATE()
 END_MESSAGE_MAP()
 
+ControlValueCL CheckableButtonCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd != nullptr) {
+        value.checked = GetCheck() == BST_CHECKED;
+    }
+    return value;
+}
+
 int CheckableButtonCL::OnCreate(LPCREATESTRUCT create)
 {
     if (CButton::OnCreate(create) == -1) {

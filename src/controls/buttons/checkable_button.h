@@ -1,5 +1,6 @@
 #pragma once
 #include "controls/base/captioned.h"
+#include "controls/base/control_value.h"
 
 // What radio buttons and check boxes share: a caption and a check from the start. Captions are GBK, cut to
 // 259 bytes at a character. The setters take effect when the window is created.
@@ -10,6 +11,10 @@ public:
 
     int SetTextM(const char* text) { return keepTextM(text); }
     int SetInitCheckM(int check) { return slKeep(initCheck_, check); } // 1: checked from the start.
+
+    // The value by id: checked or not; none without a window.
+    unsigned ValuePartsM() const { return CheckedPart; }
+    ControlValueCL ReadValueM() const;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

@@ -103,6 +103,20 @@ int DuMultiStateButtonCL::GetCurStatusM(int* out) const
     return 1;
 }
 
+ControlValueCL DuMultiStateButtonCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd != nullptr && statuses_.CheckAvailableM(current_) == 1) {
+        value.number = statuses_[current_];
+    }
+    return value;
+}
+
+bool DuMultiStateButtonCL::WriteValueM(const ControlValueCL& value)
+{
+    return m_hWnd != nullptr && value.IsOfM(NumberPart) && SetCurStatusM(*value.number) == 1;
+}
+
 int DuMultiStateButtonCL::DelStatusM(int status)
 {
     const int index = indexOfM(status);

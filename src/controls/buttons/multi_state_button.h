@@ -1,6 +1,7 @@
 #pragma once
 #include "containers/int_arr.h"
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 #include "controls/base/picture_static.h"
 
 // A button that goes on to the next of its status values at every click, with a picture for each. Status
@@ -17,8 +18,12 @@ public:
     int SetInitStatusM(int status);
     int SetCurStatusM(int status);     // The same, but 0 without any status; repaints in every case.
     int GetCurStatusM(int* out) const; // Without a current status *out keeps its value.
-    int DelStatusM(int status);        // Removes a status with its picture; 0 when there is none.
-    int DelAllM();                     // There is no current status then.
+    // The value by id: the current status, if there is one; it takes those that it has.
+    unsigned ValuePartsM() const { return NumberPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
+    int DelStatusM(int status); // Removes a status with its picture; 0 when there is none.
+    int DelAllM();              // There is no current status then.
     void DelItemM();
     int InitRgnM();                                   // Both regions become the client rectangle, once.
     DVrRgnCL* GetButtonRgnM() { return &buttonRgn_; } // Where clicks count; the control keeps it.

@@ -55,6 +55,25 @@ bool DuNewRotateBtnCL::moveM(int by)
     return true;
 }
 
+ControlValueCL DuNewRotateBtnCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (index_ >= 0 && index_ < pictures_.GetBoundM()) {
+        value.number = index_;
+    }
+    return value;
+}
+
+bool DuNewRotateBtnCL::WriteValueM(const ControlValueCL& value)
+{
+    if (!value.IsOfM(NumberPart) || *value.number < 0 || *value.number >= pictures_.GetBoundM()) {
+        return false;
+    }
+    SetCurIndxM(*value.number);
+    invalidateM(false);
+    return true;
+}
+
 // At the end of the ints a product goes round.
 int DuNewRotateBtnCL::clickStepM(int step) const
 {

@@ -1,4 +1,5 @@
 #pragma once
+#include "controls/base/control_value.h"
 #include "controls/base/picture_static.h"
 
 class VrStringArr;
@@ -18,6 +19,10 @@ public:
     void SetIsCycledM(int cycled) { cycled_ = cycled; } // Not 0: behind the last picture comes the first.
     void SetCurIndxM(int index) { index_ = index; }     // Without repainting.
     int GetCurIndxM() const { return index_; }
+    // The value, as other kinds have it: the position; it takes those that have a picture, and repaints.
+    unsigned ValuePartsM() const { return NumberPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
     // How many steps one click moves. OnTimerM always moves one.
     void SetTouchWinClickAsMouseKeyM(int multiplier) { multiplier_ = multiplier; }
     // The repetition while a button is held: to be called from a timer of the application.

@@ -26,6 +26,48 @@ BOOL DuRadioBoxCL::PreCreateWindow(CREATESTRUCT& create)
     return CButton::PreCreateWindow(create);
 }
 
+// Disabled and hidden ones too: they stand in the group like any other.
+std::vector<HWND> DuRadioBoxCL::groupWindowsM() const
+{
+    const auto begins = [](HWND window) { return (::GetWindowLongW(window, GWL_STYLE) & WS_GROUP) != 0; };
+    HWND at = m_hWnd;
+    for (HWND before = at; before != nullptr && !begins(at); before = ::GetWindow(at, GW_HWNDPREV)) {
+        at = before;
+    }
+    std::vector<HWND> windows;
+    for (; at != nullptr && (windows.empty() || !begins(at)); at = ::GetWindow(at, GW_HWNDNEXT)) {
+        if ((::SendMessageW(at, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0) {
+            windows.push_back(at);
+        }
+    }
+    return windows;
+}
+
+std::optional<int> DuRadioBoxCL::CheckedInGroupM() const
+{
+    for (const HWND window : groupWindowsM()) {
+        if (::SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED) {
+            return ::GetDlgCtrlID(window);
+        }
+    }
+    return std::nullopt;
+}
+
+bool DuRadioBoxCL::WriteValueM(const ControlValueCL& value)
+{
+    if (m_hWnd == nullptr || !value.IsOfM(CheckedPart)) {
+        return false;
+    }
+    if (*value.checked) {
+        for (const HWND window : groupWindowsM()) {
+            if (window != m_hWnd) {
+                ::SendMessageW(window, BM_SETCHECK, BST_UNCHECKED, 0);
+            }
+        }
+    }
+    return SetCurCheckM(*value.checked ? BST_CHECKED : BST_UNCHECKED) == 1;
+}
+
 int DuRadioBoxCL::SetCurCheckM(int state)
 {
     if (m_hWnd != nullptr) {

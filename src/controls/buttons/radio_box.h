@@ -9,6 +9,11 @@ public:
     using CheckableButtonCL::CheckableButtonCL;
 
     int SetCurCheckM(int state); // Hands the state to the platform as it is.
+    // Checking it unchecks the others of its group, as a click does. Posts nothing.
+    bool WriteValueM(const ControlValueCL& value);
+    // The id of the checked button of its group, the first of several. The group is what the window system
+    // takes for it: the radio buttons from one that begins a group to the next in the stacking order.
+    std::optional<int> CheckedInGroupM() const;
     // Neighbours with equal numbers form a group.
     int SetGroupNoM(int group) { return slKeep(group_, group); }
     int GetGroupNoM(int* out) const;
@@ -22,6 +27,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    std::vector<HWND> groupWindowsM() const;
+
     int group_ { 0 };
 };
 

@@ -140,17 +140,44 @@ void DuRotateBtnCL::releaseM(CPoint point, Side side)
     endClickM([this, point, side] {
         if (hitRgn_.PtInRegion(point) && stepM(side)) {
             postToParentM(ButtonActionMsg, counter_);
-            redrawNeeded_ = true;
-            InvalidateRgn(&windowRgn_, TRUE);
+            showAngleM();
         }
     });
 }
 
+void DuRotateBtnCL::showAngleM()
+{
+    redrawNeeded_ = true;
+    InvalidateRgn(&windowRgn_, TRUE);
+}
+
+ControlValueCL DuRotateBtnCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd != nullptr) {
+        value.real = angle_;
+        value.number = counter_;
+    }
+    return value;
+}
+
+bool DuRotateBtnCL::WriteValueM(const ControlValueCL& value)
+{
+    const float angle = value.real.value_or(angle_);
+    // The present angle may be out of the range.
+    if (m_hWnd == nullptr || !value.IsOfM(RealPart | NumberPart) || !(angle == angle_ || isInRangeM(angle))) {
+        return false;
+    }
+    angle_ = angle;
+    counter_ = value.number.value_or(counter_);
+    showAngleM();
+    return true;
+}
+
 bool DuRotateBtnCL::stepM(Side side)
 {
-    const auto inRange = [this](float angle) { return lower_ <= angle && angle <= upper_; };
     const float next = slAngleAfterStep(angle_, signs_[side], stepAngle_);
-    if (!inRange(angle_) || !inRange(next)) {
+    if (!isInRangeM(angle_) || !isInRangeM(next)) {
         return false;
     }
     angle_ = next;

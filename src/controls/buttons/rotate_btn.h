@@ -1,5 +1,6 @@
 #pragma once
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 #include "controls/base/picture_static.h"
 #include "pictures/image_cache.h"
 #include <vector>
@@ -27,6 +28,11 @@ public:
     DVrRgnCL* GetButtonRgnM() { return &hitRgn_; } // Where clicks count; the control keeps it.
     float GetAngleM() const { return angle_; }
     int GetCounterM() const { return counter_; }
+    // The value by id: the angle and the counter. Each is taken for itself, an angle out of the range never;
+    // the knob shows it at once and posts nothing.
+    unsigned ValuePartsM() const { return RealPart | NumberPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
 
     void DelItemM();
 
@@ -54,7 +60,9 @@ private:
     };
     void pressM(CPoint point);
     void releaseM(CPoint point, Side side);
+    bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
+    void showAngleM();
     void composeM(CDC* dc, float angle);
     bool prepareM(CDC* dc);
     void drawBehindM(CDC* dc);

@@ -200,6 +200,13 @@ int DuBmpListBoxCL::InsertItemM(int index, int data, const char* file)
     return 1;
 }
 
+bool DuBmpListBoxCL::InsertLineM(int line, int data, const char* file)
+{
+    const int before = GetCount();
+    line == before ? AddItemM(data, file) : InsertItemM(line, data, file);
+    return GetCount() > before;
+}
+
 void DuBmpListBoxCL::DelItemM()
 {
     ListBoxCL::DelItemM();

@@ -46,6 +46,9 @@ public:
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays.
     int DelAllItemM();
 
+    std::optional<ValueTextCL> LineTextM(int) const { return std::nullopt; } // Its lines are pictures.
+    bool InsertLineM(int line, int data, const char* file); // At the end a picture that loads.
+
     // select 0 takes it back, except for a single selection. 0 in modes other than 1, 2 and 3.
     int SetSelM(int index, int select = 1);
     // The first selected line; the next one behind `from`. 0, and nothing is written, when there is none.

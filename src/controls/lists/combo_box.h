@@ -1,6 +1,7 @@
 #pragma once
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 #include "records/fields.h"
 
 // A drop-down list, with or without an edit field. Indexes count from 0; texts are GBK.
@@ -26,6 +27,21 @@ public:
     // Selects the first item with that data. Clears the selection and reports 0 when there is none.
     int SetDataSelM(int data);
 
+    // The value by id: the selected line and the text, which is its own or what stands in the edit field. A
+    // text selects the first line that has exactly this text; else it goes to the edit field, if there is
+    // one, and no line is selected. Line and text together: the line if it still has that text, else the
+    // text alone. Sends no 1749.
+    unsigned ValuePartsM() const { return editAvailable_ == 1 ? LinesPart | TextPart : LinesPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
+
+    // Its lines by id.
+    int LineCountM() const { return GetCount(); }
+    std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
+    bool DeleteLineM(int line) { return DelItemM(line) == 1; }
+    void ClearLinesM() { ResetContent(); }
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -37,6 +53,8 @@ protected:
 private:
     void followSelectionM(UINT message, int index, int result);
     void takeTypedTextM();
+    bool typeM(const ValueTextCL& text);
+    int lineWithM(const ValueTextCL& text) const;
     void replaceItemM(int item, const char* text);
 
     int editAvailable_ { 0 };

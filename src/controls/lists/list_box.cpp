@@ -1,4 +1,11 @@
 #include "controls/lists/list_box.h"
+#include <algorithm>
+
+namespace {
+
+constexpr DWORD SelectsManyStyles = LBS_MULTIPLESEL | LBS_EXTENDEDSEL;
+
+} // namespace
 
 DWORD ListBoxCL::selectionStyleM() const
 {
@@ -17,8 +24,7 @@ DWORD ListBoxCL::selectionStyleM() const
 int ListBoxCL::selectM(int line, BOOL select)
 {
     // Wine 8 answers the message of multiple selections with success in other lists too.
-    const bool many = (GetStyle() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
-    return many && SetSel(line, select) != LB_ERR ? 1 : 0;
+    return selectsM(SelectsManyStyles) && SetSel(line, select) != LB_ERR ? 1 : 0;
 }
 
 int ListBoxCL::GetSelNumM(int* count)
@@ -36,4 +42,40 @@ int ListBoxCL::GetSelNumM(int* count)
     }
     *count = selected;
     return 1;
+}
+
+ControlValueCL ListBoxCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd == nullptr || ValuePartsM() == NoPart) {
+        return value;
+    }
+    value.lines.emplace();
+    if (selectsM(SelectsManyStyles)) {
+        value.lines->resize(static_cast<size_t>(std::max(GetSelCount(), 0)));
+        GetSelItems(static_cast<int>(value.lines->size()), value.lines->data());
+    } else if (GetCurSel() != LB_ERR) {
+        value.lines->push_back(GetCurSel());
+    }
+    return value;
+}
+
+bool ListBoxCL::WriteValueM(const ControlValueCL& value)
+{
+    const bool many = selectsM(SelectsManyStyles);
+    const auto lines = value.LinesOfM(GetCount(), many);
+    if (m_hWnd == nullptr || !lines || !value.IsOfM(ValuePartsM())) {
+        return false;
+    }
+    if (!many) {
+        SetCurSel(lines->empty() ? -1 : lines->front());
+        return true;
+    }
+    for (int line = 0; line < GetCount(); ++line) {
+        const bool isWanted = std::binary_search(lines->begin(), lines->end(), line);
+        if (isWanted != (GetSel(line) > 0)) {
+            SetSel(line, isWanted ? TRUE : FALSE);
+        }
+    }
+    return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "controls/base/control.h"
+#include "controls/base/control_value.h"
 
 // What both list boxes share: creation and the way their lines are selected.
 class PANELKIT_API ListBoxCL : public ControlCL<CListBox>
@@ -11,8 +12,19 @@ public:
     int SetSelModeM(int mode) { return slKeep(selMode_, mode); }
     int GetSelNumM(int* count); // How many lines are selected: 1, or 0 when the platform refuses.
 
+    // The value by id: the lines selected, as the window was created; none where nothing can be selected.
+    unsigned ValuePartsM() const { return selectsM(LBS_NOSEL) ? NoPart : LinesPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value); // Sends nothing.
+
+    // Its lines by id.
+    int LineCountM() const { return GetCount(); }
+    bool DeleteLineM(int line) { return DeleteString(static_cast<UINT>(line)) != LB_ERR; }
+    void ClearLinesM() { ResetContent(); }
+
 protected:
     DWORD selectionStyleM() const;
+    bool selectsM(DWORD styles) const { return (GetStyle() & styles) != 0; } // One of these.
     int selectM(int line, BOOL select); // In a list that selects several lines; 0 in any other.
 
     static constexpr int SelectOne = 1;

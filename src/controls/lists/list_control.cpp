@@ -1,6 +1,7 @@
 #include "controls/lists/list_control.h"
 #include "controls/lists/filling.h"
 #include "controls/lists/list_control_record.h"
+#include <algorithm>
 
 template class PANELKIT_API Arr<DuListCtrlCL>;
 
@@ -159,12 +160,55 @@ int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 
 int DuListCtrlCL::SetSelM(int row)
 {
-    constexpr UINT AllMarks = LVIS_FOCUSED | LVIS_SELECTED | LVIS_DROPHILITED;
     for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
-        SetItemState(at, 0, AllMarks);
+        deselectM(at);
     }
     if (row >= 0) { // The platform takes -1 for all rows.
         SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
     }
     return 1;
+}
+
+void DuListCtrlCL::deselectM(int row)
+{
+    SetItemState(row, 0, LVIS_FOCUSED | LVIS_SELECTED | LVIS_DROPHILITED);
+}
+
+std::optional<ValueTextCL> DuListCtrlCL::LineTextM(int row) const
+{
+    if (row < 0 || row >= GetItemCount()) {
+        return std::nullopt;
+    }
+    return ValueTextCL(GetItemText(row, 0).GetString());
+}
+
+ControlValueCL DuListCtrlCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd != nullptr) {
+        value.lines.emplace();
+        for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
+            value.lines->push_back(at);
+        }
+    }
+    return value;
+}
+
+bool DuListCtrlCL::WriteValueM(const ControlValueCL& value)
+{
+    const auto rows = value.LinesOfM(GetItemCount(), (GetStyle() & LVS_SINGLESEL) == 0);
+    if (m_hWnd == nullptr || !rows || !value.IsOfM(LinesPart)) {
+        return false;
+    }
+    for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
+        if (!std::binary_search(rows->begin(), rows->end(), at)) {
+            deselectM(at);
+        }
+    }
+    for (const int row : *rows) {
+        if (GetItemState(row, LVIS_SELECTED) == 0) {
+            SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+    return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 
 // A table with headings. Rows and columns count from 0; texts are GBK.
 class PANELKIT_API DuListCtrlCL : public ControlCL<CListCtrl>
@@ -28,6 +29,18 @@ public:
     int GetCurSelM(int* row, int* data) const; // Without a selection the row is -1, data stays, and it is 1.
     int SetSelM(int row);                      // Leaves no other row selected; below 0: none at all.
 
+    // The value by id: the rows selected. The platform tells the parent of rows whose selection changes.
+    unsigned ValuePartsM() const { return LinesPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
+
+    // Its rows by id, with their column-0 texts.
+    int LineCountM() const { return GetItemCount(); }
+    std::optional<ValueTextCL> LineTextM(int row) const; // None for a row that doesn't exist.
+    bool InsertLineM(int row, int data, const char* text) { return InsertItemM(row, data, text) == 1; }
+    bool DeleteLineM(int row) { return DeleteItemM(row) == 1; }
+    void ClearLinesM() { DelAllM(); }
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -35,6 +48,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void deselectM(int row);
+
     int columns_ { 0 };
     int singleSelection_ { 1 };
 };

@@ -105,6 +105,16 @@ int DuTextListBoxCL::DelAllItemM()
     return 1;
 }
 
+std::optional<ValueTextCL> DuTextListBoxCL::LineTextM(int line) const
+{
+    if (line < 0 || line >= GetCount()) {
+        return std::nullopt;
+    }
+    CString text;
+    GetText(line, text);
+    return ValueTextCL(text.GetString());
+}
+
 int DuTextListBoxCL::GetItemM(int* index, int* data)
 {
     if (index == nullptr || data == nullptr) {

@@ -24,6 +24,8 @@ public:
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
     // Of a multiple selection: always 0 in single selection mode.
     int SetSelM(int index) { return selectM(index, TRUE); }
+    std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
     int SetItemHeightM(int height);                 // Of all lines; 0, and no change, below 1.
     int SetItemHeightM();                           // Applies the height kept, which a new font has changed.
     void destroyM() { background_.DeleteBrushM(); } // Deletes the background brush.

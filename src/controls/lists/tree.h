@@ -1,6 +1,7 @@
 #pragma once
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 
 class TreePicturesCL;
 
@@ -36,6 +37,13 @@ public:
     HTREEITEM InsertItemM(HTREEITEM parent, int data, const char* text, const char* selectedPicture,
         const char* normalPicture, TreePicturesCL& pictures);
     HTREEITEM GetCurSelM(int* data) const; // Null, and data stays, when no item is selected.
+    // The value by id: the path of the selected item, which is the texts from the root down with '/' between
+    // them; empty when no item is selected. In a text '\' and '/' have a '\' before them. Behind a text '\#2'
+    // means the second child with it, '\#1' marks an empty text. Selecting opens what is above the item, and
+    // the platform tells the parent.
+    unsigned ValuePartsM() const { return PathPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
     CImageList& ImagesM() { return images_; }
     void DelItemM();
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.

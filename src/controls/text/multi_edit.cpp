@@ -1,5 +1,6 @@
 #include "controls/text/multi_edit.h"
 #include "controls/base/styles.h"
+#include "controls/base/window_text.h"
 #include "controls/text/multi_edit_record.h"
 #include <cstring>
 
@@ -74,6 +75,24 @@ int DuMultiEditCL::SetTextM(const char* text)
         SetWindowText(text_.TextM());
     }
     return stored;
+}
+
+ControlValueCL DuMultiEditCL::ReadValueM() const
+{
+    ControlValueCL value;
+    if (m_hWnd != nullptr) {
+        value.text = slTextOfWindow(m_hWnd);
+    }
+    return value;
+}
+
+bool DuMultiEditCL::WriteValueM(const ControlValueCL& value)
+{
+    if (m_hWnd == nullptr || !value.IsOfM(TextPart)
+        || value.text->GbkM().size() >= static_cast<size_t>(maxNum_)) {
+        return false;
+    }
+    return ::SetWindowTextW(m_hWnd, value.text->WideM().c_str()) != FALSE;
 }
 
 int DuMultiEditCL::GetTextM(char* text) const

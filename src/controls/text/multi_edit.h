@@ -3,6 +3,7 @@
 #include "controls/base/background.h"
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
+#include "controls/base/control_value.h"
 
 // A text of many lines, with a copy that follows every change on the screen, whoever makes it. Texts are GBK,
 // lengths count bytes. The limit holds for texts that the program sets, not for typing. Setters without a
@@ -25,6 +26,10 @@ public:
     int SetInitTextM(const char* text) { return storeM(text, 1); }
     // Also shows the text. 0, and no change, for one not below the limit; else 1.
     int SetTextM(const char* text);
+    // The value by id: the text on the screen, also what GBK cannot say. The limit holds as for SetTextM.
+    unsigned ValuePartsM() const { return TextPart; }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
     int GetTextM(char* text) const; // Copies what is on the screen; the buffer must hold it.
 
 protected:

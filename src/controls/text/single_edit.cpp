@@ -120,6 +120,21 @@ int DuSingleEditCL::SetValueM(const char* text)
     return 1;
 }
 
+ControlValueCL DuSingleEditCL::ReadValueM() const
+{
+    if (m_hWnd == nullptr) {
+        return {};
+    }
+    char text[TextSize];
+    GetWindowText(text, TextSize);
+    return value_.ReadAsM(text);
+}
+
+bool DuSingleEditCL::WriteValueM(const ControlValueCL& value)
+{
+    return m_hWnd != nullptr && value_.TakeM(value) && DispEditM() == 1;
+}
+
 int DuSingleEditCL::DispEditM()
 {
     char text[TextSize];

@@ -41,6 +41,12 @@ public:
     int SetValueM(float value);
     int SetValueM(const char* text);
 
+    // The value by id (ControlValueCL), as the text would be judged on leaving; none unless that is valid.
+    // Reading changes and tells nothing; a value that would be refused then is refused: false.
+    unsigned ValuePartsM() const { return value_.PartsM(); }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
+
     // 1: reads the text, the check code; else DispEditM.
     int UpdateDataM(int direction) { return direction == 1 ? checkValueM() : DispEditM(); }
     int DispEditM(); // Shows the value: 1, or 0 for an unknown type.

@@ -125,6 +125,21 @@ int DuSpinEditCL::GetCurValM(simpleValD*)
     return value_.ReadM(text);
 }
 
+ControlValueCL DuSpinEditCL::ReadValueM() const
+{
+    if (m_hWnd == nullptr) {
+        return {};
+    }
+    char text[TextSize];
+    GetWindowText(text, TextSize);
+    return value_.ReadAsM(text);
+}
+
+bool DuSpinEditCL::WriteValueM(const ControlValueCL& value)
+{
+    return m_hWnd != nullptr && value_.TakeM(value) && DispEditM() == 1;
+}
+
 int DuSpinEditCL::DispEditM()
 {
     char text[TextSize];

@@ -31,6 +31,12 @@ public:
     // Reads the text into the current value; the check code (CheckCode). *value is never written.
     int GetCurValM(simpleValD* value);
     int DispEditM(); // Shows the current value: 1, or 0 for an unknown type.
+    // The value by id (ControlValueCL), as the text would be judged on leaving; none unless that is valid.
+    // Reading changes and tells nothing; a value that would be refused then is refused: false.
+    unsigned ValuePartsM() const { return value_.PartsM(); }
+    ControlValueCL ReadValueM() const;
+    bool WriteValueM(const ControlValueCL& value);
+
     DuSpinButtonCL& SpinButtonM() { return spinButton_; }
 
 protected:

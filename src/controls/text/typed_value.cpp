@@ -133,6 +133,64 @@ CheckCode TypedValueCL::ReadM(const char* text)
     return Unreadable;
 }
 
+unsigned TypedValueCL::PartsM() const
+{
+    switch (type_) {
+    case IntegerType:
+        return NumberPart;
+    case RealType:
+        return RealPart;
+    case TextType:
+        return TextPart;
+    default:
+        return NoPart;
+    }
+}
+
+ControlValueCL TypedValueCL::ReadAsM(const char* text) const
+{
+    TypedValueCL read = *this;
+    ControlValueCL value;
+    if (read.ReadM(text) != ValidValue) {
+        return value;
+    }
+    if (type_ == IntegerType) {
+        value.number = read.IntM();
+    } else if (type_ == RealType) {
+        value.real = read.RealM();
+    } else {
+        value.text = read.TextM();
+    }
+    return value;
+}
+
+bool TypedValueCL::TakeM(const ControlValueCL& value)
+{
+    if (!value.IsOfM(PartsM())) {
+        return false;
+    }
+    TypedValueCL taken = *this;
+    if (value.number) {
+        taken.SetIntM(*value.number);
+    } else if (value.real) {
+        taken.SetRealM(*value.real);
+    } else {
+        int lost = 0;
+        const std::string text = value.text->GbkM(&lost);
+        if (lost > 0 || text.size() >= TextSize) {
+            return false;
+        }
+        taken.SetTextM(text.c_str());
+    }
+    char shown[TextSize];
+    taken.ShowM(shown, TextSize);
+    if (TypedValueCL(taken).ReadM(shown) != ValidValue) {
+        return false;
+    }
+    value_ = taken.value_;
+    return true;
+}
+
 int TypedValueCL::ShowM(char* to, int size) const
 {
     slCopyText(to, size, "");

@@ -1,5 +1,6 @@
 #pragma once
 #include "baselib/simple_value.h"
+#include "controls/base/control_value.h"
 #include "records/fields.h"
 #include <string>
 
@@ -46,6 +47,12 @@ public:
     // behind it don't matter. Where no number stands the value stays.
     CheckCode ReadM(const char* text);
     int ShowM(char* to, int size) const; // The value as text: 1; "" and 0 for an unknown type.
+
+    // As value by id (ControlValueCL): one part, by type; none for an unknown type.
+    unsigned PartsM() const;
+    ControlValueCL ReadAsM(const char* text) const; // What ReadM takes from a text; none unless it is valid.
+    // Takes a value that, shown, would be judged valid. False, and the value stays, for every other one.
+    bool TakeM(const ControlValueCL& value);
 
     // Brings a value that ReadM judged to be out of range to the limit; a text is cut to its maximum length.
     void ForceM(CheckCode code);
