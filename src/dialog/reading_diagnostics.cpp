@@ -17,7 +17,7 @@ void ReadingDiagnosticsCL::BeginBuildM()
 
 void ReadingDiagnosticsCL::WatchM(const char* file, VrIOCL& io)
 {
-    file_ = file;
+    file_ = file != nullptr ? file : "";
     text_ = io.FileTextM();
     slipped_ = nullptr;
     io.SetObserverM(this);
@@ -31,7 +31,7 @@ void ReadingDiagnosticsCL::tellM(const char* code, const SpanCL* span, const std
     const PlaceCL place = span != nullptr ? text_->PlaceM(span->begin) : PlaceCL { 0, 0 };
     const std::string key
         = file_ + ':' + std::to_string(place.line) + ':' + std::to_string(place.column) + ' ' + message;
-    if (told_.insert(key).second) {
+    if (tell_ != nullptr && told_.insert(key).second) {
         tell_({ code, file_.c_str(), static_cast<int>(place.line), static_cast<int>(place.column),
                   message.c_str() },
             context_);

@@ -11,7 +11,7 @@ class VrIOCL;
 class PANELKIT_API ReadingDiagnosticsCL : public ReadObserverCL
 {
 public:
-    // tell must not be null. isOnce: what was told is not told again; otherwise each build tells anew.
+    // tell null: nobody is told. isOnce: what was told is not told again; otherwise each build tells anew.
     ReadingDiagnosticsCL(DiagnosticTP tell, void* context, bool isOnce)
         : tell_(tell)
         , context_(context)
@@ -19,7 +19,8 @@ public:
     {
     }
     void BeginBuildM();
-    // Before a section of the file (GBK path) is read from io; tells where the file could not be opened.
+    // Before a section of the file (GBK path, null is empty) is read from io; tells where the file could not
+    // be opened.
     void WatchM(const char* file, VrIOCL& io);
 
     void ValueM(const ValueSeenCL& value) override;

@@ -17,7 +17,9 @@ SectionStatus slReadRelations(VrIOCL& io, const std::function<void(RelationCL& r
     for (int i = 0; i < section.CountM(); ++i) {
         relation = RelationCL();
         relation.EachFieldM(section.RecordM(i));
-        see(relation);
+        if (see != nullptr) {
+            see(relation);
+        }
     }
     return section.StatusM();
 }

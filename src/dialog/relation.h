@@ -12,5 +12,5 @@ struct RelationCL
     PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
 };
 
-// Calls see(relation) for each entry of "[相关对象信息]" in an open file.
+// Calls see(relation), unless it is null, for each entry of "[相关对象信息]" in an open file.
 PANELKIT_API SectionStatus slReadRelations(VrIOCL& io, const std::function<void(RelationCL& relation)>& see);

@@ -3,6 +3,8 @@
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "controls/text/text_box.h"
 #include "controls/text/tool_tip.h"
+#include "dialog/reading_diagnostics.h"
+#include "dialog/relation.h"
 #include "support/small_picture.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
@@ -291,4 +293,73 @@ TEST(NullPointers, HostBuildsInNoWindowAndAsksForEveryPlaceToWriteTo)
     EXPECT_EQ(dialog.GetSingleEditValM(13, static_cast<float*>(nullptr)), 0);
     EXPECT_EQ(dialog.GetSingleEditValM(13, static_cast<char*>(nullptr)), 0);
     EXPECT_EQ(dialog.SetSingleEditValM(13, static_cast<const char*>(nullptr)), 0);
+}
+
+TEST(NullPointers, LinesOfATreeNeedATreeAndAPlace)
+{
+    const int numbers[3] = { 0, 1, 2 };
+    DVrTreeCL record(AliveTag);
+    record.AddStringM(numbers, "a", "b", "c");
+    EXPECT_EQ(record.genTreeM(0, nullptr, nullptr), 0);
+    TreeLinesCL lines;
+    lines.AddM(nullptr, "a", "b", "c");
+    EXPECT_EQ(lines.GetAvailableNumM(), 0);
+    lines.AddM(numbers, "kept", "b", "c");
+    lines.GenerateM(0, nullptr, nullptr);
+    EXPECT_EQ(lines.GetAvailableNumM(), 1);
+    EXPECT_STREQ(lines.LineM(0).text, "kept");
+}
+
+TEST(NullPointers, ArrowsNeedAParentAndNothingIsBehindNone)
+{
+    DuSpinButtonCL arrows;
+    EXPECT_EQ(arrows.Create(CRect(0, 0, 9, 9), nullptr), 0);
+    MadeCL<DuLabelCL> label;
+    EXPECT_EQ(label->SetZOrderM(nullptr), 1);
+    EXPECT_TRUE(::IsWindow(label->m_hWnd));
+}
+
+TEST(NullPointers, NobodyIsToldOfDiagnosticsAndRelationsThatNobodyWants)
+{
+    const DescriptionFileCL file("[相关对象信息]\n1\n0\n11 x 2 3\n[版本号]\n1.0\n");
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    ReadingDiagnosticsCL watching(nullptr, nullptr, false);
+    watching.BeginBuildM();
+    watching.WatchM(nullptr, io);
+    EXPECT_NE(slReadRelations(io, nullptr), SectionStatus::Missing);
+    DialogHeaderCL header;
+    EXPECT_EQ(slReadDialogHeader(io, header), 0);
+    int told = 0;
+    const DiagnosticTP count = [](const DiagnosticCL&, void* context) { ++*static_cast<int*>(context); };
+    ReadingDiagnosticsCL telling(count, &told, false);
+    telling.WatchM(nullptr, io);
+    slReadDialogHeader(io, header);
+    EXPECT_GT(told, 0);
+}
+
+TEST(NullPointers, AFieldIsToldOfByNothing)
+{
+    MadeCL<DuSingleEditCL> edit;
+    EXPECT_FALSE(slTellAboutField(nullptr, [] { FAIL(); }));
+    EXPECT_FALSE(slTellAboutField(&edit.control, nullptr));
+}
+
+TEST(NullPointers, ValuesByIdTakeNone)
+{
+    TestDialogCL dialog(HeaderSections
+        + std::string("[单行文本]\n1\n0\n1 13 0 0 80 20 3 0 9 0 0 2\nkept\n0 1 255 255 255\n"
+                      "[文本列表框]\n1\n0\n1 12 0 0 80 80 12 1 1 255 255 255 0\n"
+                      "[文本列表框初始值]\n1\n0\n12 a\n"));
+    auto& values = dialog.ValuesM();
+    EXPECT_FALSE(values.SetTextM(13, static_cast<const char*>(nullptr)));
+    EXPECT_FALSE(values.SetTextM(13, static_cast<const wchar_t*>(nullptr)));
+    EXPECT_FALSE(values.SetTextM(13, ValueTextCL::FromUtf8M(static_cast<const char*>(nullptr))));
+    EXPECT_EQ(values.TextM(13, nullptr, 9), 5);
+    EXPECT_EQ(values.Utf8TextM(13, nullptr, 9), 5);
+    EXPECT_EQ(values.WideTextM(13, nullptr, 9), 5);
+    EXPECT_FALSE(values.AddLineM(12, static_cast<const char*>(nullptr)));
+    EXPECT_FALSE(values.InsertLineM(12, 0, static_cast<const wchar_t*>(nullptr)));
+    EXPECT_EQ(values.TextM(13)->GbkM(nullptr), "kept");
+    EXPECT_EQ(values.LineCountM(12), 1);
 }

@@ -85,8 +85,8 @@ protected:
 };
 
 // Values of all sorts, of which a control takes those that it can have.
-const char* const Tried[] = { "0", "1", "2", "7", "9", "-4", "0.5", "0.25", "0.125", "90 5", "-7.5 -3", "0 1",
-    "", "abc", "转速", "a=b", "0=A4 纸", "1=A3 纸", "-1=", "-1=typed", "-1=A4 纸", "图纸", "图纸/第一页" };
+const char* const Tried[] = { "0", "1", "2", "7", "9", "-4", "0.5", "0.25", "90 5", "-7.5 -3", "0 1", "",
+    "abc", "转速", "a=b", "0=A4 纸", "1=A3 纸", "-1=", "-1=typed", "-1=A4 纸", "图纸", "图纸/第一页" };
 
 } // namespace
 

@@ -145,6 +145,8 @@ TEST(ValuesById, EditsTakeWhatTheyWouldNotRefuseOnLeaving)
     EXPECT_FALSE(values.SetRealM(12, std::nan("")));
     EXPECT_FALSE(values.SetRealM(12, 1e300));
     EXPECT_EQ(textOf(dialog.ItemM(12)), "2.25");
+    EXPECT_TRUE(values.SetRealM(12, 1.259)); // The field has two decimals.
+    EXPECT_EQ(values.RealM(12), 1.26F);
     EXPECT_TRUE(values.SetTextM(13, ValueTextCL::FromUtf8M("转速")));
     EXPECT_FALSE(values.SetTextM(13, "1234567"));
     EXPECT_FALSE(values.SetTextM(13, static_cast<const char*>(nullptr)));
@@ -475,6 +477,24 @@ TEST(ValuesById, OfAKnobAreItsAngleAndCounter)
     EXPECT_TRUE(values.SetIntM(45, -7));
     EXPECT_EQ(values.SavedM(45), "-90 -7");
     EXPECT_EQ(dialog.StoryM(), "");
+}
+
+TEST(ValuesById, WorkInAWindowThatTheApplicationOwns)
+{
+    PlainWindowCL frame;
+    const SmallPictureCL picture(0x0000FF, 20, 20);
+    const DescriptionFileCL file(valuedSections(picture.path()));
+    DuBasicDialogCL host;
+    host.SetConfigFileM(file.path());
+    host.InitDlgM(&frame, 0);
+    auto& values = host.ValuesM();
+    EXPECT_TRUE(values.SetIntM(11, 42));
+    EXPECT_EQ(textOf(::GetDlgItem(frame.m_hWnd, 11)), "42");
+    EXPECT_TRUE(values.SetCheckedM(33, true));
+    EXPECT_EQ(values.GroupM(31), 33);
+    EXPECT_EQ(values.AllM().size(), 24U);
+    host.DestroyM();
+    EXPECT_TRUE(values.AllM().empty());
 }
 
 TEST(ValuesById, OfTheFirstControlWithAnIdAreMeant)

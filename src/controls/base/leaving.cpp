@@ -61,7 +61,7 @@ bool slIsEntered(HWND control)
 
 bool slTellAboutField(CWnd* field, const std::function<void()>& show)
 {
-    if (field == nullptr) {
+    if (field == nullptr || show == nullptr) {
         return false;
     }
     const HWND window = field->m_hWnd;

@@ -53,5 +53,5 @@ PANELKIT_API bool slIsEntered(HWND control);
 
 // Shows a message about a field's value, modally by show(), and gives the field the focus back if it has
 // moved away. Whatever control was or is about to be pressed: that press ends without a click. False when the
-// field was destroyed meanwhile: the caller must not touch it any more; nothing for null.
+// field was destroyed meanwhile: the caller must not touch it any more; nothing for a null field or show.
 PANELKIT_API bool slTellAboutField(CWnd* field, const std::function<void()>& show);

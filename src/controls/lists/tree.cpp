@@ -18,14 +18,14 @@ int DVrTreeCL::InitTreeM(DuTreeCL* control) const
 
 int DVrTreeCL::InitTreeStrM(DuTreeCL* control)
 {
-    if (control == nullptr) {
-        return 0;
-    }
     return genTreeM(0, TVI_ROOT, control);
 }
 
 int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
 {
+    if (tree == nullptr) {
+        return 0;
+    }
     const FillingCL filling(tree);
     TreePicturesCL pictures(tree->ImagesM());
     lines_.GenerateM(

@@ -5,6 +5,9 @@
 void TreeLinesCL::AddM(
     const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture)
 {
+    if (triple == nullptr) {
+        return;
+    }
     const auto add
         = [](VrStringArr& list, const char* what) { slAddText(list, what != nullptr ? what : ""); };
     keys_.AddItemM(triple);
@@ -48,6 +51,9 @@ void TreeLinesCL::VisitM(FieldVisitorCL& visitor, const char* name)
 
 void TreeLinesCL::GenerateM(int parentKey, void* parent, const PlaceTP& place)
 {
+    if (place == nullptr) {
+        return;
+    }
     // The lines of one parent key, and how many of them are placed. Whoever comes by with that key takes the
     // next one: a walk over all alive lines would find the same.
     struct ChildrenCL

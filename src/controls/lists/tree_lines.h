@@ -28,6 +28,7 @@ public:
         const char* selectedPicture;
     };
 
+    // Null is an empty text; without the numbers nothing is added.
     void AddM(const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
     void DelItemM(int index); // The line is deleted from all lists; the others keep their index.
     void DelAllM();
@@ -39,7 +40,7 @@ public:
 
     // Places the lines with that parent key below the parent, in order, each one's children (the lines that
     // name its own key as their parent) before the next line. place(parent, line) returns what it made of the
-    // line, null if it failed; either way the line is deleted, so each is placed once.
+    // line, null if it failed; either way the line is deleted, so each is placed once. No place: nothing.
     using PlaceTP = std::function<void*(void* parent, const LineCL& line)>;
     void GenerateM(int parentKey, void* parent, const PlaceTP& place);
 

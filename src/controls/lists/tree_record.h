@@ -18,7 +18,7 @@ public:
     int InitTreeM(DuTreeCL* control) const; // The control may be null.
     int InitTreeStrM(DuTreeCL* control);    // Inserts all lines from parent key 0 on into a live control.
     // Inserts the lines with that parent key below the item, each followed by its own children, in order. A
-    // line is used up by that, also when its pictures fail: then its children stay out. Always 1.
+    // line is used up by that, also when its pictures fail: then its children stay out. 1; 0 for a null tree.
     int genTreeM(int parentKey, _TREEITEM* parentItem, DuTreeCL* tree);
     void EachFieldM(FieldVisitorCL& visitor);
 
