@@ -12,7 +12,7 @@ packages=(
   # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
   libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
-test_packages=(g++ googletest clang-format ccache)
+test_packages=(g++ googletest clang-format ccache clang)
 
 say() { echo "$*" >&2; }
 

@@ -87,7 +87,9 @@ TEST_F(CEvents, ListsTellOfOtherSelections)
     KeyM(VK_DOWN);
     EXPECT_EQ(opened_.StoryM(), "select 25 10 1"); // Once, though two rows have changed.
     StartAtM(46);
-    KeyM(VK_HOME);
+    KeyM(VK_RIGHT); // Expands.
+    EXPECT_EQ(opened_.StoryM(), "");
+    KeyM(VK_DOWN);
     EXPECT_EQ(opened_.StoryM(), "select 46 18 0");
 }
 

@@ -68,7 +68,7 @@ TEST(COpen, DiagnosticsAreToldInUtf8)
     options.diagnostics_user = &told;
     panelkit_dialog* dialog = nullptr;
     ASSERT_EQ(panelkit_open(file.path(), &options, &dialog), PANELKIT_OK);
-    EXPECT_EQ(told.find("missing-picture "), 0u) << told;
+    EXPECT_EQ(told.find("missing-file "), 0u) << told;
     EXPECT_NE(told.find(u8"笔.bmp"), std::string::npos) << told;
     EXPECT_EQ(panelkit_destroy(dialog), PANELKIT_OK);
 }
@@ -184,7 +184,12 @@ TEST(CDestroy, IsSafeInEveryEvent)
     const auto press = [](WORD key) { return [key](OpenedDialogCL&) { KeyM(key); }; };
     const CaseCL cases[] = { { PANELKIT_EVENT_CLICK, 43, click(43) }, { PANELKIT_EVENT_CLICK, 43, click(42) },
         { PANELKIT_EVENT_FOCUS, 43, click(33) }, { PANELKIT_EVENT_SELECT, 43, click(17) },
-        { PANELKIT_EVENT_SELECT, 25, press(VK_DOWN) }, { PANELKIT_EVENT_SELECT, 46, press(VK_HOME) },
+        { PANELKIT_EVENT_SELECT, 25, press(VK_DOWN) },
+        { PANELKIT_EVENT_SELECT, 46,
+            [](OpenedDialogCL&) {
+                KeyM(VK_RIGHT); // Expands.
+                KeyM(VK_DOWN);
+            } },
         { PANELKIT_EVENT_CHANGE, 13, press('X') }, { PANELKIT_EVENT_CHANGE, 16, press('X') },
         { PANELKIT_EVENT_LEAVE, 13, press(VK_TAB) }, { PANELKIT_EVENT_LEAVE, 14, press(VK_TAB) },
         { PANELKIT_EVENT_LEAVE, 16, click(43) }, { PANELKIT_EVENT_CLOSING, 43, press(VK_ESCAPE) },
