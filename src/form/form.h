@@ -65,8 +65,8 @@ public:
         return state_->dialog != nullptr ? panelkit_last_error(state_->dialog) : state_->error;
     }
 
-    // Shows the dialog, its owner disabled, until it closes: the result of Close, 1 for Enter, 2 for Esc and
-    // the close button, -1 without a dialog or when the program quits.
+    // Shows the dialog, its owner disabled, until it closes: the result of Close, 1 for Enter and button 1, 2
+    // for Esc, button 2 and the close button, -1 without a dialog or when the program quits.
     int Run()
     {
         int result = -1;
@@ -102,7 +102,8 @@ public:
     {
         return on(PANELKIT_EVENT_LEAVE, id, FormStateCL::GivenM(std::move(handler), &panelkit_event::good));
     }
-    // The user wants to close it, by Enter (1), Esc or the close button (2); false keeps it open.
+    // The user wants to close it, by Enter or button 1 (1), by Esc, the close button or button 2
+    // (2); false keeps it open.
     Form& OnClosing(std::function<bool(int result)> handler)
     {
         return on(PANELKIT_EVENT_CLOSING, 0, std::move(handler));

@@ -135,6 +135,10 @@ void HostedDialogCL::tellOfNotificationM(UINT message, WPARAM wParam, LPARAM lPa
             number = ValuesM().IndexM(seen.id).value_or(-1);
         }
         tellM(row->event, seen.id, kind, number);
+        const bool isAnswer = seen.id == IDOK || seen.id == IDCANCEL;
+        if (isAnswer && message == ButtonActionMsg && kind == static_cast<int>(StandardButtonCode)) {
+            askToCloseM(seen.id);
+        }
     }
 }
 

@@ -78,12 +78,13 @@ enum
     PANELKIT_EVENT_SELECT = 5,       /* Another line, row or item is selected. number: the line or row, -1 for
                                         none or several; 0 for a tree. */
     PANELKIT_EVENT_FOCUS = 6,        /* The control got the focus. */
-    PANELKIT_EVENT_LEAVE = 7,   /* A field was left. good: 1, or 0 when its value is bad, which the library
-                                   has told the user. */
-    PANELKIT_EVENT_TIMER = 8,   /* id is the timer's. */
-    PANELKIT_EVENT_CLOSING = 9, /* The user wants to close. number: 1 by Enter, 2 by Esc or the close button.
-                                   Return 1 to keep the dialog open. */
-    PANELKIT_EVENT_CLOSED = 10  /* The dialog has closed. number: its result. */
+    PANELKIT_EVENT_LEAVE = 7, /* A field was left. good: 1, or 0 when its value is bad, which the library
+                                 has told the user. */
+    PANELKIT_EVENT_TIMER = 8, /* id is the timer's. */
+    PANELKIT_EVENT_CLOSING
+    = 9, /* The user wants to close. number: 1 by Enter or the standard button 1, 2 by Esc,
+             the close button or the standard button 2. Return 1 to keep the dialog open. */
+    PANELKIT_EVENT_CLOSED = 10 /* The dialog has closed. number: its result. */
 };
 
 typedef struct panelkit_event
@@ -144,8 +145,8 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_open(
 /* Frees the dialog. A callback hears no more of it, not even that it closes. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_destroy(panelkit_dialog* dialog);
 
-/* Shows the dialog, its owner disabled, until it closes. *result (may be null): that of panelkit_close, 1 for
-   Enter, 2 for Esc and the close button, -1 when the program quits or the dialog was destroyed. */
+/* Shows the dialog, its owner disabled, until it closes. *result (may be null): that of panelkit_close, 1 or
+   2 as the event CLOSING says, -1 when the program quits or the dialog was destroyed. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_run(panelkit_dialog* dialog, int32_t* result);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show(panelkit_dialog* dialog); /* And returns at once. */
 /* Hides the dialog; its values stay, and it can be shown again. Nothing is checked. Nothing if it is not

@@ -182,3 +182,32 @@ TEST_F(CEvents, TheCancelControlIsReachedWithoutACheck)
     EXPECT_EQ(watcher.SeenM().size(), 1u);
     EXPECT_EQ(::GetFocus(), opened_.ItemM(11));
 }
+
+TEST(CAnswers, ButtonsOneAndTwoCloseTheDialog)
+{
+    const std::string answers = HeaderSections
+        + std::string(
+            "[标准按钮]\n3\n0\n1 1 10 10 70 20\nyes\n1\n2 2 10 40 70 20\nno\n0\n3 3 10 70 70 20\nmore\n0\n");
+    OpenedDialogCL opened(answers);
+    const auto after = [&opened](const std::function<void()>& act) {
+        int32_t open = 1;
+        if (panelkit_is_open(opened.dialog, &open) == PANELKIT_OK && open == 0) {
+            opened.ShowM();
+        }
+        EXPECT_TRUE(FocusM(opened.ItemM(3)));
+        opened.StoryM();
+        act();
+        return opened.StoryM();
+    };
+    EXPECT_EQ(after([&] { ClickM(opened.ItemM(3), 5, 5); }), "click 3 13 0");
+    EXPECT_EQ(after([] { KeyM(VK_ESCAPE); }), "click 2 13 0; closing 0 0 2; closed 0 0 2");
+    const std::string clicked = after([&] { ClickM(opened.ItemM(1), 5, 5); });
+    EXPECT_NE(clicked.find("click 1 13 0; closing 0 0 1; closed 0 0 1"), std::string::npos) << clicked;
+    opened.handler = [&](const panelkit_event& event) {
+        if (event.kind == PANELKIT_EVENT_CLICK) {
+            EXPECT_EQ(panelkit_close(opened.dialog, 20), PANELKIT_OK); // Asks nobody.
+        }
+        return 0;
+    };
+    EXPECT_EQ(after([] { KeyM(VK_ESCAPE); }), "click 2 13 0; closed 0 0 20");
+}
