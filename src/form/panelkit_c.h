@@ -70,20 +70,21 @@ enum
 /* What callbacks are told: what the user does, never what the program does by these functions. */
 enum
 {
-    PANELKIT_EVENT_CLICK = 1, /* A control was clicked. number: of a multi-state button the place of its
-                                 picture, of a rotate button its counter. */
+    /* A control was clicked. number: of a multi-state button the place of its picture, of a rotate button its
+       counter. */
+    PANELKIT_EVENT_CLICK = 1,
     PANELKIT_EVENT_DOUBLE_CLICK = 2, /* A list, table, tree, label or picture was. */
     PANELKIT_EVENT_PRESS = 3,        /* The mouse button went down on a bitmap button. */
     PANELKIT_EVENT_CHANGE = 4,       /* The text of a field changed, perhaps to one that is not legal yet. */
-    PANELKIT_EVENT_SELECT = 5,       /* Another line, row or item is selected. number: the line or row, -1 for
-                                        none or several; 0 for a tree. */
-    PANELKIT_EVENT_FOCUS = 6,        /* The control got the focus. */
-    PANELKIT_EVENT_LEAVE = 7, /* A field was left. good: 1, or 0 when its value is bad, which the library
-                                 has told the user. */
+    /* Another line, row or item is selected. number: the line or row, -1: none or several; 0 for a tree. */
+    PANELKIT_EVENT_SELECT = 5,
+    PANELKIT_EVENT_FOCUS = 6, /* The control got the focus; not all kinds tell. */
+    PANELKIT_EVENT_LEAVE
+    = 7, /* A field was left. good: 0 when its value is bad: the library tells the user. */
     PANELKIT_EVENT_TIMER = 8, /* id is the timer's. */
-    PANELKIT_EVENT_CLOSING
-    = 9, /* The user wants to close. number: 1 by Enter or the standard button 1, 2 by Esc,
-             the close button or the standard button 2. Return 1 to keep the dialog open. */
+    /* The user wants to close. number: 1 by Enter or the standard button 1; 2 by Esc, the close button or the
+       standard button 2. Return 1 to keep the dialog open. */
+    PANELKIT_EVENT_CLOSING = 9,
     PANELKIT_EVENT_CLOSED = 10 /* The dialog has closed. number: its result. */
 };
 
