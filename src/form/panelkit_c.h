@@ -79,8 +79,8 @@ enum
     /* Another line, row or item is selected. number: the line or row, -1: none or several; 0 for a tree. */
     PANELKIT_EVENT_SELECT = 5,
     PANELKIT_EVENT_FOCUS = 6, /* The control got the focus; not all kinds tell. */
-    PANELKIT_EVENT_LEAVE
-    = 7, /* A field was left. good: 0 when its value is bad: the library tells the user. */
+    /* A field was left. good: 0 when its value is bad, of which the library tells the user. */
+    PANELKIT_EVENT_LEAVE = 7,
     PANELKIT_EVENT_TIMER = 8, /* id is the timer's. */
     /* The user wants to close. number: 1 by Enter or the standard button 1; 2 by Esc, the close button or the
        standard button 2. Return 1 to keep the dialog open. */
