@@ -44,6 +44,14 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_values.cpp
+  form/c_controls.cpp
+  form/c_dialog.cpp
+  form/c_lines.cpp
+  form/c_saved.cpp
+  form/c_values.cpp
+  form/dialog_handles.cpp
+  form/hosted_dialog.cpp
+  form/hosted_dialog_events.cpp
   pictures/bitmap_record.cpp
   pictures/brush_record.cpp
   pictures/image_cache.cpp

@@ -4,8 +4,6 @@
 
 namespace {
 
-// Shows the dialog once, when its controls exist.
-constexpr UINT_PTR StartTimer = 6107;
 constexpr UINT StartPeriod = 50; // Milliseconds.
 
 // An empty dialog.

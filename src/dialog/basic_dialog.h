@@ -122,6 +122,7 @@ protected:
     // building. 1 if the file has the section.
     int initItemRelationM();
 
+    static constexpr UINT_PTR StartTimer = 6107; // Shows the dialog once, when its controls exist.
     afx_msg void OnPaint();
     afx_msg void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()

@@ -46,6 +46,7 @@ expect 1 "records include a control" records/region.h '#include "controls/base/c
 expect 1 "the controls' base includes a control" controls/base/control.h '  #  include "controls/text/edit.h"'
 expect 1 "controls include the dialog" controls/text/edit.h '#include "dialog/dialog.h"'
 expect 1 "controls of two folders know each other" controls/text/edit.h '#include "controls/lists/list.h"'
+expect 1 "the dialog includes the form" dialog/dialog.h '#include "form/form.h"'
 expect 1 "the toolkit includes containers" toolkit/wnd.h '#include "containers/arr.h"'
 expect 1 "baselib includes the toolkit" baselib/io.h '#include "toolkit/toolkit.h"'
 expect 1 "a record's header includes the toolkit" controls/text/edit_record.h '#include "toolkit/toolkit.h"'

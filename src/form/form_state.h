@@ -1,0 +1,95 @@
+#pragma once
+#include "form/panelkit_c.h"
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace panelkit {
+
+// What a form keeps, and what outlives it while one of its handlers runs.
+class FormStateCL : public std::enable_shared_from_this<FormStateCL>
+{
+public:
+    using EventHandler = std::function<void(const panelkit_event&)>;
+
+    panelkit_dialog* dialog = nullptr;
+    std::string error; // Why there is no dialog.
+    std::function<void(const panelkit_diagnostic&)> diagnostics;
+
+    void OnM(int kind, int id, EventHandler handler) { handlers_[{ kind, id }] = std::move(handler); }
+    void OnM(int kind, int id, std::function<void()> handler)
+    {
+        handlers_[{ kind, id }] = nullptr;
+        if (handler) {
+            OnM(kind, id, EventHandler([call = std::move(handler)](const panelkit_event&) { call(); }));
+        }
+    }
+    void OnM(int, int, std::function<bool(int)> handler) { closing_ = std::move(handler); }
+    // A handler that gets a member of the event.
+    template <class FunctionTP>
+    static EventHandler GivenM(FunctionTP handler, std::int32_t panelkit_event::*what)
+    {
+        if (!handler) {
+            return nullptr;
+        }
+        return [call = std::move(handler), what](const panelkit_event& event) { call(event.*what); };
+    }
+
+    static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
+    {
+        const auto state = static_cast<FormStateCL*>(user)->shared_from_this();
+        try {
+            state->callM({ 0, 0 }, *event);
+            if (state->dialog == nullptr) {
+                return 0; // The form is gone.
+            }
+            if (event->kind == PANELKIT_EVENT_CLOSING) {
+                const auto closing = state->closing_;
+                return closing && !closing(event->number) ? 1 : 0;
+            }
+            state->callM({ event->kind, event->id }, *event);
+        } catch (...) {
+            thrownM() = std::current_exception();
+            panelkit_close(state->dialog, -1);
+        }
+        return 0;
+    }
+    static void PANELKIT_CALL TellDiagnosticM(const panelkit_diagnostic* diagnostic, void* user) noexcept
+    {
+        try {
+            static_cast<FormStateCL*>(user)->diagnostics(*diagnostic);
+        } catch (...) {
+            thrownM() = std::current_exception();
+        }
+    }
+    // What a handler of this thread has thrown.
+    static void RethrowM()
+    {
+        if (const std::exception_ptr pointer = std::exchange(thrownM(), nullptr)) {
+            std::rethrow_exception(pointer);
+        }
+    }
+
+private:
+    static std::exception_ptr& thrownM()
+    {
+        static thread_local std::exception_ptr pointer;
+        return pointer;
+    }
+    void callM(std::pair<int, int> what, const panelkit_event& event) const
+    {
+        const auto found = handlers_.find(what);
+        if (found != handlers_.end() && found->second) {
+            const EventHandler handler = found->second; // It may put another one in its place.
+            handler(event);
+        }
+    }
+
+    std::function<bool(int)> closing_;
+    std::map<std::pair<int, int>, EventHandler> handlers_; // By kind of event and id.
+};
+
+} // namespace panelkit

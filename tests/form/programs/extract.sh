@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# extract.sh README FORM_PAGE C_PAGE FOLDER: writes the programs of the pages into a folder. What is a part of a program
+# becomes a function.
+set -euo pipefail
+readme=$1 form=$2 c=$3 folder=$4
+rm -rf "$folder"
+mkdir -p "$folder"
+
+# The Nth fenced block of a language; fails if there is none.
+block() { # page language number
+  awk -v open="\`\`\`$2" -v wanted="$3" '
+    $0 == "```" { inside = 0 }
+    inside { print; printed = 1 }
+    $0 == open { inside = ++seen == wanted }
+    END { exit !printed }' "$1"
+}
+
+block "$readme" cpp 1 >"$folder/readme.cpp"
+block "$form" cpp 1 >"$folder/form_page.cpp"
+block "$c" c 1 >"$folder/c_page.c"
+number=2
+while text=$(block "$form" cpp $number); do
+  printf '#include <panelkit/form/form.h>\n#include <iostream>\nvoid part%d(panelkit::Form& form);\nvoid part%d(panelkit::Form& form)\n{\n%s\n}\n' \
+    $number $number "$text" >"$folder/form_part_$number.cpp"
+  number=$((number + 1))
+done
+[ "$number" -gt 2 ]
