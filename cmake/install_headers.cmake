@@ -1,8 +1,8 @@
-# Run by the install: panelkit.h and what it reaches. Other headers are the library's own. In src each includes
+# Run by the install: panelkit.h, the C interface, Form, and what they reach. Other headers are the library's own. In src each includes
 # the others from src; installed, from beside itself: an application has one folder in its include path, and its
 # own dialog/... are not taken for ours.
 cmake_policy(VERSION 3.25)
-set(todo panelkit.h)
+set(todo panelkit.h panelkit_c.h form/form_host.h)
 set(public)
 while(todo)
   list(POP_FRONT todo header)
