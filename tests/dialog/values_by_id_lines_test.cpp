@@ -35,7 +35,7 @@ TEST(LinesById, AreAddedInsertedDeletedAndCleared)
         EXPECT_EQ(linesOf(values, id), "first 转速 m z last");
         EXPECT_FALSE(values.InsertLineM(id, 6, "x"));
         EXPECT_FALSE(values.InsertLineM(id, -1, "x"));
-        EXPECT_FALSE(values.AddLineM(id, static_cast<const char*>(nullptr)));
+        EXPECT_FALSE(values.AddLineM(id, nullptr));
         EXPECT_FALSE(values.AddLineM(id, L"\x0E01")); // GBK has no Thai.
         EXPECT_TRUE(values.DeleteLineM(id, 0));
         EXPECT_TRUE(values.DeleteLineM(id, 3));

@@ -149,8 +149,7 @@ TEST(ValuesById, EditsTakeWhatTheyWouldNotRefuseOnLeaving)
     EXPECT_EQ(values.RealM(12), 1.26F);
     EXPECT_TRUE(values.SetTextM(13, ValueTextCL::FromUtf8M("转速")));
     EXPECT_FALSE(values.SetTextM(13, "1234567"));
-    EXPECT_FALSE(values.SetTextM(13, static_cast<const char*>(nullptr)));
-    EXPECT_FALSE(values.SetTextM(13, static_cast<const wchar_t*>(nullptr)));
+    EXPECT_FALSE(values.SetTextM(13, nullptr));
     EXPECT_FALSE(values.SetTextM(13, L"\x0E01")); // GBK has no Thai.
     EXPECT_EQ(values.TextM(13)->WideM(), L"转速");
     EXPECT_EQ(values.TextM(13)->GbkM(), "\xD7\xAA\xCB\xD9");
@@ -226,7 +225,7 @@ TEST(ValuesById, OfMultiLineEditsAreTheWholeText)
     EXPECT_EQ(values.TextM(16)->WideM(), L"一\r\n\u0e02");
     EXPECT_FALSE(values.SetTextM(16, std::string(20, 'x'))); // The limit is 20 bytes, all shorter.
     EXPECT_TRUE(values.SetTextM(16, std::string(19, 'x')));
-    EXPECT_FALSE(values.SetTextM(16, static_cast<const char*>(nullptr)));
+    EXPECT_FALSE(values.SetTextM(16, nullptr));
     EXPECT_EQ(utf8(values.TextM(16)), std::string(19, 'x'));
     char text[20] = "";
     EXPECT_EQ(dialog.ControlM<DuMultiEditCL>(16).GetTextM(text), 1);
@@ -386,7 +385,7 @@ TEST(ValuesById, OfAComboBoxWithAFieldAreWhatIsTyped)
     EXPECT_EQ(utf8(values.TextM(23)), "pink");
     EXPECT_TRUE(values.SetTextM(23, "green"));
     EXPECT_EQ(values.IndexM(23), 1);
-    EXPECT_FALSE(values.SetTextM(23, static_cast<const char*>(nullptr)));
+    EXPECT_FALSE(values.SetTextM(23, nullptr));
 }
 
 TEST(ValuesById, OfTablesAreTheRowsSelected)
@@ -436,7 +435,7 @@ TEST(ValuesById, OfATreeArePathsOfTexts)
     for (const char* none : { "top/same/leaf", "to", "top/", "/top", "top/same\\#3", "top/a/b" }) {
         EXPECT_FALSE(values.SetPathM(46, none)) << none;
     }
-    EXPECT_FALSE(values.SetPathM(46, static_cast<const char*>(nullptr)));
+    EXPECT_FALSE(values.SetPathM(46, nullptr));
     EXPECT_EQ(selectedData(), 505);
     EXPECT_TRUE(values.SetPathM(46, ""));
     EXPECT_EQ(utf8(values.PathM(46)), "");

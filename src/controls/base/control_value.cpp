@@ -62,6 +62,12 @@ unsigned ControlValueCL::PartsM() const
         | (path && !path->IsNoneM() ? PathPart : 0U);
 }
 
+bool ControlValueCL::IsOfM(unsigned parts) const
+{
+    const bool hasNone = (text && text->IsNoneM()) || (path && path->IsNoneM());
+    return !hasNone && PartsM() != NoPart && (PartsM() & ~parts) == 0;
+}
+
 ControlValueCL ControlValueCL::OnlyM(unsigned parts) const
 {
     ControlValueCL only;

@@ -28,8 +28,8 @@ struct PANELKIT_API ControlValueCL
     std::optional<ValueTextCL> path;       // Empty: no item is selected.
 
     unsigned PartsM() const; // ValuePart bits.
-    // Whether it has parts, all of them among these. A text or path that is none counts as missing.
-    bool IsOfM(unsigned parts) const { return PartsM() != NoPart && (PartsM() & ~parts) == 0; }
+    // Whether it has parts, all of them among these. Never, with a text or path that is none.
+    bool IsOfM(unsigned parts) const;
 
     ControlValueCL OnlyM(unsigned parts) const; // Without all other parts.
 

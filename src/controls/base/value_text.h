@@ -10,6 +10,10 @@ public:
     ValueTextCL() = default; // The empty text.
     // From GBK; of broken bytes it has what a window shows of them. Null: no text, which setters refuse.
     ValueTextCL(const char* gbk);
+    ValueTextCL(std::nullptr_t)
+        : isNone_(true)
+    {
+    }
     ValueTextCL(const std::string& gbk)
         : ValueTextCL(gbk.c_str())
     {
@@ -20,6 +24,7 @@ public:
     }
     static ValueTextCL FromUtf8M(const char* text); // Null: no text.
     static ValueTextCL FromUtf8M(const std::string& text) { return FromUtf8M(text.c_str()); }
+    static ValueTextCL FromUtf8M(std::nullptr_t) { return nullptr; }
 
     bool IsNoneM() const { return isNone_; }
     bool operator==(const ValueTextCL& other) const

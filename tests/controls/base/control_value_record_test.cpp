@@ -106,8 +106,9 @@ TEST(ControlValue, KnowsItsParts)
     EXPECT_TRUE(value.IsOfM(NumberPart | TextPart | LinesPart));
     EXPECT_FALSE(value.IsOfM(NumberPart));
     EXPECT_EQ(value.OnlyM(NumberPart).PartsM(), static_cast<unsigned>(NumberPart));
-    value.text = static_cast<const char*>(nullptr); // No text is no part.
+    value.text = ValueTextCL(nullptr); // No text is no part, and nothing to set.
     EXPECT_EQ(value.PartsM(), static_cast<unsigned>(NumberPart));
+    EXPECT_FALSE(value.IsOfM(NumberPart | TextPart));
 }
 
 TEST(ControlValue, LinesMustExistAndBeOneWhereOneCanBeSelected)
@@ -196,6 +197,8 @@ TEST(ValueText, OfANullPointerIsNone)
 {
     EXPECT_TRUE(ValueTextCL(static_cast<const char*>(nullptr)).IsNoneM());
     EXPECT_TRUE(ValueTextCL::FromUtf8M(static_cast<const char*>(nullptr)).IsNoneM());
+    EXPECT_TRUE(ValueTextCL(nullptr).IsNoneM());
+    EXPECT_TRUE(ValueTextCL::FromUtf8M(nullptr).IsNoneM());
     EXPECT_FALSE(ValueTextCL("").IsNoneM());
     EXPECT_NE(ValueTextCL(""), ValueTextCL(static_cast<const char*>(nullptr)));
     EXPECT_EQ(ValueTextCL(static_cast<const char*>(nullptr)).Utf8M(), "");
