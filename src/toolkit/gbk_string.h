@@ -1,11 +1,11 @@
 #pragma once
 #include "toolkit/format_argument.h"
 #include "toolkit/text.h"
+#include "toolkit/wide_text.h"
 #include <cstdarg>
 #include <vector>
 
 // Overloads for wide texts and for single characters are templates, so that NULL stays a null narrow text.
-template <class C> using AfxIfWide = std::enable_if_t<std::is_same<C, wchar_t>::value, int>;
 template <class C> using AfxIfChar = std::enable_if_t<std::is_same<C, char>::value, int>;
 
 // A text of GBK bytes, always ended by a zero. Lengths and positions count bytes, yet no result is half a

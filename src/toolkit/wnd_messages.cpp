@@ -169,6 +169,14 @@ BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     }
     AFX_NOTIFY notify = { result, header };
     int code = static_cast<int>(MAKELONG(static_cast<WORD>(header->code), WM_NOTIFY));
+    // Of a tip for a window that number is the window; in a map the tip has the id of its control, 0 as a
+    // rule.
+    if (header->code == TTN_NEEDTEXTW || header->code == TTN_NEEDTEXTA) {
+        const UINT tips = static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom));
+        if (OnCmdMsg(tips, code, &notify, nullptr) || !life.IsAliveM()) {
+            return TRUE;
+        }
+    }
     return OnCmdMsg(static_cast<UINT>(header->idFrom), code, &notify, nullptr);
 }
 

@@ -12,17 +12,18 @@ class AskedParentCL : public ParentWindowCL
 {
 public:
     int asked = 0;
-    afx_msg void OnText(UINT, NMHDR* header, LRESULT* result)
+    afx_msg BOOL OnText(UINT, NMHDR* header, LRESULT* result)
     {
         ++asked;
         ::lstrcpynW(reinterpret_cast<NMTTDISPINFOW*>(header)->szText, ChineseWide, 80);
         *result = 0;
+        return TRUE;
     }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(AskedParentCL, ParentWindowCL)
-ON_NOTIFY_RANGE(TTN_NEEDTEXTW, 0, ~0u, &AskedParentCL::OnText)
+ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &AskedParentCL::OnText)
 END_MESSAGE_MAP()
 
 class ToolTipCtrl : public testing::Test
