@@ -41,7 +41,7 @@ flags() { sed -n 's/^ *"command": "\(.*bystander.*\)",$/\1/p' "$1/build/compile_
 [ -n "$(flags .)" ] || fail "no command for the bystander"
 diff <(flags alone) <(flags .) || fail "left: flags of a program alone, right: with the library"
 # No other target, no test, no file to install.
-targets() { ninja -C "$1/build" -t targets all | sed -n 's/^\([A-Za-z_.]*\): phony$/\1/p' | grep -vE '(^|_)panelkit(_description)?(\.dll)?$' | sort; }
+targets() { ninja -C "$1/build" -t targets all | sed -n 's/^\([A-Za-z_.]*\): phony$/\1/p' | grep -vE '(^|_)panelkit(_description|_winmain)?(\.dll)?$' | sort; }
 targets . | grep -qx app || fail "no targets"
 diff <(targets alone) <(targets .) || fail "left: targets of a project alone, right: with the library"
 [ "$(ctest --test-dir build -N | sed -n 's/^Total Tests: //p')" = 0 ] || fail "it brought tests"

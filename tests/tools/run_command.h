@@ -45,6 +45,10 @@ inline int startCommand(const std::string& arguments, const std::string& output,
         ::GetExitCodeProcess(process.hProcess, &code);
         ::CloseHandle(process.hThread);
         ::CloseHandle(process.hProcess);
+    } else {
+        const std::string why = "not started: error " + std::to_string(::GetLastError()) + "\n";
+        DWORD written = 0;
+        ::WriteFile(start.hStdError, why.data(), static_cast<DWORD>(why.size()), &written, nullptr);
     }
     ::CloseHandle(start.hStdOutput);
     ::CloseHandle(start.hStdError);
