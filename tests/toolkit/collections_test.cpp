@@ -284,3 +284,37 @@ TEST(Maps, DoWhatAMapDoes)
     EXPECT_EQ(pointers["a"], &names);
     EXPECT_EQ(pointers["b"], nullptr);
 }
+
+TEST(Lists, OfPointersDoNotOwnWhatTheyHold)
+{
+    CWnd object;
+    int number = 0;
+    CObList objects;
+    CPtrList pointers;
+    objects.AddTail(&object);
+    pointers.AddHead(&number);
+    EXPECT_EQ(objects.GetHead(), &object);
+    EXPECT_EQ(pointers.RemoveTail(), &number);
+    EXPECT_TRUE(pointers.IsEmpty());
+    objects.RemoveAll();
+    EXPECT_TRUE(objects.IsEmpty());
+}
+
+TEST(Maps, OfPointersFindThemByPointerOrWord)
+{
+    int one = 1;
+    int two = 2;
+    CMapPtrToPtr byPointer;
+    CMapWordToPtr byWord;
+    byPointer.SetAt(&one, &two);
+    byWord[0xFFFF] = &one;
+    void* found = nullptr;
+    EXPECT_TRUE(byPointer.Lookup(&one, found));
+    EXPECT_EQ(found, &two);
+    EXPECT_FALSE(byPointer.Lookup(&two, found));
+    EXPECT_TRUE(byWord.Lookup(0xFFFF, found));
+    EXPECT_EQ(found, &one);
+    EXPECT_FALSE(byWord.RemoveKey(1));
+    EXPECT_TRUE(byWord.RemoveKey(0xFFFF));
+    EXPECT_TRUE(byWord.IsEmpty());
+}

@@ -134,3 +134,20 @@ TEST_F(DcMapping, PalettesAreSelected)
     EXPECT_EQ(palette.GetEntryCount(), 4);
     EXPECT_EQ(dc_.SelectPalette(before, FALSE), &palette);
 }
+
+TEST(WindowDc, ReachesTheFrameThatAClientContextLeavesOut)
+{
+    CWnd framed;
+    ASSERT_TRUE(framed.CreateEx(
+        0, "Static", "framed", WS_POPUP | WS_VISIBLE | WS_BORDER, CRect(40, 40, 140, 100), nullptr, 0));
+    CRect client;
+    framed.GetClientRect(&client);
+    const CWindowDC whole(&framed);
+    CRect clip;
+    whole.GetClipBox(&clip);
+    EXPECT_EQ(clip.Size(), CSize(100, 60));
+    const CClientDC inside(&framed);
+    inside.GetClipBox(&clip);
+    EXPECT_EQ(clip.Size(), client.Size());
+    EXPECT_LT(client.Width(), 100);
+}
