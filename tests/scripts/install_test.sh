@@ -69,7 +69,8 @@ application app.exe "$PANELKIT/bin/panelkit.exe"
 # As applications did it that have include/panelkit in their include path. Of the headers, those are there that an
 # application reads, itself or by way of others, and no more.
 sed 's|<panelkit/panelkit.h>|"panelkit.h"|' main.cpp >old.cpp
-$CXX $CXXFLAGS -std=c++17 -I"$PANELKIT/include/panelkit" -fsyntax-only old.cpp -MD -MF read
+echo '#include "panelkit_c.h"' >>old.cpp
+$CXX $CXXFLAGS -std=c++17 -DPANELKIT_NARROW_NAMES -I"$PANELKIT/include/panelkit" -fsyntax-only old.cpp -MD -MF read
 tr -s ' \\' '\n\n' <read | grep /include/panelkit/ | xargs realpath | sed 's|^.*/include/panelkit/||' | sort -u >headers_read
 find "$PANELKIT/include/panelkit" -type f -printf '%P\n' | sort >headers_installed
 diff headers_read headers_installed || fail "left: read, right: installed"
