@@ -1,4 +1,5 @@
 #include "baselib/gbk.h"
+#include "support/description.h"
 #include "support/random_description.h"
 #include "tools/run_command.h"
 #include <filesystem>
@@ -278,6 +279,24 @@ TEST(Check, JsonHasTheFindingsOfTheText)
         wholeFile(Samples + "/record-slip.findings"));
     EXPECT_EQ(list[0].size(), 6U);
     EXPECT_EQ(check(exampleFiles()[0], "--format json").output, "[]\n");
+}
+
+TEST(Check, SlipCostsTheRecordsThatAreReadWronglyNotThoseBehindThem)
+{
+    // Texts take the rest of a line, so that the reading of labels finds its way again: only the last is
+    // lost.
+    const std::string label = "1 11 20 30 60 20 1\n甲\n0 0 0 0\n";
+    const DescriptionFileCL labels(
+        std::string(HeaderSections) + "[标题]\n4\n0\nx" + label + label + label + label);
+    const std::string labelsSaid = check(labels.path(), "--lang en").output;
+    EXPECT_NE(labelsSaid.find("records lost behind it: 1 [record-slip]"), std::string::npos) << labelsSaid;
+    // Numbers alone never do.
+    const std::string canvas = "1 11 20 30 60 20 0 0 0\n";
+    const DescriptionFileCL canvases(std::string(HeaderSections)
+        + "[二维绘图控件]\n4\n0\n1 11 2O 30 60 20 0 0 0\n" + canvas + canvas + canvas);
+    const std::string canvasesSaid = check(canvases.path(), "--lang en").output;
+    EXPECT_NE(canvasesSaid.find("records lost behind it: 3 [record-slip]"), std::string::npos)
+        << canvasesSaid;
 }
 
 // The properties that the schema of SARIF 2.1.0 requires of what is written here, and their types; written by

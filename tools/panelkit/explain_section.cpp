@@ -46,7 +46,16 @@ private:
     }
     std::string costM(int record) const
     {
-        return std::to_string(std::max(0, section_.head.count - record - 1));
+        // The reading may find its way again: lost are the records that it reads wrongly or not at all.
+        int lost = std::max(0, section_.head.count - section_.RecordsM());
+        for (int later = record + 1; later < section_.RecordsM(); ++later) {
+            const bool isLost
+                = std::any_of(section_.FirstM(later), section_.EndM(later), [](const SeenValueCL& value) {
+                      return value.fate == Fate::NotANumber || value.fate == Fate::Missing;
+                  });
+            lost += isLost ? 1 : 0;
+        }
+        return std::to_string(lost);
     }
 
     bool explainCountM()
