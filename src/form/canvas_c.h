@@ -23,9 +23,9 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_painter(
 /* Has the painter called for a new picture, soon and once for all calls until then. PANELKIT_ERROR_NO_VALUE:
    the control has no painter. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_repaint(panelkit_dialog* dialog, int32_t id);
-/* Shows a frame, from 0, of a special animation that has a painter, or of a normal animation that the program
-   controls. PANELKIT_ERROR_NO_VALUE: the control is no such animation; PANELKIT_ERROR_REFUSED: it has no such
-   frame. */
+/* Shows a frame, from 0, of a normal animation, or below what the painter of a special one paints.
+   PANELKIT_ERROR_NO_VALUE: the control is no animation; PANELKIT_ERROR_REFUSED: it has no such frame, or
+   plays by itself. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show_frame(
     panelkit_dialog* dialog, int32_t id, int32_t frame);
 

@@ -140,7 +140,7 @@ public:
         return isOk(panelkit_set_painter(Handle(), id, paints ? &FormStateCL::PaintM : nullptr, painter));
     }
     bool Repaint(int id) { return isOk(panelkit_repaint(Handle(), id)); }
-    // Of a special animation with such a handler, or a normal one that doesn't play by itself.
+    // Of a normal animation that doesn't play by itself, or below what is painted on a special one.
     bool ShowFrame(int id, int frame) { return isOk(panelkit_show_frame(Handle(), id, frame)); }
 
     // Values, as the user sees them.
