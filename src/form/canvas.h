@@ -1,5 +1,6 @@
 #pragma once
 #include "form/canvas_c.h"
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -7,7 +8,8 @@ namespace panelkit {
 
 // What the program paints on when Form::OnPaint calls it, and only until it returns. Lengths and places are
 // pixels, from the left and top of the picture; nothing is drawn outside of it. Colours are 0xRRGGBB. False,
-// and nothing is drawn: another colour, a line or text lower than 1, a negative width or height.
+// and nothing is drawn: another colour, a line thinner than 1, a text not 1 to 1000 high, a negative width or
+// height.
 class Canvas
 {
 public:
