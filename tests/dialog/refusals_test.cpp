@@ -2,6 +2,7 @@
 // window, and what happens to the text.
 #include "controls/text/edit_story.h"
 #include "support/script.h"
+#include <stdexcept>
 
 using namespace testing_support;
 
@@ -61,7 +62,9 @@ protected:
         ::GetClientRect(itemM(to), &place);
         MoveMouseToM(itemM(to), place.right / 2, place.bottom / 4);
         PressM();
-        EXPECT_TRUE(PumpUntil([&script] { return script.DoneM(); }));
+        if (!PumpUntil([&script] { return script.DoneM(); })) {
+            throw std::runtime_error("no message"); // The next one would wait for ever.
+        }
         PumpPending();
         EXPECT_EQ(::GetFocus(), itemM(from));
         EXPECT_EQ(::GetCapture(), nullptr);
@@ -110,9 +113,9 @@ TEST_F(RefusalsTest, SelectTheTextOfALeftFieldIfAskedFor)
     leaveM(11, L"500", 12);
     EXPECT_EQ(textM(11), "100");
     EXPECT_EQ(typedM(11), "7");
-    leaveM(12, L"x", 11);
+    leaveM(12, L"x", 13);
     EXPECT_EQ(typedM(12), "7");
-    leaveM(13, L"abcdef", 11);
+    leaveM(13, L"abcdef", 14);
     EXPECT_EQ(textM(13), "abcd");
     EXPECT_EQ(typedM(13), "7");
     leaveM(14, L"50", 11);
