@@ -108,50 +108,43 @@ private:
     DescriptionFileCL file_ { sections(picture_.path()) };
 };
 
-class TextColourTest : public testing::TestWithParam<ColouredCL>
-{
-protected:
-    LooksDialogCL dialog;
-};
-
 } // namespace
 
-TEST_P(TextColourTest, IsShownAtOnceAndTakenBack)
+TEST(TextColour, IsShownAtOnceAndTakenBack)
 {
-    const int id = GetParam().id;
+    LooksDialogCL dialog;
     dialog.BuildM();
-    ASSERT_NE(dialog.ItemM(id), nullptr);
-    const Pixels before = dialog.PixelsM(id);
-    EXPECT_EQ(before.CountM(Wanted), 0);
-    ASSERT_EQ(dialog.SetTextColourM(id, Wanted), GetParam().canBeColoured);
-    if (!GetParam().canBeColoured) {
-        EXPECT_EQ(dialog.PixelsM(id).DifferencesM(before), 0);
-        return;
+    for (const ColouredCL& kind : Kinds) {
+        SCOPED_TRACE(kind.name);
+        ASSERT_NE(dialog.ItemM(kind.id), nullptr);
+        const Pixels before = dialog.PixelsM(kind.id);
+        EXPECT_EQ(before.CountM(Wanted), 0);
+        EXPECT_EQ(dialog.SetTextColourM(kind.id, Wanted), kind.canBeColoured);
+        EXPECT_EQ(dialog.WantedM(kind.id) > 20, kind.canBeColoured);
+        EXPECT_EQ(dialog.SetTextColourM(kind.id, std::nullopt), kind.canBeColoured);
+        EXPECT_EQ(dialog.PixelsM(kind.id).DifferencesM(before), 0);
     }
-    EXPECT_GT(dialog.WantedM(id), 20);
-    EXPECT_TRUE(dialog.SetTextColourM(id, std::nullopt));
-    EXPECT_EQ(dialog.PixelsM(id).DifferencesM(before), 0);
 }
 
-TEST_P(TextColourTest, IsKeptForTheBuildAndTheNextOne)
+TEST(TextColour, IsKeptForTheBuildAndTheNextOne)
 {
-    const int id = GetParam().id;
-    EXPECT_TRUE(dialog.SetTextColourM(id, Wanted)); // Who knows yet what the file has?
+    LooksDialogCL dialog;
+    // Each its own, so that none shows another's.
+    const auto colourOf = [](const ColouredCL& kind) { return RGB(200, kind.id, 90); };
+    for (const ColouredCL& kind : Kinds) {
+        EXPECT_TRUE(dialog.SetTextColourM(kind.id, colourOf(kind))); // Who knows yet what the file has?
+    }
     dialog.BuildM();
-    EXPECT_EQ(dialog.WantedM(id) > 20, GetParam().canBeColoured);
-    dialog.DestroyM();
-    dialog.InitDlgM(&dialog, 1);
-    dialog.ShowBuiltM();
-    EXPECT_EQ(dialog.WantedM(id) > 20, GetParam().canBeColoured);
-    for (const ColouredCL& other : Kinds) {
-        if (other.id != id) {
-            EXPECT_EQ(dialog.WantedM(other.id), 0) << other;
+    for (const char* const build : { "first", "second" }) {
+        for (const ColouredCL& kind : Kinds) {
+            const int coloured = dialog.PixelsM(kind.id).CountM(colourOf(kind));
+            EXPECT_EQ(coloured > 20, kind.canBeColoured) << build << " " << kind;
         }
+        dialog.DestroyM();
+        dialog.InitDlgM(&dialog, 1);
+        dialog.ShowBuiltM();
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, TextColourTest, testing::ValuesIn(Kinds),
-    [](const auto& parameter) { return parameter.param.name; });
 
 TEST(TextColour, OfUnknownIdsIsRefused)
 {

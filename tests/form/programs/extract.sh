@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# extract.sh README FORM_PAGE C_PAGE FOLDER: writes the programs of the pages into a folder. What is a part of a program
+# extract.sh README FORM_PAGE C_PAGE OWN_PAGE FOLDER: writes the programs of the pages into a folder. What is a part of a program
 # becomes a function.
 set -euo pipefail
-readme=$1 form=$2 c=$3 folder=$4
+readme=$1 form=$2 c=$3 own=$4 folder=$5
 rm -rf "$folder"
 mkdir -p "$folder"
 
@@ -18,10 +18,16 @@ block() { # page language number
 block "$readme" cpp 1 >"$folder/readme.cpp"
 block "$form" cpp 1 >"$folder/form_page.cpp"
 block "$c" c 1 >"$folder/c_page.c"
-number=2
-while text=$(block "$form" cpp $number); do
-  printf '#include <panelkit/form/form.h>\n#include <iostream>\nvoid part%d(panelkit::Form& form);\nvoid part%d(panelkit::Form& form)\n{\n%s\n}\n' \
-    $number $number "$text" >"$folder/form_part_$number.cpp"
-  number=$((number + 1))
-done
-[ "$number" -gt 2 ]
+block "$own" cpp 1 >"$folder/own_page.cpp"
+
+# The further blocks of a page as functions: writes NAME_NUMBER.cpp
+parts() { # page name includes parameters
+  local number=2 text
+  while text=$(block "$1" cpp $number); do
+    printf '%b\nvoid part%d(%s);\nvoid part%d(%s)\n{\n%s\n}\n' "$3" $number "$4" $number "$4" "$text" >"$folder/$2_$number.cpp"
+    number=$((number + 1))
+  done
+  [ "$number" -gt 2 ]
+}
+parts "$form" form_part '#include <panelkit/form/form.h>\n#include <iostream>' 'panelkit::Form& form'
+parts "$own" own_part '#include <panelkit/panelkit.h>' 'DuBasicDialogCL& dialog, panelkit::Form& form'
