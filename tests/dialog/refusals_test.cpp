@@ -260,6 +260,7 @@ public:
     ExchangingCL()
         : TestDialogCL(refusalSections())
     {
+        KillTimer(StartTimer); // It stays hidden: no field of it is left.
     }
     // What the user is told.
     std::string SaidM(const wchar_t* number, const wchar_t* text)
