@@ -3,6 +3,8 @@
 blocks.py list              a line each: page, language, number of the block among those of the page and language
 blocks.py text PAGE LANGUAGE NUMBER
 blocks.py descriptions FOLDER   writes the description files among them, GBK, with the pictures of the examples beside
+blocks.py sources FOLDER PIECE...   writes the programs among them, and the files PIECE, in which a line
+                                //@ PAGE LANGUAGE NUMBER stands for a block that is part of a program
 """
 import pathlib
 import re
@@ -54,7 +56,7 @@ def all_blocks():
 
 
 def is_description(block):
-    return block.language == "" and not block.argument
+    return block.language in ("", "dlg")
 
 
 def head_for(page):
@@ -76,11 +78,47 @@ def write_descriptions(folder):
         for picture in pictures:
             if not (place / picture.name).exists():
                 (place / picture.name).symlink_to(picture)
-        text = block.text if block.text.startswith("[版本号]") else head_for(block.page) + block.text
-        name = page.stem + ("" if block.number == 1 else f"_{block.number}")
+        text = block.text if block.text.lstrip().startswith("[版本号]") else head_for(block.page) + block.text
+        name = page.stem + (f"_{block.language}" if block.language else "")
+        name += "" if block.number == 1 else f"_{block.number}"
         (place / f"{name}.dlg").write_bytes(text.encode("gbk"))
         written.append((block, place / f"{name}.dlg"))
     return written
+
+
+def write(file, text):
+    """What is as it was keeps its time, and isn't built anew."""
+    if not file.exists() or file.read_text(encoding="utf-8") != text:
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text, encoding="utf-8")
+
+
+def write_sources(folder, piece_files):
+    """FOLDER/form_1.cpp is the first block of docs/form.md; FOLDER/pieces/NAME is the file with its pieces."""
+    wanted = {(block.page, block.language, str(block.number)): block
+              for block in all_blocks() if block.language in ("c", "cpp")}
+    written = set()
+    for piece_file in piece_files:
+        text = ""
+        for line in piece_file.read_text(encoding="utf-8").splitlines():
+            if line.strip().startswith("//@ "):
+                name = tuple(line.split()[1:])
+                if name not in wanted:
+                    raise SystemExit(f"{piece_file}: no such block, or it is there twice: {' '.join(name)}")
+                block = wanted.pop(name)
+                line = f'#line {block.line + 1} "{block.page}"\n{block.text}'
+            text += line + "\n"
+        written.add(folder / "pieces" / piece_file.name)
+        write(folder / "pieces" / piece_file.name, text)
+    for block in wanted.values():
+        if "#include" not in block.text and "namespace" not in block.text:
+            raise SystemExit(f"{block}: part of a program; tests/docs/pieces has to say of what")
+        page = pathlib.PurePosixPath(block.page)
+        name = "_".join([*(part for part in page.parent.parts if part != "docs"), page.stem])
+        written.add(folder / f"{name}_{block.number}.{block.language}")
+        write(folder / f"{name}_{block.number}.{block.language}", block.text)
+    for old in set(folder.rglob("*.c*")) - written:
+        old.unlink()
 
 
 def main(arguments):
@@ -96,6 +134,8 @@ def main(arguments):
     elif len(arguments) == 2 and arguments[0] == "descriptions":
         for _, file in write_descriptions(pathlib.Path(arguments[1])):
             print(file)
+    elif len(arguments) >= 2 and arguments[0] == "sources":
+        write_sources(pathlib.Path(arguments[1]), [pathlib.Path(file) for file in arguments[2:]])
     else:
         raise SystemExit(__doc__)
     return 0
