@@ -31,13 +31,13 @@ script() { # page
 page=${guide_pages[0]}
 script "$page" >"$folder/commands"
 cd "$sources"
-bash "$folder/commands" || { cat "$folder/said"; echo "the commands of $page fail"; exit 1; }
+bash "$folder/commands" || { tail -n 30 "$folder/said"; echo "the commands of $page fail"; exit 1; }
 cd "$folder/pens"
 for picture in first pens; do
   [ "$(head -c 4 "$picture.png" | tail -c 3)" = PNG ] || { echo "no picture $picture.png"; exit 1; }
 done
 while read -r line; do
-  grep -qxF "$line" "$folder/said" || { echo "not said: $line"; cat "$folder/said"; exit 1; }
+  grep -qxF "$line" "$folder/said" || { echo "not said: $line"; tail -n 30 "$folder/said"; exit 1; }
 done < <(block "$page" output 1)
 ls build/pens.exe build/panelkit.dll build/pens.dlg build/lamp_red.bmp >/dev/null
 # From another folder, as a program is started that has an icon somewhere.
