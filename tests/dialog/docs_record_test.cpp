@@ -173,3 +173,30 @@ TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
     expectTold(ofHeader.fields, tables[0]);
     expectTold(ofAll.fields, tables[1]);
 }
+
+TEST(Docs, TellTheTableOfKinds)
+{
+    const struct
+    {
+        Ability ability;
+        const char* name;
+    } abilities[]
+        = { { Stacked, "Stacked" }, { HoldsLines, "HoldsLines" }, { HoldsTypedValue, "HoldsTypedValue" },
+              { ShowsFrames, "ShowsFrames" }, { StandsInGroups, "StandsInGroups" },
+              { HasLineHeight, "HasLineHeight" }, { HasValue, "HasValue" }, { ListsLines, "ListsLines" } };
+    std::string table = "| kind | code | built | abilities |\n|---|---|---|---|\n";
+    slEachKind([&](auto row) {
+        using RowTP = decltype(row);
+        const std::string name = RowTP::Records::KindName;
+        std::string can;
+        for (const auto& one : abilities) {
+            if (RowTP::CanM(one.ability)) {
+                can += (can.empty() ? "`" : ", `") + std::string(one.name) + "`";
+            }
+        }
+        table += "| [" + name + "](kinds/" + name + ".md) | " + std::to_string(RowTP::Code) + " | "
+            + std::to_string(RowTP::BuildPlace) + (can.empty() ? " | |\n" : " | " + can + " |\n");
+    });
+    const std::string page = wholeFile(PANELKIT_DOCS "/inside.md");
+    EXPECT_NE(page.find("\n\n" + table + "\n"), std::string::npos) << "The table is:\n" << table;
+}
