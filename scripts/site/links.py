@@ -6,7 +6,6 @@ links.py site FOLDER   those of the built site; and that it loads nothing from t
 import html.parser
 import pathlib
 import re
-import subprocess
 import sys
 import urllib.parse
 
@@ -41,13 +40,11 @@ def headings_of(path):
 
 
 def check_pages():
-    tracked = subprocess.run(
-        ["git", "-C", str(ROOT), "ls-files", "--cached", "--others", "--exclude-standard", "*.md"],
-        check=True, capture_output=True, text=True).stdout
+    pages = [*ROOT.glob("*.md"), *(ROOT / "docs").rglob("*.md"), *(ROOT / "examples").rglob("*.md")]
     links = 0
-    for name in tracked.splitlines():
-        page = ROOT / name
-        for number, line in prose_of(page) if page.exists() else []:
+    for page in sorted(pages):
+        name = page.relative_to(ROOT)
+        for number, line in prose_of(page):
             for target in LINK.findall(re.sub(r"`[^`]*`(?!\]\()", "", line)):
                 if re.match(r"[a-z]+:", target):
                     continue
