@@ -15,6 +15,8 @@ html_show_sourcelink = False
 html_copy_source = False
 html_show_search_summary = False  # Summaries would be fetched, which a site opened from the disk can not.
 highlight_language = "text"
+smartquotes = False
+html_use_index = False
 myst_heading_anchors = 3
 suppress_warnings = ["myst.header"]  # Pages whose first block is no heading of the first level have one all the same.
 

@@ -138,6 +138,14 @@ template <class RecordTP> void expectPage(const std::string& page, const char* h
     expectTold(told.fields, tables.empty() ? std::vector<RowTP>() : tables[0]);
     const std::string text = wholeFile(std::string(PANELKIT_DOCS "/") + page);
     EXPECT_NE(text.substr(0, text.find('\n')).find("`" + slGbkToUtf8(header) + "`"), std::string::npos);
+    // Its example is in a block of its own, and the picture of that behind it.
+    const std::size_t example = text.find("\n```\n");
+    const std::size_t end = text.find("\n```\n\n![", example + 1);
+    ASSERT_NE(end, std::string::npos);
+    EXPECT_NE(text.substr(example, end - example).find("\n" + slGbkToUtf8(header) + "\n"), std::string::npos);
+    const std::string picture = "pictures/" + page.substr(0, page.size() - 3) + ".png";
+    EXPECT_EQ(text.compare(text.find("](", end), picture.size() + 6, "](../" + picture + ")"), 0) << picture;
+    EXPECT_NE(wholeFile(std::string(PANELKIT_DOCS "/") + picture), "");
 }
 
 template <class RowTP> class DocsTest : public testing::Test
