@@ -184,26 +184,13 @@ TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
 
 TEST(Docs, TellTheTableOfKinds)
 {
-    const struct
-    {
-        Ability ability;
-        const char* name;
-    } abilities[]
-        = { { Stacked, "Stacked" }, { HoldsLines, "HoldsLines" }, { HoldsTypedValue, "HoldsTypedValue" },
-              { ShowsFrames, "ShowsFrames" }, { StandsInGroups, "StandsInGroups" },
-              { HasLineHeight, "HasLineHeight" }, { HasValue, "HasValue" }, { ListsLines, "ListsLines" } };
-    std::string table = "| kind | code | built | abilities |\n|---|---|---|---|\n";
+    std::string table = "| kind | code | built | Tab order | value by id |\n|---|---|---|---|---|\n";
     slEachKind([&](auto row) {
         using RowTP = decltype(row);
         const std::string name = RowTP::Records::KindName;
-        std::string can;
-        for (const auto& one : abilities) {
-            if (RowTP::CanM(one.ability)) {
-                can += (can.empty() ? "`" : ", `") + std::string(one.name) + "`";
-            }
-        }
         table += "| [" + name + "](kinds/" + name + ".md) | " + std::to_string(RowTP::Code) + " | "
-            + std::to_string(RowTP::BuildPlace) + (can.empty() ? " | |\n" : " | " + can + " |\n");
+            + std::to_string(RowTP::BuildPlace) + (RowTP::CanM(Stacked) ? " | by window index" : " | last")
+            + (RowTP::CanM(HasValue) ? " | yes |\n" : " | |\n");
     });
     const std::string page = wholeFile(PANELKIT_DOCS "/inside.md");
     EXPECT_NE(page.find("\n\n" + table + "\n"), std::string::npos) << "The table is:\n" << table;
