@@ -8,8 +8,11 @@ class PANELKIT_API CToolTipCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipCtrl)
 public:
+    // FALSE: the system refused.
     BOOL Create(CWnd* parent, DWORD style = 0);
 
+    // A new tool. rect (null: all of the window): in its client area. FALSE: it is there already, or the
+    // system refused.
     BOOL AddTool(CWnd* wnd, LPCSTR text = LPSTR_TEXTCALLBACKA, LPCRECT rect = nullptr, UINT_PTR id = 0)
     {
         return addToolM(wnd, ItemTextCL(text).PointerM(), rect, id);
@@ -20,6 +23,8 @@ public:
     }
     BOOL AddTool(CWnd* wnd, UINT textId, LPCRECT rect = nullptr, UINT_PTR id = 0); // a text of the resources
     void DelTool(CWnd* wnd, UINT_PTR id = 0);
+
+    // Another text for a tool; nothing where there is none.
     void UpdateTipText(LPCSTR text, CWnd* wnd, UINT_PTR id = 0)
     {
         updateTextM(ItemTextCL(text).PointerM(), wnd, id);
@@ -60,6 +65,7 @@ public:
     void SetTipBkColor(COLORREF color) { SendMessage(TTM_SETTIPBKCOLOR, color); }
     COLORREF GetTipTextColor() const { return static_cast<COLORREF>(SendMessage(TTM_GETTIPTEXTCOLOR)); }
     void SetTipTextColor(COLORREF color) { SendMessage(TTM_SETTIPTEXTCOLOR, color); }
+    // A line above the text; icon: TTI_ numbers.
     BOOL SetTitle(UINT icon, LPCSTR title) { return SetTitle(icon, slGbkToShown(title).c_str()); }
     AFX_WIDE_TEXT BOOL SetTitle(UINT icon, const WideTP* title)
     {
