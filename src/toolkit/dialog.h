@@ -39,6 +39,8 @@ public:
         return CreateIndirect(findTemplateM(templateName), parent);
     }
     BOOL CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* init = nullptr);
+
+    // The template for a DoModal to come; it must live until then. FALSE: null.
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr);
 
     // Shows the dialog and keeps its owner disabled until EndDialog. Result: what EndDialog said; -1: no

@@ -35,6 +35,7 @@ public:
     }
     // The cause that a GetLastError number means.
     static int OsErrorToException(LONG osError);
+
     BOOL GetErrorMessage(LPSTR to, UINT size, PUINT helpId = nullptr) const override;
 
     int m_cause;           // one of those above
@@ -97,7 +98,9 @@ public:
 
     // In bytes from the file's beginning.
     virtual ULONGLONG GetPosition() const;
+    // How many bytes it has.
     virtual ULONGLONG GetLength() const;
+    // Cuts it to so many bytes, or lengthens it.
     virtual void SetLength(ULONGLONG bytes);
     virtual CString GetFilePath() const { return m_strFileName; } // as it was opened
     // Without the folder.

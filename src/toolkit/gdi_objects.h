@@ -28,7 +28,7 @@ public:
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
     BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
-    // Whether both hold the same handle.
+    // Compare the handles.
     BOOL operator==(const CGdiObject& other) const { return m_hObject == other.m_hObject; }
     BOOL operator!=(const CGdiObject& other) const { return m_hObject != other.m_hObject; }
 
@@ -156,6 +156,7 @@ public:
 
     // What it is, as GetObject gives it; 0 without one.
     int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
+
     DWORD GetBitmapBits(DWORD size, void* to) const;
     DWORD SetBitmapBits(DWORD size, const void* from);
     CSize GetBitmapDimension() const; // in tenths of a millimetre, as set
@@ -205,6 +206,7 @@ public:
     // This region must exist; it becomes the combination. Null operands count as failures.
     int CombineRgn(const CRgn* one, const CRgn* two, int mode);
     int CopyRgn(const CRgn* from);
+
     BOOL EqualRgn(const CRgn* other) const;
     int OffsetRgn(int dx, int dy) { return ::OffsetRgn(handleM(), dx, dy); }
     int OffsetRgn(POINT by) { return ::OffsetRgn(handleM(), by.x, by.y); }

@@ -18,7 +18,7 @@ public:
     HMENU m_hMenu = nullptr;    // null: none
     HMENU GetSafeHmenu() const; // null also where there is no object
     operator HMENU() const { return m_hMenu; }
-    // Whether both hold the same handle.
+    // Compare the handles.
     BOOL operator==(const CMenu& other) const { return m_hMenu == other.m_hMenu; }
     BOOL operator!=(const CMenu& other) const { return m_hMenu != other.m_hMenu; }
     BOOL Attach(HMENU menu);                       // FALSE: null

@@ -60,6 +60,8 @@ public:
     // count: how many may come in now, of most.
     explicit CSemaphore(
         LONG count = 1, LONG most = 1, LPCSTR name = nullptr, LPSECURITY_ATTRIBUTES security = nullptr);
+
+    // Lets one more in.
     BOOL Unlock() override { return Unlock(1); }
     BOOL Unlock(LONG count, LPLONG previous = nullptr) override
     {
@@ -80,6 +82,8 @@ public:
     BOOL Lock() { return Lock(INFINITE); }
     BOOL Lock(DWORD timeoutMs) override;
     using CSyncObject::Unlock;
+
+    // Lets it go: TRUE.
     BOOL Unlock() override;
 
     CRITICAL_SECTION m_sect; // the system's structure
@@ -102,6 +106,7 @@ public:
     CSingleLock& operator=(const CSingleLock&) = delete;
     // Waits for it, so many milliseconds; FALSE: in vain.
     BOOL Lock(DWORD timeoutMs = INFINITE) { return isLocked_ = object_->Lock(timeoutMs); }
+    // Lets it go; TRUE: this holds it no longer.
     BOOL Unlock()
     {
         if (isLocked_) {

@@ -62,6 +62,7 @@ public:
     {
         SendMessage(TCM_ADJUSTRECT, AfxWordOf(larger), reinterpret_cast<LPARAM>(rect));
     }
+
     BOOL GetItemRect(int index, LPRECT rect) const;
     int HitTest(TCHITTESTINFO* info) const
     {

@@ -34,7 +34,10 @@ public:
         updateTextM(text, wnd, id);
     }
     void UpdateTipText(UINT textId, CWnd* wnd, UINT_PTR id = 0);
+
+    // The text of a tool; empty where there is none.
     void GetText(CString& to, CWnd* wnd, UINT_PTR id = 0) const;
+    // Another rectangle for a tool that is one.
     void SetToolRect(CWnd* wnd, UINT_PTR id, LPCRECT rect);
     int GetToolCount() const { return AfxSendInt(*this, TTM_GETTOOLCOUNT); }
     BOOL HitTest(CWnd* wnd, CPoint at, LPTOOLINFOW found) const;

@@ -127,6 +127,7 @@ public:
         const LPARAM param = static_cast<LPARAM>(data);
         return setItemM(item, TVIF_PARAM, nullptr, 0, 0, 0, 0, param);
     }
+
     UINT GetItemState(HTREEITEM item, UINT mask) const;
 
     // The TVIS_ bits in the mask. FALSE: no such item.

@@ -14,7 +14,7 @@ public:
     HWND m_hWnd = nullptr;    // null: no window
     HWND GetSafeHwnd() const; // null also where there is no object
     operator HWND() const { return m_hWnd; }
-    // Whether both have the same window.
+    // Compare the windows.
     BOOL operator==(const WndCallsCL& other) const { return m_hWnd == other.m_hWnd; }
     BOOL operator!=(const WndCallsCL& other) const { return m_hWnd != other.m_hWnd; }
 

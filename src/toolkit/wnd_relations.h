@@ -45,6 +45,7 @@ public:
 
     // The topmost of its parents, itself if it has none.
     CWnd* GetTopLevelParent() const { return GetAncestor(GA_ROOT); }
+    // The same along parents and owners.
     CWnd* GetTopLevelOwner() const;
     CWnd* GetParentOwner() const; // the nearest that is no child window
     // The window to own a popup: the given one's or the main window's, or what is in front of it. *topLevel
