@@ -53,9 +53,10 @@ public:
         int* f = nullptr, int* g = nullptr, int* h = nullptr, int* i = nullptr); // Saturates.
     int InputRM(float* a, float* b = nullptr, float* c = nullptr, float* d = nullptr, float* e = nullptr,
         float* f = nullptr, float* g = nullptr, float* h = nullptr,
-        float* i = nullptr); // Nearest; saturates.
+        float* i = nullptr); // The same for reals: the nearest one; saturates.
     int InputCM(char* a, char* b = nullptr, char* c = nullptr, char* d = nullptr, char* e = nullptr,
-        char* f = nullptr, char* g = nullptr, char* h = nullptr, char* i = nullptr); // One byte each.
+        char* f = nullptr, char* g = nullptr, char* h = nullptr,
+        char* i = nullptr);       // The same for bytes, one each.
     bool InputOneM(int* value);   // The same for one value; false where none stands.
     bool InputOneM(float* value); // The same.
     // The same for two or three values that belong together.

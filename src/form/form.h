@@ -75,10 +75,13 @@ public:
         FormStateCL::RethrowM();
         return result;
     }
-    bool Show() { return isOk(panelkit_show(Handle())); } // And returns at once.
+    bool Show()
+    {
+        return isOk(panelkit_show(Handle()));
+    } // Shows it and returns at once; false: it is shown already.
     // Hides it; its values stay, and it can be shown again. Nothing is checked.
     bool Close(int result = 0) { return isOk(panelkit_close(Handle(), result)); }
-    // Whether it is shown.
+    // Whether it is shown now.
     bool IsOpen() const { return flag(panelkit_is_open).value_or(false); }
     int Result() const
     {
@@ -240,11 +243,14 @@ public:
     // The text of the caption bar; empty without a dialog.
     std::string Title() const { return text(panelkit_get_title).value_or(""); }
     bool SetTitle(const std::string& title) { return isOk(panelkit_set_title(Handle(), title.c_str())); }
-    void* Native() const { return get<void*>(panelkit_native_window).value_or(nullptr); } // HWND; null: none.
+    void* Native() const
+    {
+        return get<void*>(panelkit_native_window).value_or(nullptr);
+    } // The window (HWND); null: none.
     panelkit_dialog* Handle() const
     {
         return state_ != nullptr ? state_->dialog : nullptr;
-    } // The form keeps it.
+    } // Its dialog for the C interface; the form keeps it. Null: none.
 
 private:
     static bool isOk(panelkit_status status) { return status == PANELKIT_OK; }

@@ -26,7 +26,7 @@ public:
     SectionStatus OpenM(int values);
     // The parts of a head, for the sections with another one. Each does nothing unless the status is Read.
     void InputCountM(int* count);
-    void InputCommentsM(int* lines);       // Only their number.
+    void InputCommentsM(int* lines);       // Reads only their number.
     void InputCommentsM();                 // Their number, the rest of its line, and them.
     void SkipCommentsM(int lines);         // The rest of this line counts as one.
     void SetCountM(int count, int values); // Broken, and CountM 0, for more than the bytes left can hold.

@@ -12,7 +12,10 @@ public:
 
     // 0, and no change, for the empty text.
     int SetInitTextM(const char* text) { return text != nullptr && *text != '\0' ? keepTextM(text) : 0; }
-    int SetTextM(const char* text) { return showTextM(text); }       // Also shows the text.
+    int SetTextM(const char* text)
+    {
+        return showTextM(text);
+    } // Takes any text but null, and shows it at once.
     int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); } // 3 centred, 4 right, else left.
     int SetEdgeM(int edge) { return slKeep(edge_, edge); }           // 1: sunken edge with border.
     // The colour of the background, shown once SetBkColorFlagM has been given 1.

@@ -14,8 +14,8 @@ public:
     int SetEditAvailableM(int available) { return slKeep(editAvailable_, available); }
 
     int AddItemM(int data, const char* text); // -1 when it can't be added, else the platform's result.
-    int InsertItemM(int index, int data, const char* text); // -1: at the end. 0 when it can't be added.
-    int DelItemM(int index);                                // 0 when there is none.
+    int InsertItemM(int index, int data, const char* text); // At a place, -1: at the end; 0 when it can't.
+    int DelItemM(int index);                                // Deletes an item; 0 when there is none.
     using ControlCL::DelItemM;
     // Deletes index 0, 1, 2, ... in turn: as later items move up, every second one stays.
     int DelAllItemM();

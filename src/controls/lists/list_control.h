@@ -15,7 +15,7 @@ public:
     // 1: one row at most can be selected. Counts at creation.
     int SetSelModeM(int single) { return slKeep(singleSelection_, single); }
 
-    int InsertColumnM(int column, int width, const char* text); // Width in pixels.
+    int InsertColumnM(int column, int width, const char* text); // A heading; width in pixels.
     int InsertItemM(int row, int data, const char* text);       // A new row with its column-0 text.
     int SetItemTextM(int row, int column, const char* text);    // 0 for a row that doesn't exist.
     // Deletes a row, or all. 0 for a row that doesn't exist.

@@ -41,7 +41,7 @@ public:
     using RecordCL::RecordCL;
     // pair: column index and width in pixels. 0, and nothing is appended, for a null text; else 1.
     int AddTitleStringM(const int pair[2], const char* text);
-    int AddItemStringM(const int pair[2], const char* text); // pair: row and column.
+    int AddItemStringM(const int pair[2], const char* text); // The same; pair: row and column.
     void destroyM();                                         // Empties headings and cells.
     int InitListCtrlM(DuListCtrlCL* control) const;
     int InitListCtrlStrM(DuListCtrlCL* control) const; // Fills a live control.

@@ -18,10 +18,10 @@ public:
     int SetBkColorM(unsigned long colour) { return background_.SetColourM(colour); }
 
     int AddItemM(int data, const char* text); // -1, or what the platform says of setting the data.
-    int InsertItemM(int index, int data, const char* text); // -1: at the end.
+    int InsertItemM(int index, int data, const char* text); // At a place, -1: at the end; 0 when it can't.
     void DelItemM();
     int DelItemM(int index);             // 0 when there is no such line.
-    int DelAllItemM();                   // 1.
+    int DelAllItemM();                   // Deletes all lines: 1.
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
     // Of a multiple selection: always 0 in single selection mode.
     int SetSelM(int index) { return selectM(index, TRUE); }
