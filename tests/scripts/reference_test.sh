@@ -28,6 +28,10 @@ public:
     }
 
     int AlsoBareM();
+
+    // @param one The first of two.
+    int PartlyM(int one, int two);
+
     // Kinds.
     enum Kind
     {
@@ -79,4 +83,5 @@ line '((x) + 1)' | grep -qF '/**< A macro, in two lines. */' || fail "the macro:
   "GENERATE_XML = YES"; } | doxygen - >log 2>warnings || { cat warnings; fail "doxygen failed"; }
 grep -oiE '(Member|Compound) [^ (]*' warnings | cut -d' ' -f2 | sort -u >told
 printf '%s\n' AlsoBareM BARE BareCL BareM bareNumber slBare | sort >bare
+grep -q 'PartlyM(int one, int two) is not documented' warnings || { cat warnings; fail "one of two parameters is enough"; }
 diff told bare || { cat warnings; fail "left: names told, right: names without a comment"; }
