@@ -8,7 +8,7 @@ class VrIOCL;
 // What "[版本号]" and "[对话框]" say of the dialog window itself.
 struct DialogHeaderCL
 {
-    int position[2] {};   // Left and top, in pixels of the screen.
+    int position[2] {};   // Left and top of the window, in pixels.
     int size[2] {};       // Width and height in pixels.
     int titleFlag { 0 };  // 1: a caption bar with the title.
     CharArr title;        // GBK.

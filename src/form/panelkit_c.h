@@ -169,7 +169,7 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show(panelkit_dialog* dialog
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_close(panelkit_dialog* dialog, int32_t result);
 /* *open: 1 while the dialog is shown, else 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_open(panelkit_dialog* dialog, int32_t* open);
-/* *result: with what the dialog closed the last time. */
+/* *result: with what the dialog closed the last time; -1 before the first. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_result(panelkit_dialog* dialog, int32_t* result);
 
 /* Handles this thread's messages until none of its dialogs is open or the program quits. For programs without

@@ -41,7 +41,7 @@ struct TextFormCL
 struct ChoiceCL
 {
     int value;        // As it stands in the file.
-    const char* name; // English, as `panelkit dump` prints it.
+    const char* name; // What it means, in English.
 };
 
 // All of them; any other value counts as one of these, or as nothing at all.

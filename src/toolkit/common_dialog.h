@@ -42,7 +42,8 @@ public:
 protected:
     void OnOK() override { Default(); }
     void OnCancel() override { Default(); }
-    // The window to own the dialog: the parent, else that of CWnd::GetSafeOwner.
+    // The window to own the dialog: the top-level one of the parent, else the last active popup of the
+    // application's main window; null: none.
     HWND ownerM() const;
     static FARPROC systemCallM(const char* name); // of the library of these dialogs; null: it has none
     static UINT_PTR adoptM(CCommonDialog* dialog, HWND hWnd); // from the hook, when the window is there

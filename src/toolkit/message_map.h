@@ -18,7 +18,7 @@ struct AFX_MESSAGE
 // What a WM_NOTIFY handler gets and gives back.
 struct AFX_NOTIFY
 {
-    LRESULT* pResult; // 0 at first
+    LRESULT* pResult; // where the result goes
     NMHDR* pNMHDR;    // what lParam points to
 };
 

@@ -11,8 +11,8 @@ public:
     // FALSE: the system refused.
     BOOL Create(CWnd* parent, DWORD style = 0);
 
-    // A new tool. rect (null: all of the window): in its client area. FALSE: it is there already, or the
-    // system refused.
+    // A new tool. rect (null: all of the window): in its client area. FALSE: the system
+    // refused.
     BOOL AddTool(CWnd* wnd, LPCSTR text = LPSTR_TEXTCALLBACKA, LPCRECT rect = nullptr, UINT_PTR id = 0)
     {
         return addToolM(wnd, ItemTextCL(text).PointerM(), rect, id);

@@ -6,7 +6,7 @@
 class PANELKIT_API AfxClassName : public CString
 {
 public:
-    // A name of ASCII letters.
+    // From GBK.
     explicit AfxClassName(const std::string& name);
     // Valid as long as the program.
     operator LPCSTR() const { return gbk_; }

@@ -103,8 +103,7 @@ public:
     virtual void EndModalLoop(int result);
 
 protected:
-    // Whether a handler of the map dealt with the message, or of OnCommand and OnNotify; *result is its
-    // result.
+    // Whether a handler of the map, OnCommand or OnNotify dealt with the message; *result is its result.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     // WM_COMMAND, before the map. TRUE: dealt with.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);

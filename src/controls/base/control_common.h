@@ -51,7 +51,7 @@ public:
     // The window index: controls of a dialog are stacked by ascending ones.
     void SetWinIdxM(int index) { windowIndex_ = index; }
     int GetWinIdxM() const { return windowIndex_; }
-    // The number of the control among those of its kind, as the file says; only kept.
+    // A number of the application's; only kept.
     void SetSelfIdxM(int index) { selfIndex_ = index; }
     // The function id, which becomes the window's id when that is created.
     void SetFunctionIDM(int id)
