@@ -15,6 +15,7 @@ packages=(
 # The sources of examples/idiom are compiled by clang too, and for 32 bit.
 test_packages=(g++ googletest clang-format ccache pkgconf clang g++-mingw-w64-i686-posix python3)
 docs_packages=(python3-sphinx python3-myst-parser furo) # For the site of the docs.
+reference_packages=(doxygen) # For the reference of the public headers.
 packages32=(g++-mingw-w64-i686-posix) # For the 32-bit build alone.
 
 say() { echo "$*" >&2; }

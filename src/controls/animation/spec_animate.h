@@ -19,10 +19,11 @@ public:
     // Appends the frame of a file: 1, also when it can't be loaded, which leaves a frame that draws nothing;
     // 0 for an empty name.
     int AddBmpM(const char* file);
-    int DelAllBmpM();
+    int DelAllBmpM(); // Deletes all frames; what the application has drawn stays. 1.
     int SetSunkModeM(int sunkMode) { return slKeep(sunkMode_, sunkMode); } // 1: sunken edge.
     int SetTypeM(int type) { return slKeep(type_, type); } // What it means is the application's business.
 
+    // What was set, or stands in the description file; 0 at first.
     int GetTypeM() const { return type_; }
     int GetSunkModeM() const { return sunkMode_; }
     DVrBitmapArr& GetFramesM() { return frames_; } // The control keeps them.

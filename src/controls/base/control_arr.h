@@ -7,7 +7,7 @@
 template <class ControlParamTP> class ControlArr : public Arr<ControlParamTP>
 {
 public:
-    using ControlTP = ControlParamTP;
+    using ControlTP = ControlParamTP; // The control's class.
 
     // Creates the windows of the alive controls in order as children of the parent, up to the first that
     // fails. 0 when there is none, else the last result.

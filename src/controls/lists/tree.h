@@ -44,6 +44,7 @@ public:
     unsigned ValuePartsM() const { return PathPart; }
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
+    // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
     void DelItemM();
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
