@@ -29,13 +29,15 @@ EOF
 finds 'using.md:[0-9]+: no such file: nowhere.md' 'no such heading: form.md#nowhere' 'no such file: pictures/nowhere.png'
 ! sphinx-build -q -W --keep-going -d trees -c scripts/site docs site 2>found || { echo "sphinx-build is content"; failures=1; }
 finds 'lonely.md: WARNING: document isn.t included in any toctree' 'nowhere.md' 'form.md#nowhere' 'nowhere.png'
-mkdir loads
+mkdir -p loads/reference
+echo '<img alt="" src="http://example.org/b.png">' >loads/reference/index.html
 cat >loads/index.html <<'EOF'
 <script src="https://example.org/a.js"></script><a href="nowhere.html">a</a><a href="#nowhere">b</a>
 EOF
 echo '@import "//example.org/a.css";' >loads/a.css
 ! python3 -B scripts/site/links.py site loads 2>found || { echo "a site that loads is accepted"; failures=1; }
-finds 'index.html loads https://example.org/a.js' 'no such file: nowhere.html' 'no such place: #nowhere' 'a.css loads //example.org'
+finds 'index.html loads https://example.org/a.js' 'no such file: nowhere.html' 'no such place: #nowhere' 'a.css loads //example.org' \
+  'reference/index.html loads http://example.org/b.png'
 
 # Blocks: of a language that nobody tests, a description with a fault, commands that no script runs, another output.
 cat >>docs/using.md <<'EOF'
