@@ -2,7 +2,7 @@
 
 What is compiled (c, cpp) tests/docs/CMakeLists.txt takes all of; head, wrong and right are those of check.md, which
 tests/tools/check_test.cpp reads. Here: description files are checked, JSON and what commands print are compared, and
-the blocks that scripts run are named in them.
+the blocks that scripts run are named in them. Also what is told twice, in two languages.
 """
 import json
 import pathlib
@@ -71,10 +71,27 @@ def check_ids(block):
         expect(line in printed, block, f"ids does not print {line}")
 
 
+def messages_of(page):
+    ways = {"sent": "发送", "posted": "投递"}
+    rows = []
+    for line in (ROOT / page).read_text(encoding="utf-8").splitlines():
+        cells = [cell.strip() for cell in line.split("|")[1:4]]
+        if len(cells) == 3 and cells[0].endswith("Msg`"):
+            rows.append((*cells[:2], *(way in cells[2] or ways[way] in cells[2] for way in ways)))
+    return rows
+
+
+def check_messages():
+    """The table in Chinese tells what that in English does, which tests/tools/live compares with the code."""
+    page = "docs/zh-CN/developer-guide.md"
+    expect(messages_of(page) == messages_of("docs/messages.md") != [], page, "another table of messages")
+
+
 def main():
     all_blocks = blocks.all_blocks()
     with tempfile.TemporaryDirectory() as folder:
         descriptions = check_descriptions(pathlib.Path(folder))
+    check_messages()
     for block in all_blocks:
         language = block.language
         if language in ("sh", "cmake", "output"):
