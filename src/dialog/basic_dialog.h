@@ -40,6 +40,8 @@ class PANELKIT_API DuBasicDialogCL : public CDialog
 
 public:
     DuBasicDialogCL();
+    // With a dialog template of the application's resources, for DoModal and Create of the base class.
+    // parent: the owner, not kept; null: the application's main window.
     DuBasicDialogCL(int templateId, CWnd* parent);
     ~DuBasicDialogCL() override;
 
@@ -53,6 +55,7 @@ public:
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
     // what it would be told goes to the debugger (OutputDebugString), the same text only once. Before the
     // first call nobody is told, and nothing is looked for, unless a debugger runs the program.
+    // context: given back with each call.
     void SetDiagnosticsM(DiagnosticTP callback, void* context);
 
     // The functions from here to MessageTextM are for what the description file doesn't say. They hold from
@@ -97,12 +100,13 @@ public:
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
     // Without DestroyM before, a second build uses the records of the first load; its controls are destroyed.
     int InitDlgM(CWnd* parent, int mode);
-    void DestroyM(); // Destroys all controls and records and the dialog font.
-    BOOL DestroyWindow() override;
-    BOOL OnInitDialog() override;
+    void DestroyM();               // Destroys all controls and records and the dialog font.
+    BOOL DestroyWindow() override; // Destroys the controls too, as DestroyM does.
+    BOOL
+    OnInitDialog() override; // Builds the dialog of the description file. TRUE: the system sets the focus.
     void EndDialog(int result) override; // No field has been left by that.
 
-    // Draws the background picture with its corner at (x, y); 0 when there is none.
+    // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
 
     // Controls by function id. Where several have the id, the first in the order of the kinds is meant.
@@ -138,7 +142,7 @@ public:
     DialogValuesCL& ValuesM() { return values_; }
 
     // Values of single-line edits; the results are those of the edit's SetValueM, SetCurValM, GetValueM and
-    // GetCurValM.
+    // GetCurValM. Texts are GBK, copied.
     int SetSingleEditValM(int id, int value);
     int SetSingleEditValM(int id, float value);
     int SetSingleEditValM(int id, double value) { return SetSingleEditValM(id, static_cast<float>(value)); }
@@ -146,7 +150,8 @@ public:
     int SetSingleEditValM(int id, simpleValD value);
     int GetSingleEditValM(int id, int* value);
     int GetSingleEditValM(int id, float* value);
-    int GetSingleEditValM(int id, char* text); // 260 bytes.
+    int GetSingleEditValM(int id, char* text); // The same; text: 260 bytes.
+    // The same for whatever type the edit has.
     int GetSingleEditValM(int id, simpleValD* value);
     int EnableSingleEditM(int id, int enable); // Enables for 1, else disables; -1: all of them.
 
@@ -159,7 +164,7 @@ public:
     int CheckValueLegalM();
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override; // Closing has no field checked.
 
     // For the application's message map: 1624 (a field was left, with what value) and 1625 (a control gained
     // the focus; unless it is the cancel control, the field left last is asked to check its value). 0.
@@ -171,8 +176,8 @@ protected:
     int initItemRelationM();
 
     static constexpr UINT_PTR StartTimer = 6107; // Shows the dialog once, when its controls exist.
-    afx_msg void OnPaint();
-    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnPaint();                      // Draws the background picture.
+    afx_msg void OnTimer(UINT_PTR id);           // Shows the dialog at StartTimer.
     DECLARE_MESSAGE_MAP()
 
 private:

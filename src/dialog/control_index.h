@@ -8,19 +8,23 @@
 class ControlIndexCL
 {
 public:
+    // Where one control stands.
     struct PlaceCL
     {
-        int row;
-        int slot;
+        int row;  // Of the kind table, from 0.
+        int slot; // Of that kind's array, from 0.
     };
-    using PlacesTP = std::vector<PlaceCL>;
+    using PlacesTP = std::vector<PlaceCL>; // All with one id, in the order of search.
 
+    // Whether it holds all controls: nothing has changed since it was filled.
     bool IsFilledM() const { return isFilled_ && changes_ == 0; }
+    // Empties it; it is not filled then.
     void ForgetM()
     {
         places_.clear();
         isFilled_ = false;
     }
+    // Empties it for what AddM then tells; it counts as filled.
     void BeginM()
     {
         ForgetM();
@@ -28,6 +32,7 @@ public:
         changes_ = 0;
     }
     void AddM(int id, PlaceCL place) { places_[id].push_back(place); } // In the order of search.
+    // Those with an id, none for an unknown one. Valid until the index changes.
     const PlacesTP& PlacesM(int id) const
     {
         static const PlacesTP none;

@@ -91,12 +91,13 @@ template <class RecordArrTP, class ControlArrTP, KindCode codeN, int buildPlaceN
     auto initN, auto fillN = nullptr>
 struct KindRowCL
 {
-    using Records = RecordArrTP;
-    using Controls = ControlArrTP;
-    static constexpr int Code = codeN;
-    static constexpr int BuildPlace = buildPlaceN;
-    static constexpr auto InitM = initN;
-    static constexpr auto FillM = fillN;
+    using Records = RecordArrTP;                   // The record array.
+    using Controls = ControlArrTP;                 // The runtime array.
+    static constexpr int Code = codeN;             // The code that GetContrlPtrM reports.
+    static constexpr int BuildPlace = buildPlaceN; // Its place in the order of building, from 0.
+    static constexpr auto InitM = initN;           // How a record fills a control.
+    static constexpr auto FillM = fillN; // What a record adds once the window exists; null: nothing.
+    // Whether the kind has the ability.
     static constexpr bool CanM(Ability ability) { return (abilitiesN & ability) != 0; }
 };
 
@@ -143,6 +144,7 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
+// How many kinds there are.
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);
 
 // The last row of the table that answers a test with yes; -1 when none does.
@@ -153,6 +155,7 @@ template <class TestTP> constexpr int slLastRow(TestTP test)
     std::apply([&](auto... kind) { ((found = test(kind) ? row : found, ++row), ...); }, KindTable());
     return found;
 }
+// The row of the kind that is built at that place, from 0; -1: none.
 constexpr int slRowBuiltAt(int place)
 {
     return slLastRow([place](auto kind) { return kind.BuildPlace == place; });

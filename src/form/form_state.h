@@ -18,16 +18,17 @@ struct PainterCL
     std::function<void(Canvas&)> handler; // Empty: nothing.
 };
 
-// What a form keeps, and what outlives it while one of its handlers runs.
+// What a form keeps, and what outlives it while one of its handlers runs. It is for Form alone.
 class FormStateCL : public std::enable_shared_from_this<FormStateCL>
 {
 public:
-    using EventHandler = std::function<void(const panelkit_event&)>;
+    using EventHandler = std::function<void(const panelkit_event&)>; // Told all of an event.
 
-    panelkit_dialog* dialog = nullptr;
-    std::string error; // Why there is no dialog.
-    std::function<void(const panelkit_diagnostic&)> diagnostics;
+    panelkit_dialog* dialog = nullptr; // The form's own; null: none, or the form is gone.
+    std::string error;                 // Why there is no dialog.
+    std::function<void(const panelkit_diagnostic&)> diagnostics; // As FormOptions has it.
 
+    // Puts a handler in the place of the one before; kind and id: 0 for all events.
     void OnM(int kind, int id, EventHandler handler) { handlers_[{ kind, id }] = std::move(handler); }
     void OnM(int kind, int id, std::function<void()> handler)
     {
@@ -36,6 +37,7 @@ public:
             OnM(kind, id, EventHandler([call = std::move(handler)](const panelkit_event&) { call(); }));
         }
     }
+    // The handler that may keep the form open.
     void OnM(int, int, std::function<bool(int)> handler) { closing_ = std::move(handler); }
     // A handler that gets a member of the event.
     template <class FunctionTP>
@@ -58,6 +60,8 @@ public:
     // In place of the one that the control had.
     void KeepPainterM(int id, std::unique_ptr<PainterCL> painter) { painters_[id] = std::move(painter); }
 
+    // The callback of the dialog: calls the handlers. user: the state. What they throw is kept, and the
+    // dialog closes.
     static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
     {
         const auto state = static_cast<FormStateCL*>(user)->shared_from_this();
@@ -91,6 +95,7 @@ public:
             panelkit_close(state->dialog, -1);
         }
     }
+    // The same for what is wrong with the file.
     static void PANELKIT_CALL TellDiagnosticM(const panelkit_diagnostic* diagnostic, void* user) noexcept
     {
         try {
@@ -99,7 +104,7 @@ public:
             thrownM() = std::current_exception();
         }
     }
-    // What a handler of this thread has thrown.
+    // Throws what a handler of this thread has thrown, once.
     static void RethrowM()
     {
         if (const std::exception_ptr pointer = std::exchange(thrownM(), nullptr)) {

@@ -111,7 +111,7 @@ std::set<std::string> namesIn(const std::string& text, const char* pattern)
 
 TEST(PagePrograms, TheSmallestProgramPrintsWhatWasTyped)
 {
-    PageProgramCL program("readme_program");
+    PageProgramCL program("README_page_program");
     const HWND window = program.WindowM();
     ClickM(::GetDlgItem(window, 1002), 5, 5);
     KeyM(VK_HOME);

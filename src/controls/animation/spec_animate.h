@@ -21,8 +21,8 @@ public:
     // Appends the frame of a file: 1, also when it can't be loaded, which leaves a frame that draws nothing;
     // 0 for an empty name.
     int AddBmpM(const char* file);
-    int DeleteBmpM(int index); // As of all animations; the painter then has no frame below it.
-    int DelAllBmpM();
+    int DeleteBmpM(int index); // As of all animations; the painter then has no frame below it. 1.
+    int DelAllBmpM();          // Deletes all frames; the painter then has no frame below it. 1.
     int SetSunkModeM(int sunkMode) { return slKeep(sunkMode_, sunkMode); } // 1: sunken edge.
     int SetTypeM(int type) { return slKeep(type_, type); } // What it means is the application's business.
 
@@ -31,6 +31,7 @@ public:
     int DispBmpM(int index); // 1, or 0 and no change when there is no such frame.
     int GetCurIdxM() const { return current_; }
 
+    // What was set, or stands in the description file; 0 at first.
     int GetTypeM() const { return type_; }
     int GetSunkModeM() const { return sunkMode_; }
     DVrBitmapArr& GetFramesM() { return frames_; } // The control keeps them.

@@ -31,5 +31,5 @@ protected:
         return result;
     }
 
-    char text_[TextSize] {};
+    char text_[TextSize] {}; // The caption.
 };

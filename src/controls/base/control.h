@@ -126,6 +126,7 @@ protected:
     {
         ::PostMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
     }
+    // Sends it instead: the parent handles it first, and may destroy this object.
     void sendToParentM(unsigned message, LPARAM lParam = 0)
     {
         ::SendMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);

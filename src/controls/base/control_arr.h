@@ -63,7 +63,7 @@ private:
 template <class ControlParamTP> class ControlArr : public Arr<ControlParamTP>
 {
 public:
-    using ControlTP = ControlParamTP;
+    using ControlTP = ControlParamTP; // The control's class.
 
     // From now on an object stands in place of the element at slot i of the array, whose element keeps the
     // slot alive; the array owns the object. It stays with the slot: what moves elements doesn't move it.

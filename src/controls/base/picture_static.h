@@ -54,6 +54,7 @@ protected:
     void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // Whether the window has the mouse: a click that began here goes on.
     bool holdsMouseM() const { return m_hWnd != nullptr && ::GetCapture() == m_hWnd; }
     bool beginClickM(); // Takes the mouse; false when the window has it already.
     // Ends a click begun here: finish() runs while the mouse is still held. Any other: nothing.

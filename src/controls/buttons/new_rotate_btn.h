@@ -17,7 +17,8 @@ public:
     // shows nothing.
     int InitialM(const int steps[2], int index, const VrStringArr& names);
     void SetIsCycledM(int cycled) { cycled_ = cycled; } // Not 0: behind the last picture comes the first.
-    void SetCurIndxM(int index) { index_ = index; }     // Without repainting.
+    void SetCurIndxM(int index) { index_ = index; }     // The position; without repainting.
+    // The position, from 0; -1 at first.
     int GetCurIndxM() const { return index_; }
     // The value, as other kinds have it: the position; it takes those that have a picture, and repaints.
     unsigned ValuePartsM() const { return NumberPart; }

@@ -17,15 +17,20 @@ public:
     using CStatic::Create;
     int Create(CWnd* parent) { return createM(parent, " "); }
 
-    int SetAngleM(const float range[2], float step, float angle); // range: upper, lower.
+    int SetAngleM(
+        const float range[2], float step, float angle); // range: upper, lower; angle: the current one.
+    // The place of the turning picture's corner and the point it turns about: each x, y.
     int SetRotPosM(const int position[2], const int centre[2]);
-    int SetSignM(const int signs[2], const int increments[2]); // Each for left, right.
+    // The factor of the step that a click turns it by, and what it adds to the counter; each for left, right.
+    int SetSignM(const int signs[2], const int increments[2]);
+    // What the clicks count on from.
     int SetCounterM(int counter) { return slKeep(counter_, counter); }
-    int SetBmpM(const char* background, const char* rotating); // Loads both.
+    int SetBmpM(const char* background, const char* rotating); // Loads both pictures.
     // 1: enabled; applied when the window is created.
     int SetEnableM(int enabled) { return slKeep(enabled_, enabled); }
     int EnableButtonM(int enabled);                // The same at once.
     DVrRgnCL* GetButtonRgnM() { return &hitRgn_; } // Where clicks count; the control keeps it.
+    // What the knob shows, or will show when it is painted.
     float GetAngleM() const { return angle_; }
     int GetCounterM() const { return counter_; }
     // The value by id: the angle and the counter. Each is taken for itself, an angle out of the range never;

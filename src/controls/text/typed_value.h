@@ -23,6 +23,7 @@ constexpr int MostDecimals = TextSize - 42;
 class PANELKIT_API TypedValueCL
 {
 public:
+    // The data type, a ValueType code.
     int GetTypeM() const { return type_; }
     void SetTypeM(int type, int decimals); // decimals: of a real; below 0 counts as 0.
 
@@ -30,7 +31,9 @@ public:
     // type.
     int SetRangeM(const simpleValD& range);
     int SetValueM(const simpleValD& value);
+    // Gives the value, by type: 1; 0, and nothing is written, for an unknown type or null.
     int GetValueM(simpleValD* value) const;
+    // Minimum and maximum.
     const simpleValD& RangeM() const { return range_; }
 
     // These don't look at the type.
