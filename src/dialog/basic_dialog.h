@@ -94,7 +94,7 @@ public:
     // Shows the dialog without a template: the description file says all that one could. parent: the owner,
     // not kept; null: for DoModalM the constructor's, else the application's main window.
     int CreateM(CWnd* parent = nullptr);  // Modeless: it is built, and soon shows itself. 0 without a window.
-    int DoModalM(CWnd* parent = nullptr); // What EndDialog said; -1 without a window.
+    int DoModalM(CWnd* parent = nullptr); // Modal: what EndDialog said; -1 without a window.
 
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
@@ -102,9 +102,9 @@ public:
     int InitDlgM(CWnd* parent, int mode);
     void DestroyM();               // Destroys all controls and records and the dialog font.
     BOOL DestroyWindow() override; // Destroys the controls too, as DestroyM does.
-    BOOL
-    OnInitDialog() override; // Builds the dialog of the description file. TRUE: the system sets the focus.
-    void EndDialog(int result) override; // No field has been left by that.
+    // Builds the dialog of the description file. TRUE: the system sets the focus.
+    BOOL OnInitDialog() override;
+    void EndDialog(int result) override; // With that result; no field has been left by that.
 
     // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
@@ -113,12 +113,12 @@ public:
     // An unknown id, or that of a control of another kind, gives 0 and changes nothing.
     CWnd* GetContrlPtrM(int id, int* kind);           // Null: none, *kind stays. A static_cast to the class
                                                       // that *kind says is fine; the host keeps it.
-    int ShowContrlM(int id, int show);                // Shows for 1, hides for every other value; 1.
-    int ShowAllCtrlM(int show);                       // The same for all controls.
-    int EnableAllCtrlM(int enable);                   // Enables for 1, else disables.
-    void ShowObjectM(int kind, int index, bool show); // Radio buttons (kind 11) by place in their array.
-    int GetNormalAnimateBmpIdxM(int id, int* index);  // The picture shown; *index is set only for 1.
-    int ChangeNormalAnimateM(int id, int index);      // Shows a picture; the animation's result.
+    int ShowContrlM(int id, int show);                // Shows it for 1, hides it for every other value; 1.
+    int ShowAllCtrlM(int show);                       // The same for all controls; 1.
+    int EnableAllCtrlM(int enable);                   // Enables all for 1, else disables them; 1.
+    void ShowObjectM(int kind, int index, bool show); // A radio button (kind 11) by its place in their array.
+    int GetNormalAnimateBmpIdxM(int id, int* index);  // An animation's picture; *index is set only for 1.
+    int ChangeNormalAnimateM(int id, int index);      // Shows a picture of an animation; its result.
 
     // Painting of drawing controls and special animations; the painter is told of in painted.h,
     // painted_picture.h. It is kept for this id through every build to come; an empty one is kept no more.
