@@ -15,6 +15,9 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     }
     setItemFontM(parent, header_.fontOption);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    for (const auto& [id, painter] : painters_) {
+        givePainterM(id, painter);
+    }
     return 1;
 }
 

@@ -52,7 +52,8 @@ enum Ability : unsigned
     StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
     HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
     HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256   // SetPainterM, RepaintM.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -99,7 +100,7 @@ struct KindRowCL
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
                                  Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
-    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue | HasValue,
@@ -131,7 +132,7 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
-    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "form/panelkit_c.h"
+#include "form/canvas.h"
 #include <exception>
 #include <functional>
 #include <map>
@@ -8,6 +8,15 @@
 #include <utility>
 
 namespace panelkit {
+
+class FormStateCL;
+
+// What paints a control.
+struct PainterCL
+{
+    FormStateCL* state;
+    std::function<void(Canvas&)> handler;
+};
 
 // What a form keeps, and what outlives it while one of its handlers runs.
 class FormStateCL : public std::enable_shared_from_this<FormStateCL>
@@ -38,6 +47,21 @@ public:
         return [call = std::move(handler), what](const panelkit_event& event) { call(event.*what); };
     }
 
+    static EventHandler PlacedM(std::function<void(int, int)> handler)
+    {
+        if (!handler) {
+            return nullptr;
+        }
+        return [call = std::move(handler)](const panelkit_event& event) { call(event.x, event.y); };
+    }
+    // The painter of a control from now on; it stays where it is.
+    PainterCL* PainterM(int id, std::function<void(Canvas&)> handler)
+    {
+        PainterCL& painter = painters_[id];
+        painter = { this, std::move(handler) };
+        return &painter;
+    }
+
     static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
     {
         const auto state = static_cast<FormStateCL*>(user)->shared_from_this();
@@ -56,6 +80,21 @@ public:
             panelkit_close(state->dialog, -1);
         }
         return 0;
+    }
+    static void PANELKIT_CALL PaintM(panelkit_canvas* handle, void* user) noexcept
+    {
+        const auto& painter = *static_cast<const PainterCL*>(user);
+        const auto state = painter.state->shared_from_this();
+        try {
+            const auto handler = painter.handler; // It may put another one in its place.
+            Canvas canvas(handle);
+            if (handler) {
+                handler(canvas);
+            }
+        } catch (...) {
+            thrownM() = std::current_exception();
+            panelkit_close(state->dialog, -1);
+        }
     }
     static void PANELKIT_CALL TellDiagnosticM(const panelkit_diagnostic* diagnostic, void* user) noexcept
     {
@@ -90,6 +129,7 @@ private:
 
     std::function<bool(int)> closing_;
     std::map<std::pair<int, int>, EventHandler> handlers_; // By kind of event and id.
+    std::map<int, PainterCL> painters_;                    // By id.
 };
 
 } // namespace panelkit

@@ -8,8 +8,8 @@ public:
     int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing.
     void DelItemM();
     // Deletes a frame. If it is the current one there is none from then on, and the window shows so.
-
     int DeleteBmpM(int index);
+    bool HasBmpM(int index) const { return frames_.CheckAvailableM(index) == 1; }
 
 protected:
     explicit AnimationCL(int current)

@@ -67,6 +67,15 @@ void PictureStaticCL::invalidateInParentM()
     }
 }
 
+void PictureStaticCL::drawBehindM(CDC* dc, const CSize& size) const
+{
+    const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
+    auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
+        parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
+    const RECT all { 0, 0, size.cx, size.cy };
+    ::FillRect(dc->m_hDC, &all, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
+}
+
 int PictureStaticCL::appendPictureM(DVrBitmapArr* pictures, const char* file)
 {
     const int index = pictures->AddItemM(DVrBitmapCL(AliveTag));

@@ -65,7 +65,6 @@ private:
     void showAngleM();
     void composeM(CDC* dc, float angle);
     bool prepareM(CDC* dc);
-    void drawBehindM(CDC* dc);
     void forgetPixelsM();
 
     int counter_ { 0 };
