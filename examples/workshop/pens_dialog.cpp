@@ -39,7 +39,9 @@ BEGIN_MESSAGE_MAP(PensDialogCL, DuBasicDialogCL)
 ON_MESSAGE(ButtonActionMsg, &PensDialogCL::onButtonM)
 ON_MESSAGE(ValueReportMsg, &PensDialogCL::onCtrlLostFocusM) // These two: bad values keep their field.
 ON_MESSAGE(FocusGainedMsg, &PensDialogCL::onCtrlSetFocusM)
+ON_NOTIFY(LVN_ITEMCHANGING, PensId, &PensDialogCL::onPenChangingM)
 ON_NOTIFY(LVN_ITEMCHANGED, PensId, &PensDialogCL::onPenChosenM)
+ON_NOTIFY(TVN_SELCHANGINGW, LayersId, &PensDialogCL::onLayerChangingM)
 ON_NOTIFY(TVN_SELCHANGEDW, LayersId, &PensDialogCL::onLayerChosenM)
 ON_EN_CHANGE(NameId, &PensDialogCL::onFieldChangedM)
 ON_EN_CHANGE(WidthId, &PensDialogCL::onFieldChangedM)
@@ -79,6 +81,26 @@ BOOL PensDialogCL::OnInitDialog()
 std::string PensDialogCL::cellM(int pen, int column) const
 {
     return std::string(pens_->GetItemText(pen, column));
+}
+
+bool PensDialogCL::areFieldsLegalM()
+{
+    auto& values = ValuesM();
+    return values.TextM(NameId) && values.RealM(WidthId) && values.IntM(SpeedId);
+}
+
+// Another row, or layer and with it another row, is about to be selected: not while a bad value stands there,
+// which would be lost. The user hears of it when the field loses the focus.
+void PensDialogCL::onPenChangingM(NMHDR* header, LRESULT* refused)
+{
+    const auto* const change = reinterpret_cast<const NMLISTVIEW*>(header);
+    const bool selects = ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0;
+    *refused = selects && !areFieldsLegalM() ? 1 : 0;
+}
+
+void PensDialogCL::onLayerChangingM(NMHDR*, LRESULT* refused)
+{
+    *refused = areFieldsLegalM() ? 0 : 1;
 }
 
 // Another row is selected.
@@ -176,7 +198,8 @@ void PensDialogCL::useForLayerM()
 LRESULT PensDialogCL::onButtonM(WPARAM id, LPARAM)
 {
     if (id == OkId) {
-        if (isGoodM() && keepM()) {
+        // Enter leaves no field: what is being typed is checked here, and the user told.
+        if (CheckValueLegalM() == 0 && areFieldsLegalM() && keepM()) {
             EndDialog(IDOK);
         }
     } else if (id == CancelId) {
@@ -185,13 +208,6 @@ LRESULT PensDialogCL::onButtonM(WPARAM id, LPARAM)
         useForLayerM();
     }
     return 0;
-}
-
-// Enter leaves no field: what is being typed is checked here. The user is told by the library.
-bool PensDialogCL::isGoodM()
-{
-    auto& values = ValuesM();
-    return CheckValueLegalM() == 0 && values.TextM(NameId) && values.RealM(WidthId) && values.IntM(SpeedId);
 }
 
 template <class FunctionTP> void PensDialogCL::eachLayerM(HTREEITEM first, FunctionTP&& see)

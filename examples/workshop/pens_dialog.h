@@ -14,20 +14,21 @@ public:
 
 protected:
     afx_msg LRESULT onButtonM(WPARAM id, LPARAM);
+    afx_msg void onPenChangingM(NMHDR* header, LRESULT* refused);
     afx_msg void onPenChosenM(NMHDR* header, LRESULT*);
+    afx_msg void onLayerChangingM(NMHDR*, LRESULT* refused);
     afx_msg void onLayerChosenM(NMHDR*, LRESULT*);
     afx_msg void onFieldChangedM();
     DECLARE_MESSAGE_MAP()
 
 private:
-    int penM() const { return ValuesOfM().IndexM(PensId).value_or(-1); } // The chosen row; -1: none.
-    const DialogValuesCL& ValuesOfM() const { return const_cast<PensDialogCL*>(this)->ValuesM(); }
-    std::string cellM(int pen, int column) const; // GBK.
+    int penM() { return ValuesM().IndexM(PensId).value_or(-1); } // The chosen row; -1: none.
+    std::string cellM(int pen, int column) const;                // GBK.
     void showPenM();
     void showLayerM();
     void useForLayerM();
     template <class FunctionTP> void eachLayerM(HTREEITEM first, FunctionTP&& see);
-    bool isGoodM();
+    bool areFieldsLegalM();
     bool keepM();
     void restoreM();
 
