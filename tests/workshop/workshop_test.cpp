@@ -146,7 +146,7 @@ protected:
     }
 
     const TempFile file_;
-    const std::string settings_ { std::string(file_.path()) + ".folder" }; // Not there yet.
+    std::string settings_ { std::string(file_.path()) + ".folder" }; // Not there yet.
     std::optional<ChildProgram> program_;
     HWND main_ { nullptr };
     HWND dialog_ { nullptr };
@@ -257,6 +257,21 @@ TEST_F(Workshop, CancelEscAndBadValuesLeaveTheParametersAsTheyWere)
     EXPECT_TRUE(ClosedByKeyM(VK_ESCAPE));
     EndM();
     EXPECT_FALSE(std::filesystem::exists(settings_)); // Nothing was accepted.
+}
+
+TEST_F(Workshop, WhatCannotBeWrittenIsToldAndNothingIsLost)
+{
+    settings_ = file_.path(); // A file stands where the folder should be.
+    StartM();
+    OpenMachineM();
+    FillM(MaxSpeed, L"300");
+    KeyM(VK_RETURN);
+    ASSERT_NE(BoxM(), nullptr);
+    KeyM(VK_RETURN);
+    EXPECT_TRUE(FocusBecomes(*program_, ItemM(Ok)));
+    EXPECT_EQ(TextOf(dialog_, MaxSpeed), L"300");
+    EXPECT_TRUE(ClosedByKeyM(VK_ESCAPE));
+    EXPECT_TRUE(SummaryBecomesM(MachineSummary, L"绘图机 一号: 841.0 x 594.0 mm, 200 mm/s"));
 }
 
 TEST_F(Workshop, APenIsChosenChangedAndGivenToALayer)
