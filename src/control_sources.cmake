@@ -9,6 +9,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/interrupted_press.cpp
   controls/base/leaving.cpp
   controls/base/painted_picture.cpp
+  controls/base/picture_keyboard.cpp
   controls/base/picture_static.cpp
   controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
@@ -44,7 +45,7 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_items.cpp
-  dialog/basic_dialog_painting.cpp
+  dialog/basic_dialog_pictures.cpp
   dialog/basic_dialog_values.cpp
   form/c_canvas.cpp
   form/c_controls.cpp

@@ -91,6 +91,9 @@ public:
     // Shows a frame, from 0, of a normal animation in manual mode, or below what the painter of a special one
     // paints. false: no such control, or no such frame.
     bool ShowFrameM(int id, int frame);
+    // Whether pictures that take clicks are worked by keys too: bitmap buttons, multi-state buttons, knobs,
+    // normal animations that notify (picture_static.h). At first not; from now on through every build.
+    void SetPictureKeyboardM(bool use);
 
     // Lines of list boxes and combo boxes.
     int AddItemM(int id, int position, const char* text); // The result of the control's AddItemM.
@@ -158,6 +161,7 @@ private:
     void initM(CWnd* parent, int mode);
     void beginDiagnosticsM();
     bool givePainterM(int id, const PainterTP& painter);
+    void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
     template <class RowTP> void buildKindM(CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
@@ -178,6 +182,7 @@ private:
     ControlIndexCL index_;
     DialogValuesCL values_ { *this };
     std::map<int, PainterTP> painters_;
+    bool usesPictureKeyboard_ { false };
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };

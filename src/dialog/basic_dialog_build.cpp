@@ -18,6 +18,7 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }
+    givePictureKeyboardM();
     return 1;
 }
 

@@ -53,7 +53,8 @@ enum Ability : unsigned
     HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
     HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
     ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
-    TakesPainter = 256   // SetPainterM, RepaintM.
+    TakesPainter = 256,  // SetPainterM, RepaintM.
+    TakesKeys = 512      // UseKeyboardM.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -99,7 +100,7 @@ struct KindRowCL
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
-                                 Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
+                                 Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
@@ -125,11 +126,13 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue,
         &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked, &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked | HasValue,
-        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys,
+        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
+        Stacked | HasValue | TakesKeys, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
+        &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;

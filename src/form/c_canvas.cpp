@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int MostSide = 32767; // Of ellipses, widths of lines.
+constexpr int MostLineWidth = 32767;
 constexpr int MostTextHeight = 1000;
 
 bool isColour(uint32_t colour)
@@ -18,11 +18,11 @@ bool isColour(uint32_t colour)
 }
 bool isLine(uint32_t colour, int width)
 {
-    return isColour(colour) && width >= 1 && width <= MostSide;
+    return isColour(colour) && width >= 1 && width <= MostLineWidth;
 }
-bool isSide(int width, int height, int most)
+bool isSize(int width, int height)
 {
-    return width >= 0 && height >= 0 && width <= most && height <= most;
+    return width >= 0 && height >= 0;
 }
 
 // Gives call(canvas), in which the context can be changed at will, if the arguments are good.
@@ -116,22 +116,21 @@ panelkit_status panelkit_canvas_polyline(
 panelkit_status panelkit_canvas_rectangle(panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width,
     int32_t height, uint32_t colour, int32_t line_width)
 {
-    return withCanvas(
-        canvas, isLine(colour, line_width) && isSide(width, height, INT32_MAX), [=](CanvasUseCL& found) {
-            const int64_t right = int64_t { x } + width;
-            const int64_t bottom = int64_t { y } + height;
-            const int64_t line = std::min({ int64_t { line_width }, right - x, bottom - y });
-            slFillPart(found, x, y, right, y + line, colour);
-            slFillPart(found, x, bottom - line, right, bottom, colour);
-            slFillPart(found, x, y, x + line, bottom, colour);
-            slFillPart(found, right - line, y, right, bottom, colour);
-        });
+    return withCanvas(canvas, isLine(colour, line_width) && isSize(width, height), [=](CanvasUseCL& found) {
+        const int64_t right = int64_t { x } + width;
+        const int64_t bottom = int64_t { y } + height;
+        const int64_t line = std::min({ int64_t { line_width }, right - x, bottom - y });
+        slFillPart(found, x, y, right, y + line, colour);
+        slFillPart(found, x, bottom - line, right, bottom, colour);
+        slFillPart(found, x, y, x + line, bottom, colour);
+        slFillPart(found, right - line, y, right, bottom, colour);
+    });
 }
 
 panelkit_status panelkit_canvas_fill_rectangle(
     panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width, int32_t height, uint32_t colour)
 {
-    return withCanvas(canvas, isColour(colour) && isSide(width, height, INT32_MAX), [=](CanvasUseCL& found) {
+    return withCanvas(canvas, isColour(colour) && isSize(width, height), [=](CanvasUseCL& found) {
         slFillPart(found, x, y, int64_t { x } + width, int64_t { y } + height, colour);
     });
 }
@@ -139,14 +138,14 @@ panelkit_status panelkit_canvas_fill_rectangle(
 panelkit_status panelkit_canvas_ellipse(panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width,
     int32_t height, uint32_t colour, int32_t line_width)
 {
-    return withCanvas(canvas, isLine(colour, line_width) && isSide(width, height, MostSide),
+    return withCanvas(canvas, isLine(colour, line_width) && isSize(width, height),
         [=](CanvasUseCL& found) { slDrawEllipse(found, x, y, width, height, colour, line_width); });
 }
 
 panelkit_status panelkit_canvas_fill_ellipse(
     panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width, int32_t height, uint32_t colour)
 {
-    return withCanvas(canvas, isColour(colour) && isSide(width, height, MostSide),
+    return withCanvas(canvas, isColour(colour) && isSize(width, height),
         [=](CanvasUseCL& found) { slDrawEllipse(found, x, y, width, height, colour, 0); });
 }
 

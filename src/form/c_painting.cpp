@@ -88,3 +88,12 @@ panelkit_status panelkit_show_frame(panelkit_dialog* dialog, int32_t id, int32_t
         return hosted.ShowFrameM(id, frame) ? PANELKIT_OK : PANELKIT_ERROR_REFUSED;
     });
 }
+
+panelkit_status panelkit_use_picture_keyboard(panelkit_dialog* dialog, int32_t use)
+{
+    return slWithWindow(dialog, [=](HostedDialogCL& hosted) -> panelkit_status {
+        const HostedDialogCL::QuietCL quiet(hosted);
+        hosted.SetPictureKeyboardM(use != 0);
+        return PANELKIT_OK;
+    });
+}

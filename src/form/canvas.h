@@ -1,5 +1,6 @@
 #pragma once
 #include "form/canvas_c.h"
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -7,23 +8,26 @@ namespace panelkit {
 
 // What the program paints on when Form::OnPaint calls it, and only until it returns. Lengths and places are
 // pixels, from the left and top of the picture; nothing is drawn outside of it. Colours are 0xRRGGBB. False,
-// and nothing is drawn: another colour, a line or text lower than 1, a negative width or height.
+// and nothing is drawn: another colour, a line thinner than 1, a text not 1 to 1000 high, a negative width or
+// height.
 class Canvas
 {
 public:
-    using Colour = std::uint32_t;
+    using Colour = std::uint32_t; // 0xRRGGBB.
     enum Alignment
     {
         Left = PANELKIT_ALIGN_LEFT, // x is where the text begins,
         Centre = PANELKIT_ALIGN_CENTRE,
         Right = PANELKIT_ALIGN_RIGHT // where it ends.
     };
+    // A place on the picture.
     struct Point
     {
-        int x;
-        int y;
+        int x; // From the left.
+        int y; // From the top.
     };
 
+    // For painters of the C interface; the handle must be there as long as this.
     explicit Canvas(panelkit_canvas* handle)
         : handle_(handle)
     {
@@ -32,6 +36,7 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
+    // Of the picture.
     int Width() const { return width_; }
     int Height() const { return height_; }
     int Frame() const // That the animation shows; -1: none, as for drawings.
@@ -41,6 +46,7 @@ public:
         return frame;
     }
 
+    // Fills the whole picture.
     bool Fill(Colour colour) { return isOk(panelkit_canvas_fill(handle_, colour)); }
     // Both ends belong to the line. Wide ones have round ends.
     bool Line(int x1, int y1, int x2, int y2, Colour colour, int width = 1)
@@ -66,6 +72,7 @@ public:
     {
         return isOk(panelkit_canvas_ellipse(handle_, x, y, width, height, colour, lineWidth));
     }
+    // Without outline.
     bool FillRectangle(int x, int y, int width, int height, Colour colour)
     {
         return isOk(panelkit_canvas_fill_rectangle(handle_, x, y, width, height, colour));
@@ -79,6 +86,7 @@ public:
     {
         return isOk(panelkit_canvas_text(handle_, x, y, text.c_str(), height, colour, alignment));
     }
+    // Of the text in pixels; 0 when it could not be drawn either.
     int TextWidth(const std::string& text, int height) const
     {
         std::int32_t width = 0;
@@ -92,7 +100,7 @@ public:
         panelkit_canvas_native(handle_, &dc);
         return dc;
     }
-    panelkit_canvas* Handle() const { return handle_; }
+    panelkit_canvas* Handle() const { return handle_; } // For the C interface.
 
 private:
     static bool isOk(panelkit_status status) { return status == PANELKIT_OK; }

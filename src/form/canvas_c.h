@@ -30,14 +30,15 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show_frame(
     panelkit_dialog* dialog, int32_t id, int32_t frame);
 
 /* Lengths and places are pixels, from the left and top of the picture; nothing is drawn outside of it.
-   Colours are 0xRRGGBB. Refused with PANELKIT_ERROR_ARGUMENT: other colours, lines and texts lower than 1,
-   negative widths and heights. */
+   Colours are 0xRRGGBB. Refused with PANELKIT_ERROR_ARGUMENT: other colours, lines thinner than 1 or wider
+   than 32767, negative widths and heights. */
 enum
 {
     PANELKIT_ALIGN_LEFT = 0, /* x is where the text begins, */
     PANELKIT_ALIGN_CENTRE = 1,
     PANELKIT_ALIGN_RIGHT = 2 /* where it ends. */
 };
+/* The picture's. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_size(
     panelkit_canvas* canvas, int32_t* width, int32_t* height);
 /* The frame that the animation shows; -1: none, as for drawings. */
@@ -46,6 +47,7 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_frame(panelkit_canvas
  */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_native(panelkit_canvas* canvas, void** dc);
 
+/* Fills the whole picture. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_fill(panelkit_canvas* canvas, uint32_t colour);
 /* Both ends belong to the line. Wide ones have round ends. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_line(
@@ -56,17 +58,20 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_polyline(
 /* A frame, its lines inside the rectangle. Without width or height: nothing, here and below. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_rectangle(panelkit_canvas* canvas, int32_t x,
     int32_t y, int32_t width, int32_t height, uint32_t colour, int32_t line_width);
+/* Without outline. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_fill_rectangle(
     panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width, int32_t height, uint32_t colour);
-/* In that rectangle; a width or height over 32767 is refused. */
+/* In that rectangle, its line inside. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_ellipse(panelkit_canvas* canvas, int32_t x,
     int32_t y, int32_t width, int32_t height, uint32_t colour, int32_t line_width);
+/* Without outline. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_fill_ellipse(
     panelkit_canvas* canvas, int32_t x, int32_t y, int32_t width, int32_t height, uint32_t colour);
-/* One line of text in the dialogs' font. y: the top of the line; height: of the line, up to 1000; alignment:
+/* One line of text in the dialogs' font. y: the top of the line; height: of the line, 1 to 1000; alignment:
    PANELKIT_ALIGN_... */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_text(panelkit_canvas* canvas, int32_t x, int32_t y,
     const char* text, int32_t height, uint32_t colour, int32_t alignment);
+/* How wide that text is. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_canvas_text_width(
     panelkit_canvas* canvas, const char* text, int32_t height, int32_t* width);
 

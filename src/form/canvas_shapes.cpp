@@ -1,5 +1,6 @@
 #include "form/canvas_shapes.h"
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <vector>
 
@@ -61,6 +62,36 @@ void drawJoined(CanvasUseCL& canvas, const std::vector<POINT>& points, uint32_t 
     }
 }
 
+void fillPart(CanvasUseCL& canvas, int64_t left, int64_t top, int64_t right, int64_t bottom, CBrush& brush)
+{
+    const auto within
+        = [](int64_t place, LONG size) { return static_cast<int>(std::clamp<int64_t>(place, 0, size)); };
+    const CSize& size = canvas.SizeM();
+    const CRect part(
+        within(left, size.cx), within(top, size.cy), within(right, size.cx), within(bottom, size.cy));
+    if (part.left < part.right && part.top < part.bottom) {
+        canvas.DcM().FillRect(&part, &brush);
+    }
+}
+
+// Which pixels of a row have their centre in an ellipse; rows and pixels count from its own corner.
+struct EllipseRowCL
+{
+    int64_t begin;
+    int64_t end;
+};
+EllipseRowCL ellipseRow(int64_t row, int64_t width, int64_t height)
+{
+    const double radius = static_cast<double>(width) / 2;
+    const double off = (static_cast<double>(row) + 0.5) * 2 / static_cast<double>(height) - 1;
+    if (width <= 0 || height <= 0 || std::abs(off) >= 1) {
+        return { 0, 0 };
+    }
+    const double half = radius * std::sqrt(1 - off * off);
+    return { std::llround(std::ceil(radius - half - 0.5)),
+        std::llround(std::floor(radius + half - 0.5)) + 1 };
+}
+
 } // namespace
 
 bool slIsNear(POINT at)
@@ -71,29 +102,25 @@ bool slIsNear(POINT at)
 void slFillPart(
     CanvasUseCL& canvas, int64_t left, int64_t top, int64_t right, int64_t bottom, uint32_t colour)
 {
-    const CRect part(static_cast<int>(std::max<int64_t>(left, 0)),
-        static_cast<int>(std::max<int64_t>(top, 0)),
-        static_cast<int>(std::min<int64_t>(right, canvas.SizeM().cx)),
-        static_cast<int>(std::min<int64_t>(bottom, canvas.SizeM().cy)));
-    if (part.left < part.right && part.top < part.bottom) {
-        CBrush brush(slShownColour(colour));
-        canvas.DcM().FillRect(&part, &brush);
-    }
+    CBrush brush(slShownColour(colour));
+    fillPart(canvas, left, top, right, bottom, brush);
 }
 
 void slDrawEllipse(CanvasUseCL& canvas, int x, int y, int width, int height, uint32_t colour, int lineWidth)
 {
-    if (width == 0 || height == 0 || x >= canvas.SizeM().cx || y >= canvas.SizeM().cy
-        || int64_t { x } + width <= 0 || int64_t { y } + height <= 0) {
-        return;
-    }
-    const bool isFilled = lineWidth == 0 || lineWidth >= (std::min(width, height) + 1) / 2;
-    CDC& dc = canvas.DcM();
-    CPen pen(PS_INSIDEFRAME, isFilled ? 1 : lineWidth, slShownColour(colour));
+    const int hole = lineWidth == 0 ? INT_MAX : lineWidth;
+    const int64_t first = std::clamp<int64_t>(y, 0, canvas.SizeM().cy);
+    const int64_t end = std::clamp<int64_t>(int64_t { y } + height, 0, canvas.SizeM().cy);
     CBrush brush(slShownColour(colour));
-    const SelectedCL line(dc, pen);
-    const SelectedCL inside(dc, isFilled ? brush.m_hObject : ::GetStockObject(NULL_BRUSH));
-    dc.Ellipse(x, y, x + width, y + height);
+    for (int64_t row = first; row < end; ++row) {
+        const EllipseRowCL all = ellipseRow(row - y, width, height);
+        EllipseRowCL inner = ellipseRow(row - y - hole, int64_t { width } - 2 * int64_t { hole },
+            int64_t { height } - 2 * int64_t { hole });
+        inner = inner.begin < inner.end ? EllipseRowCL { inner.begin + hole, inner.end + hole }
+                                        : EllipseRowCL { all.end, all.end };
+        fillPart(canvas, x + all.begin, row, x + inner.begin, row + 1, brush);
+        fillPart(canvas, x + inner.end, row, x + all.end, row + 1, brush);
+    }
 }
 
 void slDrawLines(CanvasUseCL& canvas, const int32_t* pairs, size_t count, uint32_t colour, int width)

@@ -136,8 +136,13 @@ public:
             return false;
         }
         const bool paints = static_cast<bool>(handler);
-        PainterCL* const painter = state_->PainterM(id, std::move(handler));
-        return isOk(panelkit_set_painter(Handle(), id, paints ? &FormStateCL::PaintM : nullptr, painter));
+        auto painter = std::make_unique<PainterCL>(PainterCL { state_.get(), std::move(handler) });
+        const bool isSet = isOk(
+            panelkit_set_painter(Handle(), id, paints ? &FormStateCL::PaintM : nullptr, painter.get()));
+        if (isSet) {
+            state_->KeepPainterM(id, std::move(painter));
+        }
+        return isSet;
     }
     bool Repaint(int id) { return isOk(panelkit_repaint(Handle(), id)); }
     // Of a normal animation that doesn't play by itself, or below what is painted on a special one.

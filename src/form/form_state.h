@@ -14,8 +14,8 @@ class FormStateCL;
 // What paints a control.
 struct PainterCL
 {
-    FormStateCL* state;
-    std::function<void(Canvas&)> handler;
+    FormStateCL* state;                   // Whose it is.
+    std::function<void(Canvas&)> handler; // Empty: nothing.
 };
 
 // What a form keeps, and what outlives it while one of its handlers runs.
@@ -47,6 +47,7 @@ public:
         return [call = std::move(handler), what](const panelkit_event& event) { call(event.*what); };
     }
 
+    // A handler that gets the place of a click.
     static EventHandler PlacedM(std::function<void(int, int)> handler)
     {
         if (!handler) {
@@ -54,13 +55,8 @@ public:
         }
         return [call = std::move(handler)](const panelkit_event& event) { call(event.x, event.y); };
     }
-    // The painter of a control from now on; it stays where it is.
-    PainterCL* PainterM(int id, std::function<void(Canvas&)> handler)
-    {
-        PainterCL& painter = painters_[id];
-        painter = { this, std::move(handler) };
-        return &painter;
-    }
+    // In place of the one that the control had.
+    void KeepPainterM(int id, std::unique_ptr<PainterCL> painter) { painters_[id] = std::move(painter); }
 
     static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
     {
@@ -81,6 +77,7 @@ public:
         }
         return 0;
     }
+    // The painter for the C interface; user: a PainterCL.
     static void PANELKIT_CALL PaintM(panelkit_canvas* handle, void* user) noexcept
     {
         const auto& painter = *static_cast<const PainterCL*>(user);
@@ -88,9 +85,7 @@ public:
         try {
             const auto handler = painter.handler; // It may put another one in its place.
             Canvas canvas(handle);
-            if (handler) {
-                handler(canvas);
-            }
+            handler(canvas);
         } catch (...) {
             thrownM() = std::current_exception();
             panelkit_close(state->dialog, -1);
@@ -129,7 +124,7 @@ private:
 
     std::function<bool(int)> closing_;
     std::map<std::pair<int, int>, EventHandler> handlers_; // By kind of event and id.
-    std::map<int, PainterCL> painters_;                    // By id.
+    std::map<int, std::unique_ptr<PainterCL>> painters_;   // By id.
 };
 
 } // namespace panelkit

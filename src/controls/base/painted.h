@@ -30,6 +30,12 @@ public:
         return painted_.HasPainterM() ? 1 : 0;
     }
 
+    void DelItemM()
+    {
+        BaseTP::DelItemM();
+        painted_.SetPainterM(nullptr);
+    }
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {

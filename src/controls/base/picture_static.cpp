@@ -15,7 +15,27 @@ void PictureStaticCL::PreSubclassWindow()
 LRESULT PictureStaticCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = m_hWnd;
+    if (takesKeysM()) {
+        if (message == WM_GETDLGCODE) {
+            return dialogCodeM(reinterpret_cast<const MSG*>(lParam));
+        }
+        if (handleKeyM(message, wParam, lParam)) {
+            return 0;
+        }
+    }
     const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    if (CWnd::FromHandlePermanent(window) == this && takesKeysM()) {
+        if (message == WM_CREATE) {
+            addTabStopM();
+        } else if (message == WM_UPDATEUISTATE) {
+            keepFocusStateM(wParam);
+            showFocusM();
+        } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+            showFocusM();
+        } else if (message == WM_PAINT) {
+            drawFocusM();
+        }
+    }
     if (message == WM_ENABLE) {
         // Wine 8's statics paint themselves at once, without WM_PAINT, over what the control shows.
         ::InvalidateRect(window, nullptr, TRUE);

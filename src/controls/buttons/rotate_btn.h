@@ -50,6 +50,11 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { beginClickM(); }
+    void keyReleaseM() override;
+    void keyTurnM(bool forward) override { turnM(forward ? Left : Right); }
+    CSize pictureSizeM() const override { return { background_.GetWidthM(), background_.GetHeightM() }; }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -60,6 +65,7 @@ private:
     };
     void pressM(CPoint point);
     void releaseM(CPoint point, Side side);
+    void turnM(Side side);
     bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
     void showAngleM();

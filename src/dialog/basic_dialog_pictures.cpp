@@ -1,4 +1,4 @@
-// What the application paints on controls, and which frames animations show.
+// Pictures: what the application paints on controls, which frames animations show, keys.
 #include "dialog/basic_dialog.h"
 
 bool DuBasicDialogCL::SetPainterM(int id, PainterTP painter)
@@ -47,4 +47,21 @@ bool DuBasicDialogCL::ShowFrameM(int id, int frame)
         }
     });
     return isShown;
+}
+
+void DuBasicDialogCL::SetPictureKeyboardM(bool use)
+{
+    usesPictureKeyboard_ = use;
+    givePictureKeyboardM();
+}
+
+void DuBasicDialogCL::givePictureKeyboardM()
+{
+    eachControlsM([this](auto row, auto& controls) {
+        if constexpr (decltype(row)::CanM(TakesKeys)) {
+            for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+                controls.ElementAtM(i).UseKeyboardM(usesPictureKeyboard_);
+            }
+        }
+    });
 }
