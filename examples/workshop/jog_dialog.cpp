@@ -76,6 +76,7 @@ JogDialogCL::JogDialogCL(const SettingsCL& settings, const MotionCL& motion)
     , motion_(motion)
 {
     SetConfigFileM(DescriptionFile);
+    SetPictureKeyboardM(true); // Who has no mouse at hand works the pictures by keys.
     // Called whenever the curve needs another picture; RepaintM says when.
     SetPainterM(CurveId, [this](CDC& dc, const CSize& size) {
         const MoveCL move = isMoving_ ? move_ : MoveCL(motion_, factorM(), stepM());
@@ -126,6 +127,7 @@ void JogDialogCL::makeStepKnobM()
     DVrNewRotateBtnArr records;
     io.OpenM(DescriptionFile, "r");
     if (records.FmReadInterfaceM(&io) == 1 && records.InitNewRotateBtnM(0, &stepKnob_) == 1) {
+        stepKnob_.UseKeyboardM(true);
         stepKnob_.Create(this);
     }
 }
@@ -283,15 +285,22 @@ void JogDialogCL::OnTimer(UINT_PTR timer)
     DuBasicDialogCL::OnTimer(timer);
 }
 
-// A click leaves a picture button in its released status; enabled it is as new.
+// A click leaves a picture button in its released status; enabled it is as new. Disabled it loses the focus,
+// which the next key needs there.
 void JogDialogCL::enableArrowsM(bool enable)
 {
+    if (!enable) {
+        focusBefore_ = ::GetFocus();
+    }
     for (const int id : Arrows) {
         int kind = 0;
         CWnd* const control = GetContrlPtrM(id, &kind);
         if (control != nullptr && kind == BmpButtonCode) {
             static_cast<DuBmpButtonCL*>(control)->SetBtnStatusM(enable ? ButtonNormal : ButtonDisabled);
         }
+    }
+    if (enable && ::GetFocus() == nullptr) {
+        ::SetFocus(focusBefore_);
     }
 }
 

@@ -52,4 +52,5 @@ private:
     PlaceCL to_ { 0, 0 };
     ULONGLONG began_ { 0 }; // Milliseconds.
     int penFrame_ { 0 };
+    HWND focusBefore_ { nullptr };
 };

@@ -38,8 +38,10 @@ enum Id : int
     Pens = 4001,
     Layers = 5001,
     XPlus = 1101,
+    YPlus = 1102,
     Home = 1105,
     X = 1201,
+    Y = 1202,
     Curve = 1301,
     FactorKnob = 1401,
     Factor = 1402,
@@ -333,48 +335,54 @@ TEST_F(Workshop, KnobsButtonsAndPenAnswerAndTheCurveFollows)
     EXPECT_TRUE(SummaryBecomesM(JogSummary, L"倍率 100 %, 步长 10 mm"));
     OpenJogM();
     const HWND curve = ItemM(Curve);
+    EXPECT_TRUE(FocusBecomes(*program_, ItemM(YPlus)));
     ASSERT_TRUE(Becomes([&] { return topOf(curve, CurveColour) > 0; }));
     const int top = topOf(curve, CurveColour);
     ClickMiddle(ItemM(FactorKnob));
-    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"90 %"));
-    EXPECT_TRUE(Becomes([&] { return topOf(curve, CurveColour) > top; })); // Lower on the screen.
+    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"110 %"));
+    EXPECT_TRUE(Becomes([&] { return topOf(curve, CurveColour) < top; })); // Higher on the screen.
     ClickM(ItemM(FactorKnob), 50, 50, Button::Right);
     EXPECT_TRUE(TextBecomes(dialog_, Factor, L"100 %"));
     EXPECT_TRUE(Becomes([&] { return topOf(curve, CurveColour) == top; }));
     ClickMiddle(ItemM(StepKnob));
-    EXPECT_TRUE(TextBecomes(dialog_, Step, L"1 mm"));
+    EXPECT_TRUE(TextBecomes(dialog_, Step, L"50 mm"));
     ClickM(ItemM(StepKnob), 30, 30, Button::Right);
     EXPECT_TRUE(TextBecomes(dialog_, Step, L"10 mm"));
 
+    KeyM(VK_SPACE); // The arrow with the focus.
+    EXPECT_TRUE(TextBecomes(dialog_, Y, L"10.00"));
+    EXPECT_TRUE(FocusBecomes(*program_, ItemM(YPlus)));
     ClickMiddle(ItemM(XPlus));
     EXPECT_TRUE(TextBecomes(dialog_, X, L"10.00"));
     EXPECT_TRUE(Becomes([&] { return ::IsWindowEnabled(ItemM(Home)) != FALSE; }));
     ClickMiddle(ItemM(Home));
     EXPECT_TRUE(TextBecomes(dialog_, X, L"0.00"));
+    EXPECT_TRUE(TextBecomes(dialog_, Y, L"0.00"));
     const int above = CountOnScreen(ItemM(PenPicture), CurveColour);
     ClickMiddle(ItemM(PenSwitch));
     EXPECT_TRUE(TextBecomes(dialog_, PenState, L"落下"));
     EXPECT_TRUE(Becomes([&] { return CountOnScreen(ItemM(PenPicture), CurveColour) > above; })); // It draws.
 
     ClickMiddle(ItemM(FactorKnob));
-    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"90 %"));
+    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"110 %"));
     EXPECT_TRUE(ClosedByM(Ok));
-    EXPECT_TRUE(SummaryBecomesM(JogSummary, L"倍率 90 %, 步长 10 mm"));
+    EXPECT_TRUE(SummaryBecomesM(JogSummary, L"倍率 110 %, 步长 10 mm"));
     OpenJogM();
-    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"90 %"));
+    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"110 %"));
     EXPECT_TRUE(TextBecomes(dialog_, PenState, L"落下"));
-    ASSERT_TRUE(Becomes([&] { return topOf(ItemM(Curve), CurveColour) > top; }));
-    const int slow = topOf(ItemM(Curve), CurveColour);
+    ASSERT_TRUE(Becomes(
+        [&] { return topOf(ItemM(Curve), CurveColour) > 0 && topOf(ItemM(Curve), CurveColour) < top; }));
+    const int fast = topOf(ItemM(Curve), CurveColour);
     ClickMiddle(ItemM(FactorKnob));
-    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"80 %"));
+    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"120 %"));
     EXPECT_TRUE(ClosedByKeyM(VK_ESCAPE));
-    EXPECT_TRUE(SummaryBecomesM(JogSummary, L"倍率 90 %, 步长 10 mm"));
+    EXPECT_TRUE(SummaryBecomesM(JogSummary, L"倍率 110 %, 步长 10 mm"));
 
     // Another acceleration gives the same move another curve.
     OpenMachineM();
     FillM(Acceleration, L"2000");
     EXPECT_TRUE(ClosedByM(Ok));
     OpenJogM();
-    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"90 %"));
-    EXPECT_TRUE(Becomes([&] { return topOf(ItemM(Curve), CurveColour) > slow; }));
+    EXPECT_TRUE(TextBecomes(dialog_, Factor, L"110 %"));
+    EXPECT_TRUE(Becomes([&] { return topOf(ItemM(Curve), CurveColour) > fast; }));
 }
