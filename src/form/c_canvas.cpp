@@ -26,8 +26,8 @@ bool isSize(int width, int height)
 }
 
 // Gives call(canvas), in which the context can be changed at will, if the arguments are good.
-template <class FunctionTP>
-panelkit_status withCanvas(const panelkit_canvas* handle, bool areGood, FunctionTP&& call)
+panelkit_status withCanvas(
+    const panelkit_canvas* handle, bool areGood, const std::function<void(CanvasUseCL&)>& call)
 {
     return slGuarded(nullptr, [handle, areGood, &call]() -> panelkit_status {
         CanvasUseCL* canvas = nullptr;
