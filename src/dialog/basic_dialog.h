@@ -24,6 +24,7 @@
 #include "dialog/kinds.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
+#include <map>
 #include <memory>
 
 class ReadingDiagnosticsCL;
@@ -84,6 +85,19 @@ public:
     void ShowObjectM(int kind, int index, bool show); // A radio button (kind 11) by its place in their array.
     int GetNormalAnimateBmpIdxM(int id, int* index);  // An animation's picture; *index is set only for 1.
     int ChangeNormalAnimateM(int id, int index);      // Shows a picture of an animation; its result.
+
+    // Painting of drawing controls and special animations; the painter is told of in painted.h,
+    // painted_picture.h. It is kept for this id through every build to come; an empty one is kept no more.
+    // While nothing is built any id may get one. false, and none is kept: an unknown id, or a control of
+    // another kind.
+    bool SetPainterM(int id, PainterTP painter);
+    bool RepaintM(int id); // Soon, once for all calls until then. false: no control with a painter.
+    // Shows a frame, from 0, of a normal animation in manual mode, or below what the painter of a special one
+    // paints. false: no such control, or no such frame.
+    bool ShowFrameM(int id, int frame);
+    // Whether pictures that take clicks are worked by keys too: bitmap buttons, multi-state buttons, knobs,
+    // normal animations that notify (picture_static.h). At first not; from now on through every build.
+    void SetPictureKeyboardM(bool use);
 
     // Lines of list boxes and combo boxes.
     int AddItemM(int id, int position, const char* text); // The result of the control's AddItemM.
@@ -151,6 +165,8 @@ private:
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     void initM(CWnd* parent, int mode);
     void beginDiagnosticsM();
+    bool givePainterM(int id, const PainterTP& painter);
+    void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
     template <class RowTP> void buildKindM(CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
@@ -170,6 +186,8 @@ private:
     MembersOfCL<KindTable>::Type kinds_;
     ControlIndexCL index_;
     DialogValuesCL values_ { *this };
+    std::map<int, PainterTP> painters_;
+    bool usesPictureKeyboard_ { false };
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };

@@ -15,6 +15,10 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     }
     setItemFontM(parent, header_.fontOption);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    for (const auto& [id, painter] : painters_) {
+        givePainterM(id, painter);
+    }
+    givePictureKeyboardM();
     return 1;
 }
 

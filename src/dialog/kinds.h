@@ -52,7 +52,9 @@ enum Ability : unsigned
     StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
     HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
     HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256,  // SetPainterM, RepaintM.
+    TakesKeys = 512      // UseKeyboardM.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -99,8 +101,8 @@ struct KindRowCL
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
-                                 Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
-    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
+                                 Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue | HasValue,
@@ -125,14 +127,16 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue,
         &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked, &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked | HasValue,
-        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys,
+        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
+        Stacked | HasValue | TakesKeys, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
+        &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
-    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
 // How many kinds there are.
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);

@@ -1,4 +1,5 @@
 #pragma once
+#include "form/canvas.h"
 #include "form/form_state.h"
 #include <optional>
 #include <string>
@@ -97,6 +98,12 @@ public:
     // What happens to a control; a handler takes the place of the one before, an empty one none. The page of
     // the form tells which controls have which.
     Form& OnClick(int id, Handler handler) { return on(PANELKIT_EVENT_CLICK, id, std::move(handler)); }
+    // With the place of a click on a drawing, special animation or label: pixels of the control.
+    Form& OnClickAt(int id, std::function<void(int x, int y)> handler)
+    {
+        return on(PANELKIT_EVENT_CLICK, id, FormStateCL::PlacedM(std::move(handler)));
+    }
+    // What happens to a control; the page of the form tells which controls have which.
     Form& OnDoubleClick(int id, Handler handler)
     {
         return on(PANELKIT_EVENT_DOUBLE_CLICK, id, std::move(handler));
@@ -132,6 +139,27 @@ public:
     }
     // false: it does not run.
     bool StopTimer(int timer) { return isOk(panelkit_stop_timer(Handle(), timer)); }
+
+    // Paints a drawing or a special animation: whenever a new picture is needed, and after Repaint. An empty
+    // handler ends it.
+    bool OnPaint(int id, std::function<void(Canvas&)> handler)
+    {
+        if (state_ == nullptr) {
+            return false;
+        }
+        const bool paints = static_cast<bool>(handler);
+        auto painter = std::make_unique<PainterCL>(PainterCL { state_.get(), std::move(handler) });
+        const bool isSet = isOk(
+            panelkit_set_painter(Handle(), id, paints ? &FormStateCL::PaintM : nullptr, painter.get()));
+        if (isSet) {
+            state_->KeepPainterM(id, std::move(painter));
+        }
+        return isSet;
+    }
+    // Has its painter paint it anew. false: it has none.
+    bool Repaint(int id) { return isOk(panelkit_repaint(Handle(), id)); }
+    // Of a normal animation that doesn't play by itself, or below what is painted on a special one.
+    bool ShowFrame(int id, int frame) { return isOk(panelkit_show_frame(Handle(), id, frame)); }
 
     // The integer of an edit, the status of a multi-state button, the counter of a rotate button.
     std::optional<int> Int(int id) const { return get<std::int32_t>(panelkit_get_int, id); }
@@ -220,9 +248,13 @@ public:
     bool DeleteLine(int id, int line) { return isOk(panelkit_delete_line(Handle(), id, line)); }
     bool ClearLines(int id) { return isOk(panelkit_clear_lines(Handle(), id)); }
 
-    // Any control; what is asked for is its own state, as if the form were enabled and shown.
+    // Any control: enables or disables it.
     bool EnableControl(int id, bool enable) { return isOk(panelkit_enable_control(Handle(), id, enable)); }
+    // Whether pictures that take clicks are reached by Tab and used by Space, Enter and arrows. At first not.
+    bool UsePictureKeyboard(bool use) { return isOk(panelkit_use_picture_keyboard(Handle(), use ? 1 : 0)); }
+    // Any control: shows or hides it.
     bool ShowControl(int id, bool show) { return isOk(panelkit_show_control(Handle(), id, show)); }
+    // Its own state, as if the form were enabled and shown.
     std::optional<bool> IsControlEnabled(int id) const { return flag(panelkit_is_control_enabled, id); }
     std::optional<bool> IsControlShown(int id) const { return flag(panelkit_is_control_shown, id); }
     // All of them, in the order of the Tab key. Of several with one id the first in the order of the kinds.

@@ -1,5 +1,5 @@
 #pragma once
-#include "form/panelkit_c.h"
+#include "form/canvas.h"
 #include <exception>
 #include <functional>
 #include <map>
@@ -8,6 +8,15 @@
 #include <utility>
 
 namespace panelkit {
+
+class FormStateCL;
+
+// What paints a control.
+struct PainterCL
+{
+    FormStateCL* state;                   // Whose it is.
+    std::function<void(Canvas&)> handler; // Empty: nothing.
+};
 
 // What a form keeps, and what outlives it while one of its handlers runs. It is for Form alone.
 class FormStateCL : public std::enable_shared_from_this<FormStateCL>
@@ -40,6 +49,17 @@ public:
         return [call = std::move(handler), what](const panelkit_event& event) { call(event.*what); };
     }
 
+    // A handler that gets the place of a click.
+    static EventHandler PlacedM(std::function<void(int, int)> handler)
+    {
+        if (!handler) {
+            return nullptr;
+        }
+        return [call = std::move(handler)](const panelkit_event& event) { call(event.x, event.y); };
+    }
+    // In place of the one that the control had.
+    void KeepPainterM(int id, std::unique_ptr<PainterCL> painter) { painters_[id] = std::move(painter); }
+
     // The callback of the dialog: calls the handlers. user: the state. What they throw is kept, and the
     // dialog closes.
     static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
@@ -60,6 +80,20 @@ public:
             panelkit_close(state->dialog, -1);
         }
         return 0;
+    }
+    // The painter for the C interface; user: a PainterCL.
+    static void PANELKIT_CALL PaintM(panelkit_canvas* handle, void* user) noexcept
+    {
+        const auto& painter = *static_cast<const PainterCL*>(user);
+        const auto state = painter.state->shared_from_this();
+        try {
+            const auto handler = painter.handler; // It may put another one in its place.
+            Canvas canvas(handle);
+            handler(canvas);
+        } catch (...) {
+            thrownM() = std::current_exception();
+            panelkit_close(state->dialog, -1);
+        }
     }
     // The same for what is wrong with the file.
     static void PANELKIT_CALL TellDiagnosticM(const panelkit_diagnostic* diagnostic, void* user) noexcept
@@ -95,6 +129,7 @@ private:
 
     std::function<bool(int)> closing_;
     std::map<std::pair<int, int>, EventHandler> handlers_; // By kind of event and id.
+    std::map<int, std::unique_ptr<PainterCL>> painters_;   // By id.
 };
 
 } // namespace panelkit

@@ -101,6 +101,9 @@ typedef struct panelkit_event
     int32_t control_kind;    /* PANELKIT_KIND_... */
     int32_t number;          /* As the kind of event says, else 0. */
     int32_t good;            /* Of PANELKIT_EVENT_LEAVE: 1, or 0 for a bad value. Else 0. */
+    int32_t
+        x; /* Of a click on a drawing, special animation or label: where, in pixels of the control; else 0. */
+    int32_t y; /* The same, from its top. */
 } panelkit_event;
 
 /* Something in the description file that can't be meant, told while it is read. */
@@ -211,6 +214,11 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_control_enabled(
     panelkit_dialog* dialog, int32_t id, int32_t* enabled);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_control_shown(
     panelkit_dialog* dialog, int32_t id, int32_t* shown);
+
+/* From now on, if use is not 0, the pictures that take clicks are reached by Tab and used by Space, Enter and
+   arrows; else not. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_use_picture_keyboard(
+    panelkit_dialog* dialog, int32_t use);
 
 /* Values are those that the user sees; docs/values.md tells which kinds have which. For each getter and
    setter PANELKIT_ERROR_ID means that no control has the id, PANELKIT_ERROR_NO_VALUE that it has no such

@@ -42,6 +42,10 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return notify_ == 1 ? PressKey : NoKeys; }
+    void keyPressM() override;
+    void keyReleaseM() override;
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -38,6 +38,10 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnCancelMode();
+    unsigned keysM() const override { return PressKey | EnterKey; }
+    void keyPressM() override { OnLButtonDown(0, CPoint()); }
+    void keyReleaseM() override { OnLButtonUp(0, CPoint()); }
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -30,6 +30,7 @@ public:
     void OnTimerM();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -38,6 +39,11 @@ protected:
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { pressM(PressedLeft, leftStep_); }
+    void keyReleaseM() override { releaseM(leftStep_); }
+    void keyTurnM(bool forward) override;
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

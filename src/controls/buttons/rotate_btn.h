@@ -55,6 +55,11 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { beginClickM(); }
+    void keyReleaseM() override;
+    void keyTurnM(bool forward) override { turnM(forward ? Left : Right); }
+    CSize pictureSizeM() const override { return { background_.GetWidthM(), background_.GetHeightM() }; }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -65,12 +70,12 @@ private:
     };
     void pressM(CPoint point);
     void releaseM(CPoint point, Side side);
+    void turnM(Side side);
     bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
     void showAngleM();
     void composeM(CDC* dc, float angle);
     bool prepareM(CDC* dc);
-    void drawBehindM(CDC* dc);
     void forgetPixelsM();
 
     int counter_ { 0 };

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# extract.sh README FORM_PAGE C_PAGE FOLDER: writes the programs of the pages into a folder. What is a part of a program
+# extract.sh README FORM_PAGE C_PAGE PAINTING_PAGE FOLDER: writes the programs of the pages into a folder. What is a part of a program
 # becomes a function.
 set -euo pipefail
-readme=$1 form=$2 c=$3 folder=$4
+readme=$1 form=$2 c=$3 painting=$4 folder=$5
 rm -rf "$folder"
 mkdir -p "$folder"
 
@@ -18,10 +18,17 @@ block() { # page language number
 block "$readme" cpp 1 >"$folder/readme.cpp"
 block "$form" cpp 1 >"$folder/form_page.cpp"
 block "$c" c 1 >"$folder/c_page.c"
-number=2
-while text=$(block "$form" cpp $number); do
-  printf '#include <panelkit/form/form.h>\n#include <iostream>\nvoid part%d(panelkit::Form& form);\nvoid part%d(panelkit::Form& form)\n{\n%s\n}\n' \
-    $number $number "$text" >"$folder/form_part_$number.cpp"
-  number=$((number + 1))
-done
-[ "$number" -gt 2 ]
+block "$painting" c 1 >"$folder/painting.c"
+
+# The blocks of a page from the Nth on, of which there is one at least.
+parts() { # page name number
+  local number=$3 text
+  while text=$(block "$1" cpp "$number"); do
+    printf '#include <panelkit/form/form_host.h>\n#include <iostream>\nvoid %s%d(panelkit::Form& form);\nvoid %s%d(panelkit::Form& form)\n{\n%s\n}\n' \
+      "$2" "$number" "$2" "$number" "$text" >"$folder/form_part_$2_$number.cpp"
+    number=$((number + 1))
+  done
+  [ "$number" -gt "$3" ]
+}
+parts "$form" form 2
+parts "$painting" painting 1
