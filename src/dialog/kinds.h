@@ -45,16 +45,19 @@ class DuTreeArr;
 // What a kind can do besides being a control. Code asks for what it needs, never for a kind.
 enum Ability : unsigned
 {
-    Stacked = 1,         // Takes part in the stacking and font passes.
-    HoldsLines = 2,      // AddItemM(data, text), DelItemM(line), SetSelM(line).
-    HoldsTypedValue = 4, // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
-    ShowsFrames = 8,     // GetCurIdxM, DispBmpM.
-    StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
-    HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
-    HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
-    TakesPainter = 256,  // SetPainterM, RepaintM.
-    TakesKeys = 512      // UseKeyboardM.
+    Stacked = 1,          // Takes part in the stacking and font passes.
+    HoldsLines = 2,       // AddItemM(data, text), DelItemM(line), SetSelM(line).
+    HoldsTypedValue = 4,  // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
+    ShowsFrames = 8,      // GetCurIdxM, DispBmpM.
+    StandsInGroups = 16,  // ShowObjectM(index, show) on the array; CheckedInGroupM.
+    HasLineHeight = 32,   // SetItemHeightM() on the array, once the font is set.
+    HasValue = 64,        // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
+    ListsLines = 128,     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256,   // SetPainterM, RepaintM.
+    TakesKeys = 512,      // UseKeyboardM.
+    ColoursText = 1024,   // SetTextColourM shows.
+    TellsRefusals = 2048, // SetRefusalM.
+    ActsAsButton = 4096   // A picture for a push button.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -104,37 +107,40 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
                                  Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
-    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue | HasValue,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | ColoursText, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
+        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals,
         &DVrSingleEditArr::InitSingleEditM>,
-    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked | HasValue,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked | HasValue | ColoursText,
         &DVrMultiEditArr::InitMultiEditM>,
-    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacked | HasValue,
-        &DVrSpinEditArr::InitSpinEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
+        Stacked | HasValue | ColoursText | TellsRefusals, &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
-        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines, &DVrTextListBoxArr::InitTextListBoxM,
-        &DVrTextListBoxArr::InitTextListBoxStrM>,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText,
+        &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
         Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
         &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
-    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacked | HoldsLines | HasValue | ListsLines,
-        &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines,
+    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8,
+        Stacked | HoldsLines | HasValue | ListsLines | ColoursText, &DVrComboBoxArr::InitComboBoxM,
+        &DVrComboBoxArr::InitComboBoxStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
         &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacked,
         &DVrStandardButtonArr::InitStandardButtonM>,
-    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacked | StandsInGroups | HasValue,
-        &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue,
+    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
+        Stacked | StandsInGroups | HasValue | ColoursText, &DVrRadioBoxArr::InitRadioBoxM>,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue | ColoursText,
         &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys | ActsAsButton,
         &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
-        Stacked | HasValue | TakesKeys, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
+        Stacked | HasValue | TakesKeys | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked | ColoursText,
+        &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
         &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 

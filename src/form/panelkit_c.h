@@ -101,8 +101,7 @@ typedef struct panelkit_event
     int32_t control_kind;    /* PANELKIT_KIND_... */
     int32_t number;          /* As the kind of event says, else 0. */
     int32_t good;            /* Of PANELKIT_EVENT_LEAVE: 1, or 0 for a bad value. Else 0. */
-    int32_t
-        x; /* Of a click on a drawing, special animation or label: where, in pixels of the control; else 0. */
+    int32_t x; /* Of a click on a drawing, special animation or label: the place in it, in pixels; else 0. */
     int32_t y; /* The same, from its top. */
 } panelkit_event;
 
@@ -322,3 +321,5 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_stop_timer(panelkit_dialog* 
 #ifdef __cplusplus
 }
 #endif
+
+#include "form/panelkit_c_looks.h"

@@ -33,7 +33,7 @@ public:
     BOOL GetErrorMessage(LPSTR to, UINT size, PUINT helpId = nullptr) const override;
 
 protected:
-    virtual LPCWSTR textM() const { return nullptr; } // null: none
+    virtual int textIdM() const { return -1; } // MessageTextId; -1: none
 };
 
 // Declares such a class with no more than a text; defined here only.
@@ -45,7 +45,7 @@ protected:
         using CSimpleException::CSimpleException;                                                            \
                                                                                                              \
     protected:                                                                                               \
-        LPCWSTR textM() const override;                                                                      \
+        int textIdM() const override;                                                                        \
     };
 AFX_SIMPLE_EXCEPTION(CMemoryException)       // there is no memory left
 AFX_SIMPLE_EXCEPTION(CResourceException)     // the system has no such resource, or refuses one

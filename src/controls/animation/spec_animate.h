@@ -21,8 +21,8 @@ public:
     // Appends the frame of a file: 1, also when it can't be loaded, which leaves a frame that draws nothing;
     // 0 for an empty name.
     int AddBmpM(const char* file);
-    int DeleteBmpM(int index); // As of all animations; the painter then has no frame below it.
-    int DelAllBmpM();          // Deletes all frames: 1.
+    int DeleteBmpM(int index); // As of all animations; the painter then has no frame below it. 1.
+    int DelAllBmpM();          // Deletes all frames; the painter then has no frame below it. 1.
     int SetSunkModeM(int sunkMode) { return slKeep(sunkMode_, sunkMode); } // 1: sunken edge.
     int SetTypeM(int type) { return slKeep(type_, type); } // What it means is the application's business.
 

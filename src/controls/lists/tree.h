@@ -44,6 +44,7 @@ public:
     unsigned ValuePartsM() const { return PathPart; }
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
+    void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
     void DelItemM();
@@ -57,6 +58,8 @@ protected:
 
 private:
     HTREEITEM insertM(HTREEITEM parent, int data, const char* text, int selected, int normal);
+
+    void showTextColourM();
 
     TreeImagesCL images_;
 };
