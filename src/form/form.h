@@ -104,6 +104,7 @@ public:
     {
         return on(PANELKIT_EVENT_CLICK, id, FormStateCL::PlacedM(std::move(handler)));
     }
+    // What happens to a control; the page of the form tells which controls have which.
     Form& OnDoubleClick(int id, Handler handler)
     {
         return on(PANELKIT_EVENT_DOUBLE_CLICK, id, std::move(handler));
@@ -156,11 +157,10 @@ public:
         }
         return isSet;
     }
+    // Has its painter paint it anew. false: it has none.
     bool Repaint(int id) { return isOk(panelkit_repaint(Handle(), id)); }
     // Of a normal animation that doesn't play by itself, or below what is painted on a special one.
     bool ShowFrame(int id, int frame) { return isOk(panelkit_show_frame(Handle(), id, frame)); }
-
-    // Values, as the user sees them.
 
     // The integer of an edit, the status of a multi-state button, the counter of a rotate button.
     std::optional<int> Int(int id) const { return get<std::int32_t>(panelkit_get_int, id); }
@@ -249,11 +249,13 @@ public:
     bool DeleteLine(int id, int line) { return isOk(panelkit_delete_line(Handle(), id, line)); }
     bool ClearLines(int id) { return isOk(panelkit_clear_lines(Handle(), id)); }
 
-    // Any control; what is asked for is its own state, as if the form were enabled and shown.
+    // Any control: enables or disables it.
     bool EnableControl(int id, bool enable) { return isOk(panelkit_enable_control(Handle(), id, enable)); }
     // Whether pictures that take clicks are reached by Tab and used by Space, Enter and arrows. At first not.
     bool UsePictureKeyboard(bool use) { return isOk(panelkit_use_picture_keyboard(Handle(), use ? 1 : 0)); }
+    // Any control: shows or hides it.
     bool ShowControl(int id, bool show) { return isOk(panelkit_show_control(Handle(), id, show)); }
+    // Its own state, as if the form were enabled and shown.
     std::optional<bool> IsControlEnabled(int id) const { return flag(panelkit_is_control_enabled, id); }
     std::optional<bool> IsControlShown(int id) const { return flag(panelkit_is_control_shown, id); }
     // All of them, in the order of the Tab key. Of several with one id the first in the order of the kinds.

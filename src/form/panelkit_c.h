@@ -101,8 +101,8 @@ typedef struct panelkit_event
     int32_t control_kind;    /* PANELKIT_KIND_... */
     int32_t number;          /* As the kind of event says, else 0. */
     int32_t good;            /* Of PANELKIT_EVENT_LEAVE: 1, or 0 for a bad value. Else 0. */
-    int32_t x; /* Of a click on a drawing, special animation or label: where, in pixels of the */
-    int32_t y; /* control; else 0. */
+    int32_t x; /* Of a click on a drawing, special animation or label: the place in it, in pixels; else 0. */
+    int32_t y; /* The same, from its top. */
 } panelkit_event;
 
 /* Something in the description file that can't be meant, told while it is read. */

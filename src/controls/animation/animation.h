@@ -10,6 +10,7 @@ public:
     // Deletes a frame; nothing outside the list. If it is the current one there is none from then on, and the
     // window shows so. 1.
     int DeleteBmpM(int index);
+    // Whether there is a frame with that number, from 0.
     bool HasBmpM(int index) const { return frames_.CheckAvailableM(index) == 1; }
 
 protected:

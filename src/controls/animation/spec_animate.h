@@ -29,6 +29,7 @@ public:
     // The frame below what the painter paints: at its own size, or scaled to the window where that is
     // smaller. At first the first; -1: none.
     int DispBmpM(int index); // 1, or 0 and no change when there is no such frame.
+    // Its number, from 0; -1: none.
     int GetCurIdxM() const { return current_; }
 
     // What was set, or stands in the description file; 0 at first.

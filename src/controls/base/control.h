@@ -144,5 +144,5 @@ protected:
         }
     }
 
-    ControlLooksCL looks_;
+    ControlLooksCL looks_; // Nothing until the application says otherwise.
 };

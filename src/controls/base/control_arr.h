@@ -26,6 +26,7 @@ public:
     }
     ~StandInsCL() = default;
 
+    // Takes over the one for slot i, in place of the one before.
     void PutM(int i, std::unique_ptr<ControlTP> control)
     {
         if (static_cast<std::size_t>(i) >= controls_.size()) {
@@ -33,12 +34,14 @@ public:
         }
         controls_[static_cast<std::size_t>(i)] = std::move(control);
     }
+    // That of slot i, which stays here; null: none.
     ControlTP* AtM(int i) const
     {
         return i >= 0 && static_cast<std::size_t>(i) < controls_.size()
             ? controls_[static_cast<std::size_t>(i)].get()
             : nullptr;
     }
+    // Deletes that of slot i with its window; nothing where there is none.
     void DelM(int i)
     {
         if (ControlTP* const control = AtM(i)) {
@@ -46,6 +49,7 @@ public:
             controls_[static_cast<std::size_t>(i)] = nullptr;
         }
     }
+    // The same for all.
     void ClearM()
     {
         for (std::size_t i = 0; i < controls_.size(); ++i) {

@@ -24,6 +24,7 @@ public:
 
     // An empty painter: none. One that is at work may be replaced.
     void SetPainterM(PainterTP painter);
+    // Whether there is one.
     bool HasPainterM() const { return painter_ != nullptr; }
     void ForgetM() { isCurrent_ = false; } // Another picture is needed.
     void DropM();                          // The same, and frees this one.

@@ -87,9 +87,9 @@ protected:
         EnterKey = 2, // The same by Enter.
         TurnKeys = 4  // Arrows: keyTurnM.
     };
-    virtual unsigned keysM() const { return NoKeys; }
-    virtual void keyPressM() { }                // As the left button of the mouse begins a click
-    virtual void keyReleaseM() { }              // and ends it.
+    virtual unsigned keysM() const { return NoKeys; } // The Keys bits of the kind.
+    virtual void keyPressM() { }                      // As the left button of the mouse begins a click
+    virtual void keyReleaseM() { }                    // and ends it.
     virtual void keyTurnM(bool /*forward*/) { } // Right and up: as by a left click; left and down: back.
     virtual CSize pictureSizeM() const { return {}; } // Of the picture that it shows.
 
