@@ -11,6 +11,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/interrupted_press.cpp
   controls/base/leaving.cpp
   controls/base/picture_static.cpp
+  controls/base/stand_ins.cpp
   controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp

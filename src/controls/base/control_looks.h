@@ -9,6 +9,11 @@
 class PANELKIT_API ControlLooksCL
 {
 public:
+    ControlLooksCL();
+    ControlLooksCL(const ControlLooksCL& other);
+    ControlLooksCL& operator=(const ControlLooksCL& other);
+    ~ControlLooksCL();
+
     void SetTextColourM(std::optional<COLORREF> colour) { textColour_ = colour; }
     const std::optional<COLORREF>& TextColourM() const { return textColour_; }
     // None or the empty text: no name. role: one of ROLE_SYSTEM_...; 0: the role that the window has.
