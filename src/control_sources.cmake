@@ -13,6 +13,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/painted_picture.cpp
   controls/base/picture_keyboard.cpp
   controls/base/picture_static.cpp
+  controls/base/stand_ins.cpp
   controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp

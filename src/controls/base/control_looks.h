@@ -9,6 +9,11 @@
 class PANELKIT_API ControlLooksCL
 {
 public:
+    ControlLooksCL();
+    ControlLooksCL(const ControlLooksCL& other);
+    ControlLooksCL& operator=(const ControlLooksCL& other);
+    ~ControlLooksCL();
+
     // For the next colour request; none: that of the system.
     void SetTextColourM(std::optional<COLORREF> colour) { textColour_ = colour; }
     // What was set.
