@@ -2,63 +2,18 @@
 
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "jog_ids.h"
 #include "speed_curve.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
-
-enum ControlId : int // Of jog.dlg.
-{
-    OkId = 1,
-    CancelId = 2,
-    XPlusId = 1101,
-    YPlusId = 1102,
-    XMinusId = 1103,
-    YMinusId = 1104,
-    HomeId = 1105,
-    XId = 1201,
-    YId = 1202,
-    CurveId = 1301,
-    FactorKnobId = 1401,
-    FactorId = 1402,
-    StepKnobId = 1501,
-    StepId = 1502,
-    PenSwitchId = 1601,
-    PenId = 1602,
-    PenPictureId = 1701,
-    StateId = 1702,
-    SpindleId = 1801,
-    SpindleTurnsId = 1802
-};
-constexpr int Arrows[] = { XPlusId, YPlusId, XMinusId, YMinusId, HomeId };
-
-enum PenStatus : int // Of the switch.
-{
-    PenOff,
-    PenUp,
-    PenDown
-};
 
 constexpr const char* DescriptionFile = "jog.dlg";
 constexpr const char* FileName = "jog";
 constexpr double Steps[] = { 0.1, 1, 10, 50, 100 }; // Millimetres, by the knob's position.
 constexpr int StepCount = 5;
-constexpr int SpindleFrames = 4;
-constexpr int LowestPenFrame = 3;
 constexpr double GreatestFactor = 1.5;
-
-constexpr UINT_PTR MoveTimer = 1; // Runs while something moves,
-constexpr UINT MoveMilliseconds = 30;
-constexpr UINT_PTR StepTimer = 2; // and while the step knob is held.
-constexpr UINT StepMilliseconds = 250;
-
-std::wstring number(const wchar_t* format, double value)
-{
-    wchar_t text[60];
-    return std::wstring(text, static_cast<size_t>(std::swprintf(text, 60, format, value)));
-}
 
 } // namespace
 
@@ -145,16 +100,10 @@ double JogDialogCL::stepM() const
 // What the two knobs say, and the curve that follows.
 void JogDialogCL::showSetM()
 {
-    SetDlgItemText(FactorId, number(L"%.0f %%", factorM() * 100).c_str());
-    SetDlgItemText(StepId, number(L"%g mm", stepM()).c_str());
+    SetDlgItemText(FactorId, slNumberText(L"%.0f %%", factorM() * 100).c_str());
+    SetDlgItemText(StepId, slNumberText(L"%g mm", stepM()).c_str());
     shownStep_ = stepKnob_.GetCurIndxM();
     RepaintM(CurveId);
-}
-
-void JogDialogCL::showPlaceM()
-{
-    SetDlgItemText(XId, number(L"%.2f", place_.x).c_str());
-    SetDlgItemText(YId, number(L"%.2f", place_.y).c_str());
 }
 
 void JogDialogCL::showPenM()
@@ -226,84 +175,6 @@ LRESULT JogDialogCL::onButtonM(WPARAM id, LPARAM)
     return 0;
 }
 
-void JogDialogCL::beginMoveM(PlaceCL target)
-{
-    from_ = place_;
-    to_ = { std::clamp(target.x, 0.0, motion_.travelX), std::clamp(target.y, 0.0, motion_.travelY) };
-    move_ = MoveCL(motion_, factorM(), std::hypot(to_.x - from_.x, to_.y - from_.y));
-    began_ = ::GetTickCount64();
-    isMoving_ = true;
-    enableArrowsM(false);
-    showPenM();
-    SetTimer(MoveTimer, MoveMilliseconds, nullptr);
-}
-
-// Some milliseconds have gone by.
-void JogDialogCL::goOnM()
-{
-    if (isMoving_) {
-        const double now = static_cast<double>(::GetTickCount64() - began_) / 1000;
-        isMoving_ = now < move_.DurationM();
-        const double whole = move_.DistanceM(move_.DurationM());
-        const double part = isMoving_ && whole > 0 ? move_.DistanceM(now) / whole : 1;
-        place_ = { from_.x + (to_.x - from_.x) * part, from_.y + (to_.y - from_.y) * part };
-        showPlaceM();
-        RepaintM(CurveId);
-        int frame = 0;
-        if (ValuesM().CheckedM(SpindleTurnsId) == true && GetNormalAnimateBmpIdxM(SpindleId, &frame) == 1) {
-            ShowFrameM(SpindleId, (frame + 1) % SpindleFrames);
-        }
-        if (!isMoving_) {
-            enableArrowsM(true);
-            showPenM();
-        }
-    }
-    const int wanted = ValuesM().IntM(PenSwitchId) == PenDown ? LowestPenFrame : 0;
-    if (penFrame_ != wanted) {
-        penFrame_ += penFrame_ < wanted ? 1 : -1;
-        ShowFrameM(PenPictureId, penFrame_);
-    } else if (!isMoving_) {
-        KillTimer(MoveTimer); // Everything stands still.
-    }
-}
-
-void JogDialogCL::OnTimer(UINT_PTR timer)
-{
-    if (timer == MoveTimer) {
-        goOnM();
-    } else if (timer == StepTimer) {
-        // A release that moves nothing is not told: the mouse tells whether the knob is still held.
-        if (::GetCapture() == stepKnob_.m_hWnd) {
-            stepKnob_.OnTimerM();
-        } else {
-            KillTimer(StepTimer);
-        }
-        if (stepKnob_.GetCurIndxM() != shownStep_) {
-            showSetM();
-        }
-    }
-    DuBasicDialogCL::OnTimer(timer);
-}
-
-// A click leaves a picture button in its released status; enabled it is as new. Disabled it loses the focus,
-// which the next key needs there.
-void JogDialogCL::enableArrowsM(bool enable)
-{
-    if (!enable) {
-        focusBefore_ = ::GetFocus();
-    }
-    for (const int id : Arrows) {
-        int kind = 0;
-        CWnd* const control = GetContrlPtrM(id, &kind);
-        if (control != nullptr && kind == BmpButtonCode) {
-            static_cast<DuBmpButtonCL*>(control)->SetBtnStatusM(enable ? ButtonNormal : ButtonDisabled);
-        }
-    }
-    if (enable && ::GetFocus() == nullptr) {
-        ::SetFocus(focusBefore_);
-    }
-}
-
 bool JogDialogCL::keepM()
 {
     auto values = ValuesM().AllM();
@@ -327,5 +198,5 @@ std::string JogDialogCL::SummaryM(const SettingsCL& settings)
             step = Steps[std::clamp(std::atoi(value.c_str()), 0, StepCount - 1)];
         }
     }
-    return "倍率 " + factor + " %, 步长 " + ValueTextCL(number(L"%g", step)).Utf8M() + " mm";
+    return "倍率 " + factor + " %, 步长 " + ValueTextCL(slNumberText(L"%g", step)).Utf8M() + " mm";
 }

@@ -2,6 +2,7 @@
 #pragma once
 #include "dialog/basic_dialog.h"
 #include "settings.h"
+#include <functional>
 
 // The table has a row for each pen, and what stands in it is all that the program knows of pens; the fields
 // below show the chosen row, and change it while the user types. Each layer of the tree has one of the pens.
@@ -27,7 +28,7 @@ private:
     void showPenM();
     void showLayerM();
     void useForLayerM();
-    template <class FunctionTP> void eachLayerM(HTREEITEM first, FunctionTP&& see);
+    void eachLayerM(HTREEITEM first, const std::function<void(HTREEITEM)>& see);
     bool areFieldsLegalM();
     bool keepM();
     void restoreM();
@@ -45,6 +46,15 @@ private:
         ColoursId = 3002,
         PensId = 4001,
         LayersId = 5001
+    };
+
+    enum Column : int // Of the table.
+    {
+        NumberColumn,
+        NameColumn,
+        WidthColumn,
+        SpeedColumn,
+        NibColumn
     };
 
     const SettingsCL& settings_;
