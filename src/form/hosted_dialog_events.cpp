@@ -2,7 +2,6 @@
 #include "controls/base/leaving.h"
 #include "form/hosted_dialog.h"
 #include "form/notifications.h"
-#include <windowsx.h>
 
 namespace {
 
@@ -36,7 +35,7 @@ NotificationCL notificationOf(UINT message, WPARAM wParam, LPARAM lParam)
 POINT mousePlaceIn(HWND control)
 {
     const DWORD place = ::GetMessagePos();
-    POINT at { GET_X_LPARAM(place), GET_Y_LPARAM(place) };
+    POINT at { static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)) };
     ::ScreenToClient(control, &at);
     return at;
 }
