@@ -64,6 +64,23 @@ void mouse(DWORD flags, LONG x = 0, LONG y = 0, DWORD data = 0)
     inject(input);
 }
 
+// At a point of the screen, whatever has moved the pointer since.
+void mouseAt(POINT point, DWORD flags)
+{
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    // The middle of the pixel on the 65536 scale, so that no rounding leaves it.
+    mouse(flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, MulDiv(2 * point.x + 1, 65536, 2 * width),
+        MulDiv(2 * point.y + 1, 65536, 2 * height));
+}
+
+bool isOfAnotherProgram(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process != GetCurrentProcessId();
+}
+
 } // namespace
 
 void KeyDownM(WORD virtualKey)
@@ -107,11 +124,7 @@ bool MoveMouseToM(HWND window, int x, int y)
 {
     POINT wanted = { x, y };
     ClientToScreen(window, &wanted);
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    const int height = GetSystemMetrics(SM_CYSCREEN);
-    // The middle of the pixel on the 65536 scale, so that no rounding leaves it.
-    mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, MulDiv(2 * wanted.x + 1, 65536, 2 * width),
-        MulDiv(2 * wanted.y + 1, 65536, 2 * height));
+    mouseAt(wanted, 0);
     if (!Script::RunningM()) {
         SettleM(); // The pointer enters and leaves windows.
     }
@@ -133,6 +146,14 @@ void ClickM(HWND window, int x, int y, Button button)
 {
     MoveMouseToM(window, x, y);
     ahead += GetDoubleClickTime() + 1;
+    if (isOfAnotherProgram(window)) {
+        // That program may hear of an earlier move only now, and sets the pointer back to there.
+        POINT point = { x, y };
+        ClientToScreen(window, &point);
+        mouseAt(point, button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+        mouseAt(point, button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+        return;
+    }
     PressM(button);
     ReleaseM(button);
 }
