@@ -155,11 +155,14 @@ std::vector<std::wstring> LinesOf(HWND listBox)
     return lines;
 }
 
-int CountOnScreen(HWND window, COLORREF color)
+int CountOnScreen(HWND window, COLORREF color, const RECT* part)
 {
     const Pixels screen(::GetDesktopWindow());
     RECT rect {};
     ::GetClientRect(window, &rect);
+    if (part) {
+        ::IntersectRect(&rect, &rect, part);
+    }
     ::MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&rect), 2);
     int count = 0;
     for (int y = rect.top; y < rect.bottom; ++y) {

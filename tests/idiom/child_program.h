@@ -41,7 +41,8 @@ std::wstring TextOf(HWND dialog, int id);
 bool TextBecomes(HWND dialog, int id, const wchar_t* text);
 bool FocusBecomes(const ChildProgram& program, HWND window);
 std::vector<std::wstring> LinesOf(HWND listBox);
-int CountOnScreen(HWND window, COLORREF color); // Pixels of a window of another program as they show.
+// Pixels of a window of another program, or of a part of its client area, as they show.
+int CountOnScreen(HWND window, COLORREF color, const RECT* part = nullptr);
 void ClickMiddle(HWND window);
 void SelectAll();                                // By the keyboard, in the edit that has the focus.
 COLORREF ScreenPixel(HWND window, int x, int y); // In client pixels of the window.

@@ -44,8 +44,8 @@ protected:
 
 TEST_F(CustomDraw, ListPaintsItsCellsAndSortsByColumns)
 {
-    EXPECT_GT(CountOnScreen(ItemM(IDC_PARTS), LowColor), 0);
-    EXPECT_GT(CountOnScreen(ItemM(IDC_PARTS), OddRowColor), 1000);
+    EXPECT_TRUE(Becomes([&] { return CountOnScreen(ItemM(IDC_PARTS), LowColor) > 0; }));
+    EXPECT_TRUE(Becomes([&] { return CountOnScreen(ItemM(IDC_PARTS), OddRowColor) > 1000; }));
     ClickRowM(0);
     EXPECT_TRUE(StatusBecomesM(L"Chosen: Washer"));
     ClickM(header_, 30, 5); // Code.
@@ -63,7 +63,8 @@ TEST_F(CustomDraw, ListPaintsItsCellsAndSortsByColumns)
     EXPECT_TRUE(StatusBecomesM(L"Chosen: Bolt"));
     ClickRowM(1);
     EXPECT_TRUE(StatusBecomesM(L"Chosen: Gear"));
-    EXPECT_GT(CountOnScreen(ItemM(IDC_PARTS), LowColor), 0); // The number moved with its item.
+    // The number moved with its item.
+    EXPECT_TRUE(Becomes([&] { return CountOnScreen(ItemM(IDC_PARTS), LowColor) > 0; }));
 }
 
 TEST_F(CustomDraw, EditTakesDigitsAndShowsWhatIsOutOfRange)
@@ -111,8 +112,9 @@ TEST_F(CustomDraw, ButtonShowsTheColourOfTheComboBox)
 TEST_F(CustomDraw, TreeEditsTheLabelsThatMayChange)
 {
     const HWND tree = ItemM(IDC_TREE);
-    EXPECT_GT(CountOnScreen(tree, RGB(200, 150, 60)), 50); // The picture of the store.
-    EXPECT_GT(CountOnScreen(tree, RGB(210, 225, 240)), 100);
+    EXPECT_TRUE(
+        Becomes([&] { return CountOnScreen(tree, RGB(200, 150, 60)) > 50; })); // The picture of the store.
+    EXPECT_TRUE(Becomes([&] { return CountOnScreen(tree, RGB(210, 225, 240)) > 100; }));
     ::SendMessageW(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(tree), TRUE);
     ASSERT_TRUE(FocusBecomes(program_, tree));
     KeyM(VK_END);

@@ -114,6 +114,7 @@ TEST(Shot, MultiStateButtonIsPicturedInTheStatusOfAValue)
 TEST(Shot, AnimationStandsStillAtAFrame)
 {
     ShotCL shot;
+    EXPECT_EQ(shot.ColoursM(shot.AnimationM()), (CountsTP { Area, 0, 0 })); // Its time is over long before.
     EXPECT_EQ(shot.ColoursM(shot.AnimationM(), "--status 11 2"), (CountsTP { 0, 0, Area }));
     EXPECT_EQ(shot.ColoursM(shot.AnimationM(), "--status 11 0"), (CountsTP { Area, 0, 0 }));
 }

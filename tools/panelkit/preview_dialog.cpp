@@ -7,15 +7,17 @@ namespace {
 constexpr UINT_PTR RepeatTimer = 1;
 constexpr UINT RepeatMilliseconds = 200;
 
-// Handles what is queued; false when nothing was.
-bool handleQueued()
+// Handles what is queued; false when nothing was. The time of controls stands still.
+bool handleQueued(HWND dialog)
 {
     MSG message;
     bool any = false;
     while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-        any = true;
+        if (message.message != WM_TIMER || message.hwnd == dialog) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+            any = true;
+        }
     }
     return any;
 }
@@ -145,11 +147,11 @@ bool PreviewDialogCL::WaitUntilShownM()
         if (::GetTickCount() - start > 10000) {
             return false;
         }
-        if (!handleQueued()) {
+        if (!handleQueued(m_hWnd)) {
             ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
         }
     }
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    handleQueued();
+    handleQueued(m_hWnd);
     return true;
 }

@@ -11,8 +11,9 @@ class PreviewDialogCL : public DuBasicDialogCL
 public:
     explicit PreviewDialogCL(const std::string& file); // In the current folder, as the library takes it.
 
-    void RebuildM();        // All controls anew, from the file as it now is.
-    bool WaitUntilShownM(); // Until it is on the screen and painted; false after ten seconds.
+    void RebuildM(); // All controls anew, from the file as it now is.
+    // Until it is on the screen and painted, animations at their first frame; false after ten seconds.
+    bool WaitUntilShownM();
     // Puts the control with that id in a status as an application could: the status of a bitmap button or
     // multi-state button, the frame of a normal animation (it then stands still), the position of a new
     // rotate button. A frame or position without a picture shows none. False when no control has the id, or a
