@@ -13,6 +13,8 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/moved_bytes.cpp
   baselib/number_text.cpp
   baselib/path.cpp
+  baselib/real_text.cpp
+  baselib/shared_text.cpp
   baselib/string.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
