@@ -89,5 +89,5 @@ bool slRealFits(const char* at, const char* end)
 {
     const char* const digits = at < end && isSign(*at) ? at + 1 : at;
     float magnitude = 0;
-    return slNearestReal(digits, end, &magnitude);
+    return slNearestReal(digits, end, &magnitude) || magnitude == 0;
 }

@@ -224,7 +224,7 @@ bool nearestExactly(const char* at, const char* end, float* value)
     const DecimalCL decimal = readDecimal(at, end);
     *value = 0;
     if (decimal.count == 0 || decimal.power < -50) {
-        return true;
+        return decimal.count == 0;
     }
     if (decimal.power > 50) {
         *value = FLT_MAX;
@@ -250,7 +250,7 @@ bool nearestExactly(const char* at, const char* end, float* value)
         found = nextDown(found);
     }
     *value = realOf(found);
-    return true;
+    return found.mantissa > 0;
 }
 
 // The few digits that nearly all texts have, by one division. False: not certain.
@@ -384,6 +384,17 @@ char* writeScientific(char* to, const DecimalCL& decimal)
     return to;
 }
 
+char* writeSign(char* to, float value)
+{
+    *to = '-';
+    return std::signbit(value) ? to + 1 : to;
+}
+
+char* writeNotFinite(char* to, float value)
+{
+    return std::copy_n(std::isnan(value) ? "nan" : "inf", 3, to);
+}
+
 } // namespace
 
 bool slNearestReal(const char* at, const char* end, float* value)
@@ -393,8 +404,9 @@ bool slNearestReal(const char* at, const char* end, float* value)
 
 char* slWriteShortest(char* to, float value)
 {
-    if (std::signbit(value)) {
-        *to++ = '-';
+    to = writeSign(to, value);
+    if (!std::isfinite(value)) {
+        return writeNotFinite(to, value);
     }
     const BinaryCL binary = binaryOf(value);
     if (binary.mantissa == 0) {
@@ -418,11 +430,9 @@ char* slWriteShortest(char* to, float value)
 
 char* slWriteFixed(char* to, float value, int decimals)
 {
-    if (std::signbit(value)) {
-        *to++ = '-';
-    }
+    to = writeSign(to, value);
     if (!std::isfinite(value)) {
-        return std::copy_n(std::isnan(value) ? "nan" : "inf", 3, to);
+        return writeNotFinite(to, value);
     }
     DecimalCL decimal = decimalOf(binaryOf(value));
     roundTo(&decimal, decimal.power + 1 + decimals);

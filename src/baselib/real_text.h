@@ -4,7 +4,8 @@
 // library's conversions give the same, with tables of 170 KB for all the other types.
 
 // The nearest value of digits with or without a point, perhaps an exponent; halfway between two, the one with
-// the even mantissa. False, and the largest value, for a text beyond that.
+// the even mantissa. False for a text beyond the largest value, which is then *value, or so near to 0 that it
+// is 0.
 bool slNearestReal(const char* at, const char* end, float* value);
 
 // Each writes to room for at least 64 characters, those of slWriteFixed besides the decimals, and gives the
