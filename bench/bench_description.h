@@ -26,7 +26,7 @@ inline constexpr BenchSectionCL BenchSections[] = {
     { TextListBoxItemHeader, 2, "ds", "a line of a list box\n" },
     { ListCtrlHeader, 0, "dddddddd", "3 1\n" },
     { ListCtrlTitleHeader, 1, "ddds", "0 120 a heading\n" },
-    { ListCtrlItemHeader, 2, "ddds", "4 2 a cell of a table\n" },
+    { ListCtrlItemHeader, 1, "ddds", "0 0 a cell of a table\n" },
     { CheckBoxHeader, 0,
         "dddddd"
         "ds",

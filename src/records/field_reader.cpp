@@ -94,6 +94,9 @@ template <class T> bool FieldReaderCL::readObservedM(const char* name, int part,
     }
     const FileTextCL* const file = io_->FileTextM().get();
     const std::size_t begin = slNextValue(*io_);
+    if (!isStopped_ && !io_->binary_) {
+        io_->at_ = begin; // Nothing is passed over twice.
+    }
     const bool isRead = !isStopped_ && inputM(value);
     SpanCL span { begin, isRead ? io_->PositionM() : begin };
     Fate fate = Fate::Read;
