@@ -1,4 +1,4 @@
-#include "baselib/shared_text.h"
+#include "baselib/file_text.h"
 #include "baselib/io.h"
 #include <cstring>
 

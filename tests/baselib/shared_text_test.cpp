@@ -1,5 +1,5 @@
+#include "baselib/file_text.h"
 #include "baselib/io.h"
-#include "baselib/shared_text.h"
 #include "support/temp_file.h"
 #include <cstdio>
 #include <gtest/gtest.h>
