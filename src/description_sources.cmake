@@ -1,6 +1,7 @@
 set(PANELKIT_DESCRIPTION_SOURCES
   baselib/base.cpp
   baselib/char_arr.cpp
+  baselib/exact_decimal.cpp
   baselib/file.cpp
   baselib/file_text.cpp
   baselib/gbk.cpp
@@ -14,6 +15,9 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/moved_bytes.cpp
   baselib/number_text.cpp
   baselib/path.cpp
+  baselib/real_text.cpp
+  baselib/real_write.cpp
+  baselib/shared_text.cpp
   baselib/string.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
@@ -49,6 +53,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/bmp_reader.cpp
   pictures/bmp_record.cpp
   pictures/bmp_rle.cpp
+  pictures/bmp_rows.cpp
   pictures/picture_boundary.cpp
   pictures/picture_edges.cpp
   pictures/picture_pixels.cpp

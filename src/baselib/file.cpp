@@ -46,3 +46,17 @@ std::unique_ptr<char[]> slReadFile(const char* path, std::size_t* size)
     std::fclose(file);
     return bytes;
 }
+
+std::size_t slReadFileBeginning(const char* path, void* to, std::size_t most, std::size_t* size)
+{
+    *size = 0;
+    const std::int64_t length = regularLength(path);
+    FILE* const file = length >= 0 && length < PTRDIFF_MAX ? slOpenFile(path, false) : nullptr;
+    if (file == nullptr) {
+        return 0;
+    }
+    *size = static_cast<std::size_t>(length);
+    const std::size_t read = std::fread(to, 1, most, file);
+    std::fclose(file);
+    return read;
+}

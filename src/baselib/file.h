@@ -11,3 +11,7 @@ FILE* slOpenFile(const char* path, bool writing);
 // A file read whole, with one byte to spare behind its *size bytes. Null, *size 0, for anything but a regular
 // file that can be opened: a pipe or a device could wait for ever, and reading one never end.
 std::unique_ptr<char[]> slReadFile(const char* path, std::size_t* size);
+
+// The first bytes of a regular file, at most `most`, and *size, how many it has in all. Their number; 0 for
+// anything else.
+std::size_t slReadFileBeginning(const char* path, void* to, std::size_t most, std::size_t* size);

@@ -1,9 +1,12 @@
 #pragma once
 #include "baselib/api.h"
+#include "baselib/char_arr.h"
 #include <cstddef>
 #include <memory>
 #include <string_view>
 #include <vector>
+
+class VrIOCL;
 
 // A place as an editor shows it: lines and the characters of a line count from 1, a double-byte one as one.
 struct PlaceCL
@@ -22,7 +25,7 @@ struct SpanCL
 };
 
 // The text of a file: its bytes (GBK), and where an offset stands for who reads it. Lines end with LF or
-// CR LF. Not for several threads at once: it remembers the place it was asked for last.
+// CR LF. Not for several threads at once: it remembers what it was asked for.
 class PANELKIT_API FileTextCL
 {
 public:
@@ -38,10 +41,34 @@ public:
     // that character's place, one of a line's end the place behind the line's last character.
     PlaceCL PlaceM(std::size_t offset) const;
 
+    // Where the first such text that begins with '[' ends; SIZE_MAX when there is none. Text inside a
+    // double-byte character isn't found. Much faster than a search when it is asked for often.
+    std::size_t HeaderEndM(std::string_view header) const;
+
 private:
+    void findHeadersM() const;
+
     std::unique_ptr<char[]> bytes_;
     std::size_t size_;
+    mutable bool hasHeaders_ { false };
+    mutable std::vector<std::size_t> headers_;    // Each '[' that is a character, found when first asked for.
     mutable std::vector<std::size_t> lineStarts_; // Made when the first place is asked for.
     mutable std::size_t lastStart_ { 0 };         // Where the character of the last place asked for begins,
     mutable PlaceCL last_;                        // and that place: a long line is walked over once.
+};
+
+// A description file for several readings of one build, loaded once. What an application does to the file
+// between two of them must be seen by the later one: whoever gave it the chance says so.
+class PANELKIT_API SharedTextCL
+{
+public:
+    // Opens io as VrIOCL::OpenM(path, "r") does. Null or what can't be opened leaves it unopened.
+    void OpenM(VrIOCL& io, const char* path);
+    // The file is loaded anew when it is opened next. If its bytes are the same, the text stays too.
+    void MayHaveChangedM() { isFresh_ = false; }
+
+private:
+    CharArr path_;
+    std::shared_ptr<const FileTextCL> text_;
+    bool isFresh_ { false };
 };

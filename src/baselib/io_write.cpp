@@ -1,5 +1,6 @@
 #include "baselib/gbk.h"
 #include "baselib/io.h"
+#include "baselib/real_text.h"
 #include <algorithm>
 #include <cfloat>
 #include <charconv>
@@ -52,8 +53,8 @@ int VrIOCL::OutputRM(float value)
         return OutputDM(static_cast<int>(bits));
     }
     const float finite = std::isnan(value) ? 0.0F : std::clamp(value, -FLT_MAX, FLT_MAX);
-    char text[32];
-    char* const end = std::to_chars(text, text + sizeof text - 1, finite).ptr;
+    char text[64];
+    char* const end = slWriteShortest(text, finite);
     *end = ' ';
     return outputBytesM(text, static_cast<std::size_t>(end - text) + 1) ? 1 : 0;
 }

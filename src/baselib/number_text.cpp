@@ -1,7 +1,7 @@
 #include "baselib/number_text.h"
+#include "baselib/number_scan.h"
+#include "baselib/real_text.h"
 #include <algorithm>
-#include <cfloat>
-#include <charconv>
 #include <climits>
 #include <cstdint>
 
@@ -55,37 +55,11 @@ const char* realEnd(const char* at, const char* end)
     return mantissaEnd;
 }
 
-// A real that single precision can't hold: is it too large, or too near to 0?
-bool isHuge(const char* at, const char* end)
-{
-    const char* const point = skipDigits(at, end);
-    const char* const exponent = std::find_if(at, end, [](char c) { return c == 'e' || c == 'E'; });
-    const char* const first = std::find_if(at, exponent, [](char c) { return c >= '1' && c <= '9'; });
-    // The power of ten of the first digit that counts.
-    std::int64_t power = first < point ? point - first - 1 : point - first;
-    if (exponent < end) {
-        const bool negative = exponent[1] == '-';
-        const std::int64_t value = digitsValue(exponent + (isSign(exponent[1]) ? 2 : 1), end, INT64_MAX / 20);
-        power += negative ? -value : value;
-    }
-    return power > 0;
-}
-
 } // namespace
 
 const char* slReadInt(const char* at, const char* end, int* value)
 {
-    if (value == nullptr) {
-        return at;
-    }
-    const char* const digits = at < end && isSign(*at) ? at + 1 : at;
-    const char* const digitsEnd = skipDigits(digits, end);
-    if (digitsEnd == digits) {
-        return at;
-    }
-    const std::int64_t magnitude = digitsValue(digits, digitsEnd, std::int64_t { INT_MAX } + 1);
-    *value = static_cast<int>(*at == '-' ? -magnitude : std::min(magnitude, std::int64_t { INT_MAX }));
-    return digitsEnd;
+    return value != nullptr ? slScanInt(at, end, value) : at;
 }
 
 const char* slReadReal(const char* at, const char* end, float* value)
@@ -99,9 +73,7 @@ const char* slReadReal(const char* at, const char* end, float* value)
         return at;
     }
     float magnitude = 0;
-    if (std::from_chars(digits, numberEnd, magnitude).ec == std::errc::result_out_of_range) {
-        magnitude = isHuge(digits, numberEnd) ? FLT_MAX : 0.0F;
-    }
+    slNearestReal(digits, numberEnd, &magnitude);
     *value = *at == '-' ? -magnitude : magnitude;
     return numberEnd;
 }
@@ -117,6 +89,5 @@ bool slRealFits(const char* at, const char* end)
 {
     const char* const digits = at < end && isSign(*at) ? at + 1 : at;
     float magnitude = 0;
-    return std::from_chars(digits, end, magnitude).ec != std::errc::result_out_of_range
-        || !isHuge(digits, end);
+    return slNearestReal(digits, end, &magnitude) || magnitude == 0;
 }

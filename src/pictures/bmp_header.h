@@ -14,6 +14,8 @@ struct BmpBytes
     std::uint32_t dword(std::size_t at) const;
 };
 
+constexpr std::size_t BmpHeadersSize = 14 + 124 + 16 + 1024; // The longest, with masks and a palette.
+
 enum class BmpCoding : std::uint32_t
 {
     Rgb = 0,
@@ -65,9 +67,11 @@ struct BmpHeader
 // Reads the file header and any of the information headers: 12 bytes (OS/2 1), 16 to 64 bytes (OS/2 2 and
 // the usual 40), 108 and 124 bytes (versions 4 and 5). Returns false when the file cannot be a picture of a
 // kind that is read here, or when its numbers contradict each other or the file's size.
+// Only the first BmpHeadersSize bytes are looked at: no more need to be in memory.
 bool slReadBmpHeader(const BmpBytes& file, BmpHeader* header);
 
 // Whether the platform's loader can be given the file: it reads what the headers announce without asking for
 // the file's end, and doesn't know pictures stored from the top, runs of unknown size and the headers of
-// OS/2. Less strict than slReadBmpHeader where the loader makes something of it, e.g. of masks with gaps.
+// OS/2. As much is looked at. Less strict than slReadBmpHeader where the loader makes something of it, e.g.
+// of masks with gaps.
 bool slCanPlatformLoadBmp(const BmpBytes& file);

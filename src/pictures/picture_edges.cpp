@@ -1,6 +1,7 @@
 #include "pictures/picture_edges.h"
 #include "baselib/helpers.h"
 #include "pictures/bmp_reader.h"
+#include "pictures/bmp_rows.h"
 #include <algorithm>
 #include <cstddef>
 
@@ -26,14 +27,15 @@ struct View
     }
 };
 
-// Stores the ends of a line of pixels that begins at `at` and continues in steps. Returns whether it has any.
+// Stores the ends of a line of pixels that begins at `at` and continues in steps, in a view that stands below
+// so many rows. Returns whether it has any.
 bool storeEnds(const View& view, const int (&at)[2], const int (&step)[2], int length, int index,
-    Int2DArr* first, Int2DArr* last)
+    Int2DArr* first, Int2DArr* last, int rowsAbove = 0)
 {
     const auto isTransparent
         = [&](int i) { return view.isTransparent(at[0] + i * step[0], at[1] + i * step[1]); };
     const auto store = [&](int i, Int2DArr* to) {
-        const int place[2] = { at[0] + i * step[0], at[1] + i * step[1] };
+        const int place[2] = { at[0] + i * step[0], at[1] + i * step[1] + rowsAbove };
         to->SetItemM(place, index);
     };
     int begin = 0;
@@ -50,19 +52,6 @@ bool storeEnds(const View& view, const int (&at)[2], const int (&step)[2], int l
     store(begin, first);
     store(end, last);
     return true;
-}
-
-using FindEdge = int (*)(int, int, const unsigned char*, const unsigned char*, Int2DArr*, Int2DArr*);
-
-int findInFile(FindEdge find, const char* file, const unsigned char* key, Int2DArr* a, Int2DArr* b)
-{
-    int w = 0;
-    int h = 0;
-    unsigned char* pixels = nullptr;
-    slLoadBmpPicture3D(file, &w, &h, &pixels);
-    const int result = find(w, h, pixels, key, a, b);
-    slFree(pixels);
-    return result;
 }
 
 } // namespace
@@ -83,7 +72,23 @@ int slFindHorizonEdgeM(
 
 int slFindHorizonEdgeM(const char* file, const unsigned char* key, Int2DArr* left, Int2DArr* right)
 {
-    return findInFile(slFindHorizonEdgeM, file, key, left, right);
+    if (key == nullptr || left == nullptr || right == nullptr) {
+        return 0;
+    }
+    std::size_t size = 0;
+    const std::unique_ptr<char[]> bytes = slReadBmpFile(file, &size);
+    const BmpRowsCL rows({ reinterpret_cast<const unsigned char*>(bytes.get()), size });
+    if (!rows.IsGoodM()) {
+        return 1;
+    }
+    std::vector<unsigned char> row(static_cast<std::size_t>(rows.WidthM()) * 3);
+    const View view { rows.WidthM(), 1, row.data(), key };
+    int count = 0;
+    for (int y = 0; y < rows.HeightM(); ++y) {
+        rows.ReadRowM(rows.HeightM() - 1 - y, row.data());
+        count += storeEnds(view, { 0, 0 }, { 1, 0 }, rows.WidthM(), count, left, right, y) ? 1 : 0;
+    }
+    return 1;
 }
 
 int slFindVerticalEdgeM(
@@ -102,7 +107,13 @@ int slFindVerticalEdgeM(
 
 int slFindVerticalEdgeM(const char* file, const unsigned char* key, Int2DArr* first, Int2DArr* last)
 {
-    return findInFile(slFindVerticalEdgeM, file, key, first, last);
+    int w = 0;
+    int h = 0;
+    unsigned char* pixels = nullptr;
+    slLoadBmpPicture3D(file, &w, &h, &pixels);
+    const int result = slFindVerticalEdgeM(w, h, pixels, key, first, last);
+    slFree(pixels);
+    return result;
 }
 
 // What is cut out of a column are its transparent pixels and every pixel right below one. So each row needs

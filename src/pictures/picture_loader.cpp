@@ -103,16 +103,21 @@ HBITMAP makeColoured(const BmpBytes& file, const BmpHeader& header)
 
 HBITMAP slMakeBitmap(const char* file)
 {
+    if (file == nullptr) {
+        return nullptr;
+    }
     std::size_t size = 0;
-    const std::unique_ptr<char[]> read = file != nullptr ? slReadFile(file, &size) : nullptr;
-    const BmpBytes bytes { reinterpret_cast<const unsigned char*>(read.get()), size };
-    if (slCanPlatformLoadBmp(bytes)) {
+    unsigned char headers[BmpHeadersSize] {};
+    slReadFileBeginning(file, headers, sizeof headers, &size);
+    if (slCanPlatformLoadBmp({ headers, size })) {
         const HANDLE loaded = ::LoadImageW(nullptr, slGbkToWide(file).c_str(), IMAGE_BITMAP, 0, 0,
             LR_LOADFROMFILE | LR_CREATEDIBSECTION | LR_DEFAULTSIZE);
         if (loaded != nullptr) {
             return static_cast<HBITMAP>(loaded);
         }
     }
+    const std::unique_ptr<char[]> read = slReadFile(file, &size);
+    const BmpBytes bytes { reinterpret_cast<const unsigned char*>(read.get()), size };
     BmpHeader header;
     if (!slReadBmpHeader(bytes, &header)) {
         return nullptr;

@@ -3,6 +3,8 @@
 #include "baselib/io.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/picture_loader.h"
+#include "pictures/region_union.h"
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -19,6 +21,35 @@ void attachPolygon(const std::vector<POINT>& points, CRgn* rgn)
     if (!points.empty()) {
         rgn->Attach(::CreatePolygonRgn(points.data(), static_cast<int>(points.size()), ALTERNATE));
     }
+}
+
+// The region that the polygon down the left ends and up the right ends of rows encloses. The platform takes
+// time that grows with the square of a polygon's points, so it gets bands of few rows: what is inside in a
+// row, the ends of that row and the next alone decide.
+void attachRows(const Int2DArr& left, const Int2DArr& right, CRgn* rgn)
+{
+    constexpr int BandRows = 64;
+    const int last = left.GetBoundM() - 1;
+    if (last < 1) {
+        slCreateRgnM(left, right, rgn);
+        return;
+    }
+    RegionUnionCL bands;
+    for (int from = 0; from < last; from += BandRows) {
+        const int to = std::min(from + BandRows, last);
+        std::vector<POINT> points;
+        for (int i = from; i <= to; ++i) {
+            addPoint(left, i, &points);
+        }
+        for (int i = to; i >= from; --i) {
+            addPoint(right, i, &points);
+        }
+        const HRGN band = ::CreatePolygonRgn(points.data(), static_cast<int>(points.size()), ALTERNATE);
+        if (band != nullptr) {
+            bands.AddM(band);
+        }
+    }
+    rgn->Attach(bands.TakeM());
 }
 
 } // namespace
@@ -99,12 +130,13 @@ int slGenerateRgnFromBitmapM(
     }
     Int2DArr a;
     Int2DArr b;
+    rgn->DeleteObject();
     if (mode == RgnByRows) {
         slFindHorizonEdgeM(w, h, pixels, key, &a, &b);
-    } else {
-        slFindVerticalEdgeM(w, h, pixels, key, &a, &b);
+        attachRows(a, b, rgn);
+        return 1;
     }
-    rgn->DeleteObject();
+    slFindVerticalEdgeM(w, h, pixels, key, &a, &b);
     return slCreateRgnM(a, b, rgn);
 }
 
@@ -112,6 +144,14 @@ int slGenerateRgnFromBitmapM(const char* file, const unsigned char* key, int mod
 {
     if (mode != RgnByRows && mode != RgnByColumns && mode != RgnByBoundary) {
         return slCreatRgnByPixel(file, key, rgn);
+    }
+    if (mode == RgnByRows && key != nullptr && rgn != nullptr) {
+        Int2DArr left;
+        Int2DArr right;
+        slFindHorizonEdgeM(file, key, &left, &right);
+        rgn->DeleteObject();
+        attachRows(left, right, rgn);
+        return 1;
     }
     int w = 0;
     int h = 0;

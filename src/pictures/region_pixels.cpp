@@ -1,10 +1,10 @@
 #include "baselib/helpers.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/region_functions.h"
+#include "pictures/region_union.h"
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -36,44 +36,6 @@ HRGN makePiece(const PictureRect* rects, std::size_t count)
         reinterpret_cast<const RGNDATA*>(&data));
 }
 
-// Unites regions of about equal size, as the digits of a counter carry over: only a few exist at a time.
-class UnionTree
-{
-public:
-    void add(HRGN piece)
-    {
-        std::size_t level = 0;
-        while (!levels_.empty() && levels_.back().second == level) {
-            unite(levels_.back().first, piece);
-            piece = levels_.back().first;
-            levels_.pop_back();
-            ++level;
-        }
-        levels_.emplace_back(piece, level);
-    }
-
-    // All of them; an empty region when there is none.
-    HRGN take()
-    {
-        HRGN whole = ::CreateRectRgn(0, 0, 0, 0);
-        while (!levels_.empty()) {
-            unite(levels_.back().first, whole);
-            whole = levels_.back().first;
-            levels_.pop_back();
-        }
-        return whole;
-    }
-
-private:
-    static void unite(HRGN into, HRGN other)
-    {
-        ::CombineRgn(into, into, other, RGN_OR);
-        ::DeleteObject(other);
-    }
-
-    std::vector<std::pair<HRGN, std::size_t>> levels_;
-};
-
 } // namespace
 
 int slCreatRgnByPixel(int w, int h, const unsigned char* pixels, const unsigned char* key, CRgn* rgn)
@@ -83,11 +45,11 @@ int slCreatRgnByPixel(int w, int h, const unsigned char* pixels, const unsigned 
     }
     rgn->DeleteObject();
     const std::vector<PictureRect> rects = slFindOpaqueRects(w, h, pixels, key);
-    UnionTree tree;
+    RegionUnionCL tree;
     for (std::size_t i = 0; i < rects.size(); i += PieceSize) {
-        tree.add(makePiece(&rects[i], std::min(PieceSize, rects.size() - i)));
+        tree.AddM(makePiece(&rects[i], std::min(PieceSize, rects.size() - i)));
     }
-    rgn->Attach(tree.take());
+    rgn->Attach(tree.TakeM());
     return 1;
 }
 

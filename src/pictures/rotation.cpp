@@ -1,4 +1,6 @@
 #include "pictures/rotation.h"
+#include <algorithm>
+#include <cfloat>
 #include <cmath>
 #include <vector>
 
@@ -15,35 +17,76 @@ int placeOf(float value)
     return value - static_cast<float>(whole) > RoundUpAbove ? whole + 1 : whole;
 }
 
+// What a turn is made of.
+struct TurnCL
+{
+    TurnCL(const int position[2], const int centre[2], float angle)
+        // Positions of a file may be any ints: their difference needs more room.
+        : dx(std::int64_t { centre[0] } - position[0])
+        , dy(std::int64_t { centre[1] } - position[1])
+    {
+        const float radians = angle * Pi / 180.0F;
+        sine = static_cast<float>(std::sin(static_cast<double>(radians)));
+        cosine = static_cast<float>(std::cos(static_cast<double>(radians)));
+    }
+
+    std::int64_t dx; // From the picture's corner to the centre.
+    std::int64_t dy;
+    float sine;
+    float cosine;
+};
+
+// The places from 0 to a limit between the least and the most of some values, and a little around them.
+class RangeCL
+{
+public:
+    void AddM(double value)
+    {
+        least_ = std::min(least_, value);
+        most_ = std::max(most_, value);
+    }
+    int FirstM(double slack, int limit) const { return placeM(least_ - slack, limit); }
+    int EndM(double slack, int limit) const { return placeM(most_ + slack + 1, limit); }
+
+private:
+    static int placeM(double value, int limit)
+    {
+        return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(limit)));
+    }
+    double least_ { DBL_MAX };
+    double most_ { -DBL_MAX };
+};
+
 } // namespace
 
 void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL& onto, const int position[2],
     const int centre[2], float angle)
 {
-    if (picture.pixels == nullptr || onto.pixels == nullptr || position == nullptr || centre == nullptr) {
+    if (onto.width == picture.width && onto.height == picture.height) {
+        slDrawRotatedPart({ picture.pixels, 0, 0, picture.width, picture.height },
+            { onto.pixels, 0, 0, onto.width, onto.height }, picture.width, picture.height, position, centre,
+            angle);
+    }
+}
+
+void slDrawRotatedPart(const PixelPartCL& picture, const PixelPartCL& onto, int width, int height,
+    const int position[2], const int centre[2], float angle)
+{
+    if (picture.pixels == nullptr || onto.pixels == nullptr || position == nullptr || centre == nullptr
+        || picture.width <= 0 || picture.height <= 0) {
         return;
     }
-    const int width = picture.width;
-    const int height = picture.height;
-    if (width <= 0 || height <= 0 || onto.width != width || onto.height != height) {
-        return;
-    }
-    const float radians = angle * Pi / 180.0F;
-    const auto sine = static_cast<float>(std::sin(static_cast<double>(radians)));
-    const auto cosine = static_cast<float>(std::cos(static_cast<double>(radians)));
-    // Positions of a file may be any ints: their difference needs more room.
-    const std::int64_t dx = std::int64_t { centre[0] } - position[0];
-    const std::int64_t dy = std::int64_t { centre[1] } - position[1];
-    const auto offsetX = static_cast<float>(dx);
-    const auto offsetY = static_cast<float>(dy);
+    const TurnCL turn(position, centre, angle);
     // The part of the new place that only the column decides.
-    std::vector<float> columnX(static_cast<std::size_t>(width));
-    std::vector<float> columnY(static_cast<std::size_t>(width));
-    for (int i = 0; i < width; ++i) {
-        const auto x = static_cast<float>(i - dx);
-        columnX[static_cast<std::size_t>(i)] = cosine * x;
-        columnY[static_cast<std::size_t>(i)] = sine * x;
+    std::vector<float> columnX(static_cast<std::size_t>(picture.width));
+    std::vector<float> columnY(static_cast<std::size_t>(picture.width));
+    for (int i = 0; i < picture.width; ++i) {
+        const auto x = static_cast<float>(picture.left + i - turn.dx);
+        columnX[static_cast<std::size_t>(i)] = turn.cosine * x;
+        columnY[static_cast<std::size_t>(i)] = turn.sine * x;
     }
+    const auto offsetX = static_cast<float>(turn.dx);
+    const auto offsetY = static_cast<float>(turn.dy);
     // A little more than the places that can be seen: what is farther away need not, and if huge must not,
     // become an int.
     const auto leastX = -3.0F;
@@ -51,11 +94,11 @@ void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL& onto, const 
     const auto leastY = static_cast<float>(width - height) - 2.0F;
     const auto mostY = static_cast<float>(width) + 2.0F;
     const std::uint32_t* from = picture.pixels;
-    for (int j = 0; j < height; ++j) {
-        const auto y = static_cast<float>(dy - j);
-        const float rowX = sine * y;
-        const float rowY = cosine * y;
-        for (int i = 0; i < width; ++i, ++from) {
+    for (int j = 0; j < picture.height; ++j) {
+        const auto y = static_cast<float>(turn.dy - (picture.top + j));
+        const float rowX = turn.sine * y;
+        const float rowY = turn.cosine * y;
+        for (int i = 0; i < picture.width; ++i, ++from) {
             const std::uint32_t pixel = *from & White;
             if (pixel == White) {
                 continue;
@@ -65,20 +108,47 @@ void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL& onto, const 
             if (!(x > leastX && x < mostX && newY > leastY && newY < mostY)) {
                 continue;
             }
-            const int px = placeOf(x);
-            const int row = width - placeOf(newY);
-            if (row < 0 || row >= height) {
+            const int px = placeOf(x) - onto.left;
+            const int row = width - placeOf(newY) - onto.top;
+            if (row < 0 || row >= onto.height) {
                 continue;
             }
-            std::uint32_t* const to = onto.pixels + static_cast<std::ptrdiff_t>(row) * width;
-            if (px >= 0 && px < width) {
+            std::uint32_t* const to = onto.pixels + static_cast<std::ptrdiff_t>(row) * onto.width;
+            if (px >= 0 && px < onto.width) {
                 to[px] = pixel;
             }
-            if (px + 1 >= 0 && px + 1 < width) {
+            if (px + 1 >= 0 && px + 1 < onto.width) {
                 to[px + 1] = pixel;
             }
         }
     }
+}
+
+PixelPartCL slPartToRotate(
+    const PixelPartCL& onto, int width, int height, const int position[2], const int centre[2], float angle)
+{
+    const TurnCL turn(position, centre, angle);
+    if (!std::isfinite(turn.sine) || !std::isfinite(turn.cosine)) {
+        return { nullptr, 0, 0, 0, 0 };
+    }
+    // The corners of what is seen, turned back; with what rounding to places and in single precision shifts.
+    const auto dx = static_cast<double>(turn.dx);
+    const auto dy = static_cast<double>(turn.dy);
+    const double size = std::abs(dx) + std::abs(dy) + width + height;
+    const double slack = 4 + size / (1 << 19);
+    const double xs[] = { onto.left - slack - dx, onto.left + onto.width + slack - dx };
+    const double ys[] = { width - onto.top - onto.height - slack - dy, width - onto.top + slack - dy };
+    RangeCL columns;
+    RangeCL rows;
+    for (const double x : xs) {
+        for (const double y : ys) {
+            columns.AddM(dx + turn.cosine * x + turn.sine * y);
+            rows.AddM(dy + turn.sine * x - turn.cosine * y);
+        }
+    }
+    const int left = columns.FirstM(slack, width);
+    const int top = rows.FirstM(slack, height);
+    return { nullptr, left, top, columns.EndM(slack, width) - left, rows.EndM(slack, height) - top };
 }
 
 float slAngleAfterStep(float angle, int sign, float step)

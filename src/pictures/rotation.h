@@ -19,5 +19,23 @@ struct PixelBlockCL
 PANELKIT_API void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL& onto, const int position[2],
     const int centre[2], float angle);
 
+// A part of a block: its pixels, the top row first, without gaps, and where it stands in the block.
+struct PixelPartCL
+{
+    std::uint32_t* pixels;
+    int left;
+    int top;
+    int width;
+    int height;
+};
+
+// The same for what can be seen of large pictures: both parts belong to blocks of width by height. What the
+// part of the picture holds is drawn as far as the other part shows it.
+PANELKIT_API void slDrawRotatedPart(const PixelPartCL& picture, const PixelPartCL& onto, int width,
+    int height, const int position[2], const int centre[2], float angle);
+// The part of the picture, without pixels, in which all stand that can be seen in `onto` then.
+PANELKIT_API PixelPartCL slPartToRotate(
+    const PixelPartCL& onto, int width, int height, const int position[2], const int centre[2], float angle);
+
 // The angle after a step: sign times step further, cut to whole degrees toward zero.
 PANELKIT_API float slAngleAfterStep(float angle, int sign, float step);

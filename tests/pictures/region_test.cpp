@@ -3,6 +3,9 @@
 #include "pictures/rgn_record.h"
 #include "support/plain_region.h"
 #include "support/platform_pictures.h"
+#include <algorithm>
+#include <chrono>
+#include <random>
 
 namespace {
 
@@ -380,4 +383,43 @@ TEST(RegionPixelExact, OfAFlawedPictureIsWhatIsShown)
     CRgn rgn;
     slCreatRgnByPixel(coded.path(), White.data(), &rgn);
     EXPECT_TRUE(isRect(rgn, 0, 0, 5, 2));
+}
+
+TEST(RegionOfPicture, ManyRowsGiveTheRegionOfOnePolygon)
+{
+    std::mt19937 random(3);
+    for (const int height : { 64, 65, 66, 129, 200, 333 }) {
+        Pixels pixels(50, height);
+        for (int y = 0; y < height; ++y) {
+            const int left = static_cast<int>(random() % 25);
+            const int right = random() % 9 == 0 ? left : 25 + static_cast<int>(random() % 25);
+            for (int x = 0; x < 50; ++x) {
+                pixels.set(x, y, random() % 8 != 0 && x >= left && x < right ? Black : White);
+            }
+        }
+        Int2DArr a;
+        Int2DArr b;
+        const unsigned char key[3] = { 255, 255, 255 };
+        slFindHorizonEdgeM(50, height, pixels.bytes.data(), key, &a, &b);
+        CRgn polygon;
+        slCreateRgnM(a, b, &polygon);
+        CRgn made;
+        slGenerateRgnFromBitmapM(50, height, pixels.bytes.data(), key, RgnByRows, &made);
+        EXPECT_TRUE(made.EqualRgn(&polygon)) << height;
+    }
+}
+
+TEST(RegionOfPicture, TimeGrowsAsTheRows)
+{
+    const unsigned char key[3] = { 255, 255, 255 };
+    const auto secondsOf = [&](int height) {
+        const std::vector<unsigned char> pixels(static_cast<std::size_t>(height) * 3);
+        const auto begin = std::chrono::steady_clock::now();
+        CRgn made;
+        slGenerateRgnFromBitmapM(1, height, pixels.data(), key, RgnByRows, &made);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    };
+    // Sixteen times the rows; as one polygon they took 256 times as long.
+    const double few = std::min({ secondsOf(2500), secondsOf(2500), secondsOf(2500) });
+    EXPECT_LT(std::min({ secondsOf(40000), secondsOf(40000) }), few * 80);
 }

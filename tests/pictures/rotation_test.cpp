@@ -270,3 +270,55 @@ TEST(Rotation, StepCutsTheNewAngleTowardZero)
     EXPECT_EQ(slAngleAfterStep(10, 0, 7.5F), 10);
     EXPECT_EQ(slAngleAfterStep(1e30F, 1, 1), 1e30F);
 }
+
+TEST(Rotation, PartsShowWhatTheWholeShows)
+{
+    std::mt19937 random(13);
+    for (int i = 0; i < 3000; ++i) {
+        const int w = 1 + static_cast<int>(random() % 60);
+        const int h = 1 + static_cast<int>(random() % 60);
+        PlainPictureCL picture = randomPicture(random, w, h, 30);
+        PlainPictureCL wanted = randomPicture(random, w, h, 0);
+        const int position[2]
+            = { static_cast<int>(random() % 60) - 30, static_cast<int>(random() % 60) - 30 };
+        const int reach = i % 10 == 0 ? 100000 : 80;
+        const int centre[2] = { static_cast<int>(random() % reach), static_cast<int>(random() % reach) - 40 };
+        const auto angle = static_cast<float>(static_cast<int>(random() % 7200) - 3600) / 10.0F;
+        PixelPartCL onto { nullptr, static_cast<int>(random() % w), static_cast<int>(random() % h), 0, 0 };
+        onto.width = 1 + static_cast<int>(random() % (w - onto.left));
+        onto.height = 1 + static_cast<int>(random() % (h - onto.top));
+        std::vector<std::uint32_t> shown;
+        for (int y = onto.top; y < onto.top + onto.height; ++y) {
+            for (int x = onto.left; x < onto.left + onto.width; ++x) {
+                shown.push_back(wanted.GetM(x, y));
+            }
+        }
+        PixelPartCL from = slPartToRotate(onto, w, h, position, centre, angle);
+        std::vector<std::uint32_t> pixels(1);
+        for (int y = from.top; y < from.top + from.height; ++y) {
+            for (int x = from.left; x < from.left + from.width; ++x) {
+                pixels.push_back(picture.GetM(x, y));
+            }
+        }
+        onto.pixels = shown.data();
+        from.pixels = pixels.data() + 1;
+        slDrawRotatedPart(from, onto, w, h, position, centre, angle);
+        slDrawRotated(picture.BlockM(), wanted.BlockM(), position, centre, angle);
+        for (int y = 0; y < onto.height; ++y) {
+            for (int x = 0; x < onto.width; ++x) {
+                ASSERT_EQ(
+                    shown[static_cast<size_t>(y) * onto.width + x], wanted.GetM(onto.left + x, onto.top + y));
+            }
+        }
+    }
+}
+
+TEST(Rotation, OfAHugePictureOnlyWhatIsSeenIsLookedAt)
+{
+    const int position[2] = { 0, 0 };
+    const int centre[2] = { 15000, 15000 };
+    const PixelPartCL part
+        = slPartToRotate({ nullptr, 3000, 14000, 40, 30 }, 30000, 30000, position, centre, 45);
+    EXPECT_GT(part.width * part.height, 40 * 30);
+    EXPECT_LT(part.width * part.height, 100 * 100);
+}

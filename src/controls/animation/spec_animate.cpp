@@ -62,7 +62,7 @@ int DuSpecAnimateCL::DispBmpM(int index)
 
 void DuSpecAnimateCL::drawUnderM(CDC& dc, const CSize& size)
 {
-    drawBehindM(&dc, size);
+    drawBehindM(&dc, CRect(CPoint(0, 0), size));
     const int room[2] = { static_cast<int>(size.cx), static_cast<int>(size.cy) };
     frames_.DrawBitmapM(current_, &dc, 0, 0, &room);
 }

@@ -1,13 +1,22 @@
 #include "controls/base/control_value.h"
+#include "baselib/number_text.h"
+#include "baselib/real_text.h"
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace {
 
-template <class NumberTP> std::string numberText(NumberTP number)
+std::string numberText(int number)
+{
+    char text[16];
+    return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
+}
+
+std::string numberText(float number)
 {
     char text[64];
-    return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
+    return std::string(text, slWriteShortest(text, number));
 }
 
 // The number that the whole text is.
@@ -17,6 +26,29 @@ template <class NumberTP> std::optional<NumberTP> wholeNumber(const std::string&
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, number);
     return read.ec == std::errc() && read.ptr == end ? std::optional<NumberTP>(number) : std::nullopt;
+}
+
+template <> std::optional<float> wholeNumber<float>(const std::string& text)
+{
+    const bool isNegative = !text.empty() && text[0] == '-';
+    std::string word = text.substr(isNegative ? 1 : 0);
+    std::transform(word.begin(), word.end(), word.begin(),
+        [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    float number = 0;
+    if (word == "inf" || word == "infinity") {
+        number = INFINITY;
+    } else if (word == "nan") {
+        number = NAN;
+    } else {
+        const char* const begin = word.data();
+        const char* const end = begin + word.size();
+        const bool isNumber
+            = !word.empty() && word[0] != '+' && word[0] != '-' && slReadReal(begin, end, &number) == end;
+        if (!isNumber || !slNearestReal(begin, end, &number)) {
+            return std::nullopt;
+        }
+    }
+    return isNegative ? -number : number;
 }
 
 std::string linesText(const std::vector<int>& lines)

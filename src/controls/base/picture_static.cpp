@@ -87,12 +87,13 @@ void PictureStaticCL::invalidateInParentM()
     }
 }
 
-void PictureStaticCL::drawBehindM(CDC* dc, const CSize& size) const
+void PictureStaticCL::drawBehindM(CDC* dc, const CRect& part) const
 {
     const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
     auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
         parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
-    const RECT all { 0, 0, size.cx, size.cy };
+    const RECT all { 0, 0, part.Width(), part.Height() };
+    ::SetBrushOrgEx(dc->m_hDC, -part.left, -part.top, nullptr); // A pattern begins at the control's corner.
     ::FillRect(dc->m_hDC, &all, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
 }
 

@@ -72,8 +72,9 @@ protected:
     void invalidateM(bool erase);         // The whole window, if there is one.
     void clientRgnM(CRgn* region) const;  // The region becomes the client rectangle.
     void clipWindowM(const CRgn& region); // To a copy: a window owns the region that it is given.
-    void drawBehindM(CDC* dc, const CSize& size) const; // What of the dialog shows through, from the corner.
-    void invalidateInParentM();                         // The window's rectangle in the parent, with erasing.
+    // What of the dialog shows through a part of the control, from the corner of dc.
+    void drawBehindM(CDC* dc, const CRect& part) const;
+    void invalidateInParentM(); // The window's rectangle in the parent, with erasing.
 
     // Appends the picture of a file as named. The slot; -1 when it can't be loaded: its slot then holds a
     // picture that draws nothing, so that later ones keep their places.

@@ -74,7 +74,8 @@ private:
     bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
     void showAngleM();
-    void composeM(CDC* dc, float angle);
+    CRect neededPartM(CDC* dc) const;
+    void composeM(CDC* dc);
     bool prepareM(CDC* dc);
     void forgetPixelsM();
 
@@ -95,8 +96,12 @@ private:
     OwnPictureCL rotating_;
     OwnRgnCL hitRgn_;
     OwnRgnCL windowRgn_;
+    // The turned picture, or of a large one the part that can be seen.
     ImageCacheCL cache_;
-    // What every angle starts from, of the cache's size; empty until it is needed.
+    CRect part_;
+    float composedAngle_ { 0 };
+    // What every angle starts from; empty until it is needed. Of a large picture the pixels are asked for
+    // anew.
     std::vector<std::uint32_t> base_;
     std::vector<std::uint32_t> picture_;
 };

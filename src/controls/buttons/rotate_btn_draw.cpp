@@ -7,31 +7,49 @@ namespace {
 constexpr std::uint32_t White = 0xFFFFFF;
 constexpr int FarthestPixel = 1 << 20; // No device reaches so far, and no coordinate overflows.
 
-// The corner (width by height) of a bitmap as pixels; white where the bitmap has none.
-std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, int width, int height)
+constexpr std::int64_t MostAtOnce = 1 << 20; // Pixels of a picture that is kept and turned whole.
+
+bool isLarge(int width, int height)
 {
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * height, White);
+    return std::int64_t { width } * height > MostAtOnce;
+}
+
+// A part of a bitmap as pixels; white where the bitmap has none.
+std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
+{
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
     const int pictureWidth = picture.GetWidthM();
-    const int rows = std::min(height, picture.GetHeightM());
-    if (rows <= 0) {
+    const int pictureHeight = picture.GetHeightM();
+    const int columns = std::min(part.width, pictureWidth - part.left);
+    const int bottom = std::min(part.top + part.height, pictureHeight);
+    if (columns <= 0 || bottom <= part.top) {
         return pixels;
     }
     BITMAPINFO info {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = pictureWidth;
-    info.bmiHeader.biHeight = -picture.GetHeightM();
+    info.bmiHeader.biHeight
+        = pictureHeight; // The lowest row first: its number is that of the first line asked for.
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    std::vector<std::uint32_t> all(static_cast<std::size_t>(pictureWidth) * picture.GetHeightM());
     const auto bitmap = static_cast<HBITMAP>(picture.GetBitmapM()->GetSafeHandle());
-    if (::GetDIBits(dc, bitmap, 0, static_cast<UINT>(picture.GetHeightM()), all.data(), &info, DIB_RGB_COLORS)
-        == 0) {
-        return pixels;
-    }
-    for (int y = 0; y < rows; ++y) {
-        std::copy_n(all.begin() + static_cast<std::ptrdiff_t>(y) * pictureWidth,
-            std::min(width, pictureWidth), pixels.begin() + static_cast<std::ptrdiff_t>(y) * width);
+    // The system gives whole rows: a few at a time.
+    const int atOnce = static_cast<int>(std::max<std::int64_t>(1, MostAtOnce / pictureWidth));
+    std::vector<std::uint32_t> rows;
+    for (int end = bottom; end > part.top;) {
+        const int begin = std::max(part.top, end - atOnce);
+        rows.resize(static_cast<std::size_t>(pictureWidth) * (end - begin));
+        if (::GetDIBits(dc, bitmap, static_cast<UINT>(pictureHeight - end), static_cast<UINT>(end - begin),
+                rows.data(), &info, DIB_RGB_COLORS)
+            == 0) {
+            break;
+        }
+        for (int y = begin; y < end; ++y) {
+            std::copy_n(rows.begin() + static_cast<std::ptrdiff_t>(end - 1 - y) * pictureWidth + part.left,
+                columns, pixels.begin() + static_cast<std::ptrdiff_t>(y - part.top) * part.width);
+        }
+        end = begin;
     }
     return pixels;
 }
@@ -55,6 +73,13 @@ void copyPart(DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y
     ::SelectObject(memory.m_hDC, previous);
 }
 
+bool isWithin(const CRect& inner, const CRect& outer)
+{
+    return inner.IsRectEmpty()
+        || (inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right
+            && inner.bottom <= outer.bottom);
+}
+
 } // namespace
 
 void DuRotateBtnCL::drawBkM(CDC* dc)
@@ -74,37 +99,73 @@ void DuRotateBtnCL::drawRotM(CDC* dc, float angle)
     }
     if (redrawNeeded_) {
         redrawNeeded_ = false;
-        composeM(dc, angle);
+        composedAngle_ = angle;
+        composeM(dc);
+    } else if (cache_.GetDcM()->m_hDC != nullptr && !isWithin(neededPartM(dc), part_)) {
+        composeM(dc);
     }
     const auto reachable = [](int place) { return place > -FarthestPixel && place < FarthestPixel; };
     if (cache_.GetDcM()->m_hDC != nullptr && reachable(position_[0]) && reachable(position_[1])) {
-        dc->BitBlt(position_[0], position_[1], width_, height_, cache_.GetDcM(), 0, 0, SRCCOPY);
+        dc->BitBlt(position_[0] + part_.left, position_[1] + part_.top, part_.Width(), part_.Height(),
+            cache_.GetDcM(), 0, 0, SRCCOPY);
     }
 }
 
-void DuRotateBtnCL::composeM(CDC* dc, float angle)
+// All of the picture, or of a large one what the window and the context show.
+CRect DuRotateBtnCL::neededPartM(CDC* dc) const
+{
+    const CRect all(0, 0, width_, height_);
+    if (!isLarge(width_, height_)) {
+        return all;
+    }
+    CRect client;
+    CRect shown;
+    GetClientRect(&client);
+    dc->GetClipBox(&shown);
+    shown.UnionRect(&shown, &client);
+    const auto within = [](LONG place, int position, int length) {
+        return static_cast<int>(std::clamp<std::int64_t>(std::int64_t { place } - position, 0, length));
+    };
+    return { within(shown.left, position_[0], width_), within(shown.top, position_[1], height_),
+        within(shown.right, position_[0], width_), within(shown.bottom, position_[1], height_) };
+}
+
+void DuRotateBtnCL::composeM(CDC* dc)
 {
     // A copy of a knob has the pixels, but its cache starts empty.
-    if ((base_.empty() || cache_.GetDcM()->m_hDC == nullptr) && !prepareM(dc)) {
+    const bool isPrepared = !base_.empty() && cache_.GetDcM()->m_hDC != nullptr;
+    if (!(isPrepared && isWithin(neededPartM(dc), part_)) && !prepareM(dc)) {
         return;
     }
-    const PixelBlockCL onto = cache_.PixelsM();
-    std::copy(base_.begin(), base_.end(), onto.pixels);
-    slDrawRotated({ picture_.data(), width_, height_ }, onto, position_, centre_, angle);
+    const PixelBlockCL block = cache_.PixelsM();
+    std::copy(base_.begin(), base_.end(), block.pixels);
+    const PixelPartCL onto { block.pixels, part_.left, part_.top, block.width, block.height };
+    PixelPartCL from { picture_.data(), 0, 0, width_, height_ };
+    std::vector<std::uint32_t> pixels;
+    if (isLarge(width_, height_)) {
+        from = slPartToRotate(onto, width_, height_, position_, centre_, composedAngle_);
+        pixels = pixelsOf(rotating_, dc->m_hDC, from);
+        from.pixels = pixels.data();
+    }
+    slDrawRotatedPart(from, onto, width_, height_, position_, centre_, composedAngle_);
 }
 
 // Asking the system for the pixels takes longer than turning them: once for all angles.
 bool DuRotateBtnCL::prepareM(CDC* dc)
 {
     forgetPixelsM();
-    if (!cache_.CreateM(dc, width_, height_)) {
+    part_ = neededPartM(dc);
+    if (!cache_.CreateM(dc, part_.Width(), part_.Height())) {
         return false;
     }
-    drawBehindM(cache_.GetDcM(), CSize(width_, height_)); // Where the background has no pixels.
-    copyPart(background_, cache_.GetDcM(), width_, height_, position_[0], position_[1]);
+    drawBehindM(cache_.GetDcM(), part_); // Where the background has no pixels.
+    copyPart(background_, cache_.GetDcM(), part_.Width(), part_.Height(), position_[0] + part_.left,
+        position_[1] + part_.top);
     const PixelBlockCL drawn = cache_.PixelsM();
-    base_.assign(drawn.pixels, drawn.pixels + static_cast<std::ptrdiff_t>(width_) * height_);
-    picture_ = pixelsOf(rotating_, dc->m_hDC, width_, height_);
+    base_.assign(drawn.pixels, drawn.pixels + static_cast<std::ptrdiff_t>(drawn.width) * drawn.height);
+    if (!isLarge(width_, height_)) {
+        picture_ = pixelsOf(rotating_, dc->m_hDC, { nullptr, 0, 0, width_, height_ });
+    }
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "controls/text/typed_value.h"
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
+#include "baselib/real_text.h"
 #include <algorithm>
 #include <charconv>
 #include <cstring>
@@ -205,15 +206,14 @@ int TypedValueCL::ShowM(char* to, int size) const
 void TypedValueCL::showNumberM(char* to, int size, const simpleValD& value, int which) const
 {
     char text[TextSize];
-    std::to_chars_result result { text, std::errc() };
+    char* end = text;
     if (type_ == RealType) {
         const int decimals = std::clamp(decimals_, 0, MostDecimals);
-        result = std::to_chars(text, text + TextSize - 1, static_cast<double>(value.reals[which]),
-            std::chars_format::fixed, decimals);
+        end = slWriteFixed(text, value.reals[which], decimals);
     } else if (type_ == IntegerType || type_ == TextType) {
-        result = std::to_chars(text, text + TextSize - 1, value.numbers[which]);
+        end = std::to_chars(text, text + TextSize - 1, value.numbers[which]).ptr;
     }
-    *result.ptr = '\0';
+    *end = '\0';
     slCopyText(to, size, text);
 }
 
