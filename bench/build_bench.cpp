@@ -1,0 +1,140 @@
+// What building and destroying a mixed dialog cost over plain calls that make the same windows.
+// build_bench [short|requests]: short: few rounds of few sizes, for a test; requests: no times, but the parts
+// named in the trace of the window system's server, for scripts/bench to count there.
+#include "measures.h"
+#include "raw_dialog.h"
+#include "seen_windows.h"
+#include "support/pump.h"
+#include <memory>
+
+using namespace mixed;
+
+namespace {
+
+struct TimesCL
+{
+    std::vector<double> built;
+    std::vector<double> raw;
+    std::vector<double> rawInOrder;
+    std::vector<double> destroyed;
+    std::vector<double> rawDestroyed;
+};
+
+bool areAlike(HWND one, HWND other)
+{
+    const auto mine = seenChildren(one);
+    const auto theirs = seenChildren(other);
+    for (size_t i = 0; i < mine.size() && i < theirs.size(); ++i) {
+        if (mine[i] != theirs[i]) {
+            std::fprintf(stderr, "window %u differs:\n%s\n%s\n", static_cast<unsigned>(i), mine[i].c_str(),
+                theirs[i].c_str());
+            return false;
+        }
+    }
+    if (mine.size() != theirs.size() || mine.empty()) {
+        std::fprintf(stderr, "%u windows, by plain calls %u\n", static_cast<unsigned>(mine.size()),
+            static_cast<unsigned>(theirs.size()));
+    }
+    return mine.size() == theirs.size() && !mine.empty();
+}
+
+// Builds in turn by the library and by plain calls, once more than it takes times.
+bool measure(int count, int rounds, bool withOrder, TimesCL* times)
+{
+    const DescriptionFileCL file(description(count));
+    for (int round = 0; round <= rounds; ++round) {
+        HostCL host(file.path());
+        RawDialogCL raw(count);
+        const double built = secondsOf([&host] { host.BuildM(); });
+        const double rawBuilt = secondsOf([&raw] { raw.BuildM(); });
+        if (round == 0 && !areAlike(host.m_hWnd, raw.HandleM())) {
+            return false;
+        }
+        const double destroyed = secondsOf([&host] { host.DestroyWindow(); });
+        const double rawDestroyed = secondsOf([&raw] { raw.DestroyM(); });
+        double inOrder = 0;
+        if (withOrder) {
+            RawDialogCL ordered(count, true);
+            inOrder = secondsOf([&ordered] { ordered.BuildM(); });
+        }
+        if (round > 0) {
+            times->built.push_back(built);
+            times->raw.push_back(rawBuilt);
+            times->rawInOrder.push_back(inOrder);
+            times->destroyed.push_back(destroyed);
+            times->rawDestroyed.push_back(rawDestroyed);
+        }
+    }
+    return true;
+}
+
+// How much longer a window takes that is built into again and again than a new one.
+void measureRebuilding(int count, int rounds)
+{
+    const DescriptionFileCL file(description(count));
+    std::vector<double> again;
+    std::vector<double> once;
+    HostCL kept(file.path());
+    kept.BuildM();
+    for (int round = 0; round < rounds; ++round) {
+        kept.DestroyM();
+        testing_support::PumpPending();
+        again.push_back(secondsOf([&kept] { kept.BuildM(); }));
+        testing_support::PumpPending();
+        HostCL fresh(file.path());
+        once.push_back(secondsOf([&fresh] { fresh.BuildM(); }));
+    }
+    tellRatio("rebuild_1000_over_build", again, once);
+}
+
+int markRequests()
+{
+    for (const int count : { 200, 1000 }) {
+        const DescriptionFileCL file(description(count));
+        for (int round = 0; round < 2; ++round) { // The first one loads what stays.
+            HostCL host(file.path());
+            RawDialogCL raw(count);
+            RawDialogCL ordered(count, true);
+            const std::string name = std::to_string(count) + (round == 0 ? "_first" : "");
+            markTrace("build_" + name, [&host] { host.BuildM(); });
+            markTrace("build_raw_" + name, [&raw] { raw.BuildM(); });
+            markTrace("build_raw_in_order_" + name, [&ordered] { ordered.BuildM(); });
+            markTrace("destroy_" + name, [&host] { host.DestroyWindow(); });
+            markTrace("destroy_raw_" + name, [&raw] { raw.DestroyM(); });
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::string how = argc > 1 ? argv[1] : "";
+    if (how == "requests") {
+        return markRequests();
+    }
+    const bool isShort = how == "short";
+    double perControl1000 = 0;
+    for (const int count : { 100, 1000, 4000 }) {
+        if (isShort && count > 1000) {
+            continue;
+        }
+        TimesCL times;
+        const int rounds = isShort ? 5 : count == 100 ? 21 : count == 1000 ? 11 : 7;
+        if (!measure(count, rounds, count == 1000, &times)) {
+            return 1;
+        }
+        const std::string name = "build_" + std::to_string(count);
+        tellRatio(name + "_over_raw", times.built, times.raw);
+        if (count == 1000) {
+            tellRatio("build_1000_over_raw_in_order", times.built, times.rawInOrder);
+            tellRatio("destroy_1000_over_raw", times.destroyed, times.rawDestroyed);
+            perControl1000 = median(times.built);
+        } else if (count == 4000) {
+            tell("build_4000_over_4_times_1000", median(times.built) / (4 * perControl1000), "x");
+        }
+    }
+    measureRebuilding(1000, isShort ? 5 : 11);
+    return 0;
+}
