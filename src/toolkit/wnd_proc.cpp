@@ -65,6 +65,9 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     if (wnd == nullptr || state.left.count(hWnd) != 0) {
         return WindowMessageCL::PassM(state, handled);
     }
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
+        CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)); // From here on its object is asked for.
+    }
     MSG outerMessage = state.message;
     state.message = handled;
     ++state.depth;

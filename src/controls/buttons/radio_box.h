@@ -22,6 +22,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     afx_msg void onClickedM() { postToParentM(RadioClickedMsg); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()

@@ -18,6 +18,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     afx_msg void onClickedM() { sendToParentM(ButtonActionMsg); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
