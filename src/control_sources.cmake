@@ -2,10 +2,12 @@ set(PANELKIT_CONTROL_SOURCES
   controls/animation/animation.cpp
   controls/animation/normal_animate.cpp
   controls/animation/spec_animate.cpp
+  controls/base/accessible.cpp
   controls/base/background.cpp
   controls/base/common_box_control.cpp
   controls/base/control_common.cpp
   controls/base/control_geometry.cpp
+  controls/base/control_looks.cpp
   controls/base/interrupted_press.cpp
   controls/base/leaving.cpp
   controls/base/picture_static.cpp
@@ -31,6 +33,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/lists/tree_pictures.cpp
   controls/lists/tree_value.cpp
   controls/text/multi_edit.cpp
+  controls/text/refusal.cpp
   controls/text/single_edit.cpp
   controls/text/spin_button.cpp
   controls/text/spin_edit.cpp
@@ -42,11 +45,13 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_by_id_lines.cpp
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
+  dialog/basic_dialog_hooks.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_values.cpp
   form/c_controls.cpp
   form/c_dialog.cpp
   form/c_lines.cpp
+  form/c_looks.cpp
   form/c_saved.cpp
   form/c_values.cpp
   form/dialog_handles.cpp

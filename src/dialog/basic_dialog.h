@@ -24,7 +24,9 @@
 #include "dialog/kinds.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
+#include <map>
 #include <memory>
+#include <optional>
 
 class ReadingDiagnosticsCL;
 class VrIOCL;
@@ -52,6 +54,39 @@ public:
     // what it would be told goes to the debugger (OutputDebugString), the same text only once. Before the
     // first call nobody is told, and nothing is looked for, unless a debugger runs the program.
     void SetDiagnosticsM(DiagnosticTP callback, void* context);
+
+    // The functions from here to MessageTextM are for what the description file doesn't say. They hold from
+    // now on, also for later builds, whether the dialog is built already or not.
+
+    // From the next build on the dialog makes controls of the application's own class, for the kind with that
+    // class: SetFactoryM<DuSingleEditCL>([](int id) { return std::make_unique<MyEditCL>(); }). It asks once
+    // for each description of the kind, with its function id, fills what it gets from the description, has it
+    // create its window, owns it, and finds it by id as any control. Null from the factory: the library's own
+    // control. A factory without a function: that for all. The object must not delete itself, and the factory
+    // not build or destroy the dialog.
+    template <class ControlTP> void SetFactoryM(ControlFactoryTP<ControlTP> make);
+
+    // The colour of a control's text; none: the platform's. Kept for the build to come; once there are
+    // controls, false for an unknown id and for a control without a text or whose text the platform paints in
+    // its own colour (the ability ColoursText in kinds.h). Check boxes, radio buttons and group boxes keep
+    // their colour under a visual style of the system.
+    bool SetTextColourM(int id, std::optional<COLORREF> colour);
+    // What screen readers call a control, in place of what the system takes for its name; none or the empty
+    // text: no such name. Kept for the build to come; once there are controls, false for an unknown id. A
+    // bitmap button or multi-state button is then a push button to them, which they can press.
+    bool SetAccessibleNameM(int id, const ValueTextCL& name);
+    // Whether a field's text is selected once the user has been told that its value is refused, so that
+    // typing replaces it. Not to begin with.
+    void SetSelectRefusedM(bool select);
+    // Whether the messages about fields stand over the dialog (over the window whose part it is; over a popup
+    // of it that is in front) and disable it. Else those of single-line edits belong to the application's
+    // main window or what it has in front, without one to the thread's active window.
+    void SetMessageOwnerM(bool overDialog);
+    // Replaces a text of the library's message boxes, for all dialogs of the process; none: the library's own
+    // again. What the numbers mean and what may stand in the texts tells message_texts.h. False for a number
+    // that is none.
+    static bool SetMessageTextM(int message, const ValueTextCL& text);
+    static ValueTextCL MessageTextM(int message); // As it is now; empty for a number that is none.
 
     // Shows the dialog without a template: the description file says all that one could. parent: the owner,
     // not kept; null: for DoModalM the constructor's, else the application's main window.
@@ -133,6 +168,7 @@ private:
     {
         typename RowTP::Controls controls;
         typename RowTP::Records records;
+        ControlFactoryTP<typename RowTP::Controls::ControlTP> make;
     };
     template <class TableTP> struct MembersOfCL;
     template <class... RowsTP> struct MembersOfCL<std::tuple<RowsTP...>>
@@ -153,6 +189,10 @@ private:
     void initCtrlZOrderM(CWnd* parent);
     void setItemFontM(CWnd* parent, int fontOption);
     void setTxtLstBoxItemHeightM();
+    bool hasControlsM();
+    bool showLooksM(int id);
+    void showRefusalM();
+    void showHooksM();
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };
@@ -165,9 +205,29 @@ private:
     MembersOfCL<KindTable>::Type kinds_;
     ControlIndexCL index_;
     DialogValuesCL values_ { *this };
+    struct LooksByIdCL
+    {
+        std::optional<COLORREF> textColour;
+        ValueTextCL name;
+    };
+    std::map<int, LooksByIdCL> looks_; // What the application has given controls by id.
+    RefusalCL refusal_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
 };
+
+template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<ControlTP> make)
+{
+    constexpr bool isKind = slLastRow([](auto row) {
+        return std::is_same_v<typename decltype(row)::Controls::ControlTP, ControlTP>;
+    }) >= 0;
+    static_assert(isKind, "name the library's class of the kind: SetFactoryM<DuSingleEditCL>(...)");
+    slEachKind([this, &make](auto row) {
+        if constexpr (std::is_same_v<typename decltype(row)::Controls::ControlTP, ControlTP>) {
+            std::get<KindMembersCL<decltype(row)>>(kinds_).make = std::move(make);
+        }
+    });
+}
 
 // Calls see(row, controls) with the runtime array of every kind, in member order.
 template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see)
@@ -189,9 +249,9 @@ template <class FunctionTP> bool DuBasicDialogCL::withControlM(int id, FunctionT
         const int wanted = place.row;
         eachControlsM([&](auto row, auto& controls) {
             if (number++ == wanted && controls.CheckAvailableM(slot) == 1
-                && controls.ElementAtM(slot).GetFunctionIDM() == id) {
+                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
                 found = true;
-                see(row, controls.ElementAtM(slot));
+                see(row, controls.ControlAtM(slot));
             }
         });
         if (found) {

@@ -15,6 +15,7 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     }
     setItemFontM(parent, header_.fontOption);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    showHooksM();
     return 1;
 }
 
@@ -52,7 +53,7 @@ void DuBasicDialogCL::fillIndexM()
     int number = 0;
     eachControlsM([this, &number](auto, auto& controls) {
         for (int i = 0; i < controls.GetBoundM(); ++i) {
-            index_.AddM(controls.ElementAtM(i).GetFunctionIDM(), { number, i });
+            index_.AddM(controls.ControlAtM(i).GetFunctionIDM(), { number, i });
         }
         ++number;
     });
@@ -63,7 +64,7 @@ void DuBasicDialogCL::fillIndexM()
 template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
-    auto& [controls, records] = std::get<KindMembersCL<RowTP>>(kinds_);
+    auto& [controls, records, make] = std::get<KindMembersCL<RowTP>>(kinds_);
     int count = 0;
     {
         VrIOCL io;
@@ -82,8 +83,12 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
     controls.InitialSizeM(count);
     for (int i = 0; i < count; ++i) {
         controls.SetItemM(scratch, i);
-        (records.*RowTP::InitM)(i, &controls.ElementAtM(i));
-        controls.ElementAtM(i).CountIdChangesM(index_.ChangesM());
+        if (make) {
+            controls.StandInM(
+                i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
+        }
+        (records.*RowTP::InitM)(i, &controls.ControlAtM(i));
+        controls.ControlAtM(i).CountIdChangesM(index_.ChangesM());
     }
     controls.Create(parent);
     controls.AfterCreateM();
@@ -91,7 +96,7 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
         int record = records.GetFirstIdxM();
         int control = controls.GetFirstIdxM();
         while (record >= 0 && control >= 0) {
-            (records.*RowTP::FillM)(record, &controls.ElementAtM(control));
+            (records.*RowTP::FillM)(record, &controls.ControlAtM(control));
             record = records.GetNextIdxM(record);
             control = controls.GetNextIdxM(control);
         }

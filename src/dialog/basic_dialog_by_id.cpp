@@ -195,7 +195,7 @@ DialogValuesCL::SavedTP DialogValuesCL::AllM() const
     std::set<int> seen; // Of equal ids a look-up finds the first.
     dialog_.eachControlsM([this, &all, &seen](auto, auto& controls) {
         for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-            const int id = controls.ElementAtM(i).GetFunctionIDM();
+            const int id = controls.ControlAtM(i).GetFunctionIDM();
             const auto saved = seen.insert(id).second ? SavedM(id) : std::nullopt;
             if (saved) {
                 all.emplace_back(id, *saved);

@@ -32,7 +32,7 @@ Int2DArr DuBasicDialogCL::stackedM()
             auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
                 const int pair[2]
-                    = { controls.ElementAtM(i).GetWinIdxM(), controls.ElementAtM(i).GetFunctionIDM() };
+                    = { controls.ControlAtM(i).GetWinIdxM(), controls.ControlAtM(i).GetFunctionIDM() };
                 pairs.AddItemM(pair);
             }
         }

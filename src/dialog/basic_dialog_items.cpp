@@ -40,8 +40,8 @@ int DuBasicDialogCL::ChangeNormalAnimateM(int id, int index)
     eachControlsM([&result, child, index](auto row, auto& controls) {
         if constexpr (decltype(row)::CanM(ShowsFrames)) {
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-                if (child != nullptr && controls.ElementAtM(i).m_hWnd == child) {
-                    result = controls.ElementAtM(i).DispBmpM(index);
+                if (child != nullptr && controls.ControlAtM(i).m_hWnd == child) {
+                    result = controls.ControlAtM(i).DispBmpM(index);
                 }
             }
         }

@@ -77,7 +77,7 @@ int DuBasicDialogCL::CheckValueLegalM()
         eachControlsM([this, field](auto row, auto& controls) {
             if constexpr (decltype(row)::Code == SingleEditCode) {
                 for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-                    DuSingleEditCL& edit = controls.ElementAtM(i);
+                    DuSingleEditCL& edit = controls.ControlAtM(i);
                     if (edit.m_hWnd != nullptr && edit.m_hWnd == field
                         && edit.GetCurValM(nullptr) != ValidValue) {
                         valueStatus_ = -1;

@@ -52,7 +52,10 @@ enum Ability : unsigned
     StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
     HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
     HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    ColoursText = 256,   // SetTextColourM shows.
+    TellsRefusals = 512, // SetRefusalM.
+    ActsAsButton = 1024  // A picture for a push button.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -101,35 +104,39 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
                                  Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked, &DVrLabelArr::InitLabelM>,
-    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3, Stacked | HoldsTypedValue | HasValue,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | ColoursText, &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
+        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals,
         &DVrSingleEditArr::InitSingleEditM>,
-    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked | HasValue,
+    KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5, Stacked | HasValue | ColoursText,
         &DVrMultiEditArr::InitMultiEditM>,
-    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4, Stacked | HasValue,
-        &DVrSpinEditArr::InitSpinEditM>,
+    KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
+        Stacked | HasValue | ColoursText | TellsRefusals, &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
-        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines, &DVrTextListBoxArr::InitTextListBoxM,
-        &DVrTextListBoxArr::InitTextListBoxStrM>,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText,
+        &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
         Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
         &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
-    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8, Stacked | HoldsLines | HasValue | ListsLines,
-        &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines,
+    KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8,
+        Stacked | HoldsLines | HasValue | ListsLines | ColoursText, &DVrComboBoxArr::InitComboBoxM,
+        &DVrComboBoxArr::InitComboBoxStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
         &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacked,
         &DVrStandardButtonArr::InitStandardButtonM>,
-    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10, Stacked | StandsInGroups | HasValue,
-        &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue,
+    KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
+        Stacked | StandsInGroups | HasValue | ColoursText, &DVrRadioBoxArr::InitRadioBoxM>,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue | ColoursText,
         &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked, &DVrBmpButtonArr::InitBmpButtonM>,
-    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14, Stacked | HasValue,
-        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked, &DVrGroupBoxArr::InitGroupBoxM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | ActsAsButton,
+        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
+        Stacked | HasValue | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked | ColoursText,
+        &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue, &DVrTreeArr::InitTreeM,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
 

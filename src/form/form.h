@@ -1,4 +1,5 @@
 #pragma once
+#include "form/form_looks.h"
 #include "form/form_state.h"
 #include <optional>
 #include <string>
@@ -19,7 +20,7 @@ struct FormOptions
 // id, a control without such a value and a form without a dialog; Error() tells which. Of the events none
 // comes from what the program does by its functions. A form belongs to the thread that made it. A handler may
 // do everything, destroy its form too; what it throws closes the form and comes out of Run or RunLoop.
-class Form
+class Form : public FormLooksCL<Form>
 {
 public:
     using Handler = std::function<void()>;

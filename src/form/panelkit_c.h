@@ -259,3 +259,5 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_stop_timer(panelkit_dialog* 
 #ifdef __cplusplus
 }
 #endif
+
+#include "form/panelkit_c_looks.h"

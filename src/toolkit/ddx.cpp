@@ -1,5 +1,6 @@
 #include "toolkit/ddx.h"
 #include "baselib/gbk.h"
+#include "baselib/message_texts.h"
 #include "toolkit/exceptions.h"
 #include "toolkit/message_box.h"
 #include "toolkit/text.h"
@@ -14,11 +15,6 @@
 #include <vector>
 
 namespace {
-
-const wchar_t* const WantsInteger = L"\u8BF7\u952E\u5165\u6574\u6570\u3002"; // 请键入整数。
-const wchar_t* const WantsPositive
-    = L"\u8BF7\u952E\u5165\u4E00\u4E2A\u6B63\u6574\u6570\u3002";            // 请键入一个正整数。
-const wchar_t* const WantsNumber = L"\u8BF7\u952E\u5165\u6570\u5B57\u3002"; // 请键入数字。
 
 std::wstring fieldTextM(HWND field)
 {
@@ -35,9 +31,9 @@ void showTextM(HWND field, const std::wstring& text)
     }
 }
 
-[[noreturn]] void refuseM(CDataExchange* exchange, const wchar_t* text)
+[[noreturn]] void refuseM(CDataExchange* exchange, MessageTextId why)
 {
-    AfxMessageBox(text, MB_OK | MB_ICONEXCLAMATION);
+    AfxMessageBox(slWideMessageText(why).c_str(), MB_OK | MB_ICONEXCLAMATION);
     exchange->Fail();
 }
 
@@ -99,9 +95,9 @@ template <class ValueTP> void numberM(CDataExchange* exchange, int id, ValueTP* 
     ValueTP read = {};
     if (!readM(fieldTextM(field), &read)) {
         refuseM(exchange,
-            std::is_floating_point_v<ValueTP> ? WantsNumber
-                : std::is_signed_v<ValueTP>   ? WantsInteger
-                                              : WantsPositive);
+            std::is_floating_point_v<ValueTP> ? WantsNumberMessage
+                : std::is_signed_v<ValueTP>   ? WantsIntegerMessage
+                                              : WantsPositiveMessage);
     }
     *value = read;
 }

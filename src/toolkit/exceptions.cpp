@@ -1,5 +1,6 @@
 #include "toolkit/exceptions.h"
 #include "baselib/gbk.h"
+#include "baselib/message_texts.h"
 #include "toolkit/text.h"
 #include <cstdlib>
 
@@ -30,30 +31,31 @@ BOOL CException::GetErrorMessage(LPSTR to, UINT size, PUINT helpId) const
 BOOL CSimpleException::GetErrorMessage(LPSTR to, UINT size, PUINT helpId) const
 {
     CException::GetErrorMessage(to, size, helpId);
-    const LPCWSTR text = textM();
-    slCopyText(to, static_cast<int>(size), WideToGbk(text));
-    return text != nullptr;
+    const int id = textIdM();
+    const std::u16string text = slMessageTemplate(id);
+    slCopyText(to, static_cast<int>(size), slUtf16ToGbk(text.data(), text.size()));
+    return id >= 0;
 }
 
-LPCWSTR CMemoryException::textM() const
+int CMemoryException::textIdM() const
 {
-    return L"\u5185\u5B58\u4E0D\u8DB3\u3002"; // 内存不足。
+    return NoMemoryMessage;
 }
-LPCWSTR CResourceException::textM() const
+int CResourceException::textIdM() const
 {
-    return L"\u627E\u4E0D\u5230\u6240\u9700\u7684\u8D44\u6E90\u3002"; // 找不到所需的资源。
+    return NoResourceMessage;
 }
-LPCWSTR CUserException::textM() const
+int CUserException::textIdM() const
 {
-    return nullptr;
+    return -1;
 }
-LPCWSTR CNotSupportedException::textM() const
+int CNotSupportedException::textIdM() const
 {
-    return L"\u4E0D\u652F\u6301\u6B64\u64CD\u4F5C\u3002"; // 不支持此操作。
+    return NotSupportedMessage;
 }
-LPCWSTR CInvalidArgException::textM() const
+int CInvalidArgException::textIdM() const
 {
-    return L"\u53C2\u6570\u65E0\u6548\u3002"; // 参数无效。
+    return BadArgumentMessage;
 }
 
 void AfxThrowMemoryException()

@@ -33,7 +33,7 @@ public:
     BOOL GetErrorMessage(LPSTR to, UINT size, PUINT helpId = nullptr) const override;
 
 protected:
-    virtual LPCWSTR textM() const { return nullptr; } // null: none
+    virtual int textIdM() const { return -1; } // MessageTextId; -1: none
 };
 
 #define AFX_SIMPLE_EXCEPTION(class_name)                                                                     \
@@ -44,7 +44,7 @@ protected:
         using CSimpleException::CSimpleException;                                                            \
                                                                                                              \
     protected:                                                                                               \
-        LPCWSTR textM() const override;                                                                      \
+        int textIdM() const override;                                                                        \
     };
 AFX_SIMPLE_EXCEPTION(CMemoryException)
 AFX_SIMPLE_EXCEPTION(CResourceException)

@@ -1,5 +1,6 @@
 #include "toolkit/message_box.h"
 #include "baselib/gbk.h"
+#include "baselib/message_texts.h"
 #include "toolkit/app.h"
 #include "toolkit/exceptions.h"
 #include "toolkit/module.h"
@@ -17,9 +18,11 @@ HWND messageBoxOwnerM()
 
 } // namespace
 
-int AfxShowMessage(LPCWSTR text, UINT type)
+int AfxShowMessage(LPCWSTR text, UINT type, HWND owner, LPCWSTR caption)
 {
-    return ::MessageBoxW(messageBoxOwnerM(), text, slGbkToShown(AfxGetAppName()).c_str(), type);
+    const std::wstring title
+        = caption != nullptr && *caption != L'\0' ? caption : slGbkToShown(AfxGetAppName());
+    return ::MessageBoxW(owner != nullptr ? owner : messageBoxOwnerM(), text, title.c_str(), type);
 }
 
 int AfxMessageBox(LPCSTR text, UINT type, UINT)
@@ -44,5 +47,5 @@ int CException::ReportError(UINT type, UINT textId)
     if (textId != 0) {
         return AfxMessageBox(textId, type);
     }
-    return AfxMessageBox(L"\u64CD\u4F5C\u5931\u8D25\u3002", type); // 操作失败。
+    return AfxMessageBox(slWideMessageText(FailedMessage).c_str(), type);
 }

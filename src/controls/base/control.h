@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/base.h"
 #include "controls/base/control_common.h"
+#include "controls/base/control_looks.h"
 #include "controls/base/leaving.h"
 #include "controls/base/messages.h"
 #include <typeinfo>
@@ -29,6 +30,7 @@ public:
         : PlatformTP()
         , DControlCommonCL(other)
         , VrBaseCL(other)
+        , looks_(other.looks_)
     {
         InitialCommonM(nullptr); // The window is the other's.
     }
@@ -39,6 +41,7 @@ public:
             PlatformTP::DestroyWindow();
             DControlCommonCL::operator=(other);
             VrBaseCL::operator=(other);
+            looks_ = other.looks_;
             InitialCommonM(nullptr);
         }
         return *this;
@@ -78,6 +81,20 @@ public:
         return 1;
     }
 
+    // The colour of its text, at once; none: the platform's. Only for kinds with a text that the platform
+    // lets a program colour; the others ignore it. Its parent must be a window of an object.
+    void SetTextColourM(std::optional<COLORREF> colour)
+    {
+        looks_.SetTextColourM(colour);
+        if (this->m_hWnd != nullptr) {
+            this->Invalidate();
+        }
+    }
+    // What screen readers call it, in place of what the system takes for its name; none or the empty text: no
+    // such name. role: one of ROLE_SYSTEM_...; 0: the one that the window has. For the role of a push button
+    // they can press it, which is a click in its middle.
+    void SetAccessibleNameM(const ValueTextCL& name, long role = 0) { looks_.SetNameM(name, role); }
+
     // DControlCommonCL's report, not the platform's message handler of that name.
     using DControlCommonCL::OnMouseMove;
 
@@ -95,6 +112,21 @@ protected:
             InitialCommonM(this);
         }
         return created;
+    }
+
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        const bool colours = looks_.ColoursM(message);
+        const BOOL isAnswered = PlatformTP::OnChildNotify(message, wParam, lParam, result);
+        if (colours) {
+            looks_.ColourM(this, isAnswered != FALSE, message, wParam, lParam, result);
+        }
+        return colours || isAnswered;
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return looks_.NamesM(message, lParam) ? looks_.AnswerNameM(this->m_hWnd, wParam)
+                                              : PlatformTP::WindowProc(message, wParam, lParam);
     }
 
     // Posts a message with the control's id to the parent window.
@@ -118,4 +150,6 @@ protected:
             postToParentM(FocusGainedMsg);
         }
     }
+
+    ControlLooksCL looks_;
 };

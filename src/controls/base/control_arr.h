@@ -1,6 +1,62 @@
 #pragma once
 #include "containers/arr.h"
 #include "toolkit/toolkit.h"
+#include <functional>
+#include <memory>
+#include <vector>
+
+// Makes a control of the application's own class, derived from the kind's, for the description with that
+// function id; null: the library's own will do.
+template <class ControlTP> using ControlFactoryTP = std::function<std::unique_ptr<ControlTP>(int functionId)>;
+
+// The objects that stand in place of elements of an array of controls: by slot, null where the element itself
+// does. They are of classes that the array knows nothing of, and would not fit into it. They go with their
+// windows: a copy starts without.
+template <class ControlTP> class StandInsCL
+{
+public:
+    StandInsCL() = default;
+    StandInsCL(const StandInsCL&) { }
+    StandInsCL& operator=(const StandInsCL& other)
+    {
+        if (this != &other) {
+            ClearM();
+        }
+        return *this;
+    }
+    ~StandInsCL() = default;
+
+    void PutM(int i, std::unique_ptr<ControlTP> control)
+    {
+        if (static_cast<std::size_t>(i) >= controls_.size()) {
+            controls_.resize(static_cast<std::size_t>(i) + 1);
+        }
+        controls_[static_cast<std::size_t>(i)] = std::move(control);
+    }
+    ControlTP* AtM(int i) const
+    {
+        return i >= 0 && static_cast<std::size_t>(i) < controls_.size()
+            ? controls_[static_cast<std::size_t>(i)].get()
+            : nullptr;
+    }
+    void DelM(int i)
+    {
+        if (ControlTP* const control = AtM(i)) {
+            control->DelItemM(); // Also what the kind has beside its window.
+            controls_[static_cast<std::size_t>(i)] = nullptr;
+        }
+    }
+    void ClearM()
+    {
+        for (std::size_t i = 0; i < controls_.size(); ++i) {
+            DelM(static_cast<int>(i));
+        }
+        controls_.clear();
+    }
+
+private:
+    std::vector<std::unique_ptr<ControlTP>> controls_;
+};
 
 // What the runtime array of every kind does. Controls are created in place: once a window exists, the array
 // must not grow.
@@ -8,6 +64,36 @@ template <class ControlParamTP> class ControlArr : public Arr<ControlParamTP>
 {
 public:
     using ControlTP = ControlParamTP;
+
+    // From now on an object stands in place of the element at slot i of the array, whose element keeps the
+    // slot alive; the array owns the object. It stays with the slot: what moves elements doesn't move it.
+    // Null or a slot without an alive element: nothing, 0.
+    int StandInM(int i, std::unique_ptr<ControlTP> control)
+    {
+        if (control == nullptr || this->CheckAvailableM(i) == 0) {
+            return 0;
+        }
+        control->SetDeleteTagM(AliveTag);
+        standIns_.PutM(i, std::move(control));
+        return 1;
+    }
+    // The control of a slot: the object that stands there, else the element.
+    ControlTP& ControlAtM(int i)
+    {
+        ControlTP* const own = standIns_.AtM(i);
+        return own != nullptr ? *own : this->ElementAtM(i);
+    }
+    // As every array does it, with the objects that stand in place.
+    int DelItemM(int i)
+    {
+        standIns_.DelM(i);
+        return Arr<ControlParamTP>::DelItemM(i);
+    }
+    int DelAllM()
+    {
+        standIns_.ClearM();
+        return Arr<ControlParamTP>::DelAllM();
+    }
 
     // Creates the windows of the alive controls in order as children of the parent, up to the first that
     // fails. 0 when there is none, else the last result.
@@ -23,8 +109,8 @@ public:
     ControlTP* GetControlPtrM(int id)
     {
         for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-            if (this->ElementAtM(i).GetFunctionIDM() == id) {
-                return &this->ElementAtM(i);
+            if (ControlAtM(i).GetFunctionIDM() == id) {
+                return &ControlAtM(i);
             }
         }
         return nullptr;
@@ -34,7 +120,7 @@ public:
     int SetItemCmdM(int id, int command)
     {
         for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-            ControlTP& control = this->ElementAtM(i);
+            ControlTP& control = ControlAtM(i);
             if (id == -1 || control.GetFunctionIDM() == id) {
                 control.SetItemCmdM(command);
                 if (id != -1) {
@@ -52,11 +138,14 @@ protected:
     {
         int result = 0;
         for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-            result = operation(this->ElementAtM(i));
+            result = operation(ControlAtM(i));
             if (result != 1) {
                 break;
             }
         }
         return result;
     }
+
+private:
+    StandInsCL<ControlTP> standIns_;
 };

@@ -103,10 +103,10 @@ int DuRadioBoxArr::MakeGroupM()
     int current = 0;
     for (int i = first; i >= 0; i = GetNextIdxM(i)) {
         int group = 0;
-        ElementAtM(i).GetGroupNoM(&group);
+        ControlAtM(i).GetGroupNoM(&group);
         if (i == first || group != current) {
             current = group;
-            ElementAtM(i).SetGroupM(1);
+            ControlAtM(i).SetGroupM(1);
         }
     }
     return 1;
@@ -115,6 +115,6 @@ int DuRadioBoxArr::MakeGroupM()
 void DuRadioBoxArr::ShowObjectM(int index, bool show)
 {
     if (index >= 0 && index < GetBoundM()) {
-        ElementAtM(index).DControlCommonCL::ShowObjectM(show);
+        ControlAtM(index).DControlCommonCL::ShowObjectM(show);
     }
 }

@@ -37,9 +37,9 @@ int DuComboBoxArr::Create(CWnd* parent)
     if (first < 0) {
         return 0;
     }
-    int result = ElementAtM(first).Create(parent);
+    int result = ControlAtM(first).Create(parent);
     for (int i = 1; result == 1 && i < GetAvailableNumM(); ++i) {
-        result = ElementAtM(i).Create(parent);
+        result = ControlAtM(i).Create(parent);
     }
     return result;
 }
@@ -147,12 +147,24 @@ int DuComboBoxCL::SetDataSelM(int data)
 LRESULT DuComboBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = m_hWnd;
-    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    const bool colours = looks_.ColoursM(message); // Its field or its list asks.
+    LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    if (colours) {
+        looks_.ColourM(this, true, message, wParam, lParam, &result);
+    }
     // The parent may have destroyed this object.
     if (CWnd::FromHandlePermanent(window) == this) {
         followSelectionM(message, static_cast<int>(wParam), static_cast<int>(result));
     }
     return result;
+}
+
+void DuComboBoxCL::SetTextColourM(std::optional<COLORREF> colour)
+{
+    ControlCL::SetTextColourM(colour);
+    if (m_hWnd != nullptr) {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    }
 }
 
 // Keeps the item last selected known through what a message has just done to the list.

@@ -27,6 +27,8 @@ public:
     // Selects the first item with that data. Clears the selection and reports 0 when there is none.
     int SetDataSelM(int data);
 
+    void SetTextColourM(std::optional<COLORREF> colour); // Of its field and its lines (ControlCL).
+
     // The value by id: the selected line and the text, which is its own or what stands in the edit field. A
     // text selects the first line that has exactly this text; else it goes to the edit field, if there is
     // one, and no line is selected. Line and text together: the line if it still has that text, else the

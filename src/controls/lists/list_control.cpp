@@ -63,7 +63,24 @@ int DuListCtrlCL::OnCreate(LPCREATESTRUCT create)
         return -1;
     }
     SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+    platformColour_ = GetTextColor();
+    if (looks_.TextColourM()) {
+        showTextColourM();
+    }
     return 0;
+}
+
+void DuListCtrlCL::SetTextColourM(std::optional<COLORREF> colour)
+{
+    ControlCL::SetTextColourM(colour);
+    if (m_hWnd != nullptr) {
+        showTextColourM();
+    }
+}
+
+void DuListCtrlCL::showTextColourM()
+{
+    SetTextColor(looks_.TextColourM().value_or(platformColour_));
 }
 
 int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)

@@ -29,6 +29,9 @@ public:
     int GetCurSelM(int* row, int* data) const; // Without a selection the row is -1, data stays, and it is 1.
     int SetSelM(int row);                      // Leaves no other row selected; below 0: none at all.
 
+    // The colour of the rows' texts (ControlCL).
+    void SetTextColourM(std::optional<COLORREF> colour);
+
     // The value by id: the rows selected. The platform tells the parent of rows whose selection changes.
     unsigned ValuePartsM() const { return LinesPart; }
     ControlValueCL ReadValueM() const;
@@ -49,9 +52,11 @@ protected:
 
 private:
     void deselectM(int row);
+    void showTextColourM();
 
     int columns_ { 0 };
     int singleSelection_ { 1 };
+    COLORREF platformColour_ { CLR_DEFAULT }; // Of the window to begin with.
 };
 
 extern template class PANELKIT_API Arr<DuListCtrlCL>;

@@ -52,7 +52,24 @@ int DuTreeCL::OnCreate(LPCREATESTRUCT create)
     images_.DeleteImageList();
     TreePicturesCL::CreateListM(images_);
     SetImageList(&images_, TVSIL_NORMAL);
+    if (looks_.TextColourM()) {
+        showTextColourM();
+    }
     return 0;
+}
+
+void DuTreeCL::SetTextColourM(std::optional<COLORREF> colour)
+{
+    ControlCL::SetTextColourM(colour);
+    if (m_hWnd != nullptr) {
+        showTextColourM();
+    }
+}
+
+void DuTreeCL::showTextColourM()
+{
+    constexpr COLORREF Platform = static_cast<COLORREF>(-1);
+    SetTextColor(looks_.TextColourM().value_or(Platform));
 }
 
 HTREEITEM DuTreeCL::InsertItemM(

@@ -44,6 +44,7 @@ public:
     unsigned ValuePartsM() const { return PathPart; }
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
+    void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     CImageList& ImagesM() { return images_; }
     void DelItemM();
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
@@ -56,6 +57,8 @@ protected:
 
 private:
     HTREEITEM insertM(HTREEITEM parent, int data, const char* text, int selected, int normal);
+
+    void showTextColourM();
 
     TreeImagesCL images_;
 };

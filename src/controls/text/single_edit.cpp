@@ -156,21 +156,20 @@ CheckCode DuSingleEditCL::checkValueM()
     return value_.ReadM(text);
 }
 
-// What the user is told on leaving; the texts that name the type are those of the check request.
-std::string DuSingleEditCL::leftTextM(CheckCode code) const
+// What the user is told on leaving; the messages that name the type are those of the check request.
+MessageTextId DuSingleEditCL::leftMessageM(CheckCode code) const
 {
     if (code == Unreadable) {
-        return BadDataText;
+        return BadValueMessage;
     }
-    const char* const start = value_.GetTypeM() == TextType ? StringTooLongText
-        : code == BelowMinimum                              ? NumberTooSmallText
-                                                            : NumberTooLargeText;
-    return start + value_.LimitTextM(code) + MessageEnd;
+    return value_.GetTypeM() == TextType ? TextTooLongMessage
+        : code == BelowMinimum           ? NumberTooSmallMessage
+                                         : NumberTooLargeMessage;
 }
 
-bool DuSingleEditCL::tellM(const std::string& text)
+bool DuSingleEditCL::tellM(MessageTextId message)
 {
-    return slTellAboutField(this, [&text] { AfxMessageBox(text.c_str()); });
+    return slTellRefusal(this, refusal_, { SingleEditCaption, MB_OK, false }, value_.MessageM(message));
 }
 
 int DuSingleEditCL::OnCreate(LPCREATESTRUCT create)
@@ -211,7 +210,7 @@ void DuSingleEditCL::OnKillFocus(CWnd* newFocus)
         value_.ForceM(code);
         DispEditM();
     }
-    if (::IsWindow(window) && tellM(leftTextM(code))) {
+    if (::IsWindow(window) && tellM(leftMessageM(code))) {
         const ValidationPauseCL reporting(::GetParent(m_hWnd));
         sendToParentM(ValueReportMsg, -1);
     }
@@ -221,7 +220,7 @@ LRESULT DuSingleEditCL::onCheckValM(WPARAM, LPARAM)
 {
     const CheckCode code = checkValueM();
     if (code != ValidValue) {
-        tellM(value_.FaultTextM(code));
+        tellM(value_.FaultM(code));
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/leaving.h"
+#include "controls/text/refusal.h"
 #include "controls/text/typed_value.h"
 
 // A single-line edit that holds one typed value: it lets only characters of its type be typed, and checks its
@@ -47,6 +48,8 @@ public:
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
 
+    void SetRefusalM(const RefusalCL& refusal) { refusal_ = refusal; } // How a bad value is told.
+
     // 1: reads the text, the check code; else DispEditM.
     int UpdateDataM(int direction) { return direction == 1 ? checkValueM() : DispEditM(); }
     int DispEditM(); // Shows the value: 1, or 0 for an unknown type.
@@ -65,10 +68,11 @@ protected:
 
 private:
     CheckCode checkValueM();
-    std::string leftTextM(CheckCode code) const;
-    bool tellM(const std::string& text);
+    MessageTextId leftMessageM(CheckCode code) const;
+    bool tellM(MessageTextId message);
 
     TypedValueCL value_;
+    RefusalCL refusal_;
     int alignMode_ { 2 };
     int password_ { 0 };
     int readOnly_ { 0 };

@@ -1,5 +1,4 @@
 #include "controls/text/spin_edit.h"
-#include "baselib/gbk_texts.h"
 #include "controls/base/styles.h"
 #include "controls/text/spin_edit_record.h"
 
@@ -203,13 +202,13 @@ CheckCode DuSpinEditCL::steppedM(int delta, simpleValD* value) const
     return code;
 }
 
-std::string DuSpinEditCL::refusalM(CheckCode code) const
+MessageTextId DuSpinEditCL::stepMessageM(CheckCode code) const
 {
     const bool isLow = code == BelowMinimum;
-    const char* const start = value_.GetTypeM() == IntegerType ? (isLow ? IntAtMinimumText : IntAtMaximumText)
-        : isLow                                                ? FloatAtMinimumText
-                                                               : FloatAtMaximumText;
-    return start + value_.LimitTextM(code) + MessageEnd;
+    if (value_.GetTypeM() == IntegerType) {
+        return isLow ? IntAtMinimumMessage : IntAtMaximumMessage;
+    }
+    return isLow ? RealAtMinimumMessage : RealAtMaximumMessage;
 }
 
 LRESULT DuSpinEditCL::onSpinClickM(WPARAM wParam, LPARAM)
@@ -220,14 +219,18 @@ LRESULT DuSpinEditCL::onSpinClickM(WPARAM wParam, LPARAM)
     }
     updateDataM(1);
     const int delta = static_cast<int>(wParam);
+    CheckCode code = ValidValue;
     if (delta == 1 || delta == -1) {
-        const CheckCode code = steppedM(delta, &value);
+        code = steppedM(delta, &value);
         value_.SetValueM(value); // The stepped value, or the one from before the typing.
-        if (code != ValidValue && !tellM(refusalM(code))) {
+        if (code != ValidValue && !tellM(stepMessageM(code))) {
             return 0;
         }
     }
     updateDataM(0);
+    if (code != ValidValue && refusal_.selects) {
+        SetSel(0, -1); // What stood there, and was selected, has been replaced.
+    }
     return 0;
 }
 
@@ -241,11 +244,11 @@ LRESULT DuSpinEditCL::onCheckValM(WPARAM, LPARAM)
 bool DuSpinEditCL::tellCheckedM()
 {
     const CheckCode code = static_cast<CheckCode>(GetCurValM(nullptr));
-    return code == ValidValue || tellM(value_.FaultTextM(code));
+    return code == ValidValue || tellM(value_.FaultM(code));
 }
 
-bool DuSpinEditCL::tellM(const std::string& text)
+bool DuSpinEditCL::tellM(MessageTextId message)
 {
-    return slTellAboutField(
-        this, [this, &text] { MessageBox(text.c_str(), WarningCaption, MB_OK | MB_ICONEXCLAMATION); });
+    return slTellRefusal(
+        this, refusal_, { SpinEditCaption, MB_OK | MB_ICONEXCLAMATION, true }, value_.MessageM(message));
 }

@@ -2,6 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/leaving.h"
+#include "controls/text/refusal.h"
 #include "controls/text/spin_button.h"
 #include "controls/text/typed_value.h"
 
@@ -37,6 +38,8 @@ public:
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
 
+    void SetRefusalM(const RefusalCL& refusal) { refusal_ = refusal; } // How a bad value is told.
+
     DuSpinButtonCL& SpinButtonM() { return spinButton_; }
 
 protected:
@@ -53,12 +56,13 @@ protected:
 
 private:
     CheckCode steppedM(int delta, simpleValD* value) const;
-    std::string refusalM(CheckCode code) const;
-    bool tellM(const std::string& text);
+    MessageTextId stepMessageM(CheckCode code) const;
+    bool tellM(MessageTextId message);
     bool tellCheckedM();
 
     DuSpinButtonCL spinButton_;
     TypedValueCL value_;
+    RefusalCL refusal_;
     int alignMode_ { 2 };
     int spinWidth_ { 0 };
     simpleValD step_;

@@ -1,6 +1,5 @@
 #include "controls/text/typed_value.h"
 #include "baselib/gbk.h"
-#include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
 #include <algorithm>
 #include <charconv>
@@ -240,17 +239,24 @@ std::string TypedValueCL::LimitTextM(CheckCode code) const
     return text;
 }
 
-std::string TypedValueCL::FaultTextM(CheckCode code) const
+MessageTextId TypedValueCL::FaultM(CheckCode code) const
 {
     if (code == Unreadable) {
-        return BadDataText;
+        return BadValueMessage;
     }
     const bool isLow = code == BelowMinimum;
-    const char* start = StringTooLongText;
-    if (type_ == IntegerType) {
-        start = isLow ? IntTooSmallText : IntTooLargeText;
-    } else if (type_ == RealType) {
-        start = isLow ? FloatTooSmallText : FloatTooLargeText;
+    switch (type_) {
+    case IntegerType:
+        return isLow ? IntTooSmallMessage : IntTooLargeMessage;
+    case RealType:
+        return isLow ? RealTooSmallMessage : RealTooLargeMessage;
+    default:
+        return TextTooLongMessage;
     }
-    return start + LimitTextM(code) + MessageEnd;
+}
+
+std::u16string TypedValueCL::MessageM(MessageTextId id) const
+{
+    return slMessageText(
+        id, slGbkToUtf16(LimitTextM(BelowMinimum).c_str()), slGbkToUtf16(LimitTextM(AboveMaximum).c_str()));
 }

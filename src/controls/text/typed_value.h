@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/message_texts.h"
 #include "baselib/simple_value.h"
 #include "controls/base/control_value.h"
 #include "records/fields.h"
@@ -59,7 +60,8 @@ public:
     // The limit that a value with this code passes, as text.
     std::string LimitTextM(CheckCode code) const;
     // What a user is told of a value with this code, in the words that name the type.
-    std::string FaultTextM(CheckCode code) const;
+    MessageTextId FaultM(CheckCode code) const;
+    std::u16string MessageM(MessageTextId id) const; // The message with the limits of this value.
 
 private:
     void showNumberM(char* to, int size, const simpleValD& value, int which) const;
