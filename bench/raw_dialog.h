@@ -25,7 +25,7 @@ public:
         SetConfigFileM(file);
         CreateIndirect(&EmptyTemplate.header, nullptr);
     }
-    BOOL OnInitDialog() override { return TRUE; }
+    BOOL OnInitDialog() override { return FALSE; } // It takes no focus.
     void BuildM() { InitDlgM(this, 1); }
 };
 

@@ -76,16 +76,18 @@ HWND CreationHookCL::MadeM(HWND made)
     return ::IsWindow(made) ? made : nullptr;
 }
 
-bool CreationHookCL::SeeM(HWND made)
+bool CreationHookCL::SeeM(HWND made, Why why)
 {
     CreationHookCL* const hook = ThreadStateCL::ThisM().creations;
     if (hook == nullptr || hook->when_ != WhenSeen || hook->hasCaught_ || hook->WndM() == nullptr) {
         return false;
     }
-    // Of equal ids there may be an older one.
     const auto id = static_cast<UINT>(::GetDlgCtrlID(made));
-    if (id != hook->id_ || ::GetAncestor(made, GA_PARENT) != hook->parent_
-        || ::GetWindow(made, GW_HWNDNEXT) != nullptr) {
+    if (id != hook->id_ || ::GetAncestor(made, GA_PARENT) != hook->parent_) {
+        return false;
+    }
+    // Of equal ids there may be an older one; only the newest is the last child.
+    if (why == IsAskedFor && ::GetWindow(made, GW_HWNDNEXT) != nullptr) {
         return false;
     }
     hook->takeM(made);

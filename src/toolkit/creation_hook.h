@@ -17,13 +17,20 @@ public:
     CreationHookCL(const CreationHookCL&) = delete;
     CreationHookCL& operator=(const CreationHookCL&) = delete;
     bool HasCaughtM() const { return hasCaught_; }
-    // The window made, or null. WhenSeen: takes it, unless it has been taken or wnd is gone: then it goes too.
+    // The window made, or null. WhenSeen: takes it, unless it has been taken or wnd is gone: then it goes
+    // too.
     HWND MadeM(HWND made);
     CWnd* WndM() const { return life_.WndM(); } // null: gone
     // The innermost that has caught a child of that parent with that id and is not through yet; null: none.
     static const CreationHookCL* FindM(HWND parent, UINT id);
-    // WhenSeen: somebody asks for the object of this window. True: it has just been taken.
-    static bool SeeM(HWND made);
+    // WhenSeen: somebody asks for the object of this window, or the parent is told of it. True: it has just
+    // been taken.
+    enum Why
+    {
+        IsAskedFor,
+        IsTold
+    };
+    static bool SeeM(HWND made, Why why);
 
 private:
     void takeM(HWND made);

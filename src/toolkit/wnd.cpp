@@ -44,7 +44,7 @@ CWnd* WndCallsCL::FromHandlePermanent(HWND hWnd)
 {
     auto& permanent = ThreadStateCL::ThisM().permanent;
     auto found = permanent.find(hWnd);
-    if (found == permanent.end() && CreationHookCL::SeeM(hWnd)) {
+    if (found == permanent.end() && CreationHookCL::SeeM(hWnd, CreationHookCL::IsAskedFor)) {
         found = permanent.find(hWnd);
     }
     return found == permanent.end() ? nullptr : found->second;
@@ -161,9 +161,9 @@ BOOL CWnd::createM(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style,
         CreationHookCL hook(this, isLate ? &CWnd::takeLateM : &CWnd::takeMadeM, cs.hwndParent,
             static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)),
             isLate ? CreationHookCL::WhenSeen : CreationHookCL::AtFirst);
-        made = hook.MadeM(::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName,
-            static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance,
-            cs.lpCreateParams));
+        made = hook.MadeM(
+            ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
+                cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams));
         if (made == nullptr) {
             AfxLogFailure(
                 "CreateWindowEx", IS_INTRESOURCE(cs.lpszClass) ? nullptr : WideToGbk(cs.lpszClass).c_str());

@@ -1,4 +1,5 @@
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
 #include "toolkit/life.h"
 #include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
@@ -66,7 +67,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return WindowMessageCL::PassM(state, handled);
     }
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
-        CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)); // From here on its object is asked for.
+        CreationHookCL::SeeM(reinterpret_cast<HWND>(lParam), CreationHookCL::IsTold);
     }
     MSG outerMessage = state.message;
     state.message = handled;

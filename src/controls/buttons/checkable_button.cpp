@@ -19,7 +19,7 @@ int CheckableButtonCL::OnCreate(LPCREATESTRUCT create)
         return -1;
     }
     catchUpM();
-    SetWindowText(text_);
+    SetWindowText(text_.TextM());
     return 0;
 }
 

@@ -31,7 +31,12 @@ public:
     int SetRangeM(const simpleValD& range);
     int SetValueM(const simpleValD& value);
     int GetValueM(simpleValD* value) const;
-    const simpleValD& RangeM() const { return range_; }
+    // The smallest and the largest value, as the type says.
+    union LimitsCL {
+        int numbers[2];
+        float reals[2];
+    };
+    const LimitsCL& RangeM() const { return range_; }
 
     // These don't look at the type.
     void SetIntM(int value) { value_.number = value; }
@@ -64,12 +69,12 @@ public:
     std::u16string MessageM(MessageTextId id) const; // The message with the limits of this value.
 
 private:
-    void showNumberM(char* to, int size, const simpleValD& value, int which) const;
+    void showNumberM(char* to, int size, const LimitsCL& value, int which) const;
     template <class T> static CheckCode judgeM(T value, const T (&limits)[2]);
 
     int type_ { IntegerType };
     int decimals_ { 0 };
-    simpleValD range_;
+    LimitsCL range_ {};
     simpleValD value_;
 };
 
