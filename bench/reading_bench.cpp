@@ -25,8 +25,7 @@ void fail(const char* what)
 
 void print(const char* name, double value)
 {
-    std::printf(
-        "{\"name\": \"%s\", \"value\": %.3f, \"unit\": \"ratio\", \"better\": \"less\"}\n", name, value);
+    std::printf("{\"name\":\"%s\",\"value\":%.3f,\"unit\":\"ratio\",\"better\":\"lower\"}\n", name, value);
 }
 
 void write(const std::string& bytes)

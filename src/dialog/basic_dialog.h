@@ -198,17 +198,19 @@ private:
     template <class FunctionTP> bool withControlM(int id, FunctionTP&& see);
     void fillIndexM();
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
-    void initM(CWnd* parent, int mode);
+    void initM(VrIOCL& io, CWnd* parent, int mode);
     void beginDiagnosticsM();
     bool givePainterM(int id, const PainterTP& painter);
     void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
-    template <class RowTP> void buildKindM(CWnd* parent);
+    template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    Int2DArr stackedM();
-    void initCtrlZOrderM(CWnd* parent);
-    void setItemFontM(CWnd* parent, int fontOption);
+    struct StepCL;
+    std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
+    void finishM(CWnd* parent, int mode);
+    void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
     void setTxtLstBoxItemHeightM();
+    bool partM();
     bool hasControlsM();
     bool showLooksM(int id);
     void showRefusalM();
@@ -236,6 +238,7 @@ private:
     RefusalCL refusal_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
+    bool isParted_ { false }; // The controls only wait for their windows to go; nobody finds them any more.
 };
 
 template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<ControlTP> make)
@@ -254,6 +257,9 @@ template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<Co
 // Calls see(row, controls) with the runtime array of every kind, in member order.
 template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see)
 {
+    if (isParted_) {
+        return;
+    }
     slEachKind([this, &see](auto row) { see(row, std::get<KindMembersCL<decltype(row)>>(kinds_).controls); });
 }
 
@@ -261,10 +267,10 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
 // Whether there is one.
 template <class FunctionTP> bool DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
 {
-    if (!index_.IsFilledM()) {
+    if (!index_.IsFilledM(0)) {
         fillIndexM();
     }
-    for (const ControlIndexCL::PlaceCL& place : index_.PlacesM(id)) {
+    for (const auto& [placeId, place] : index_.PlacesM(id)) {
         bool found = false;
         int number = 0;
         const int slot = place.slot;

@@ -8,12 +8,13 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     }
     builtIn_ = parent->GetSafeHwnd();
     beginDiagnosticsM();
-    initM(parent, mode);
-    slEachKindAsBuilt([this, parent](auto row) { buildKindM<decltype(row)>(parent); });
-    if (mode == 1) {
-        initCtrlZOrderM(parent);
+    {
+        VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
+        openFileM(io);
+        initM(io, parent, mode);
+        slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
     }
-    setItemFontM(parent, header_.fontOption);
+    finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
@@ -28,10 +29,8 @@ HWND DuBasicDialogCL::parentM() const
     return ::IsWindow(builtIn_) ? builtIn_ : m_hWnd;
 }
 
-void DuBasicDialogCL::initM(CWnd* parent, int mode)
+void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
 {
-    VrIOCL io;
-    openFileM(io);
     if (slReadDialogHeader(io, header_) == 0) {
         return;
     }
@@ -53,7 +52,7 @@ void DuBasicDialogCL::initM(CWnd* parent, int mode)
 
 void DuBasicDialogCL::fillIndexM()
 {
-    index_.BeginM();
+    index_.RememberM(0);
     int number = 0;
     eachControlsM([this, &number](auto, auto& controls) {
         for (int i = 0; i < controls.GetBoundM(); ++i) {
@@ -61,21 +60,17 @@ void DuBasicDialogCL::fillIndexM()
         }
         ++number;
     });
+    index_.EndM();
 }
 
-// Reads the records of one kind, then makes and fills its controls. The file is closed before any window
-// exists: a control may open it again.
-template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
+// Reads the records of one kind, then makes and fills its controls.
+template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent)
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
     auto& [controls, records, make] = std::get<KindMembersCL<RowTP>>(kinds_);
     int count = 0;
-    {
-        VrIOCL io;
-        openFileM(io);
-        if (slReadSection(io, records, &count) != SectionStatus::Read) {
-            return;
-        }
+    if (slReadSection(io, records, &count) != SectionStatus::Read) {
+        return;
     }
     if constexpr (!RowTP::Records::Secondaries.empty()) {
         count = records.GetAvailableNumM();
@@ -92,7 +87,6 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(CWnd* parent)
                 i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
         }
         (records.*RowTP::InitM)(i, &controls.ControlAtM(i));
-        controls.ControlAtM(i).CountIdChangesM(index_.ChangesM());
     }
     controls.Create(parent);
     controls.AfterCreateM();

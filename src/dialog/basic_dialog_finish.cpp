@@ -1,94 +1,144 @@
 // The passes over all controls once they exist: stacking order and font.
-#include "containers/int2d_arr.h"
 #include "dialog/basic_dialog.h"
 #include "dialog/dialog_font.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
 
+// What the passes do with one control: the topmost child with its id.
+struct DuBasicDialogCL::StepCL
+{
+    int windowIndex;
+    HWND window;
+    int place;     // Among its siblings, from the top down.
+    bool isOfKind; // The window belongs to a control of the library's own class.
+};
+
 namespace {
+
+struct ChildCL
+{
+    HWND window;
+    int place;
+};
 
 // For each control id the topmost child with it: what a look-up by id finds. One pass over the children,
 // where a look-up for each would be a pass each.
-std::unordered_map<int, HWND> topmostById(const CWnd* parent)
+std::unordered_map<int, ChildCL> topmostById(const CWnd* parent, int* children)
 {
-    std::unordered_map<int, HWND> found;
+    std::unordered_map<int, ChildCL> found;
+    *children = 0;
     for (HWND child = ::GetWindow(parent->m_hWnd, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
-        found.emplace(::GetDlgCtrlID(child), child);
+        found.emplace(::GetDlgCtrlID(child), ChildCL { child, (*children)++ });
     }
     return found;
 }
 
+// The most of these windows, in this order from the top down, that may stay where they are while the others
+// are moved: their places rise, and none lies below one of the windows that are to come last.
+std::vector<bool> stayingM(const std::vector<ChildCL>& order, int siblings)
+{
+    std::vector<bool> isListed(static_cast<std::size_t>(siblings), false);
+    for (const ChildCL& child : order) {
+        isListed[static_cast<std::size_t>(child.place)] = true;
+    }
+    const int limit = static_cast<int>(std::find(isListed.begin(), isListed.end(), false) - isListed.begin());
+    // The longest rising row of places: ends[k] is the lowest last one of those with k + 1 windows.
+    std::vector<int> ends;
+    std::vector<int> lengths(order.size(), 0);
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        if (order[i].place < limit) {
+            const auto at = std::lower_bound(ends.begin(), ends.end(), order[i].place);
+            lengths[i] = static_cast<int>(at - ends.begin()) + 1;
+            at == ends.end() ? ends.push_back(order[i].place) : static_cast<void>(*at = order[i].place);
+        }
+    }
+    std::vector<bool> staying(order.size(), false);
+    int wanted = static_cast<int>(ends.size());
+    int below = siblings;
+    for (std::size_t i = order.size(); i-- > 0 && wanted > 0;) {
+        if (lengths[i] == wanted && order[i].place < below) {
+            staying[i] = true;
+            below = order[i].place;
+            --wanted;
+        }
+    }
+    return staying;
+}
+
+// Stacks windows above all their siblings, in this order from the top down.
+void stackM(const std::vector<ChildCL>& order, int siblings, UINT flags)
+{
+    const std::vector<bool> staying = stayingM(order, siblings);
+    HWND above = HWND_TOP;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        if (!staying[i]) {
+            ::SetWindowPos(
+                order[i].window, above, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | flags);
+        }
+        above = order[i].window;
+    }
+}
+
 } // namespace
 
-// (window index, function id) of the controls that the passes take, in order of collection.
-Int2DArr DuBasicDialogCL::stackedM()
+// In order of collection.
+std::vector<DuBasicDialogCL::StepCL> DuBasicDialogCL::stepsM(CWnd* parent, int* siblings)
 {
-    Int2DArr pairs;
-    slEachKind([this, &pairs](auto row) {
-        using RowTP = decltype(row);
-        if constexpr (RowTP::CanM(Stacked)) {
-            auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
+    std::vector<StepCL> steps;
+    const auto windows = topmostById(parent, siblings);
+    eachControlsM([&steps, &windows](auto row, auto& controls) {
+        if constexpr (decltype(row)::CanM(Stacked)) {
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-                const int pair[2]
-                    = { controls.ControlAtM(i).GetWinIdxM(), controls.ControlAtM(i).GetFunctionIDM() };
-                pairs.AddItemM(pair);
+                const auto& control = controls.ControlAtM(i);
+                const auto found = windows.find(control.GetFunctionIDM());
+                if (found != windows.end()) {
+                    const ChildCL& child = found->second;
+                    steps.push_back({ control.GetWinIdxM(), child.window, child.place,
+                        child.window == control.m_hWnd && slIsJust(control) });
+                }
             }
         }
     });
-    return pairs;
+    return steps;
 }
 
-// Stacks the controls by ascending window index, equal ones as collected. Each step looks up its id and moves
-// what it finds just behind the step before; as moved windows are above all others, an id always finds the
-// window that was topmost at first, and the last step with that id decides where it stays.
-void DuBasicDialogCL::initCtrlZOrderM(CWnd* parent)
+// Mode 1 stacks the controls by ascending window index, equal ones as collected. Each step looks up its id
+// and would move what it finds just behind the step before; as moved windows are above all others, an id
+// always finds the window that was topmost at first, and the last step with that id decides where it stays.
+void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 {
-    struct StepCL
-    {
-        int windowIndex;
-        HWND window;
-    };
-    const auto windows = topmostById(parent);
-    const Int2DArr pairs = stackedM();
-    std::vector<StepCL> steps;
-    for (int i = 0; i < pairs.GetBoundM(); ++i) {
-        const int* pair = pairs.GetItemPM(i);
-        const auto found = windows.find(pair[1]);
-        if (found != windows.end()) {
-            steps.push_back({ pair[0], found->second });
+    int siblings = 0;
+    const std::vector<StepCL> steps = stepsM(parent, &siblings);
+    const bool isShown = ::IsWindowVisible(parent->m_hWnd) != FALSE;
+    if (mode == 1) {
+        std::vector<StepCL> sorted = steps;
+        std::stable_sort(sorted.begin(), sorted.end(),
+            [](const StepCL& a, const StepCL& b) { return a.windowIndex < b.windowIndex; });
+        std::vector<bool> isPlaced(static_cast<std::size_t>(siblings), false);
+        std::vector<ChildCL> order; // From the last to the first.
+        for (auto step = sorted.rbegin(); step != sorted.rend(); ++step) {
+            if (!isPlaced[static_cast<std::size_t>(step->place)]) {
+                isPlaced[static_cast<std::size_t>(step->place)] = true;
+                order.push_back({ step->window, step->place });
+            }
         }
+        std::reverse(order.begin(), order.end());
+        // Of a hidden dialog nothing is to be drawn.
+        stackM(order, siblings, isShown ? 0 : SWP_NOREDRAW | SWP_DEFERERASE);
     }
-    std::stable_sort(steps.begin(), steps.end(),
-        [](const StepCL& a, const StepCL& b) { return a.windowIndex < b.windowIndex; });
-    // Windows of the steps in final order, from the last to the first.
-    std::unordered_map<HWND, bool> placed;
-    std::vector<HWND> order;
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
-        if (placed.emplace(step->window, true).second) {
-            order.push_back(step->window);
-        }
-    }
-    HWND anchor = HWND_TOP;
-    for (auto window = order.rbegin(); window != order.rend(); ++window) {
-        ::SetWindowPos(*window, anchor, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
-        anchor = *window;
-    }
+    setItemFontM(steps, isShown);
 }
 
-void DuBasicDialogCL::setItemFontM(CWnd* parent, int fontOption)
+void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
-    const LOGFONTA font = slDialogFont(fontOption);
+    const LOGFONTA font = slDialogFont(header_.fontOption);
     font_.DeleteObject();
     font_.CreateFontIndirect(&font);
-    const auto windows = topmostById(parent);
-    const Int2DArr pairs = stackedM();
-    for (int i = 0; i < pairs.GetBoundM(); ++i) {
-        const auto found = windows.find(pairs.GetItemPM(i)[1]);
-        if (found != windows.end()) {
-            ::SendMessageW(found->second, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()), TRUE);
-        }
+    for (const StepCL& step : steps) {
+        ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
+            isShown || !step.isOfKind ? TRUE : FALSE);
     }
 }
 

@@ -3,16 +3,19 @@
 #include "toolkit/thread_state.h"
 #include <utility>
 
-CreationHookCL::CreationHookCL(CWnd* wnd, TakeTP take, HWND parent, UINT id)
+CreationHookCL::CreationHookCL(CWnd* wnd, TakeTP take, HWND parent, UINT id, When when)
     : life_(wnd)
     , take_(take)
     , parent_(parent)
     , id_(id)
+    , when_(when)
 {
     ThreadStateCL& state = ThreadStateCL::ThisM();
     outer_ = state.creations;
     state.creations = this;
-    hook_ = ::SetWindowsHookExW(WH_CBT, &CreationHookCL::procM, nullptr, ::GetCurrentThreadId());
+    if (when == AtFirst) {
+        hook_ = ::SetWindowsHookExW(WH_CBT, &CreationHookCL::procM, nullptr, ::GetCurrentThreadId());
+    }
 }
 
 CreationHookCL::~CreationHookCL()
@@ -46,13 +49,49 @@ LRESULT CreationHookCL::catchM(WPARAM wParam, LPARAM lParam)
     if (WndM() == nullptr || refusal != 0) {
         return refusal;
     }
+    takeM(reinterpret_cast<HWND>(wParam));
+    return 0;
+}
+
+void CreationHookCL::takeM(HWND made)
+{
     hasCaught_ = true;
     try {
-        take_(WndM(), reinterpret_cast<HWND>(wParam));
+        take_(WndM(), made);
     } catch (...) {
-        AfxAnswerException({ reinterpret_cast<HWND>(wParam), WM_NULL, 0, 0, 0, {} });
+        AfxAnswerException({ made, WM_NULL, 0, 0, 0, {} });
     }
-    return 0;
+}
+
+HWND CreationHookCL::MadeM(HWND made)
+{
+    if (when_ == AtFirst || hasCaught_ || made == nullptr) {
+        return made;
+    }
+    if (WndM() == nullptr) {
+        ::DestroyWindow(made);
+        return nullptr;
+    }
+    takeM(made);
+    return ::IsWindow(made) ? made : nullptr;
+}
+
+bool CreationHookCL::SeeM(HWND made, Why why)
+{
+    CreationHookCL* const hook = ThreadStateCL::ThisM().creations;
+    if (hook == nullptr || hook->when_ != WhenSeen || hook->hasCaught_ || hook->WndM() == nullptr) {
+        return false;
+    }
+    const auto id = static_cast<UINT>(::GetDlgCtrlID(made));
+    if (id != hook->id_ || ::GetAncestor(made, GA_PARENT) != hook->parent_) {
+        return false;
+    }
+    // Of equal ids there may be an older one; only the newest is the last child.
+    if (why == IsAskedFor && ::GetWindow(made, GW_HWNDNEXT) != nullptr) {
+        return false;
+    }
+    hook->takeM(made);
+    return true;
 }
 
 const CreationHookCL* CreationHookCL::FindM(HWND parent, UINT id)

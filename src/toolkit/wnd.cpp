@@ -44,6 +44,9 @@ CWnd* WndCallsCL::FromHandlePermanent(HWND hWnd)
 {
     auto& permanent = ThreadStateCL::ThisM().permanent;
     auto found = permanent.find(hWnd);
+    if (found == permanent.end() && CreationHookCL::SeeM(hWnd, CreationHookCL::IsAskedFor)) {
+        found = permanent.find(hWnd);
+    }
     return found == permanent.end() ? nullptr : found->second;
 }
 
@@ -110,6 +113,15 @@ void CWnd::takeMadeM(CWnd* wnd, HWND made)
     wnd->SubclassWindow(made);
 }
 
+void CWnd::takeLateM(CWnd* wnd, HWND made)
+{
+    const LifeCL life(wnd);
+    wnd->SubclassWindow(made);
+    if (life.IsAliveM() && wnd->m_hWnd == made) {
+        wnd->catchUpM();
+    }
+}
+
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
 {
     return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
@@ -145,10 +157,13 @@ BOOL CWnd::createM(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style,
     HWND made = nullptr;
     bool hasCaught = false;
     if (PreCreateWindow(cs)) {
-        CreationHookCL hook(
-            this, &CWnd::takeMadeM, cs.hwndParent, static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)));
-        made = ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
-            cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
+        const bool isLate = (cs.style & WS_CHILD) != 0 && !hearsCreationM();
+        CreationHookCL hook(this, isLate ? &CWnd::takeLateM : &CWnd::takeMadeM, cs.hwndParent,
+            static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu)),
+            isLate ? CreationHookCL::WhenSeen : CreationHookCL::AtFirst);
+        made = hook.MadeM(
+            ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
+                cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams));
         if (made == nullptr) {
             AfxLogFailure(
                 "CreateWindowEx", IS_INTRESOURCE(cs.lpszClass) ? nullptr : WideToGbk(cs.lpszClass).c_str());

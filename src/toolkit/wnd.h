@@ -119,6 +119,10 @@ protected:
     // the window stays.
     bool letGoOfWindowM();
     static void takeMadeM(CWnd* wnd, HWND made); // the window that was asked for, before its first message
+    // Whether the object is to hear what its window is told while it is being made. false: it gets the window
+    // only then, yet before anybody can ask for it, and catchUpM does what its handlers would have done.
+    virtual bool hearsCreationM() const { return true; }
+    virtual void catchUpM() { }
     // EndModalLoop counts from the beginning, which may lie before the window, to the end.
     void beginModalM();
 
@@ -133,6 +137,7 @@ private:
     explicit CWnd(HWND place) { m_hWnd = place; }
     bool isPlaceM() const; // one of wndTop and its kin, or empty
     void takeMessagesM();
+    static void takeLateM(CWnd* wnd, HWND made);
     static HMENU idM(UINT id) { return reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)); }
     BOOL createM(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, int x, int y, int width,
         int height, HWND parent, HMENU idOrMenu, LPVOID param);

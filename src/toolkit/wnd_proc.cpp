@@ -1,4 +1,5 @@
 #include "toolkit/app.h"
+#include "toolkit/creation_hook.h"
 #include "toolkit/life.h"
 #include "toolkit/thread_state.h"
 #include "toolkit/wnd.h"
@@ -64,6 +65,9 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
     if (wnd == nullptr || state.left.count(hWnd) != 0) {
         return WindowMessageCL::PassM(state, handled);
+    }
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
+        CreationHookCL::SeeM(reinterpret_cast<HWND>(lParam), CreationHookCL::IsTold);
     }
     MSG outerMessage = state.message;
     state.message = handled;

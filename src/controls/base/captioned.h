@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/char_arr.h"
 #include "baselib/gbk.h"
 #include "controls/base/control.h"
 #include "records/fields.h"
@@ -10,14 +11,16 @@ public:
     using ControlCL<PlatformTP>::ControlCL;
 
     using PlatformTP::Create;
-    int Create(CWnd* parent) { return this->createM(parent, text_); }
+    int Create(CWnd* parent) { return this->createM(parent, text_.TextM()); }
 
 protected:
     // For the window to come: 1. 0, and no change, for null.
     int keepTextM(const char* text)
     {
         if (text != nullptr) {
-            slCopyText(text_, TextSize, text);
+            char cut[TextSize];
+            slCopyText(cut, TextSize, text);
+            text_.SetM(cut);
         }
         return text != nullptr ? 1 : 0;
     }
@@ -26,10 +29,10 @@ protected:
     {
         const int result = keepTextM(text);
         if (result == 1 && this->m_hWnd != nullptr) {
-            this->SetWindowText(text_);
+            this->SetWindowText(text_.TextM());
         }
         return result;
     }
 
-    char text_[TextSize] {}; // The caption.
+    CharArr text_; // The caption.
 };

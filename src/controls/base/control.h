@@ -4,6 +4,14 @@
 #include "controls/base/control_looks.h"
 #include "controls/base/leaving.h"
 #include "controls/base/messages.h"
+#include <typeinfo>
+
+// Whether a control is of the kind itself, not of a class that an application has derived from it. What the
+// window system tells only the window of such a control while it is being made matters to nobody.
+template <class KindTP> bool slIsJust(const KindTP& control)
+{
+    return typeid(control) == typeid(KindTP);
+}
 
 // What every kind of control is made of, in this order: a platform control, the common base, the element
 // base; with what all kinds do alike. Copying copies the description, never the window.

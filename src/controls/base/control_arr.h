@@ -1,5 +1,6 @@
 #pragma once
 #include "containers/arr.h"
+#include "controls/base/id_index.h"
 #include "controls/base/stand_ins.h"
 #include <functional>
 #include <memory>
@@ -25,6 +26,7 @@ public:
         }
         control->SetDeleteTagM(AliveTag);
         standIns_.PutM(i, std::move(control));
+        index_.ForgetM();
         return 1;
     }
     // The control of a slot: the object that stands there, else the element.
@@ -58,6 +60,14 @@ public:
     // The first alive control with that function id, or null. The array keeps it.
     ControlTP* GetControlPtrM(int id)
     {
+        if (findIndexedM()) {
+            for (const auto& [slotId, slot] : index_.PlacesM(id)) {
+                if (this->CheckAvailableM(slot) == 1 && ControlAtM(slot).GetFunctionIDM() == id) {
+                    return &ControlAtM(slot);
+                }
+            }
+            return nullptr;
+        }
         for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
             if (ControlAtM(i).GetFunctionIDM() == id) {
                 return &ControlAtM(i);
@@ -69,13 +79,13 @@ public:
     // Gives the command to the first control with that id, to every control for -1. 0 for an empty array.
     int SetItemCmdM(int id, int command)
     {
-        for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-            ControlTP& control = ControlAtM(i);
-            if (id == -1 || control.GetFunctionIDM() == id) {
-                control.SetItemCmdM(command);
-                if (id != -1) {
-                    break;
-                }
+        if (id != -1) {
+            if (ControlTP* const control = GetControlPtrM(id)) {
+                control->SetItemCmdM(command);
+            }
+        } else {
+            for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
+                ControlAtM(i).SetItemCmdM(command);
             }
         }
         return this->GetAvailableNumM() > 0 ? 1 : 0;
@@ -97,5 +107,24 @@ protected:
     }
 
 private:
+    // Whether the index can answer. It is filled by the second look-up since the last change.
+    bool findIndexedM()
+    {
+        const int bound = this->GetBoundM();
+        if (index_.IsFilledM(bound)) {
+            return true;
+        }
+        const bool isWorthWhile = index_.IsKnownM(bound);
+        index_.RememberM(bound);
+        if (isWorthWhile) {
+            for (int i = 0; i < bound; ++i) {
+                index_.AddM(ControlAtM(i).GetFunctionIDM(), i);
+            }
+            index_.EndM();
+        }
+        return isWorthWhile;
+    }
+
     StandInsCL<ControlTP> standIns_;
+    IdIndexCL<int> index_;
 };

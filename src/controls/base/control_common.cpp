@@ -1,7 +1,23 @@
 #include "controls/base/control_common.h"
 #include "baselib/gbk.h"
 #include "controls/base/messages.h"
-#include <cstring>
+#include <atomic>
+
+namespace {
+
+std::atomic<unsigned> idChanges { 0 };
+
+} // namespace
+
+void IdChangesCL::AddM()
+{
+    idChanges.fetch_add(1, std::memory_order_relaxed);
+}
+
+unsigned IdChangesCL::CountM()
+{
+    return idChanges.load(std::memory_order_relaxed);
+}
 
 DControlCommonCL::~DControlCommonCL() = default;
 
@@ -14,7 +30,7 @@ DControlCommonCL& DControlCommonCL::operator=(const DControlCommonCL& other)
     SetSizeM(other.size_);
     SetFunctionIDM(other.functionId_);
     showCondition_ = other.showCondition_;
-    std::memmove(descript_, other.descript_, sizeof descript_);
+    descript_ = other.descript_;
     return *this;
 }
 
@@ -27,7 +43,9 @@ void DControlCommonCL::SetBaseInfoM(int windowIndex, int selfIndex, int function
 
 void DControlCommonCL::SetDescriptM(const char* text)
 {
-    slCopyText(descript_, DescriptSize, text);
+    char cut[DescriptSize];
+    slCopyText(cut, DescriptSize, text);
+    descript_.SetM(cut);
 }
 
 int DControlCommonCL::AddRelationItemM(int a, int b, int c)
@@ -75,5 +93,5 @@ void DControlCommonCL::OnMouseMove(CWnd* target, UINT, const CPoint& point)
     }
     PointerReportCL report { static_cast<int>(onScreen.x), static_cast<int>(onScreen.y), window_ };
     target->SendMessage(
-        PointerReportMsg, reinterpret_cast<WPARAM>(&report), reinterpret_cast<LPARAM>(descript_));
+        PointerReportMsg, reinterpret_cast<WPARAM>(&report), reinterpret_cast<LPARAM>(descript_.TextM()));
 }

@@ -1,6 +1,8 @@
 #pragma once
+#include "baselib/char_arr.h"
 #include "containers/int3d_arr.h"
 #include "controls/base/accessors.h"
+#include "controls/base/id_index.h"
 #include "toolkit/toolkit.h"
 #include <algorithm>
 
@@ -10,30 +12,6 @@ inline int slWindowLength(int length)
     constexpr int Most = 32767;
     return std::clamp(length, -Most, Most);
 }
-
-// Where changes of a control's id are counted, for who keeps controls by id. It stays with its control: a
-// copy counts nowhere.
-class IdChangesCL
-{
-public:
-    IdChangesCL() = default;
-    IdChangesCL(const IdChangesCL&) { }
-    IdChangesCL& operator=(const IdChangesCL&) { return *this; }
-    ~IdChangesCL() = default;
-
-    // Null: nowhere. The caller keeps it.
-    void CountInM(unsigned* count) { count_ = count; }
-    // The id has changed.
-    void AddM() const
-    {
-        if (count_ != nullptr) {
-            ++*count_;
-        }
-    }
-
-private:
-    unsigned* count_ { nullptr };
-};
 
 // What the host and the application know of any control: ids, described place, window, relations.
 // Lengths are pixels. Without a live window the geometry getters give 0 and the setters do nothing.
@@ -56,14 +34,14 @@ public:
     // The function id, which becomes the window's id when that is created.
     void SetFunctionIDM(int id)
     {
-        functionId_ = id;
-        idChanges_.AddM();
+        if (functionId_ != id) {
+            functionId_ = id;
+            IdChangesCL::AddM();
+        }
     }
     int GetFunctionIDM() const { return functionId_; }
     // All three at once.
     void SetBaseInfoM(int windowIndex, int selfIndex, int functionId);
-    // Where each new function id is counted; null: nowhere. The caller keeps it.
-    void CountIdChangesM(unsigned* count) { idChanges_.CountInM(count); }
     // When the control is shown, in the application's own terms; only kept.
     void SetShowConditionM(int condition) { showCondition_ = condition; }
     int GetShowConditionM() const { return showCondition_; }
@@ -79,7 +57,7 @@ public:
     // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character; null is
     // empty.
     void SetDescriptM(const char* text);
-    const char* GetDescriptM() const { return descript_; }
+    const char* GetDescriptM() const { return descript_.TextM(); } // Valid until it is set anew.
 
     int AddRelationItemM(int a, int b, int c); // The index of the new triple.
     // All triples; the control keeps them.
@@ -156,8 +134,7 @@ private:
     int functionId_ { 0 };
     int showCondition_ { 0 };
     int legalFlag_ { 0 };
-    char descript_[DescriptSize] {};
-    IdChangesCL idChanges_;
+    CharArr descript_;
 };
 
 // What wParam of message 3044 points to: the pointer in screen coordinates and the control under it.

@@ -2,7 +2,7 @@
 
 BOOL PictureStaticCL::PreCreateWindow(CREATESTRUCT& create)
 {
-    create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    create.style |= WS_CHILD | WS_VISIBLE | WS_TABSTOP | SS_NOTIFY;
     return CStatic::PreCreateWindow(create);
 }
 

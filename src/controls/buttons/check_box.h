@@ -13,6 +13,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     // It was clicked.
     afx_msg void onClickedM() { postToParentM(CheckClickedMsg); }
     DECLARE_MESSAGE_MAP()

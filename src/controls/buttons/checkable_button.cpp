@@ -18,9 +18,14 @@ int CheckableButtonCL::OnCreate(LPCREATESTRUCT create)
     if (CButton::OnCreate(create) == -1) {
         return -1;
     }
+    catchUpM();
+    SetWindowText(text_.TextM());
+    return 0;
+}
+
+void CheckableButtonCL::catchUpM()
+{
     if (initCheck_ == 1) {
         SetCheck(1);
     }
-    SetWindowText(text_);
-    return 0;
 }

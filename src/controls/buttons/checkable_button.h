@@ -18,6 +18,7 @@ public:
     ControlValueCL ReadValueM() const;
 
 protected:
+    void catchUpM() override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     DECLARE_MESSAGE_MAP()
 

@@ -19,6 +19,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     // It was clicked.
     afx_msg void onClickedM() { sendToParentM(ButtonActionMsg); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }

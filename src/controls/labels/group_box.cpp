@@ -27,6 +27,6 @@ int DuGroupBoxCL::OnCreate(LPCREATESTRUCT create)
     if (CButton::OnCreate(create) == -1) {
         return -1;
     }
-    SetWindowText(text_);
+    SetWindowText(text_.TextM());
     return 0;
 }

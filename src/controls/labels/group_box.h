@@ -13,6 +13,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     afx_msg int OnCreate(LPCREATESTRUCT create);
     DECLARE_MESSAGE_MAP()
 };

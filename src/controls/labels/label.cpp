@@ -24,7 +24,7 @@ int DVrLabelCL::InitLabelM(DuLabelCL* control) const
 
 BOOL DuLabelCL::PreCreateWindow(CREATESTRUCT& create)
 {
-    create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP;
+    create.style |= WS_CHILD | WS_VISIBLE | WS_GROUP | SS_NOTIFY;
     slSetEdge(create, edge_);
     slSetAlignment(create, alignMode_);
     return CStatic::PreCreateWindow(create);

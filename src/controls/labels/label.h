@@ -26,6 +26,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     void PreSubclassWindow() override;
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);

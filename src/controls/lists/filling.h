@@ -24,7 +24,9 @@ public:
     {
         if (control_ != nullptr) {
             control_->SetRedraw(TRUE);
-            control_->Invalidate();
+            if (control_->IsWindowVisible()) {
+                control_->Invalidate();
+            }
         }
     }
 

@@ -34,6 +34,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
+    void catchUpM() override { SetItemHeightM(); }
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
     DECLARE_MESSAGE_MAP()

@@ -35,6 +35,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnChange();
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }

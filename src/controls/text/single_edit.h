@@ -56,6 +56,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
+    void catchUpM() override { DispEditM(); }
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKillFocus(CWnd* newFocus);

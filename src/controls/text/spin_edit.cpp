@@ -184,7 +184,7 @@ template <class T> CheckCode judgeStep(T value, const T (&limits)[2], bool isDow
 // Steps *value: 1 is the lower arrow, -1 the upper one. Where the result is out of range, *value stays.
 CheckCode DuSpinEditCL::steppedM(int delta, simpleValD* value) const
 {
-    const simpleValD& range = value_.RangeM();
+    const TypedValueCL::LimitsCL& range = value_.RangeM();
     if (value_.GetTypeM() == IntegerType) {
         const long long limits[2] = { range.numbers[0], range.numbers[1] };
         const long long stepped = value_.IntM() - static_cast<long long>(delta) * step_.number;

@@ -42,7 +42,7 @@ int TypedValueCL::SetRangeM(const simpleValD& range)
         return 0;
     }
     // The bytes of two ints are those of two reals.
-    std::copy_n(range.text, sizeof range.numbers, range_.text);
+    std::memcpy(&range_, range.text, sizeof range_);
     return 1;
 }
 
@@ -198,12 +198,14 @@ int TypedValueCL::ShowM(char* to, int size) const
         slCopyText(to, size, value_.text);
         return 1;
     }
-    showNumberM(to, size, value_, 0);
+    LimitsCL number;
+    std::memcpy(&number, value_.text, sizeof number);
+    showNumberM(to, size, number, 0);
     return isNumberType(type_) ? 1 : 0;
 }
 
 // One of the two numbers of a value or range; the locale doesn't matter.
-void TypedValueCL::showNumberM(char* to, int size, const simpleValD& value, int which) const
+void TypedValueCL::showNumberM(char* to, int size, const LimitsCL& value, int which) const
 {
     char text[TextSize];
     char* end = text;

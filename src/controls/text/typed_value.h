@@ -33,8 +33,13 @@ public:
     int SetValueM(const simpleValD& value);
     // Gives the value, by type: 1; 0, and nothing is written, for an unknown type or null.
     int GetValueM(simpleValD* value) const;
+    // The smallest and the largest value, as the type says.
+    union LimitsCL {
+        int numbers[2];
+        float reals[2];
+    };
     // Minimum and maximum.
-    const simpleValD& RangeM() const { return range_; }
+    const LimitsCL& RangeM() const { return range_; }
 
     // These don't look at the type.
     void SetIntM(int value) { value_.number = value; }
@@ -67,12 +72,12 @@ public:
     std::u16string MessageM(MessageTextId id) const; // The message with the limits of this value.
 
 private:
-    void showNumberM(char* to, int size, const simpleValD& value, int which) const;
+    void showNumberM(char* to, int size, const LimitsCL& value, int which) const;
     template <class T> static CheckCode judgeM(T value, const T (&limits)[2]);
 
     int type_ { IntegerType };
     int decimals_ { 0 };
-    simpleValD range_;
+    LimitsCL range_ {};
     simpleValD value_;
 };
 

@@ -1,0 +1,45 @@
+#pragma once
+#include "timing.h"
+#include <cstdio>
+#include <string>
+
+// One line a measure, as scripts/bench collects them.
+inline void tell(const std::string& name, double value, const char* unit, const char* better = "lower")
+{
+    std::printf("{\"name\":\"%s\",\"value\":%.3f,\"unit\":\"%s\",\"better\":\"%s\"}\n", name.c_str(), value,
+        unit, better);
+    std::fflush(stdout);
+}
+
+// How many times as long `mine` takes as `other`; both were taken in turn.
+inline void tellRatio(
+    const std::string& name, const std::vector<double>& mine, const std::vector<double>& other)
+{
+    std::fprintf(stderr, "%s: %.1f ms, %.1f ms\n", name.c_str(), median(mine) * 1000, median(other) * 1000);
+    tell(name, median(mine) / median(other), "x");
+}
+
+template <class FunctionTP> double secondsOf(FunctionTP&& run)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    run();
+    return secondsSince(begin);
+}
+
+#ifdef _WIN32
+#include <windows.h>
+
+// Lets a trace of the server's requests say where a part begins and ends: it shows the names that are asked
+// for.
+inline void markRequest(const std::string& name)
+{
+    ::OpenEventA(SYNCHRONIZE, FALSE, name.c_str());
+}
+
+template <class FunctionTP> void markTrace(const std::string& name, FunctionTP&& run)
+{
+    markRequest("panelkit-begin-" + name);
+    run();
+    markRequest("panelkit-end-" + name);
+}
+#endif
