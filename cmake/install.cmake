@@ -1,6 +1,6 @@
 # cmake --install gives a folder that may be moved: programs and panelkit.dll in bin, what a linker, CMake and
 # pkg-config need in lib, the headers, the docs.
-install(DIRECTORY docs/ DESTINATION share/doc/panelkit)
+install(DIRECTORY docs/ DESTINATION share/doc/panelkit PATTERN doxygen EXCLUDE)
 install(FILES CHANGELOG.md DESTINATION share/doc/panelkit)
 install(TARGETS panelkit_command)
 install(TARGETS panelkit EXPORT panelkitTargets)

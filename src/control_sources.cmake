@@ -10,7 +10,10 @@ set(PANELKIT_CONTROL_SOURCES
   controls/base/control_looks.cpp
   controls/base/interrupted_press.cpp
   controls/base/leaving.cpp
+  controls/base/painted_picture.cpp
+  controls/base/picture_keyboard.cpp
   controls/base/picture_static.cpp
+  controls/base/stand_ins.cpp
   controls/buttons/bmp_button.cpp
   controls/buttons/check_box.cpp
   controls/buttons/checkable_button.cpp
@@ -47,13 +50,17 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_hooks.cpp
   dialog/basic_dialog_items.cpp
+  dialog/basic_dialog_pictures.cpp
   dialog/basic_dialog_values.cpp
+  form/c_canvas.cpp
   form/c_controls.cpp
   form/c_dialog.cpp
   form/c_lines.cpp
   form/c_looks.cpp
+  form/c_painting.cpp
   form/c_saved.cpp
   form/c_values.cpp
+  form/canvas_shapes.cpp
   form/dialog_handles.cpp
   form/hosted_dialog.cpp
   form/hosted_dialog_events.cpp

@@ -6,5 +6,6 @@
 #elif defined(PANELKIT_BUILDING)
 #define PANELKIT_API __declspec(dllexport)
 #else
+// What the library exports: an application imports it.
 #define PANELKIT_API __declspec(dllimport)
 #endif

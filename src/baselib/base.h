@@ -21,17 +21,22 @@ public:
     VrBaseCL(const VrBaseCL&) = default;
     VrBaseCL& operator=(const VrBaseCL&) = default;
 
+    // Do nothing here: reading and writing one element, in the library's streams and in plain ones; making it
+    // what it is at first; filling an appended slot from an element of another array, at that index
+    // (Arr::MergeM).
     virtual void FmInputEvrFileM(VrIOCL* io);
     virtual void FmOutputEvrFileM(VrIOCL* io) const;
     virtual void FmReadEvrFileM(FILE* file);
     virtual void FmWriteEvrFileM(FILE* file) const;
     virtual void InitialM();
-    virtual void SetByMergeM(const VrBaseCL& other, int index); // Does nothing here.
+    virtual void SetByMergeM(const VrBaseCL& other, int index);
     virtual ~VrBaseCL();
 
+    // The delete tag; any other value than AliveTag counts as deleted.
     void SetDeleteTagM(char tag) { deleteTag_ = tag; }
     char GetDeleteTagM() const { return deleteTag_; }
-    void DelItemM() { deleteTag_ = DeletedTag; }
+    void DelItemM() { deleteTag_ = DeletedTag; } // Only marks it; the array that holds it counts it still.
+    // Whether the tag is AliveTag.
     bool IsAliveM() const { return deleteTag_ == AliveTag; }
 
 private:

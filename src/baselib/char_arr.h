@@ -8,6 +8,7 @@ class PANELKIT_API CharArr
 {
 public:
     CharArr() = default;
+    // A copy of the text; null counts as empty.
     explicit CharArr(const char* text) { SetM(text); }
     CharArr(const CharArr& other) { SetM(other.TextM()); }
     CharArr(CharArr&&) = default;
@@ -21,6 +22,7 @@ public:
     int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1;
                                          // 0 without one.
     std::size_t LengthM() const;         // Bytes without the terminator.
+    // Whether it has no byte.
     bool EmptyM() const { return *TextM() == '\0'; }
 
 private:

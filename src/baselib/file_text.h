@@ -8,15 +8,16 @@
 // A place as an editor shows it: lines and the characters of a line count from 1, a double-byte one as one.
 struct PlaceCL
 {
-    std::size_t line { 1 };
-    std::size_t column { 1 };
+    std::size_t line { 1 };   // From 1.
+    std::size_t column { 1 }; // From 1, in characters.
 };
 
 // Bytes of a file by their offsets; end is the first one behind them.
 struct SpanCL
 {
-    std::size_t begin { 0 };
-    std::size_t end { 0 };
+    std::size_t begin { 0 }; // The offset of the first one.
+    std::size_t end { 0 };   // The offset behind the last one.
+    // Whether it has no byte.
     bool EmptyM() const { return begin == end; }
 };
 
@@ -25,9 +26,10 @@ struct SpanCL
 class PANELKIT_API FileTextCL
 {
 public:
-    FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size);
-    explicit FileTextCL(std::string_view bytes); // A copy of them.
+    FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size); // Takes over `size` bytes.
+    explicit FileTextCL(std::string_view bytes);                 // A copy of them.
 
+    // All of them, with no terminator; the object keeps them.
     const char* BytesM() const { return bytes_.get(); }
     std::size_t SizeM() const { return size_; }
     std::string_view CutM(SpanCL span) const; // What lies outside the file is left off.

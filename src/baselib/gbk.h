@@ -6,12 +6,14 @@
 
 // GBK text (code page 936): a byte 0x81..0xFE followed by 0x40..0x7E or 0x80..0xFE is one character.
 
+// Whether a byte can begin a character of two bytes, or end one.
 constexpr bool slGbkIsLead(char code)
 {
     const unsigned char value = static_cast<unsigned char>(code);
     return value >= 0x81 && value <= 0xFE;
 }
 
+// Whether a byte can end a character of two bytes.
 constexpr bool slGbkIsTrail(char code)
 {
     const unsigned char value = static_cast<unsigned char>(code);
@@ -62,18 +64,21 @@ PANELKIT_API std::u16string slUtf8ToUtf16(const std::string& text);
 PANELKIT_API std::string slUtf16ToUtf8(const char16_t* text, std::size_t length);
 
 #ifdef _WIN32
+// As slGbkToUtf16.
 inline std::wstring slGbkToWide(const char* text)
 {
     const std::u16string wide = slGbkToUtf16(text);
     return std::wstring(wide.begin(), wide.end());
 }
 
+// As slGbkToShownUtf16.
 inline std::wstring slGbkToShown(const char* text)
 {
     const std::u16string wide = slGbkToShownUtf16(text);
     return std::wstring(wide.begin(), wide.end());
 }
 
+// As slUtf16ToGbk.
 inline std::string slWideToGbk(const std::wstring& text, int* lost = nullptr)
 {
     return slUtf16ToGbk(reinterpret_cast<const char16_t*>(text.data()), text.size(), lost);

@@ -26,6 +26,7 @@ public:
     // Opens a text for reading as mode "r" does a file; null closes.
     void OpenM(std::shared_ptr<const FileTextCL> text);
     void CloseM(); // Harmless when not open.
+    // Whether there is a file, to read or to write; whether its mode is binary.
     bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
     bool IsBinaryM() const { return binary_; }
     std::size_t BytesLeftM() const { return size_ - at_; } // Behind the read position.
@@ -52,11 +53,13 @@ public:
         int* f = nullptr, int* g = nullptr, int* h = nullptr, int* i = nullptr); // Saturates.
     int InputRM(float* a, float* b = nullptr, float* c = nullptr, float* d = nullptr, float* e = nullptr,
         float* f = nullptr, float* g = nullptr, float* h = nullptr,
-        float* i = nullptr); // Nearest; saturates.
+        float* i = nullptr); // The same for reals: the nearest one; saturates.
     int InputCM(char* a, char* b = nullptr, char* c = nullptr, char* d = nullptr, char* e = nullptr,
-        char* f = nullptr, char* g = nullptr, char* h = nullptr, char* i = nullptr); // One byte each.
-    bool InputOneM(int* value); // The same for one value; false where none stands.
-    bool InputOneM(float* value);
+        char* f = nullptr, char* g = nullptr, char* h = nullptr,
+        char* i = nullptr);       // The same for bytes, one each.
+    bool InputOneM(int* value);   // The same for one value; false where none stands.
+    bool InputOneM(float* value); // The same.
+    // The same for two or three values that belong together.
     int InputInt2DM(int pair[2]);
     int InputInt3DM(int triple[3]);
     int InputPoint2DM(float pair[2]);

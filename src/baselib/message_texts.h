@@ -8,6 +8,7 @@
 // about, as that field shows numbers; of a field with a text they are numbers of bytes. Everything else in
 // braces stays as it is.
 
+// The numbers of the texts.
 enum MessageTextId : int
 {
     BadValueMessage = 0,       // No value stands in a field. Without limits.
@@ -38,6 +39,7 @@ enum MessageTextId : int
     NotSupportedMessage = 23,
     BadArgumentMessage = 24
 };
+// How many there are.
 constexpr int MessageTextCount = 25;
 
 // The text as it is in the table; empty for a number that is none of the above.
@@ -49,6 +51,7 @@ PANELKIT_API std::u16string slMessageText(
     MessageTextId id, const std::u16string& minimum = {}, const std::u16string& maximum = {});
 
 #ifdef _WIN32
+// The same in the wide characters of the window system.
 inline std::wstring slWideMessageText(
     MessageTextId id, const std::wstring& minimum = {}, const std::wstring& maximum = {})
 {

@@ -13,8 +13,8 @@ enum ValueType
 // Made as all zero.
 union simpleValD {
     char text[PathSize] {}; // GBK, at most 259 bytes and a terminator.
-    int number;
-    float real;
-    int numbers[2]; // Minimum and maximum.
-    float reals[2];
+    int number;             // Of IntegerType.
+    float real;             // Of RealType.
+    int numbers[2];         // Minimum and maximum, also of a text's length.
+    float reals[2];         // Minimum and maximum.
 };

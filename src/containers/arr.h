@@ -43,11 +43,11 @@ public:
 
     int InitialSizeM(int n); // At least n slots.
     int SetIncrementM(
-        int n);          // Slots that InsertItemM and AddItemM(int, int*) add at a time; n < 1: unchanged.
-    int AddSizeM(int n); // n slots more; n < 1: none.
-    int GetLengthM() const;
-    int GetBoundM() const;
-    int GetAvailableNumM() const;
+        int n);             // Slots that InsertItemM and AddItemM(int, int*) add at a time; n < 1: unchanged.
+    int AddSizeM(int n);    // n slots more; n < 1: none.
+    int GetLengthM() const; // Slots of the store.
+    int GetBoundM() const;  // One past the highest slot of the array.
+    int GetAvailableNumM() const;     // Alive slots.
     int GetAvailableNumM(int i);      // Alive slots behind slot i.
     int CheckAvailableM(int i) const; // 1 for an alive slot of the array, otherwise 0.
 
@@ -75,7 +75,7 @@ public:
 
     int GetItemM(T* out, int i) const; // Outside the array: out is marked deleted.
     const T* GetItemPM(int i) const;   // Alive or not; null outside the array. The array keeps it.
-    T* ElementAtPM(int i);
+    T* ElementAtPM(int i);             // The same to write to.
     // A slot of the store. Outside it: a deleted element that belongs to no array.
     T& ElementAtM(int i);
     T& operator[](int i);
@@ -87,11 +87,13 @@ public:
     const T* GetNextPM(int* idx, int from) const;
     const T* GetFirstPM(int* idx) const;
     const T* GetLastPM(int* idx) const; // The last alive slot.
+    // The index of the first alive slot behind `from`, of the first one at all; -1 when there is none.
     int GetNextIdxM(int from) const;
     int GetFirstIdxM() const;
 
 protected:
-    T* getCurrentItemPrtM(); // The store in use.
+    // The first slot of the store in use.
+    T* getCurrentItemPrtM();
     const T* getCurrentItemPrtM() const;
     // For lists that fill slots of the store themselves: both at most the length.
     void setCountsM(int bound, int available)

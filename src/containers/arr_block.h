@@ -25,6 +25,7 @@ public:
         return reinterpret_cast<T*>(static_cast<char*>(block) + HeadSize);
     }
 
+    // Adds an owner; whether there are several.
     static void ShareM(T* elements) { ++ownersM(elements); }
     static bool IsSharedM(T* elements) { return ownersM(elements) > 1; }
 

@@ -5,6 +5,7 @@
 class Int2DArr : public TaggedArr<2>
 {
 public:
+    // As those of TaggedArr.
     int SetItemM(const int pair[2], int index) { return TaggedArr::SetItemM(pair, index); }
     int AddItemM(const int pair[2]) { return TaggedArr::AddItemM(pair); }
     int InsertItemM(const int pair[2], int index) { return TaggedArr::InsertItemM(pair, index); }

@@ -5,6 +5,7 @@
 class Int3DArr : public TaggedArr<3>
 {
 public:
+    // As those of TaggedArr.
     int SetItemM(const int triple[3], int index) { return TaggedArr::SetItemM(triple, index); }
     int AddItemM(const int triple[3]) { return TaggedArr::AddItemM(triple); }
     int InsertItemM(const int triple[3], int index) { return TaggedArr::InsertItemM(triple, index); }

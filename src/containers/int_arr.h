@@ -5,6 +5,7 @@
 class IntArr : public TaggedArr<1>
 {
 public:
+    // As those of TaggedArr.
     int SetItemM(int value, int index) { return TaggedArr::SetItemM(&value, index); }
     int AddItemM(int value) { return TaggedArr::AddItemM(&value); }
     int InsertItemM(int value, int index) { return TaggedArr::InsertItemM(&value, index); }

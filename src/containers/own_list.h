@@ -17,4 +17,5 @@ public:
         return *this;
     }
 };
+// Texts as member of a record.
 using TextListCL = OwnListCL<VrStringArr>;

@@ -32,13 +32,14 @@ public:
     int* ElementAtPM(int index);             // The same to write to; valid until the list grows.
 
     int GetNextIdxM(int from) const; // First alive slot above `from`, -1 when none.
-    int GetFirstIdxM() const;
-    int GetLastIdxM() const; // Last alive slot, -1 when none.
+    int GetFirstIdxM() const;        // First alive slot, -1 when none.
+    int GetLastIdxM() const;         // Last alive slot, -1 when none.
 
     // Deletes a slot; the last one also lowers the bound, by one only. Outside 0..bound-1: nothing. 1.
     int DelItemM(int index);
     int DelAllM(); // Lets go of the storage: a list that shared it keeps its items. 1.
 
+    // The most slots that storing beyond the bound may skip.
     static constexpr int MaxGap = 1 << 22;
 
 private:

@@ -40,6 +40,8 @@ class PANELKIT_API DuBasicDialogCL : public CDialog
 
 public:
     DuBasicDialogCL();
+    // With a dialog template of the application's resources, for DoModal and Create of the base class.
+    // parent: the owner, not kept; null: the application's main window.
     DuBasicDialogCL(int templateId, CWnd* parent);
     ~DuBasicDialogCL() override;
 
@@ -53,6 +55,7 @@ public:
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
     // what it would be told goes to the debugger (OutputDebugString), the same text only once. Before the
     // first call nobody is told, and nothing is looked for, unless a debugger runs the program.
+    // context: given back with each call.
     void SetDiagnosticsM(DiagnosticTP callback, void* context);
 
     // The functions from here to MessageTextM are for what the description file doesn't say. They hold from
@@ -91,30 +94,44 @@ public:
     // Shows the dialog without a template: the description file says all that one could. parent: the owner,
     // not kept; null: for DoModalM the constructor's, else the application's main window.
     int CreateM(CWnd* parent = nullptr);  // Modeless: it is built, and soon shows itself. 0 without a window.
-    int DoModalM(CWnd* parent = nullptr); // What EndDialog said; -1 without a window.
+    int DoModalM(CWnd* parent = nullptr); // Modal: what EndDialog said; -1 without a window.
 
     // Builds every control of the description file in the parent. mode 1: the parent is the dialog itself and
     // is restyled, titled, placed and stacked; otherwise a window that keeps all that. 1.
     // Without DestroyM before, a second build uses the records of the first load; its controls are destroyed.
     int InitDlgM(CWnd* parent, int mode);
-    void DestroyM(); // Destroys all controls and records and the dialog font.
-    BOOL DestroyWindow() override;
+    void DestroyM();               // Destroys all controls and records and the dialog font.
+    BOOL DestroyWindow() override; // Destroys the controls too, as DestroyM does.
+    // Builds the dialog of the description file. TRUE: the system sets the focus.
     BOOL OnInitDialog() override;
-    void EndDialog(int result) override; // No field has been left by that.
+    void EndDialog(int result) override; // With that result; no field has been left by that.
 
-    // Draws the background picture with its corner at (x, y); 0 when there is none.
+    // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
 
     // Controls by function id. Where several have the id, the first in the order of the kinds is meant.
     // An unknown id, or that of a control of another kind, gives 0 and changes nothing.
     CWnd* GetContrlPtrM(int id, int* kind);           // Null: none, *kind stays. A static_cast to the class
                                                       // that *kind says is fine; the host keeps it.
-    int ShowContrlM(int id, int show);                // Shows for 1, hides for every other value; 1.
-    int ShowAllCtrlM(int show);                       // The same for all controls.
-    int EnableAllCtrlM(int enable);                   // Enables for 1, else disables.
-    void ShowObjectM(int kind, int index, bool show); // Radio buttons (kind 11) by place in their array.
-    int GetNormalAnimateBmpIdxM(int id, int* index);  // The picture shown; *index is set only for 1.
-    int ChangeNormalAnimateM(int id, int index);      // Shows a picture; the animation's result.
+    int ShowContrlM(int id, int show);                // Shows it for 1, hides it for every other value; 1.
+    int ShowAllCtrlM(int show);                       // The same for all controls; 1.
+    int EnableAllCtrlM(int enable);                   // Enables all for 1, else disables them; 1.
+    void ShowObjectM(int kind, int index, bool show); // A radio button (kind 11) by its place in their array.
+    int GetNormalAnimateBmpIdxM(int id, int* index);  // An animation's picture; *index is set only for 1.
+    int ChangeNormalAnimateM(int id, int index);      // Shows a picture of an animation; its result.
+
+    // Painting of drawing controls and special animations; the painter is told of in painted.h,
+    // painted_picture.h. It is kept for this id through every build to come; an empty one is kept no more.
+    // While nothing is built any id may get one. false, and none is kept: an unknown id, or a control of
+    // another kind.
+    bool SetPainterM(int id, PainterTP painter);
+    bool RepaintM(int id); // Soon, once for all calls until then. false: no control with a painter.
+    // Shows a frame, from 0, of a normal animation in manual mode, or below what the painter of a special one
+    // paints. false: no such control, or no such frame.
+    bool ShowFrameM(int id, int frame);
+    // Whether pictures that take clicks are worked by keys too: bitmap buttons, multi-state buttons, knobs,
+    // normal animations that notify (picture_static.h). At first not; from now on through every build.
+    void SetPictureKeyboardM(bool use);
 
     // Lines of list boxes and combo boxes.
     int AddItemM(int id, int position, const char* text); // The result of the control's AddItemM.
@@ -125,7 +142,7 @@ public:
     DialogValuesCL& ValuesM() { return values_; }
 
     // Values of single-line edits; the results are those of the edit's SetValueM, SetCurValM, GetValueM and
-    // GetCurValM.
+    // GetCurValM. Texts are GBK, copied.
     int SetSingleEditValM(int id, int value);
     int SetSingleEditValM(int id, float value);
     int SetSingleEditValM(int id, double value) { return SetSingleEditValM(id, static_cast<float>(value)); }
@@ -133,7 +150,8 @@ public:
     int SetSingleEditValM(int id, simpleValD value);
     int GetSingleEditValM(int id, int* value);
     int GetSingleEditValM(int id, float* value);
-    int GetSingleEditValM(int id, char* text); // 260 bytes.
+    int GetSingleEditValM(int id, char* text); // The same; text: 260 bytes.
+    // The same for whatever type the edit has.
     int GetSingleEditValM(int id, simpleValD* value);
     int EnableSingleEditM(int id, int enable); // Enables for 1, else disables; -1: all of them.
 
@@ -146,7 +164,7 @@ public:
     int CheckValueLegalM();
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override; // Closing has no field checked.
 
     // For the application's message map: 1624 (a field was left, with what value) and 1625 (a control gained
     // the focus; unless it is the cancel control, the field left last is asked to check its value). 0.
@@ -158,8 +176,8 @@ protected:
     int initItemRelationM();
 
     static constexpr UINT_PTR StartTimer = 6107; // Shows the dialog once, when its controls exist.
-    afx_msg void OnPaint();
-    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnPaint();                      // Draws the background picture.
+    afx_msg void OnTimer(UINT_PTR id);           // Shows the dialog at StartTimer.
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -182,6 +200,8 @@ private:
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     void initM(VrIOCL& io, CWnd* parent, int mode);
     void beginDiagnosticsM();
+    bool givePainterM(int id, const PainterTP& painter);
+    void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
@@ -207,6 +227,8 @@ private:
     MembersOfCL<KindTable>::Type kinds_;
     ControlIndexCL index_;
     DialogValuesCL values_ { *this };
+    std::map<int, PainterTP> painters_;
+    bool usesPictureKeyboard_ { false };
     struct LooksByIdCL
     {
         std::optional<COLORREF> textColour;

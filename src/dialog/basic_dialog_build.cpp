@@ -16,6 +16,10 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    for (const auto& [id, painter] : painters_) {
+        givePainterM(id, painter);
+    }
+    givePictureKeyboardM();
     showHooksM();
     return 1;
 }

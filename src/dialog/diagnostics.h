@@ -6,8 +6,8 @@ struct DiagnosticCL
 {
     const char* code;    // Of those that `panelkit check` prints: "missing-file", "bad-number", ...
     const char* file;    // The description file as the dialog was given it, GBK.
-    int line;            // Line and column, in characters, count from 1 as an editor shows them;
-    int column;          // 0: the file as a whole.
+    int line;            // From 1, as an editor shows it; 0: the file as a whole.
+    int column;          // In characters, from 1; 0: the file as a whole.
     const char* message; // English; what it quotes from the file is GBK.
 };
 

@@ -8,13 +8,15 @@ class VrIOCL;
 // What "[版本号]" and "[对话框]" say of the dialog window itself.
 struct DialogHeaderCL
 {
-    int position[2] {};
-    int size[2] {};
+    int position[2] {};   // Left and top of the window, in pixels.
+    int size[2] {};       // Width and height in pixels.
     int titleFlag { 0 };  // 1: a caption bar with the title.
     CharArr title;        // GBK.
     int fontOption { 0 }; // The height of the characters in pixels.
-    int windowKind { 0 };
-    int borderKind { 0 };
+    int windowKind { 0 }; // 2: a popup window, 3: a child window; else neither.
+    int borderKind {
+        0
+    }; // 1: none, and no other style; 2: thin, 3: for sizing, 4: a dialog's; else as it comes.
     CharArr background; // File name of the background picture, empty for none.
 
     PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);

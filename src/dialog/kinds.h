@@ -45,18 +45,20 @@ class DuTreeArr;
 // What a kind can do besides being a control. Code asks for what it needs, never for a kind.
 enum Ability : unsigned
 {
-    Stacked = 1,         // Takes part in the stacking and font passes.
-    HoldsLines = 2,      // AddItemM(data, text), DelItemM(line), SetSelM(line).
-    HoldsTypedValue = 4, // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
-    ShowsFrames = 8,     // GetCurIdxM, DispBmpM.
-    StandsInGroups = 16, // ShowObjectM(index, show) on the array; CheckedInGroupM.
-    HasLineHeight = 32,  // SetItemHeightM() on the array, once the font is set.
-    HasValue = 64,       // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128,    // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
-    ColoursText = 256,   // SetTextColourM shows.
-    TellsRefusals = 512, // SetRefusalM.
-    ActsAsButton = 1024, // A picture for a push button.
-    GoesQuietly = 2048   // Destroying its window tells nobody but those whom the window system tells.
+    Stacked = 1,          // Takes part in the stacking and font passes.
+    HoldsLines = 2,       // AddItemM(data, text), DelItemM(line), SetSelM(line).
+    HoldsTypedValue = 4,  // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
+    ShowsFrames = 8,      // GetCurIdxM, DispBmpM.
+    StandsInGroups = 16,  // ShowObjectM(index, show) on the array; CheckedInGroupM.
+    HasLineHeight = 32,   // SetItemHeightM() on the array, once the font is set.
+    HasValue = 64,        // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
+    ListsLines = 128,     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256,   // SetPainterM, RepaintM.
+    TakesKeys = 512,      // UseKeyboardM.
+    ColoursText = 1024,   // SetTextColourM shows.
+    TellsRefusals = 2048, // SetRefusalM.
+    ActsAsButton = 4096,  // A picture for a push button.
+    GoesQuietly = 8192    // Destroying its window tells nobody but those whom the window system tells.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -90,20 +92,21 @@ template <class RecordArrTP, class ControlArrTP, KindCode codeN, int buildPlaceN
     auto initN, auto fillN = nullptr>
 struct KindRowCL
 {
-    using Records = RecordArrTP;
-    using Controls = ControlArrTP;
-    static constexpr int Code = codeN;
-    static constexpr int BuildPlace = buildPlaceN;
-    static constexpr auto InitM = initN;
-    static constexpr auto FillM = fillN;
+    using Records = RecordArrTP;                   // The record array.
+    using Controls = ControlArrTP;                 // The runtime array.
+    static constexpr int Code = codeN;             // The code that GetContrlPtrM reports.
+    static constexpr int BuildPlace = buildPlaceN; // Its place in the order of building, from 0.
+    static constexpr auto InitM = initN;           // How a record fills a control.
+    static constexpr auto FillM = fillN; // What a record adds once the window exists; null: nothing.
+    // Whether the kind has the ability.
     static constexpr bool CanM(Ability ability) { return (abilitiesN & ability) != 0; }
 };
 
 // The one table of kinds. The rows stand in the order of the host's members, which is also the order of
 // search by id and of collection for the stacking and font passes.
 using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, NormalAnimateCode, 0,
-                                 Stacked | ShowsFrames, &DVrNormalAnimateArr::InitNormalAnimateM>,
-    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked,
+                                 Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
+    KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | ColoursText | GoesQuietly,
         &DVrLabelArr::InitLabelM>,
@@ -131,17 +134,19 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         Stacked | StandsInGroups | HasValue | ColoursText | GoesQuietly, &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue | ColoursText | GoesQuietly,
         &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | ActsAsButton,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys | ActsAsButton,
         &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
-        Stacked | HasValue | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+        Stacked | HasValue | TakesKeys | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked | ColoursText | GoesQuietly,
         &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue, &DVrRotateBtnArr::InitRotateBtnM>,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
+        &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
-    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, 0, &DVrDraw2DArr::InitDraw2DM>>;
+    KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
+// How many kinds there are.
 constexpr int KindCount = static_cast<int>(std::tuple_size_v<KindTable>);
 
 // The last row of the table that answers a test with yes; -1 when none does.
@@ -152,6 +157,7 @@ template <class TestTP> constexpr int slLastRow(TestTP test)
     std::apply([&](auto... kind) { ((found = test(kind) ? row : found, ++row), ...); }, KindTable());
     return found;
 }
+// The row of the kind that is built at that place, from 0; -1: none.
 constexpr int slRowBuiltAt(int place)
 {
     return slLastRow([place](auto kind) { return kind.BuildPlace == place; });

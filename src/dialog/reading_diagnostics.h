@@ -18,11 +18,13 @@ public:
         , isOnce_(isOnce)
     {
     }
+    // A build of the dialog begins: what was told may be told anew, as the constructor says.
     void BeginBuildM();
     // Before a section of the file (GBK path, null is empty) is read from io; tells where the file could not
     // be opened.
     void WatchM(const char* file, VrIOCL& io);
 
+    // What reading finds; the observed file calls it.
     void ValueM(const ValueSeenCL& value) override;
     void EntryDroppedM(const EntryDroppedCL& entry) override;
     void SectionM(const SectionSeenCL& section) override;

@@ -7,7 +7,7 @@
 struct RelationCL
 {
     int control { 0 }; // The function id of the control that gets them.
-    int values[3] {};
+    int values[3] {};  // What the application makes of them; see DControlCommonCL::AddRelationItemM.
 
     PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
 };

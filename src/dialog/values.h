@@ -19,8 +19,9 @@ class DuBasicDialogCL;
 class PANELKIT_API DialogValuesCL
 {
 public:
-    using SavedTP = std::vector<std::pair<int, std::string>>;
+    using SavedTP = std::vector<std::pair<int, std::string>>; // Ids with their values as texts.
 
+    // Of that dialog, which must live as long.
     explicit DialogValuesCL(DuBasicDialogCL& dialog)
         : dialog_(dialog)
     {
@@ -36,7 +37,7 @@ public:
     // Edits with a real, spin edits too; the angle (degrees) of a rotate button. They refuse what is out of
     // their range. An edit shows and keeps as many decimals as its file says.
     std::optional<float> RealM(int id) const;
-    bool SetRealM(int id, double value); // The nearest single-precision number.
+    bool SetRealM(int id, double value); // Sets that, as the nearest single-precision number.
 
     // Edits with a text, multi-line edits; the text of a combo box. Refused are texts that are too long,
     // null, and, but for multi-line edits and the field of a combo box, what GBK can't say. A combo box
@@ -48,7 +49,7 @@ public:
     // size below 1: only the result.
     int TextM(int id, char* gbk, int size) const;
     int Utf8TextM(int id, char* utf8, int size) const;
-    int WideTextM(int id, wchar_t* wide, int size) const; // Sizes in wchar_t.
+    int WideTextM(int id, wchar_t* wide, int size) const; // The same, sizes in wchar_t.
 
     // Check boxes and radio buttons. Checking a radio button unchecks the others of its group.
     std::optional<bool> CheckedM(int id) const;
@@ -73,7 +74,8 @@ public:
     // All parts of a value at once, for who handles controls without knowing their kinds. PartsM: the
     // ValuePart bits that a saved value consists of; 0 for an unknown id or a control that has none.
     unsigned PartsM(int id) const;
-    ControlValueCL ValueM(int id) const; // Without parts where the others say nullopt.
+    ControlValueCL ValueM(int id) const; // The value, without parts where the others say nullopt.
+    // Sets the parts that are given; those that the control has not make it fail.
     bool SetValueM(int id, const ControlValueCL& value);
 
     // A value as a text (UTF-8) to keep between runs, whatever the kind, and back again. The text means the
@@ -81,19 +83,20 @@ public:
     std::optional<std::string> SavedM(int id) const;
     bool RestoreM(int id, const std::string& saved);
     // The same for all controls: their ids with their values, in the order of the kinds. Left out are those
-    // with no value, or none that is legal now. SetAllM sets in the order of the list what it can; the ids of
-    // the others.
+    // with no value, or none that is legal now.
     SavedTP AllM() const;
+    // Sets in the order of the list what it can; the ids of the others.
     std::vector<int> SetAllM(const SavedTP& saved);
 
     // Lines of list boxes and combo boxes; rows of tables with the text of their first column. They count
     // from 0. For a box of pictures the text is the name of a .bmp file, and its lines have none to tell.
-    // Adding refuses null and what GBK can't say.
     std::optional<int> LineCountM(int id) const;
     std::optional<ValueTextCL> LineM(int id, int line) const;
-    // data: the application's number of the line.
+    // Adds a line at the end, or before a line from 0 up to their number. data: the application's number of
+    // the line. Refused are null and what GBK can't say.
     bool AddLineM(int id, const ValueTextCL& text, int data = 0);
-    bool InsertLineM(int id, int line, const ValueTextCL& text, int data = 0); // 0 up to their number.
+    bool InsertLineM(int id, int line, const ValueTextCL& text, int data = 0);
+    // Takes one line away, or all. false also when there is no such line.
     bool DeleteLineM(int id, int line);
     bool ClearLinesM(int id);
 

@@ -1,27 +1,15 @@
 #include "form/dialog_handles.h"
+#include "form/handle_table.h"
 #include <cstring>
-#include <mutex>
 #include <new>
 
 namespace {
 
-struct HandleEntryCL
-{
-    HostedDialogCL* dialog;
-    DWORD thread;
-};
+using DialogTableTP = HandleTableCL<panelkit_dialog, HostedDialogCL>;
 
-// Handles are numbers, never given twice, so that an old one is known for what it is.
-struct HandleTableCL
+DialogTableTP& dialogTable()
 {
-    std::mutex mutex;
-    std::map<const panelkit_dialog*, HandleEntryCL> entries;
-    std::uintptr_t last { 0 };
-};
-
-HandleTableCL& handleTable()
-{
-    static HandleTableCL table;
+    static DialogTableTP table;
     return table;
 }
 
@@ -29,53 +17,27 @@ HandleTableCL& handleTable()
 
 panelkit_dialog* slNewHandle()
 {
-    HandleTableCL& table = handleTable();
-    const std::lock_guard<std::mutex> lock(table.mutex);
-    return reinterpret_cast<panelkit_dialog*>(++table.last);
+    return dialogTable().NewM();
 }
 
 void slKeepHandle(HostedDialogCL* dialog)
 {
-    HandleTableCL& table = handleTable();
-    const std::lock_guard<std::mutex> lock(table.mutex);
-    table.entries[dialog->HandleM()] = { dialog, ::GetCurrentThreadId() };
+    dialogTable().KeepM(dialog->HandleM(), dialog);
 }
 
 void slDropHandle(const panelkit_dialog* handle)
 {
-    HandleTableCL& table = handleTable();
-    const std::lock_guard<std::mutex> lock(table.mutex);
-    table.entries.erase(handle);
+    dialogTable().DropM(handle);
 }
 
 panelkit_status slFindDialog(const panelkit_dialog* handle, HostedDialogCL** dialog)
 {
-    if (handle == nullptr) {
-        return PANELKIT_ERROR_ARGUMENT;
-    }
-    HandleTableCL& table = handleTable();
-    const std::lock_guard<std::mutex> lock(table.mutex);
-    const auto found = table.entries.find(handle);
-    if (found == table.entries.end()) {
-        return PANELKIT_ERROR_HANDLE;
-    }
-    if (found->second.thread != ::GetCurrentThreadId()) {
-        return PANELKIT_ERROR_THREAD;
-    }
-    *dialog = found->second.dialog;
-    return PANELKIT_OK;
+    return dialogTable().FindM(handle, dialog);
 }
 
 bool slIsAnyDialogOpen()
 {
-    HandleTableCL& table = handleTable();
-    const std::lock_guard<std::mutex> lock(table.mutex);
-    for (const auto& [handle, entry] : table.entries) {
-        if (entry.thread == ::GetCurrentThreadId() && entry.dialog->IsOpenM()) {
-            return true;
-        }
-    }
-    return false;
+    return dialogTable().HasM([](const HostedDialogCL& dialog) { return dialog.IsOpenM(); });
 }
 
 std::string& slThreadError()

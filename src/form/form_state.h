@@ -1,5 +1,5 @@
 #pragma once
-#include "form/panelkit_c.h"
+#include "form/canvas.h"
 #include <exception>
 #include <functional>
 #include <map>
@@ -9,16 +9,26 @@
 
 namespace panelkit {
 
-// What a form keeps, and what outlives it while one of its handlers runs.
+class FormStateCL;
+
+// What paints a control.
+struct PainterCL
+{
+    FormStateCL* state;                   // Whose it is.
+    std::function<void(Canvas&)> handler; // Empty: nothing.
+};
+
+// What a form keeps, and what outlives it while one of its handlers runs. It is for Form alone.
 class FormStateCL : public std::enable_shared_from_this<FormStateCL>
 {
 public:
-    using EventHandler = std::function<void(const panelkit_event&)>;
+    using EventHandler = std::function<void(const panelkit_event&)>; // Told all of an event.
 
-    panelkit_dialog* dialog = nullptr;
-    std::string error; // Why there is no dialog.
-    std::function<void(const panelkit_diagnostic&)> diagnostics;
+    panelkit_dialog* dialog = nullptr; // The form's own; null: none, or the form is gone.
+    std::string error;                 // Why there is no dialog.
+    std::function<void(const panelkit_diagnostic&)> diagnostics; // As FormOptions has it.
 
+    // Puts a handler in the place of the one before; kind and id: 0 for all events.
     void OnM(int kind, int id, EventHandler handler) { handlers_[{ kind, id }] = std::move(handler); }
     void OnM(int kind, int id, std::function<void()> handler)
     {
@@ -27,6 +37,7 @@ public:
             OnM(kind, id, EventHandler([call = std::move(handler)](const panelkit_event&) { call(); }));
         }
     }
+    // The handler that may keep the form open.
     void OnM(int, int, std::function<bool(int)> handler) { closing_ = std::move(handler); }
     // A handler that gets a member of the event.
     template <class FunctionTP>
@@ -38,6 +49,19 @@ public:
         return [call = std::move(handler), what](const panelkit_event& event) { call(event.*what); };
     }
 
+    // A handler that gets the place of a click.
+    static EventHandler PlacedM(std::function<void(int, int)> handler)
+    {
+        if (!handler) {
+            return nullptr;
+        }
+        return [call = std::move(handler)](const panelkit_event& event) { call(event.x, event.y); };
+    }
+    // In place of the one that the control had.
+    void KeepPainterM(int id, std::unique_ptr<PainterCL> painter) { painters_[id] = std::move(painter); }
+
+    // The callback of the dialog: calls the handlers. user: the state. What they throw is kept, and the
+    // dialog closes.
     static std::int32_t PANELKIT_CALL TellM(const panelkit_event* event, void* user) noexcept
     {
         const auto state = static_cast<FormStateCL*>(user)->shared_from_this();
@@ -57,6 +81,21 @@ public:
         }
         return 0;
     }
+    // The painter for the C interface; user: a PainterCL.
+    static void PANELKIT_CALL PaintM(panelkit_canvas* handle, void* user) noexcept
+    {
+        const auto& painter = *static_cast<const PainterCL*>(user);
+        const auto state = painter.state->shared_from_this();
+        try {
+            const auto handler = painter.handler; // It may put another one in its place.
+            Canvas canvas(handle);
+            handler(canvas);
+        } catch (...) {
+            thrownM() = std::current_exception();
+            panelkit_close(state->dialog, -1);
+        }
+    }
+    // The same for what is wrong with the file.
     static void PANELKIT_CALL TellDiagnosticM(const panelkit_diagnostic* diagnostic, void* user) noexcept
     {
         try {
@@ -65,7 +104,7 @@ public:
             thrownM() = std::current_exception();
         }
     }
-    // What a handler of this thread has thrown.
+    // Throws what a handler of this thread has thrown, once.
     static void RethrowM()
     {
         if (const std::exception_ptr pointer = std::exchange(thrownM(), nullptr)) {
@@ -90,6 +129,7 @@ private:
 
     std::function<bool(int)> closing_;
     std::map<std::pair<int, int>, EventHandler> handlers_; // By kind of event and id.
+    std::map<int, std::unique_ptr<PainterCL>> painters_;   // By id.
 };
 
 } // namespace panelkit

@@ -1,6 +1,6 @@
 #pragma once
 #include "dialog/basic_dialog.h"
-#include "form/panelkit_c.h"
+#include "form/canvas_c.h"
 #include <map>
 #include <string>
 
@@ -25,6 +25,8 @@ public:
 
     bool StartTimerM(int timer, int milliseconds);
     bool StopTimerM(int timer); // Whether it ran.
+    // Has the callback paint a control; null: nobody. False: the control takes no painter.
+    bool SetPainterM(int id, panelkit_painter painter, void* user);
 
     panelkit_dialog* HandleM() const { return handle_; }
     std::string& ErrorM() { return error_; } // Of the last call with the handle.
@@ -80,13 +82,14 @@ protected:
 
 private:
     // What the callback says; 0 when there is none to ask.
-    int tellM(int event, int id = 0, int kind = 0, int number = 0, int good = 0);
+    int tellM(int event, int id = 0, int kind = 0, int number = 0, int good = 0, POINT at = {});
     void tellOfControlM(int event, int id, int number, int good = 0);
     void tellOfNotificationM(UINT message, WPARAM wParam, LPARAM lParam);
     void tellLeftM(int id, int kind);
     void askToCloseM(int result);
     void endUseM(UseCL::By by);
     int kindM(int id);
+    int frameM(int id); // That a special animation shows, -1: none.
 
     panelkit_dialog* const handle_;
     panelkit_options options_;

@@ -31,6 +31,15 @@ NotificationCL notificationOf(UINT message, WPARAM wParam, LPARAM lParam)
     return { static_cast<int>(wParam), 0 };
 }
 
+// Where the mouse was in the control when its message came.
+POINT mousePlaceIn(HWND control)
+{
+    const DWORD place = ::GetMessagePos();
+    POINT at { static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)) };
+    ::ScreenToClient(control, &at);
+    return at;
+}
+
 // Rows change in many ways; here only their selection counts.
 bool isOtherSelection(UINT message, UINT code, LPARAM lParam)
 {
@@ -134,7 +143,11 @@ void HostedDialogCL::tellOfNotificationM(UINT message, WPARAM wParam, LPARAM lPa
         } else if (row->number == EventNumber::SelectedLine) {
             number = ValuesM().IndexM(seen.id).value_or(-1);
         }
-        tellM(row->event, seen.id, kind, number);
+        POINT at {};
+        if (row->kinds == Pictures) {
+            at = mousePlaceIn(reinterpret_cast<HWND>(lParam));
+        }
+        tellM(row->event, seen.id, kind, number, 0, at);
         const bool isAnswer = seen.id == IDOK || seen.id == IDCANCEL;
         if (isAnswer && message == ButtonActionMsg && kind == static_cast<int>(StandardButtonCode)) {
             askToCloseM(seen.id);
@@ -159,12 +172,13 @@ void HostedDialogCL::tellOfControlM(int event, int id, int number, int good)
     }
 }
 
-int HostedDialogCL::tellM(int event, int id, int kind, int number, int good)
+int HostedDialogCL::tellM(int event, int id, int kind, int number, int good, POINT at)
 {
     if (isDoomed_ || options_.callback == nullptr) {
         return 0;
     }
-    const panelkit_event told { sizeof told, event, handle_, id, kind, number, good };
+    const panelkit_event told { sizeof told, event, handle_, id, kind, number, good,
+        static_cast<int32_t>(at.x), static_cast<int32_t>(at.y) };
     const UseCL use(*this, UseCL::ByMessage);
     try {
         return options_.callback(&told, options_.user);

@@ -13,6 +13,7 @@
 #include <stdint.h>
 
 #if defined(_WIN32)
+// How all functions and callbacks of this interface are called.
 #define PANELKIT_CALL __cdecl
 #else
 #define PANELKIT_CALL
@@ -24,10 +25,12 @@ extern "C" {
 
 typedef struct panelkit_dialog panelkit_dialog; /* Opaque; never the same again once destroyed. */
 
+/* What every call says of itself: one of the PANELKIT_OK and PANELKIT_ERROR_ numbers. */
 typedef int32_t panelkit_status;
+/* The numbers of panelkit_status; later versions add others. */
 enum
 {
-    PANELKIT_OK = 0,
+    PANELKIT_OK = 0,             /* All was done. */
     PANELKIT_ERROR_ARGUMENT = 1, /* Null, a size too small, a negative number where none can be. */
     PANELKIT_ERROR_HANDLE = 2,   /* No dialog, or one that is destroyed. */
     PANELKIT_ERROR_THREAD = 3,   /* Another thread opened the dialog. */
@@ -38,11 +41,11 @@ enum
     PANELKIT_ERROR_REFUSED = 8,  /* The control refuses the value; it keeps the one that it has. */
     PANELKIT_ERROR_BUFFER = 9,   /* The buffer is too small; a text has been cut between characters. */
     PANELKIT_ERROR_WINDOW = 10,  /* The window system made no window or timer. */
-    PANELKIT_ERROR_MEMORY = 11,
-    PANELKIT_ERROR_INTERNAL = 12
+    PANELKIT_ERROR_MEMORY = 11,  /* There is no memory left. */
+    PANELKIT_ERROR_INTERNAL = 12 /* An error inside the library. */
 };
 
-/* Kinds of controls. */
+/* Kinds of controls; docs/kinds tells what each is. */
 enum
 {
     PANELKIT_KIND_NONE = 0, /* The dialog itself, or the arrows of a spin edit. */
@@ -88,86 +91,103 @@ enum
     PANELKIT_EVENT_CLOSED = 10 /* The dialog has closed. number: its result. */
 };
 
+/* What a callback is told. */
 typedef struct panelkit_event
 {
-    uint32_t size;
-    int32_t kind; /* PANELKIT_EVENT_... */
-    panelkit_dialog* dialog;
-    int32_t id;           /* Of the control or timer; 0 for the dialog itself. */
-    int32_t control_kind; /* PANELKIT_KIND_... */
-    int32_t number;       /* As the kind of event says, else 0. */
-    int32_t good;
+    uint32_t size;           /* In bytes. */
+    int32_t kind;            /* PANELKIT_EVENT_... */
+    panelkit_dialog* dialog; /* Where it happened. */
+    int32_t id;              /* Of the control or timer; 0 for the dialog itself. */
+    int32_t control_kind;    /* PANELKIT_KIND_... */
+    int32_t number;          /* As the kind of event says, else 0. */
+    int32_t good;            /* Of PANELKIT_EVENT_LEAVE: 1, or 0 for a bad value. Else 0. */
+    int32_t x; /* Of a click on a drawing, special animation or label: the place in it, in pixels; else 0. */
+    int32_t y; /* The same, from its top. */
 } panelkit_event;
 
 /* Something in the description file that can't be meant, told while it is read. */
 typedef struct panelkit_diagnostic
 {
-    uint32_t size;
-    int32_t line; /* Line and column, in characters, count from 1; 0: the file as a whole. */
-    int32_t column;
-    const char* code; /* Of those that `panelkit check` prints. */
-    const char* file;
-    const char* message; /* English. */
+    uint32_t size;       /* In bytes. */
+    int32_t line;        /* From 1; 0: the file as a whole. */
+    int32_t column;      /* In characters, from 1; 0: the file as a whole. */
+    const char* code;    /* Of those that `panelkit check` prints. */
+    const char* file;    /* The description file, as panelkit_open got it. */
+    const char* message; /* What is wrong, in English. */
 } panelkit_diagnostic;
 
-/* user: as it was given. The result is 0 but where the kind of event says otherwise. */
+/* Called for each event of a dialog, in its thread. user: as the options gave it. The event holds until the
+   callback returns. The result is 0 but where the kind of event says otherwise. */
 typedef int32_t(PANELKIT_CALL* panelkit_callback)(const panelkit_event* event, void* user);
+/* Called by panelkit_open, once for each thing that is wrong. user: diagnostics_user of the options. */
 typedef void(PANELKIT_CALL* panelkit_diagnostic_callback)(const panelkit_diagnostic* diagnostic, void* user);
 
+/* How panelkit_open is to make a dialog. Of each member 0 or null is what it does without options. */
 typedef struct panelkit_options
 {
-    uint32_t size;
-    void* owner;                /* HWND; null: no owner. Not kept alive. */
-    panelkit_callback callback; /* Null: no events. */
-    void* user;
+    uint32_t size; /* sizeof this structure, set by the caller. */
+    void* owner;   /* HWND; null: no owner. Not kept alive. No window: PANELKIT_ERROR_ARGUMENT. */
+    panelkit_callback callback;               /* Null: no events. */
+    void* user;                               /* For the callback; the library only hands it on. */
     panelkit_diagnostic_callback diagnostics; /* Null: nobody is told. Called by panelkit_open alone. */
-    void* diagnostics_user;
+    void* diagnostics_user;                   /* For that callback. */
 } panelkit_options;
 
+/* What panelkit_control_at tells of a control. */
 typedef struct panelkit_control
 {
-    uint32_t size;
-    int32_t id;
+    uint32_t size;     /* sizeof this structure, set by the caller. */
+    int32_t id;        /* Its function id. */
     int32_t kind;      /* PANELKIT_KIND_... */
     int32_t has_value; /* 1: it can be saved. */
 } panelkit_control;
 
-/* Any thread may call these. The texts hold for ever. */
+/* The version of the library, as "1.2.3". Any thread may call it; the text holds for ever. */
 PANELKIT_API const char* PANELKIT_CALL panelkit_version(void);
+/* What a status means, in English; of a number that is none it says so. Any thread may call it; the text
+   holds for ever. */
 PANELKIT_API const char* PANELKIT_CALL panelkit_status_text(panelkit_status status);
 /* What went wrong in the last call with this dialog, empty when nothing did. Null, or no dialog of this
    thread: in this thread's last call. Holds until the next such call. Never null. */
 PANELKIT_API const char* PANELKIT_CALL panelkit_last_error(const panelkit_dialog* dialog);
 
-/* Builds the dialog of a description file, not yet shown; its values can be read and set from now on. options
-   may be null. *dialog is null for every other status than PANELKIT_OK; the caller destroys it. */
+/* Builds the dialog of a description file, not yet shown; its values can be read and set from now on. file:
+   a path, at most 259 bytes in GBK. options may be null. *dialog is null for every other status than
+   PANELKIT_OK; the caller destroys it. PANELKIT_ERROR_FILE: there is no such file, or it describes no dialog;
+   what it says wrongly of single controls is no error. PANELKIT_ERROR_WINDOW: there is no window for it. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_open(
     const char* file, const panelkit_options* options, panelkit_dialog** dialog);
 /* Frees the dialog. A callback hears no more of it, not even that it closes. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_destroy(panelkit_dialog* dialog);
 
 /* Shows the dialog, its owner disabled, until it closes. *result (may be null): that of panelkit_close, 1 or
-   2 as the event CLOSING says, -1 when the program quits or the dialog was destroyed. */
+   2 as PANELKIT_EVENT_CLOSING says, -1 when the program quits or the dialog was destroyed.
+   PANELKIT_ERROR_STATE: it is shown already, or its window is gone. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_run(panelkit_dialog* dialog, int32_t* result);
-PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show(panelkit_dialog* dialog); /* And returns at once. */
-/* Hides the dialog; its values stay, and it can be shown again. Nothing is checked. Nothing if it is not
- * open. */
+/* Shows the dialog and returns at once; its owner stays enabled. PANELKIT_ERROR_STATE as for panelkit_run. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show(panelkit_dialog* dialog);
+/* Hides the dialog; its values stay, and it can be shown again. Nothing is checked. result: what panelkit_run
+   and panelkit_result give. Nothing if it is not open. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_close(panelkit_dialog* dialog, int32_t result);
+/* *open: 1 while the dialog is shown, else 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_open(panelkit_dialog* dialog, int32_t* open);
-PANELKIT_API panelkit_status PANELKIT_CALL panelkit_result(
-    panelkit_dialog* dialog, int32_t* result); /* The last. */
+/* *result: with what the dialog closed the last time; -1 before the first. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_result(panelkit_dialog* dialog, int32_t* result);
 
-/* For programs without a message loop. run_loop returns when no dialog of this thread is open or the program
-   quits; process_pending at once, *quit (may be null) is 1 when the program quits. translate_message is for
-   loops of the program's own, before it dispatches a MSG: *handled is 1 when that has been done. */
+/* Handles this thread's messages until none of its dialogs is open or the program quits. For programs without
+   a message loop. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_run_loop(void);
+/* Handles the messages that are there and returns. *quit (may be null): 1 when the program quits, else 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_process_pending(int32_t* quit);
+/* For loops of the program's own, before they dispatch a message (MSG*): *handled is 1 when that has been
+   done, as for the Tab key in a dialog. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_translate_message(void* message, int32_t* handled);
 
-/* The window. */
-PANELKIT_API panelkit_status PANELKIT_CALL panelkit_native_window(
-    panelkit_dialog* dialog, void** window); /* HWND */
+/* *window: the dialog's HWND, which stays the dialog's. PANELKIT_ERROR_STATE: it is gone. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_native_window(panelkit_dialog* dialog, void** window);
+/* Puts a text into the caption bar. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_title(panelkit_dialog* dialog, const char* title);
+/* The text of the caption bar, into a buffer as panelkit_get_text has it. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_title(
     panelkit_dialog* dialog, char* buffer, size_t size, size_t* needed);
 /* The control that takes the focus without a check of the field that was left; 0: none. */
@@ -175,35 +195,56 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_cancel_id(panelkit_dialo
 /* Has the field with the focus checked as if the user left it; a bad value is told. *good: 1 or 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_check(panelkit_dialog* dialog, int32_t* good);
 
-/* Controls, in the order of the Tab key. Where several have an id, the functions mean the first in the order
-   of the kinds, and it alone is counted. control->size must be set. */
+/* *count: how many controls there are. Where several have an id, all functions mean the first in the order of
+   the kinds, and it alone is counted. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_control_count(panelkit_dialog* dialog, size_t* count);
+/* One of them, from 0 in the order of the Tab key. control->size must be set; PANELKIT_ERROR_ID: index is not
+   below their number. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_control_at(
     panelkit_dialog* dialog, size_t index, panelkit_control* control);
+/* Enables a control for 1, disables it for 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_enable_control(
     panelkit_dialog* dialog, int32_t id, int32_t enable);
+/* Shows a control for 1, hides it for 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_show_control(
     panelkit_dialog* dialog, int32_t id, int32_t show);
+/* A control's own state, as if the dialog itself were enabled and shown: 1 or 0. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_control_enabled(
     panelkit_dialog* dialog, int32_t id, int32_t* enabled);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_is_control_shown(
     panelkit_dialog* dialog, int32_t id, int32_t* shown);
 
-/* Values, as the user sees them; docs/values.md tells which kinds have which. Texts go into a buffer of
-   `size` bytes with their terminator; *needed (may be null) is the size that all of it needs, also for
-   PANELKIT_ERROR_BUFFER. A null buffer with size 0 asks for that alone, and is PANELKIT_OK. */
+/* From now on, if use is not 0, the pictures that take clicks are reached by Tab and used by Space, Enter and
+   arrows; else not. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_use_picture_keyboard(
+    panelkit_dialog* dialog, int32_t use);
+
+/* Values are those that the user sees; docs/values.md tells which kinds have which. For each getter and
+   setter PANELKIT_ERROR_ID means that no control has the id, PANELKIT_ERROR_NO_VALUE that it has no such
+   value or, of getters, that no legal one stands in it, PANELKIT_ERROR_REFUSED that it keeps the one that it
+   has. */
+
+/* The integer of an edit, the status of a multi-state button, the counter of a rotate button. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_int(
     panelkit_dialog* dialog, int32_t id, int32_t* value);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_int(
     panelkit_dialog* dialog, int32_t id, int32_t value);
+/* The real of an edit; the angle of a rotate button in degrees. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_real(
     panelkit_dialog* dialog, int32_t id, double* value);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_real(
     panelkit_dialog* dialog, int32_t id, double value);
+/* The text of an edit or a combo box, into a buffer of `size` bytes with its terminator; *needed (may be
+   null) is the size that all of it needs, also for PANELKIT_ERROR_BUFFER: then the text is cut between
+   characters. A null buffer with size 0 asks for that alone, and is PANELKIT_OK. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_text(
     panelkit_dialog* dialog, int32_t id, char* buffer, size_t size, size_t* needed);
+/* Sets that text. Refused is one that is too long, that GBK can't say or that a combo box without a field has
+   not among its lines. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_text(
     panelkit_dialog* dialog, int32_t id, const char* text);
+/* Whether a check box or radio button is checked: 1 or 0. Checking a radio button unchecks the others of its
+   group. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_checked(
     panelkit_dialog* dialog, int32_t id, int32_t* checked);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_checked(
@@ -211,49 +252,70 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_checked(
 /* The id of the checked radio button in the group of this one; 0: none is. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_group(
     panelkit_dialog* dialog, int32_t id, int32_t* checked_id);
+/* The selected line of a list box or combo box, the selected row of a table, from 0; -1: none. Of several
+   that are selected there is no value. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_index(
     panelkit_dialog* dialog, int32_t id, int32_t* index);
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_index(
     panelkit_dialog* dialog, int32_t id, int32_t index);
-/* lines: room for `capacity` of them; *count (may be null): how many there are. */
+/* All selected lines or rows, ascending. lines: room for `capacity` of them, null with a capacity of 0 asks
+   for the count alone. *count (may be null): how many there are, also for PANELKIT_ERROR_BUFFER, when as many
+   as there is room for have been written. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_selection(
     panelkit_dialog* dialog, int32_t id, int32_t* lines, size_t capacity, size_t* count);
+/* Selects those `count` lines and no other; null with a count of 0: none. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_selection(
     panelkit_dialog* dialog, int32_t id, const int32_t* lines, size_t count);
+/* The selected item of a tree: the texts from the root down with '/' between them; empty: none. The buffer is
+   as for panelkit_get_text. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_path(
     panelkit_dialog* dialog, int32_t id, char* buffer, size_t size, size_t* needed);
+/* Selects that item; refused is a path of no item. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_path(
     panelkit_dialog* dialog, int32_t id, const char* path);
 
-/* A value as a text to keep between runs, whatever its kind, and back; all values as one text of several
-   lines. restore_all sets what it can; *refused (may be null): how many values it could not, also for
-   PANELKIT_ERROR_REFUSED, which says that there are some. */
+/* A value as a text to keep between runs, whatever its kind. The buffer is as for panelkit_get_text. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_save(
     panelkit_dialog* dialog, int32_t id, char* buffer, size_t size, size_t* needed);
+/* And back. Refused is a text that is none of such a value, and a value that the control refuses. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_restore(
     panelkit_dialog* dialog, int32_t id, const char* saved);
+/* All values as one text of several lines, but those that are not legal now. The buffer is as for
+   panelkit_get_text. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_save_all(
     panelkit_dialog* dialog, char* buffer, size_t size, size_t* needed);
+/* And back: sets what it can. *refused (may be null): how many values it could not, also for
+   PANELKIT_ERROR_REFUSED, which says that there are some. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_restore_all(
     panelkit_dialog* dialog, const char* saved, size_t* refused);
 
-/* Lines of list boxes and combo boxes, rows of tables; they count from 0. data: the program's number of a
- * line. */
+/* *count: how many lines a list box or combo box has, or rows a table. They count from 0. For each function
+   about lines PANELKIT_ERROR_NO_VALUE means that the control has none, PANELKIT_ERROR_ID that there is no
+   control or no line with that number. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_line_count(
     panelkit_dialog* dialog, int32_t id, int32_t* count);
+/* The text of a line, of a row that of its first column; lines that are pictures have none. The buffer is as
+   for panelkit_get_text. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_line(
     panelkit_dialog* dialog, int32_t id, int32_t line, char* buffer, size_t size, size_t* needed);
+/* Adds a line at the end; text: of a box of pictures the name of a .bmp file. data: the program's number of
+   it. Refused is a text that GBK can't say. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_add_line(
     panelkit_dialog* dialog, int32_t id, const char* text, int32_t data);
+/* The same before a line; line: 0 up to their number. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_insert_line(
     panelkit_dialog* dialog, int32_t id, int32_t line, const char* text, int32_t data);
+/* Takes one line away. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_delete_line(
     panelkit_dialog* dialog, int32_t id, int32_t line);
+/* Takes all lines away. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_clear_lines(panelkit_dialog* dialog, int32_t id);
 
-/* Timers by ids of the program's own; one that runs begins anew. They run while the dialog is hidden too. */
+/* Has PANELKIT_EVENT_TIMER come every so many milliseconds, also while the dialog is hidden. timer: an id of
+   the program's own; one that runs begins anew. A negative time is refused with PANELKIT_ERROR_ARGUMENT. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_start_timer(
     panelkit_dialog* dialog, int32_t timer, int32_t milliseconds);
+/* Stops it. PANELKIT_ERROR_ID: it does not run. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_stop_timer(panelkit_dialog* dialog, int32_t timer);
 
 #ifdef __cplusplus

@@ -7,6 +7,7 @@
 extern "C" {
 #endif
 
+/* For panelkit_set_text_colour: no colour of its own. */
 #define PANELKIT_COLOUR_OF_SYSTEM (-1)
 
 /* The colour of a control's text, 0xRRGGBB; PANELKIT_COLOUR_OF_SYSTEM: that of the system again.

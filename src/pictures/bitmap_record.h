@@ -28,9 +28,10 @@ public:
     void DelItemM(); // Deletes the bitmap and marks the record deleted.
     void DropM();    // Lets the bitmap go; deletes it unless another record shares it.
 
-    bool HoldsBitmapM() const;
-    CBitmap* GetBitmapM(); // Null when there is none; the record keeps it.
-    int GetWidthM() const; // 0 without a bitmap.
+    bool HoldsBitmapM() const; // Whether there is one, not deleted by another record either.
+    CBitmap* GetBitmapM();     // Null when there is none; the record keeps it.
+    // In pixels; 0 without a bitmap.
+    int GetWidthM() const;
     int GetHeightM() const;
 
     // Draws with the top left at x, y of dc: at its own size, or, where size (may be null) is smaller in
@@ -69,6 +70,7 @@ private:
 
 extern template class PANELKIT_API Arr<DVrBitmapCL>;
 
+// An array of DVrBitmapCL. Files are .bmp files by GBK path.
 class PANELKIT_API DVrBitmapArr : public Arr<DVrBitmapCL>
 {
 public:

@@ -19,7 +19,7 @@ public:
     // Becomes alive and reads the name, the rest of its line; stored behind the directory of the file read.
     void FmInputEvrFileM(VrIOCL* io) override;
 
-    int GetBmpNameM(char* out) const;  // out: 260 bytes. 1.
+    int GetBmpNameM(char* out) const;  // Copies it; out: 260 bytes. 1.
     int SetBmpNameM(const char* name); // Null counts as empty. 1.
 
 private:

@@ -19,12 +19,13 @@ PANELKIT_API int slFindVerticalEdgeM(
 PANELKIT_API int slFindVerticalEdgeM(
     const char* file, const unsigned char* key, Int2DArr* first, Int2DArr* last);
 
+// A part of a picture, in pixels from its top left.
 struct PictureRect
 {
-    int left;
-    int top;
-    int right; // Behind the last column and row.
-    int bottom;
+    int left;   // The first column.
+    int top;    // The first row.
+    int right;  // Behind the last column.
+    int bottom; // Behind the last row.
 };
 
 // The rectangles that remain of the picture when each column's runs of transparent pixels are cut out, each

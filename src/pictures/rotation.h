@@ -6,9 +6,9 @@
 // them.
 struct PixelBlockCL
 {
-    std::uint32_t* pixels;
-    int width;
-    int height;
+    std::uint32_t* pixels; // width * height of them; null: none.
+    int width;             // In pixels.
+    int height;            // In pixels.
 };
 
 // Draws the picture turned by the angle (degrees, counter-clockwise) onto a block of the same size, whose top

@@ -29,6 +29,7 @@ public:
     void GetDrawRgnM(DVrRgnCL* region) const;         // The outline polygon.
     void GetRotateButtonRgnM(DVrRgnCL* region) const; // The inscribed ellipse.
 
+    // What the file says; at first 0, the show condition -1. The references hold as long as the record.
     int GetWindowIndexM() const { return windowIndex_; }
     int GetItemIndexM() const { return itemIndex_; }
     int GetFuncIDM() const { return functionId_; }
@@ -38,6 +39,7 @@ public:
     const int (&GetSizeM() const)[2] { return size_; }
     int GetShowConditionM() const { return showCondition_; }
 
+    // Take the place of what the file says.
     void SetWindowIndexM(int index) { windowIndex_ = index; }
     void SetShowConditionM(int condition) { showCondition_ = condition; }
 
@@ -45,6 +47,7 @@ public:
     void EachCommonFieldM(FieldVisitorCL& visitor, int withItemIndex = 0);
 
 protected:
+    // For kinds whose section has it: shows the visitor the show condition.
     void showConditionFieldM(FieldVisitorCL& visitor) { visitor.IntM("show_condition", showCondition_); }
 
 private:

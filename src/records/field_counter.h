@@ -6,7 +6,9 @@
 class PANELKIT_API FieldCounterCL : public FieldVisitorCL
 {
 public:
+    // How many it has seen.
     int ValuesM() const { return count_; }
+    // Count; see FieldVisitorCL.
     void IntM(const char*, int& value) override
     {
         value = 0;

@@ -15,6 +15,7 @@ constexpr int TextSize = PathSize;
 // 1 when the text is exactly "NULL" or "null", the words that stand for no text or no file.
 PANELKIT_API int slIsNullWord(const char* text);
 
+// What "NULL" and "null" mean in a field.
 enum class NullWord
 {
     Kept,       // "NULL" and "null" are ordinary texts of this field.
@@ -26,37 +27,41 @@ enum class NullWord
 // How a text is written.
 struct TextFormCL
 {
+    // bytes: the size.
     TextFormCL(NullWord word = NullWord::Kept, int bytes = TextSize) // NOLINT: fields say just the word.
         : nullWord(word)
         , size(bytes)
     {
     }
-    NullWord nullWord;
-    int size; // With its terminator; what is longer is cut at a character.
+    NullWord nullWord; // What those words mean.
+    int size;          // With its terminator; what is longer is cut at a character.
 };
 
 // One of the values that a field may have, and what it means.
 struct ChoiceCL
 {
-    int value;
-    const char* name;
+    int value;        // As it stands in the file.
+    const char* name; // What it means, in English.
 };
 
 // All of them; any other value counts as one of these, or as nothing at all.
 struct ChoicesCL
 {
+    // Of an array that lives as long.
     template <int countN>
     constexpr ChoicesCL(const ChoiceCL (&choices)[countN]) // NOLINT: a list is what it says.
         : first(choices)
         , count(countN)
     {
     }
+    // For loops over them.
     const ChoiceCL* begin() const { return first; }
     const ChoiceCL* end() const { return first + count; }
-    const ChoiceCL* first;
-    int count;
+    const ChoiceCL* first; // Of the array.
+    int count;             // How many there are.
 };
 
+// The direction of a length.
 enum class Along
 {
     X,
@@ -74,23 +79,27 @@ class PANELKIT_API FieldVisitorCL
 public:
     virtual ~FieldVisitorCL();
 
-    // General: a number (or a fixed group of them) that is no more than a number; a colour; a text.
+    // A number, or a fixed group of them, that is no more than a number.
     virtual void IntM(const char* name, int& value);
     virtual void RealM(const char* name, float& value);
     virtual void IntsM(const char* name, int* values, int count);
     virtual void RealsM(const char* name, float* values, int count);
-    // flag: null for a plain colour; else 1 while the colour applies, which a negative red prevents.
+    // A colour. flag: null for a plain colour; else 1 while the colour applies, which a negative red
+    // prevents.
     virtual void ColourM(const char* name, ColourTP& colour, int* flag = nullptr);
+    // A text; form: how long it may be and what "NULL" means.
     virtual void TextM(const char* name, CharArr& text, const TextFormCL& form);
 
     virtual void IdM(const char* name, int& value) { IntM(name, value); }    // The function id of a control.
     virtual void IndexM(const char* name, int& value) { IntM(name, value); } // A place in an order.
-    virtual void CountM(const char* name, int& value) { IntM(name, value); }
-    virtual void FlagM(const char* name, int& value) { IntM(name, value); } // 1: yes.
+    virtual void CountM(const char* name, int& value) { IntM(name, value); } // How many of something.
+    virtual void FlagM(const char* name, int& value) { IntM(name, value); }  // 1: yes.
+    // One of a few values.
     virtual void ChoiceM(const char* name, int& value, const ChoicesCL&) { IntM(name, value); }
     virtual void LengthM(const char* name, int& value, Along) { IntM(name, value); } // Pixels.
     virtual void LengthPairM(const char* name, int (&xy)[2]) { IntsM(name, xy, 2); } // Pixels, x and y.
-    virtual void MillisecondsM(const char* name, int& value) { IntM(name, value); }
+    virtual void MillisecondsM(const char* name, int& value) { IntM(name, value); }  // A time.
+    // Angles.
     virtual void DegreesM(const char* name, float& value) { RealM(name, value); }
     virtual void DegreesPairM(const char* name, float (&values)[2]) { RealsM(name, values, 2); }
     // A text for a person to read, and the name of a file.

@@ -28,11 +28,11 @@ struct ValueSeenCL
 {
     const char* section; // The header of its section, GBK; "" for a record read on its own.
     int record;          // The number of its record or entry in the section, from 0.
-    const char* field;
+    const char* field;   // The name of its field.
     int part; // Its number, from 0, among the values of a field with several: x and y, red, green and blue.
     SpanCL span; // What was found; what is no number to the next blank, at most 259 bytes. Or empty.
-    Fate fate;
-    bool isFileName { false };
+    Fate fate;   // What became of it.
+    bool isFileName { false }; // It names a picture.
 };
 
 // Why an entry belongs to no record.
@@ -43,27 +43,28 @@ enum class EntryFault
     BadSlot    // It names a slot below 0, or one so far that it can't be meant.
 };
 
+// An entry of a secondary section that belongs to no record.
 struct EntryDroppedCL
 {
-    const char* section;
-    int entry;   // Its number in the section, from 0.
-    SpanCL span; // All its values.
-    EntryFault fault;
+    const char* section; // The header of the section, GBK.
+    int entry;           // Its number in the section, from 0.
+    SpanCL span;         // All its values.
+    EntryFault fault;    // Why.
 };
 
 // One section as a whole. Spans of what isn't there are empty.
 struct SectionSeenCL
 {
-    const char* header;
-    SectionStatus status;
-    int count; // Records or entries that were read.
-    SpanCL headerSpan;
-    SpanCL countSpan;    // The number of records.
-    SpanCL countLine;    // All of that number's line.
-    SpanCL commentCount; // The number of comment lines.
-    SpanCL comments;     // Those lines.
-    std::size_t end;     // Behind the last value.
-    SpanCL follows;      // The next text behind it, to the end of its line.
+    const char* header;   // GBK.
+    SectionStatus status; // What became of it.
+    int count;            // Records or entries that were read.
+    SpanCL headerSpan;    // Where the header stands.
+    SpanCL countSpan;     // The number of records.
+    SpanCL countLine;     // All of that number's line.
+    SpanCL commentCount;  // The number of comment lines.
+    SpanCL comments;      // Those lines.
+    std::size_t end;      // Behind the last value.
+    SpanCL follows;       // The next text behind it, to the end of its line.
 };
 
 // Is told what the reading of a description file finds, as it goes; see VrIOCL::SetObserverM. Names and spans
@@ -72,7 +73,8 @@ class PANELKIT_API ReadObserverCL
 {
 public:
     virtual ~ReadObserverCL();
+    // Do nothing here. What they are given holds until they return.
     virtual void ValueM(const ValueSeenCL& value);
     virtual void EntryDroppedM(const EntryDroppedCL& entry);
-    virtual void SectionM(const SectionSeenCL& section); // When all of it was read, its secondary ones too.
+    virtual void SectionM(const SectionSeenCL& section); // The same, when all was read, secondary ones too.
 };

@@ -9,7 +9,7 @@
 template <class RecordParamTP> class RecordArr : public Arr<RecordParamTP>
 {
 public:
-    using RecordTP = RecordParamTP;
+    using RecordTP = RecordParamTP; // The record's class.
     static constexpr std::array<SecondarySectionCL<RecordTP>, 0> Secondaries {};
 
 protected:

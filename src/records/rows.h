@@ -6,21 +6,22 @@
 // The values of one entry of a secondary section, wherever they are kept.
 struct RowCL
 {
-    static constexpr int MostNumbers = 3;
-    static constexpr int MostTexts = 3;
-    int* numbers;
-    CharArr* texts[MostTexts];
+    static constexpr int MostNumbers = 3; // The most that an entry has.
+    static constexpr int MostTexts = 3;   // The same of texts.
+    int* numbers;                         // As many as the entry has; null: none.
+    CharArr* texts[MostTexts];            // Null behind the last one.
 };
 
 // Names the values of an entry behind its function id, as EachFieldM does those of a record.
 using RowFieldsTP = void (*)(FieldVisitorCL& visitor, const RowCL& row);
 
-// The fields of entries that are one text, at most sizeN - 1 bytes, or one picture.
+// The field of entries that are one text, at most sizeN - 1 bytes.
 template <int sizeN = TextSize> void slTextRow(FieldVisitorCL& visitor, const RowCL& row)
 {
     visitor.CaptionM("text", *row.texts[0], { NullWord::SkipsEntry, sizeN });
 }
 
+// The field of entries that are the name of one picture.
 inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
 {
     visitor.NameM("bitmap", *row.texts[0], NullWord::SkipsEntry);

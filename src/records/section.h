@@ -26,13 +26,15 @@ public:
     SectionStatus OpenM(int values);
     // The parts of a head, for the sections with another one. Each does nothing unless the status is Read.
     void InputCountM(int* count);
-    void InputCommentsM(int* lines);       // Only their number.
+    void InputCommentsM(int* lines);       // Reads only their number.
     void InputCommentsM();                 // Their number, the rest of its line, and them.
     void SkipCommentsM(int lines);         // The rest of this line counts as one.
     void SetCountM(int count, int values); // Broken, and CountM 0, for more than the bytes left can hold.
 
+    // What has become of the section so far.
     SectionStatus StatusM() const { return seen_.status; }
     void SetStatusM(SectionStatus status) { seen_.status = status; }
+    // How many records or entries it has; 0 unless the status is Read.
     int CountM() const { return seen_.count; }
 
     FieldReaderCL& RecordM(int number); // The reader, before record or entry `number`.
@@ -54,19 +56,22 @@ private:
 // What the entries of one secondary section of a kind hold, and how a record takes one.
 template <class RecordTP> struct SecondarySectionCL
 {
-    const char* header;
-    RowFieldsTP fields;
+    const char* header; // GBK.
+    RowFieldsTP fields; // Names the values of an entry.
+    // Gives an entry to its record, which copies it.
     void (*attach)(RecordTP& record, const RowCL& row);
 };
 
 // One entry, read but not yet taken by a record.
 struct SectionEntryCL
 {
-    int functionId { 0 };
-    int numbers[RowCL::MostNumbers] {};
-    CharArr texts[RowCL::MostTexts];
+    int functionId { 0 };               // Of the record that it belongs to.
+    int numbers[RowCL::MostNumbers] {}; // As many as its fields name.
+    CharArr texts[RowCL::MostTexts];    // The same.
 
+    // Those as a row, valid as long as the entry.
     RowCL RowM() { return { numbers, { &texts[0], &texts[1], &texts[2] } }; }
+    // Shows the visitor the function id and what the fields name.
     PANELKIT_API void EachFieldM(FieldVisitorCL& visitor, RowFieldsTP fields);
     PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields); // What can't be read is 0 or "".
 };

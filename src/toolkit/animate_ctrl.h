@@ -7,6 +7,7 @@ class PANELKIT_API CAnimateCtrl : public CWnd
     DECLARE_DYNAMIC(CAnimateCtrl)
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    // A clip of the resources or of an .avi file, by its name in GBK. FALSE: there is none that can be shown.
     BOOL Open(LPCSTR file) { return Open(slGbkToShown(file).c_str()); }
     AFX_WIDE_TEXT BOOL Open(const WideTP* file) { return SendMessage(ACM_OPENW, 0, AfxTextOf(file)) != 0; }
     BOOL Open(UINT id); // of the resources
@@ -17,6 +18,8 @@ public:
         return SendMessage(ACM_PLAY, times, MAKELPARAM(from, to)) != 0;
     }
     BOOL Stop() { return SendMessage(ACM_STOP) != 0; }
+
+    // Shows that frame, and stays there.
     BOOL Seek(UINT frame) { return Play(frame, frame, 1); }
     BOOL IsPlaying() const { return SendMessage(ACM_ISPLAYING) != 0; }
 };

@@ -54,6 +54,7 @@ public:
 };
 
 PANELKIT_API CWinApp* AfxGetApp(); // null: the program has none
+// The name of the application object, in GBK; it keeps the text.
 PANELKIT_API LPCSTR AfxGetAppName();
 
 // The body of WinMain for an application object.

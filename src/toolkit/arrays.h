@@ -14,8 +14,11 @@ template <class TYPE, class ARG = const TYPE&> class CArray : public CObject
 public:
     CArray() = default;
 
+    // How many elements there are.
     INT_PTR GetSize() const { return static_cast<INT_PTR>(slots_.size()); }
+    // The same.
     INT_PTR GetCount() const { return GetSize(); }
+    // Whether there is none.
     BOOL IsEmpty() const { return slots_.empty(); }
     INT_PTR GetUpperBound() const { return GetSize() - 1; } // -1: empty
     // What grows; growBy is only a hint of how many elements come together, below 1: none.
@@ -27,20 +30,27 @@ public:
         }
         slots_.resize(wanted);
     }
+
+    // Frees what is held in reserve.
     void FreeExtra() { slots_.shrink_to_fit(); }
+    // Destroys all elements.
     void RemoveAll() { std::vector<SlotTP>().swap(slots_); }
 
+    // The element at an index, which stays in the array.
     const TYPE& GetAt(INT_PTR index) const { return slots_.at(placeM(index)).value; }
     TYPE& GetAt(INT_PTR index) { return slots_.at(placeM(index)).value; }
     TYPE& ElementAt(INT_PTR index) { return GetAt(index); }
     const TYPE& ElementAt(INT_PTR index) const { return GetAt(index); }
     TYPE& operator[](INT_PTR index) { return GetAt(index); }
     const TYPE& operator[](INT_PTR index) const { return GetAt(index); }
+
+    // Replaces one.
     void SetAt(INT_PTR index, ARG element) { GetAt(index) = element; }
     // Valid until the size changes; null where the array is empty.
     TYPE* GetData() { return slots_.empty() ? nullptr : &slots_.data()->value; }
     const TYPE* GetData() const { return slots_.empty() ? nullptr : &slots_.data()->value; }
 
+    // Replaces one; beyond the end the array grows up to there.
     void SetAtGrow(INT_PTR index, ARG element)
     {
         SlotTP copy { element };
@@ -61,6 +71,8 @@ public:
         slots_.insert(slots_.end(), copy.begin(), copy.end());
         return first;
     }
+
+    // Becomes a copy of the other.
     void Copy(const CArray& other) { slots_ = std::vector<SlotTP>(other.slots_); }
     // Beyond the end: the array grows up to there first.
     void InsertAt(INT_PTR index, ARG element, INT_PTR count = 1)
@@ -76,6 +88,8 @@ public:
         growToM(index, copy.size());
         slots_.insert(slots_.begin() + index, copy.begin(), copy.end());
     }
+
+    // Takes out `count` elements from the index on.
     void RemoveAt(INT_PTR index, INT_PTR count = 1)
     {
         const size_t first = placeM(index);

@@ -17,6 +17,8 @@ public:
     void SetState(BOOL pressed) { SendMessage(BM_SETSTATE, AfxWordOf(pressed)); }
     UINT GetState() const { return static_cast<UINT>(SendMessage(BM_GETSTATE)); }
     void SetButtonStyle(UINT style, BOOL redraw = TRUE) { SendMessage(BM_SETSTYLE, style, redraw); }
+
+    // The BS_ part of the window style.
     UINT GetButtonStyle() const { return GetStyle() & 0xFFFF; }
     HBITMAP SetBitmap(HBITMAP bitmap) { return AfxSendHandle(*this, BM_SETIMAGE, IMAGE_BITMAP, bitmap); }
     HBITMAP GetBitmap() const { return AfxSendHandle<HBITMAP>(*this, BM_GETIMAGE, IMAGE_BITMAP); }

@@ -11,6 +11,8 @@ public:
 
     CHOOSECOLOR m_cc;           // may be changed before DoModal; holds the outcome after it
     INT_PTR DoModal() override; // IDOK or IDCANCEL
+
+    // The colour chosen, after IDOK.
     COLORREF GetColor() const { return m_cc.rgbResult; }
     void SetCurrentColor(COLORREF color);    // while the dialog is there
     static COLORREF* GetSavedCustomColors(); // the sixteen that the user mixes, as long as the program runs

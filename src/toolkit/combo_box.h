@@ -38,6 +38,8 @@ public:
     int GetCount() const { return AfxSendInt(*this, CB_GETCOUNT); }
     int GetLBText(int index, LPSTR to) const; // to holds GetLBTextLen + 1 bytes
     void GetLBText(int index, CString& to) const;
+
+    // Bytes of GBK without the zero; CB_ERR: no such line.
     int GetLBTextLen(int index) const;
 
     // From the line after `after` on (-1: the first) and round; without regard to case.
@@ -72,6 +74,8 @@ public:
     DWORD GetEditSel() const;
     BOOL SetEditSel(int first, int end); // 0, -1: all; -1, 0: nothing
     BOOL LimitText(int bytes); // for what the user enters; 0: what the field holds. CB_ERR: there is no field
+
+    // The text that an empty field shows. FALSE: the platform's combo box has none.
     BOOL SetCueBanner(LPCSTR text) { return SetCueBanner(slGbkToShown(text).c_str()); }
     AFX_WIDE_TEXT BOOL SetCueBanner(const WideTP* text)
     {
@@ -90,6 +94,8 @@ public:
     {
         return AfxSendInt(*this, CB_SETITEMDATA, index, static_cast<LPARAM>(data));
     }
+
+    // The data of a line as a pointer, which stays the caller's.
     void* GetItemDataPtr(int index) const { return reinterpret_cast<void*>(GetItemData(index)); }
     int SetItemDataPtr(int index, void* data)
     {

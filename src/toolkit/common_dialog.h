@@ -8,6 +8,7 @@
 class PANELKIT_API AfxGivenText
 {
 public:
+    // From GBK; null stays null.
     AfxGivenText(LPCSTR text);
     AFX_WIDE_TEXT AfxGivenText(const WideTP* text)
         : isNull_(text == nullptr)
@@ -18,6 +19,7 @@ public:
         : AfxGivenText(text.GetString())
     {
     }
+    // Whether it was null; the text, empty then.
     bool IsNull() const { return isNull_; }
     const std::wstring& Wide() const { return wide_; }
 
@@ -40,6 +42,8 @@ public:
 protected:
     void OnOK() override { Default(); }
     void OnCancel() override { Default(); }
+    // The window to own the dialog: the top-level one of the parent, else the last active popup of the
+    // application's main window; null: none.
     HWND ownerM() const;
     static FARPROC systemCallM(const char* name); // of the library of these dialogs; null: it has none
     static UINT_PTR adoptM(CCommonDialog* dialog, HWND hWnd); // from the hook, when the window is there

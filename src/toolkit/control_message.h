@@ -23,6 +23,7 @@ inline LPARAM AfxTextOf(LPCWSTR text)
 class AfxLineText
 {
 public:
+    // hasStrings: the style of that list by which its lines are texts.
     AfxLineText(const CWnd& list, LPCSTR text, DWORD hasStrings)
         : text_(text)
     {
@@ -32,6 +33,7 @@ public:
             wide_ = slGbkToShown(text);
         }
     }
+    // Valid as long as the object and the text.
     operator LPARAM() const { return isText_ ? AfxTextOf(wide_.c_str()) : reinterpret_cast<LPARAM>(text_); }
 
 private:

@@ -7,6 +7,7 @@ class CWnd;
 class PANELKIT_API CDataExchange
 {
 public:
+    // For the dialog whose controls are meant; saveAndValidate: from them to the members.
     CDataExchange(CWnd* window, BOOL saveAndValidate)
         : m_bSaveAndValidate(saveAndValidate)
         , m_pDlgWnd(window)
@@ -24,7 +25,7 @@ public:
     // CUserException ends the exchange.
     [[noreturn]] void Fail();
 
-    int m_idLastControl = 0;
+    int m_idLastControl = 0; // the one prepared last
     bool m_bEditLastControl = false;
     HWND m_hWndLastControl = nullptr;
 };

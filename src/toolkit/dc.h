@@ -17,13 +17,17 @@ public:
 
     HDC m_hDC = nullptr;       // what is drawn to
     HDC m_hAttribDC = nullptr; // what is asked; the same unless set otherwise
+
+    // The handle of what is drawn to; null: none.
     HDC GetSafeHdc() const { return m_hDC; }
     operator HDC() const { return m_hDC; }
-    BOOL Attach(HDC dc); // FALSE: null
-    HDC Detach();
+    BOOL Attach(HDC dc); // takes it over; FALSE: null
+    HDC Detach();        // gives it back, not deleted; null: there was none
+    // Another context to draw to, or to ask. It stays the caller's.
     void SetOutputDC(HDC dc) { m_hDC = dc; }
     void SetAttribDC(HDC dc) { m_hAttribDC = dc; }
     void ReleaseOutputDC() { m_hDC = nullptr; } // to have none; it is not deleted
+    // The same for what is asked.
     void ReleaseAttribDC() { m_hAttribDC = nullptr; }
     // The object of the calling thread that holds it, else a temporary one; null for a null handle.
     static CDC* FromHandle(HDC dc);
@@ -48,6 +52,7 @@ public:
     CGdiObject* SelectObject(CGdiObject* object);
     CPalette* SelectPalette(CPalette* palette, BOOL asBackground);
     UINT RealizePalette() { return ::RealizePalette(m_hDC); }
+
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
     CFont* GetCurrentFont() const;
@@ -173,6 +178,7 @@ public:
     }
     void DrawFocusRect(LPCRECT rect) { ::DrawFocusRect(m_hDC, rect); }
     BOOL DrawIcon(int x, int y, HICON icon) { return ::DrawIcon(m_hDC, x, y, icon); }
+
     BOOL DrawIcon(POINT at, HICON icon) { return DrawIcon(at.x, at.y, icon); }
     // A null brush: that of the state alone.
     BOOL DrawState(CPoint at, CSize size, HBITMAP bitmap, UINT flags, HBRUSH brush = nullptr);
@@ -248,6 +254,8 @@ public:
     int DrawTextEx(LPCSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
     int DrawTextEx(LPCWSTR text, int count, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
     int DrawTextEx(const CString& text, LPRECT rect, UINT format, DRAWTEXTPARAMS* parameters);
+
+    // Width and height of a text in one line, in logical units.
     CSize GetTextExtent(LPCSTR text, int count = -1) const;
     CSize GetTextExtent(LPCWSTR text, int count = -1) const;
     CSize GetTextExtent(const CString& text) const { return GetTextExtent(text, text.GetLength()); }
@@ -284,6 +292,7 @@ private:
 class AfxDcLoan : public CDC
 {
 public:
+    // Takes it for as long as the object lives.
     explicit AfxDcLoan(HDC dc)
     {
         m_hDC = dc;

@@ -7,6 +7,7 @@
 // final zero.
 PANELKIT_API void DDX_Control(CDataExchange* exchange, int id, CWnd& control); // gets the window's messages
 
+// The text of an edit field, as a number or as it is.
 PANELKIT_API void DDX_Text(CDataExchange* exchange, int id, BYTE& value);
 PANELKIT_API void DDX_Text(CDataExchange* exchange, int id, short& value);
 PANELKIT_API void DDX_Text(CDataExchange* exchange, int id, int& value);
@@ -24,13 +25,19 @@ PANELKIT_API void DDX_Text(CDataExchange* exchange, int id, LPWSTR value, int si
 PANELKIT_API void DDX_Check(CDataExchange* exchange, int id, int& value); // BST_UNCHECKED and its kin
 // id: the first button of the group (WS_GROUP); value: which of its radio buttons, from 0, -1 for none.
 PANELKIT_API void DDX_Radio(CDataExchange* exchange, int id, int& value);
+
+// The selected line of a list box, from 0; -1: none.
 PANELKIT_API void DDX_LBIndex(CDataExchange* exchange, int id, int& index);
 PANELKIT_API void DDX_LBString(
     CDataExchange* exchange, int id, CString& value); // selects by how a line begins
+// The text of the selected line; selects the line that has it.
 PANELKIT_API void DDX_LBStringExact(CDataExchange* exchange, int id, CString& value);
+// The selected line of a combo box, from 0; -1: none.
 PANELKIT_API void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
 PANELKIT_API void DDX_CBString(CDataExchange* exchange, int id, CString& value); // the text of its field
+// The same; selects the line that has it.
 PANELKIT_API void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value);
+// The position of a scroll bar, or of a slider.
 PANELKIT_API void DDX_Scroll(CDataExchange* exchange, int id, int& position);
 PANELKIT_API void DDX_Slider(CDataExchange* exchange, int id, int& position);
 

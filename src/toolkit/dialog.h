@@ -39,11 +39,15 @@ public:
         return CreateIndirect(findTemplateM(templateName), parent);
     }
     BOOL CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* init = nullptr);
+
+    // The template for a DoModal to come; it must live until then. FALSE: null.
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr);
 
     // Shows the dialog and keeps its owner disabled until EndDialog. Result: what EndDialog said; -1: no
     // dialog. An exception out of the message loop passes, when the dialog is gone and the owner enabled.
     virtual INT_PTR DoModal();
+
+    // Ends it, with that result of DoModal.
     virtual void EndDialog(int result);
 
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
@@ -53,7 +57,9 @@ public:
     {
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control->m_hWnd), 1);
     }
+    // The button that Enter presses.
     void SetDefID(UINT id) { SendMessage(DM_SETDEFID, id); }
+    // Its id in the low word, DC_HASDEFID in the high one; 0: none.
     DWORD GetDefID() const { return static_cast<DWORD>(SendMessage(DM_GETDEFID)); }
 
     // Shows the members in the controls (UpdateData). TRUE: the focus goes to the first control.
@@ -63,6 +69,7 @@ public:
 
 protected:
     virtual void OnOK(); // ends the dialog, if the controls show what the members can hold (UpdateData)
+    // Ends the dialog with IDCANCEL.
     virtual void OnCancel() { EndDialog(IDCANCEL); }
     DECLARE_MESSAGE_MAP()
 

@@ -13,6 +13,8 @@ public:
     void SetSel(DWORD packed, BOOL noScroll = FALSE) { SetSel(LOWORD(packed), HIWORD(packed), noScroll); }
     void GetSel(int& first, int& end) const;
     DWORD GetSel() const; // packed; ~0 where a word is too short for it
+
+    // Puts a text in the place of the selection, or where the caret is. canUndo: the user can take it back.
     void ReplaceSel(LPCSTR text, BOOL canUndo = FALSE) { ReplaceSel(slGbkToShown(text).c_str(), canUndo); }
     AFX_WIDE_TEXT void ReplaceSel(const WideTP* text, BOOL canUndo = FALSE)
     {
@@ -32,6 +34,7 @@ public:
     int LineLength(int at = -1) const;      // -1: what is not selected of the selection's lines
     int LineFromChar(int at = -1) const;    // -1: of the selection
     int GetFirstVisibleLine() const { return static_cast<int>(SendMessage(EM_GETFIRSTVISIBLELINE)); }
+    // Scrolls so many lines down and characters to the right; negative: back.
     void LineScroll(int lines, int characters = 0);
     int CharFromPos(CPoint point) const; // low word: position, high word: line
     CPoint PosFromChar(UINT at) const;

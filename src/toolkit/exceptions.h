@@ -36,6 +36,7 @@ protected:
     virtual int textIdM() const { return -1; } // MessageTextId; -1: none
 };
 
+// Declares such a class with no more than a text; defined here only.
 #define AFX_SIMPLE_EXCEPTION(class_name)                                                                     \
     class PANELKIT_API class_name : public CSimpleException                                                  \
     {                                                                                                        \
@@ -46,13 +47,14 @@ protected:
     protected:                                                                                               \
         int textIdM() const override;                                                                        \
     };
-AFX_SIMPLE_EXCEPTION(CMemoryException)
-AFX_SIMPLE_EXCEPTION(CResourceException)
-AFX_SIMPLE_EXCEPTION(CUserException) // ends what the user has begun and has been told the reason of
-AFX_SIMPLE_EXCEPTION(CNotSupportedException)
-AFX_SIMPLE_EXCEPTION(CInvalidArgException)
+AFX_SIMPLE_EXCEPTION(CMemoryException)       // there is no memory left
+AFX_SIMPLE_EXCEPTION(CResourceException)     // the system has no such resource, or refuses one
+AFX_SIMPLE_EXCEPTION(CUserException)         // ends what the user has begun and has been told the reason of
+AFX_SIMPLE_EXCEPTION(CNotSupportedException) // what was asked for cannot be done
+AFX_SIMPLE_EXCEPTION(CInvalidArgException)   // an argument that cannot be meant
 #undef AFX_SIMPLE_EXCEPTION
 
+// Throw a new exception of that class.
 [[noreturn]] PANELKIT_API void AfxThrowMemoryException();
 [[noreturn]] PANELKIT_API void AfxThrowResourceException();
 [[noreturn]] PANELKIT_API void AfxThrowUserException();
@@ -64,6 +66,7 @@ AFX_SIMPLE_EXCEPTION(CInvalidArgException)
 class AfxCaught
 {
 public:
+    // What the block has caught; null: nothing.
     explicit AfxCaught(CException* caught)
         : caught_(caught)
         , flying_(std::uncaught_exceptions())
@@ -83,6 +86,8 @@ private:
     int flying_;
 };
 
+// The blocks TRY { } CATCH (class, e) { } AND_CATCH … END_CATCH: each catches exceptions of a class, or of
+// all, and deletes the one that it has caught. END_TRY alone catches and deletes whatever is a CException.
 #define TRY                                                                                                  \
     {                                                                                                        \
         try {
@@ -106,5 +111,7 @@ private:
         afxException->Delete();                                                                              \
     }                                                                                                        \
     }
+
+// Throw an exception made by new; the one that is being caught.
 #define THROW(e) throw e
 #define THROW_LAST() throw

@@ -3,6 +3,7 @@
 #include <vector>
 
 struct __POSITION;
+// A place in a list; null: none.
 typedef __POSITION* POSITION;
 
 // Asks for a file to open, or to save as. The dialog itself works with wide names; of a name that GBK cannot
@@ -30,6 +31,7 @@ public:
     CString GetFileTitle() const;  // and without the extension
     CString GetFileExt() const;    // without the dot
     CString GetFolderPath() const; // while the dialog is there
+    // Whether "read only" was ticked.
     BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
     // All paths of a multiple selection (OFN_ALLOWMULTISELECT).
     POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(m_ofn.lpstrFile); }
@@ -40,14 +42,21 @@ public:
     // While the dialog is there: of its own controls (edt1, stc2, …).
     void SetControlText(int id, LPCSTR text) { setTextM(id, AfxGivenText(text)); }
     AFX_WIDE_TEXT void SetControlText(int id, const WideTP* text) { setTextM(id, AfxGivenText(text)); }
+
+    // Hides one of them.
     void HideControl(int id);
+
+    // The extension that a name without one gets.
     void SetDefExt(LPCSTR extension) { setExtensionM(AfxGivenText(extension)); }
     AFX_WIDE_TEXT void SetDefExt(const WideTP* extension) { setExtensionM(AfxGivenText(extension)); }
 
 protected:
+    // The dialog is there, not shown yet.
     virtual void OnInitDone() { }
     virtual BOOL OnFileNameOK() { return FALSE; } // TRUE: the dialog stays
+    // Another program has the file: OFN_SHAREWARN tells the user, OFN_SHAREFALLTHROUGH takes it all the same.
     virtual UINT OnShareViolation(LPCSTR) { return OFN_SHAREWARN; }
+    // The selected file, the folder or the filter has changed.
     virtual void OnFileNameChange() { }
     virtual void OnFolderChange() { }
     virtual void OnTypeChange() { }

@@ -28,6 +28,8 @@ public:
     CString GetFaceName() const;
     CString GetStyleName() const;                   // after IDOK
     int GetSize() const { return m_cf.iPointSize; } // in tenths of a point, after IDOK
+
+    // Of that font: the colour of the text, its weight (FW_ numbers), and how it is drawn.
     COLORREF GetColor() const { return m_cf.rgbColors; }
     int GetWeight() const { return static_cast<int>(fontM().lfWeight); }
     BOOL IsStrikeOut() const { return fontM().lfStrikeOut != 0; }

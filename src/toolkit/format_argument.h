@@ -9,6 +9,7 @@
 class AfxFormatArgument
 {
 public:
+    // What a value is.
     enum KindTP
     {
         IntegerKind,
@@ -18,6 +19,7 @@ public:
         PointerKind
     };
 
+    // Takes a value; a pointer or text must live until the format is done.
     template <class T> AfxFormatArgument(const T& value)
     {
         if constexpr (std::is_integral<T>::value || std::is_enum<T>::value) {
@@ -49,10 +51,13 @@ public:
         }
     }
 
+    // What the value is.
     KindTP KindM() const { return kind_; }
     unsigned long long BitsM() const { return bits_; } // of an integer, extended by its sign
     bool IsLongM() const { return isLong_; }           // an integer of 64 bits, a long double
+    // It is a wchar_t.
     bool IsWideCharacterM() const { return isWideCharacter_; }
+    // Of a real.
     long double RealM() const { return real_; }
     const void* PointerM() const { return pointer_; } // of texts too
 

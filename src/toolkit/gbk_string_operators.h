@@ -3,6 +3,7 @@
 
 // A string beside a string, a narrow or wide text, or a character.
 
+// The second behind the first, as a new string.
 inline CString operator+(CString one, const CString& two)
 {
     return std::move(one += two);
@@ -32,6 +33,7 @@ template <class C, AfxIfChar<C> = 0> CString operator+(C one, const CString& two
     return CString(one) += two;
 }
 
+// Declares one comparison by bytes for every pair; defined here only.
 #define AFX_COMPARE_STRINGS(op)                                                                              \
     inline bool operator op(const CString& one, const CString& two)                                          \
     {                                                                                                        \
@@ -69,7 +71,7 @@ AFX_COMPARE_STRINGS(>)
 AFX_COMPARE_STRINGS(>=)
 #undef AFX_COMPARE_STRINGS
 
-// The text of the string table under that id, with what it calls %1 and %2 put in.
+// *to becomes the text of the string table under that id, with what it calls %1 and %2 put in.
 PANELKIT_API void AfxFormatString1(CString& to, UINT id, const char* one);
 PANELKIT_API void AfxFormatString2(CString& to, UINT id, const char* one, const char* two);
 
@@ -82,11 +84,12 @@ template <class C, AfxIfWide<C> = 0> void AfxFormatString2(CString& to, UINT id,
     AfxFormatString2(to, id, CString(one), CString(two));
 }
 
-// A wide text, for functions of the window system: ::SetWindowTextW(hWnd, CStringW(text)).
+// A wide text, for functions of the window system, as in `SetWindowTextW(hWnd, CStringW(text))`.
 class CStringW
 {
 public:
     CStringW() = default;
+    // Null counts as empty.
     CStringW(const wchar_t* text)
         : text_(text == nullptr ? L"" : text)
     {
@@ -95,8 +98,11 @@ public:
         : text_(GbkToWide(text))
     {
     }
+    // In wide characters, without the zero.
     int GetLength() const { return static_cast<int>(text_.size()); }
+    // Whether it has none.
     BOOL IsEmpty() const { return text_.empty(); }
+    // The text, valid as long as the object; never null.
     const wchar_t* GetString() const { return text_.c_str(); }
     operator const wchar_t*() const { return text_.c_str(); }
     // Into an array of that many characters, cut to it, with its zero.

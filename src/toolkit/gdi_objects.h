@@ -16,17 +16,19 @@ public:
     CGdiObject() = default;
     ~CGdiObject() override;
 
-    HGDIOBJ m_hObject = nullptr;
+    HGDIOBJ m_hObject = nullptr; // null: none
+    // The same.
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
     operator HGDIOBJ() const { return m_hObject; }
 
     BOOL Attach(HGDIOBJ object); // FALSE: null; what was held before is not deleted
-    HGDIOBJ Detach();
-    BOOL DeleteObject(); // FALSE: there was none
+    HGDIOBJ Detach();            // gives it back, not deleted; null: there was none
+    BOOL DeleteObject();         // FALSE: there was none
     int GetObject(int size, void* to) const { return ::GetObjectW(m_hObject, size, to); } // wide structures
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
     BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
+    // Compare the handles.
     BOOL operator==(const CGdiObject& other) const { return m_hObject == other.m_hObject; }
     BOOL operator!=(const CGdiObject& other) const { return m_hObject != other.m_hObject; }
 
@@ -38,6 +40,7 @@ private:
     bool isKnown_ = false; // as the holder of its handle
 };
 
+// A pen. The constructors with arguments make it; where the system refuses the handle is null.
 class PANELKIT_API CPen : public CGdiObject
 {
     DECLARE_DYNAMIC(CPen)
@@ -57,6 +60,7 @@ public:
             static_cast<DWORD>(styleCount), styles));
     }
     BOOL CreatePenIndirect(const LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
+    // What it was made of, as GetObject gives it; 0 without one.
     int GetLogPen(LOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
     int GetExtLogPen(EXTLOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
     static CPen* FromHandle(HPEN pen);
@@ -64,6 +68,7 @@ public:
 
 class CBitmap;
 
+// A brush. The constructors with arguments make it; where the system refuses the handle is null.
 class PANELKIT_API CBrush : public CGdiObject
 {
     DECLARE_DYNAMIC(CBrush)
@@ -82,10 +87,13 @@ public:
     {
         return Attach(::CreateDIBPatternBrushPt(packed, use));
     }
+
+    // What it was made of, as GetObject gives it; 0 without one.
     int GetLogBrush(LOGBRUSH* brush) const { return GetObject(sizeof *brush, brush); }
     static CBrush* FromHandle(HBRUSH brush);
 };
 
+// A font.
 class PANELKIT_API CFont : public CGdiObject
 {
     DECLARE_DYNAMIC(CFont)
@@ -118,11 +126,14 @@ public:
     }
     BOOL CreatePointFontIndirect(const LOGFONTW* font, CDC* dc = nullptr); // lfHeight is the size
     BOOL CreatePointFontIndirect(const LOGFONTA* font, CDC* dc = nullptr); // face name in GBK
+
+    // What it was made of, as GetObject gives it; 0 without one.
     int GetLogFont(LOGFONTW* font) const { return GetObject(sizeof *font, font); }
     int GetLogFont(LOGFONTA* font) const; // face name in GBK
     static CFont* FromHandle(HFONT font);
 };
 
+// A bitmap.
 class PANELKIT_API CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)
@@ -142,7 +153,10 @@ public:
     }
     BOOL CreateBitmapIndirect(BITMAP* bitmap) { return Attach(::CreateBitmapIndirect(bitmap)); }
     BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
+
+    // What it is, as GetObject gives it; 0 without one.
     int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
+
     DWORD GetBitmapBits(DWORD size, void* to) const;
     DWORD SetBitmapBits(DWORD size, const void* from);
     CSize GetBitmapDimension() const; // in tenths of a millimetre, as set
@@ -151,6 +165,7 @@ public:
     static CBitmap* FromHandle(HBITMAP bitmap);
 };
 
+// A region.
 class PANELKIT_API CRgn : public CGdiObject
 {
     DECLARE_DYNAMIC(CRgn)
@@ -191,6 +206,7 @@ public:
     // This region must exist; it becomes the combination. Null operands count as failures.
     int CombineRgn(const CRgn* one, const CRgn* two, int mode);
     int CopyRgn(const CRgn* from);
+
     BOOL EqualRgn(const CRgn* other) const;
     int OffsetRgn(int dx, int dy) { return ::OffsetRgn(handleM(), dx, dy); }
     int OffsetRgn(POINT by) { return ::OffsetRgn(handleM(), by.x, by.y); }
@@ -209,6 +225,7 @@ private:
     HRGN handleM() const { return static_cast<HRGN>(m_hObject); }
 };
 
+// A palette.
 class PANELKIT_API CPalette : public CGdiObject
 {
     DECLARE_DYNAMIC(CPalette)
@@ -217,6 +234,8 @@ public:
     operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
     BOOL CreatePalette(const LOGPALETTE* palette) { return Attach(::CreatePalette(palette)); }
     BOOL CreateHalftonePalette(CDC* dc);
+
+    // How many colours it has.
     int GetEntryCount() const;
     UINT GetPaletteEntries(UINT first, UINT count, PALETTEENTRY* to) const
     {

@@ -13,11 +13,12 @@ public:
     CImageList() = default;
     ~CImageList() override { DeleteImageList(); }
 
-    HIMAGELIST m_hImageList = nullptr;
+    HIMAGELIST m_hImageList = nullptr; // null: none
+    // The same.
     HIMAGELIST GetSafeHandle() const { return m_hImageList; }
     operator HIMAGELIST() const { return m_hImageList; }
-    BOOL Attach(HIMAGELIST list);
-    HIMAGELIST Detach();
+    BOOL Attach(HIMAGELIST list);                   // takes it over; FALSE: null
+    HIMAGELIST Detach();                            // gives it back, not deleted; null: there was none
     static CImageList* FromHandle(HIMAGELIST list); // temporary object; null for a null handle
     static BOOL IsOwned(HIMAGELIST list);           // an object that is not a temporary one will delete it
 

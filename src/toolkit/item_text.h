@@ -10,6 +10,7 @@
 class ItemTextCL
 {
 public:
+    // From GBK; LPSTR_TEXTCALLBACK is that word.
     explicit ItemTextCL(const char* text)
         : isAskedFor_(text == LPSTR_TEXTCALLBACKA)
         , wide_(isAskedFor_ ? std::wstring() : slGbkToShown(text))
@@ -27,6 +28,7 @@ private:
 template <class WideTP, UINT textBit> class WideItemCL
 {
 public:
+    // A copy of the structure, which is not written to.
     template <class GbkTP>
     explicit WideItemCL(const GbkTP& item)
         : text_((item.mask & textBit) != 0 ? item.pszText : nullptr)

@@ -38,6 +38,7 @@ public:
     int GetCount() const { return AfxSendInt(*this, LB_GETCOUNT); }
     int GetText(int index, LPSTR to) const; // to holds GetTextLen + 1 bytes
     void GetText(int index, CString& to) const;
+    // Bytes of GBK without the zero; LB_ERR: no such line.
     int GetTextLen(int index) const;
 
     // From the line after `after` on (-1: the first) and round; without regard to case.
@@ -96,6 +97,8 @@ public:
     {
         return AfxSendInt(*this, LB_SETITEMDATA, index, static_cast<LPARAM>(data));
     }
+
+    // The data of a line as a pointer, which stays the caller's.
     void* GetItemDataPtr(int index) const { return reinterpret_cast<void*>(GetItemData(index)); }
     int SetItemDataPtr(int index, void* data)
     {

@@ -4,6 +4,7 @@
 
 // What the collections use too: where an iteration is.
 struct __POSITION;
+// A place in a list; null: none.
 typedef __POSITION* POSITION;
 
 // Report, icon, small icon and list views. Texts are GBK, lengths in bytes; rows and columns count from 0.
@@ -28,6 +29,8 @@ public:
     int InsertColumn(int column, const LVCOLUMNA* what);
     int InsertColumn(int column, const LVCOLUMNW* what);
     BOOL DeleteColumn(int column) { return SendMessage(LVM_DELETECOLUMN, AfxWordOf(column)) != 0; }
+
+    // What mask asks of a column; what it says is set. FALSE: no such column.
     BOOL GetColumn(int column, LVCOLUMNA* to) const;
     BOOL GetColumn(int column, LVCOLUMNW* to) const;
     BOOL SetColumn(int column, const LVCOLUMNA* what);
@@ -87,6 +90,8 @@ public:
     {
         return setItemM(row, column, mask, text, image, state, stateMask, param, indent);
     }
+
+    // The text of a cell. FALSE: no such row.
     BOOL SetItemText(int row, int column, LPCSTR text)
     {
         return SetItemText(row, column, ItemTextCL(text).PointerM());
@@ -97,7 +102,10 @@ public:
     }
     int GetItemText(int row, int column, LPSTR to, int size) const; // result: bytes copied
     CString GetItemText(int row, int column) const;
+
+    // The application's number of a row.
     BOOL SetItemData(int row, DWORD_PTR data);
+    // The same; 0: none, or no such row.
     DWORD_PTR GetItemData(int row) const;
     BOOL SortItems(PFNLVCOMPARE compare, DWORD_PTR data);   // compares item data
     BOOL SortItemsEx(PFNLVCOMPARE compare, DWORD_PTR data); // compares rows
@@ -119,6 +127,8 @@ public:
     {
         return static_cast<int>(SendMessage(LVM_SETSELECTIONMARK, 0, static_cast<LPARAM>(row)));
     }
+
+    // Of a table with LVS_EX_CHECKBOXES.
     BOOL GetCheck(int row) const { return GetItemState(row, LVIS_STATEIMAGEMASK) >> 12 == 2; }
     BOOL SetCheck(int row, BOOL check = TRUE)
     {
@@ -156,6 +166,8 @@ public:
     int HitTest(LVHITTESTINFO* info) const; // -1: no row
     int HitTest(CPoint at, UINT* flags = nullptr) const;
     int SubItemHitTest(LVHITTESTINFO* info); // fills in the column too
+
+    // Pixels that a text takes in its font.
     int GetStringWidth(LPCSTR text) const { return GetStringWidth(ItemTextCL(text).PointerM()); }
     AFX_WIDE_TEXT int GetStringWidth(const WideTP* text) const
     {

@@ -2,8 +2,8 @@
 #include "toolkit/arrays.h"
 #include <cstddef>
 
-// A place in a list or map; null: none.
 struct __POSITION;
+// A place in a list or map; null: none.
 typedef __POSITION* POSITION;
 
 // A doubly linked list. A position stays valid until its element is removed. A null position, or taking from
@@ -14,14 +14,18 @@ public:
     CList() = default;
     ~CList() override { RemoveAll(); }
 
+    // How many elements there are.
     INT_PTR GetCount() const { return count_; }
     INT_PTR GetSize() const { return count_; }
+    // Whether there is none.
     BOOL IsEmpty() const { return count_ == 0; }
+    // The first or the last element, which stays in the list.
     TYPE& GetHead() { return nodeM(head_)->value; }
     const TYPE& GetHead() const { return nodeM(head_)->value; }
     TYPE& GetTail() { return nodeM(tail_)->value; }
     const TYPE& GetTail() const { return nodeM(tail_)->value; }
 
+    // Put a copy, or those of another list in their order, before the first or behind the last.
     POSITION AddHead(ARG value) { return positionM(insertM(value, nullptr, head_)); }
     POSITION AddTail(ARG value) { return positionM(insertM(value, tail_, nullptr)); }
     void AddHead(const CList* other)
@@ -40,6 +44,7 @@ public:
             AddTail(from->value);
         }
     }
+    // Puts a copy before the element there, or behind it.
     POSITION InsertBefore(POSITION at, ARG value)
     {
         NodeTP* const node = nodeM(at);
@@ -50,8 +55,10 @@ public:
         NodeTP* const node = nodeM(at);
         return positionM(insertM(value, node, node->next));
     }
+    // Take an element out; a copy of it.
     TYPE RemoveHead() { return takeM(nodeM(head_)); }
     TYPE RemoveTail() { return takeM(nodeM(tail_)); }
+    // Take one element out; all of them.
     void RemoveAt(POSITION at) { takeM(nodeM(at)); }
     void RemoveAll()
     {
@@ -62,6 +69,7 @@ public:
         count_ = 0;
     }
 
+    // Of the first, of the last element; null: there is none.
     POSITION GetHeadPosition() const { return positionM(head_); }
     POSITION GetTailPosition() const { return positionM(tail_); }
     // The element there; the position goes on, null behind the last.
@@ -69,8 +77,11 @@ public:
     const TYPE& GetNext(POSITION& at) const { return stepM(at, &NodeTP::next)->value; }
     TYPE& GetPrev(POSITION& at) { return stepM(at, &NodeTP::before)->value; }
     const TYPE& GetPrev(POSITION& at) const { return stepM(at, &NodeTP::before)->value; }
+
+    // The element there.
     TYPE& GetAt(POSITION at) { return nodeM(at)->value; }
     const TYPE& GetAt(POSITION at) const { return nodeM(at)->value; }
+    // Replaces it.
     void SetAt(POSITION at, ARG value) { nodeM(at)->value = value; }
     POSITION Find(ARG value, POSITION startAfter = nullptr) const // null: from the head; not there
     {

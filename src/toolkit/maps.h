@@ -21,8 +21,10 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : p
 {
 public:
     CMap() = default;
+    // How many pairs there are.
     INT_PTR GetCount() const { return static_cast<INT_PTR>(pairs_.size()); }
     INT_PTR GetSize() const { return GetCount(); }
+    // Whether there is none.
     BOOL IsEmpty() const { return pairs_.empty(); }
     BOOL Lookup(ARG_KEY key, VALUE& value) const // FALSE: not there, value unchanged
     {
@@ -34,8 +36,11 @@ public:
         return TRUE;
     }
     VALUE& operator[](ARG_KEY key) { return pairs_[key]; } // a new one if it isn't there
+    // The value of a key, there already or not.
     void SetAt(ARG_KEY key, ARG_VALUE value) { pairs_[key] = value; }
+    // FALSE: it was not there.
     BOOL RemoveKey(ARG_KEY key) { return pairs_.erase(key) != 0; }
+    // Destroys all pairs.
     void RemoveAll() { pairs_.clear(); }
     void InitHashTable(UINT size, BOOL allocate = TRUE) // a hint of how many there will be
     {

@@ -15,13 +15,14 @@ public:
     CMenu() = default;
     ~CMenu() override { DestroyMenu(); }
 
-    HMENU m_hMenu = nullptr;
+    HMENU m_hMenu = nullptr;    // null: none
     HMENU GetSafeHmenu() const; // null also where there is no object
     operator HMENU() const { return m_hMenu; }
+    // Compare the handles.
     BOOL operator==(const CMenu& other) const { return m_hMenu == other.m_hMenu; }
     BOOL operator!=(const CMenu& other) const { return m_hMenu != other.m_hMenu; }
-    BOOL Attach(HMENU menu); // FALSE: null
-    HMENU Detach();
+    BOOL Attach(HMENU menu);                       // FALSE: null
+    HMENU Detach();                                // gives it back, not destroyed; null: there was none
     static CMenu* FromHandle(HMENU menu);          // the object that owns it, else a temporary one (see CWnd)
     static CMenu* FromHandlePermanent(HMENU menu); // null: no object owns it
 

@@ -8,10 +8,10 @@
 #define UNICODE
 #endif
 #ifndef _UNICODE
-#define _UNICODE
+#define _UNICODE // as UNICODE
 #endif
 #ifndef NOMINMAX
-#define NOMINMAX
+#define NOMINMAX // no macros min and max
 #endif
 #include <cassert>
 #include <type_traits>
@@ -31,10 +31,11 @@
 #ifndef _INC_TCHAR
 #undef _UNICODE
 #include <tchar.h>
-#define _UNICODE
+#define _UNICODE // as it was
 #endif
 #undef _T
 #undef _TEXT
+// A text of the character of the classes, and the types of such texts.
 #define _T(text) text
 #define _TEXT(text) text
 #define TCHAR char
@@ -59,6 +60,7 @@ constexpr std::common_type_t<A, B> max(A a, B b)
 }
 
 #ifndef ASSERT
+// As assert: nothing with NDEBUG.
 #define ASSERT(condition) assert(condition)
 #endif
 #ifndef VERIFY
@@ -68,6 +70,7 @@ constexpr std::common_type_t<A, B> max(A a, B b)
 #define VERIFY(condition) assert(condition)
 #endif
 #endif
+// Marks a message handler; means nothing.
 #define afx_msg
 
 // A macro of two arguments there, which hides the member function of that name.

@@ -7,6 +7,7 @@ class PANELKIT_API CProgressCtrl : public CWnd
     DECLARE_DYNAMIC(CProgressCtrl)
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    // From low to high.
     void SetRange(short low, short high) { SetRange32(low, high); }
     void SetRange32(int low, int high) { SendMessage(PBM_SETRANGE32, AfxWordOf(low), high); }
     void GetRange(int& low, int& high) const;

@@ -12,9 +12,13 @@ public:
     void SetPos(int at) { SendMessage(TBM_SETPOS, TRUE, at); }
     int GetRangeMin() const { return sentM(TBM_GETRANGEMIN); }
     int GetRangeMax() const { return sentM(TBM_GETRANGEMAX); }
+
+    // From where to where it goes.
     void GetRange(int& low, int& high) const;
     void SetRangeMin(int low, BOOL redraw = FALSE) { SendMessage(TBM_SETRANGEMIN, AfxWordOf(redraw), low); }
     void SetRangeMax(int high, BOOL redraw = FALSE) { SendMessage(TBM_SETRANGEMAX, AfxWordOf(redraw), high); }
+
+    // The same; redraw: at once.
     void SetRange(int low, int high, BOOL redraw = FALSE);
     void VerifyPos() { SetPos(GetPos()); } // within the range again
     // What an arrow key and a page key move. Results of the setters: what was before.

@@ -11,6 +11,8 @@ public:
     CWnd* GetBuddy() const { return CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(UDM_GETBUDDY))); }
     void SetRange(short low, short high) { SendMessage(UDM_SETRANGE, 0, MAKELPARAM(high, low)); }
     void SetRange32(int low, int high) { SendMessage(UDM_SETRANGE32, static_cast<WPARAM>(low), high); }
+
+    // From where to where it goes.
     void GetRange(int& low, int& high) const { GetRange32(low, high); }
     void GetRange32(int& low, int& high) const;
     DWORD GetRange() const

@@ -9,6 +9,8 @@ class PANELKIT_API CTabCtrl : public CWnd
     DECLARE_DYNAMIC(CTabCtrl)
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+    // A new tab; its index, -1 on failure.
     LONG InsertItem(int index, LPCSTR text) { return InsertItem(index, ItemTextCL(text).PointerM()); }
     AFX_WIDE_TEXT LONG InsertItem(int index, const WideTP* text)
     {
@@ -40,6 +42,8 @@ public:
     BOOL SetItem(int index, const TCITEMA* item);
     BOOL SetItem(int index, const TCITEMW* item);
     BOOL SetItemExtra(int bytes) { return SendMessage(TCM_SETITEMEXTRA, AfxWordOf(bytes)) != 0; }
+
+    // The TCIS_ bits of a tab.
     DWORD GetItemState(int index, DWORD mask) const;
     BOOL SetItemState(int index, DWORD mask, DWORD state);
     BOOL HighlightItem(int index, BOOL highlight = TRUE)
@@ -58,6 +62,7 @@ public:
     {
         SendMessage(TCM_ADJUSTRECT, AfxWordOf(larger), reinterpret_cast<LPARAM>(rect));
     }
+
     BOOL GetItemRect(int index, LPRECT rect) const;
     int HitTest(TCHITTESTINFO* info) const
     {

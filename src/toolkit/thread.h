@@ -39,9 +39,11 @@ public:
     }
 
     CWnd* m_pMainWnd = nullptr; // not owned; becomes null, and ends Run, when its window is destroyed
+    // That window; null: none.
     virtual CWnd* GetMainWnd() { return m_pMainWnd; }
     virtual BOOL InitInstance() { return FALSE; } // FALSE: nothing to run
     virtual int Run(); // until WM_QUIT; its exit code is the result of ExitInstance
+    // At the end of Run; the exit code.
     virtual int ExitInstance();
     virtual BOOL PreTranslateMessage(MSG* message); // TRUE: dealt with
     virtual BOOL PumpMessage(); // waits for one message and deals with it; FALSE: it was WM_QUIT
@@ -51,12 +53,14 @@ public:
     // WM_CREATE fails, WM_PAINT validates the window, else the user is told, but of a CUserException.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* message);
     virtual void Delete(); // at the end of the thread
+    // Called when that window is destroyed.
     void MainWndGone();
+    // What WM_QUIT said.
     int ExitCode() const { return m_nExitCode; }
 
 protected:
     DECLARE_MESSAGE_MAP()
-    int m_nExitCode = 0;
+    int m_nExitCode = 0;   // what WM_QUIT said
     void becomeCurrentM(); // the object of the calling thread
 
 private:

@@ -8,8 +8,11 @@ class PANELKIT_API CToolTipCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipCtrl)
 public:
+    // FALSE: the system refused.
     BOOL Create(CWnd* parent, DWORD style = 0);
 
+    // A new tool. rect (null: all of the window): in its client area. FALSE: the system
+    // refused.
     BOOL AddTool(CWnd* wnd, LPCSTR text = LPSTR_TEXTCALLBACKA, LPCRECT rect = nullptr, UINT_PTR id = 0)
     {
         return addToolM(wnd, ItemTextCL(text).PointerM(), rect, id);
@@ -20,6 +23,8 @@ public:
     }
     BOOL AddTool(CWnd* wnd, UINT textId, LPCRECT rect = nullptr, UINT_PTR id = 0); // a text of the resources
     void DelTool(CWnd* wnd, UINT_PTR id = 0);
+
+    // Another text for a tool; nothing where there is none.
     void UpdateTipText(LPCSTR text, CWnd* wnd, UINT_PTR id = 0)
     {
         updateTextM(ItemTextCL(text).PointerM(), wnd, id);
@@ -29,7 +34,10 @@ public:
         updateTextM(text, wnd, id);
     }
     void UpdateTipText(UINT textId, CWnd* wnd, UINT_PTR id = 0);
+
+    // The text of a tool; empty where there is none.
     void GetText(CString& to, CWnd* wnd, UINT_PTR id = 0) const;
+    // Another rectangle for a tool that is one.
     void SetToolRect(CWnd* wnd, UINT_PTR id, LPCRECT rect);
     int GetToolCount() const { return AfxSendInt(*this, TTM_GETTOOLCOUNT); }
     BOOL HitTest(CWnd* wnd, CPoint at, LPTOOLINFOW found) const;
@@ -60,6 +68,7 @@ public:
     void SetTipBkColor(COLORREF color) { SendMessage(TTM_SETTIPBKCOLOR, color); }
     COLORREF GetTipTextColor() const { return static_cast<COLORREF>(SendMessage(TTM_GETTIPTEXTCOLOR)); }
     void SetTipTextColor(COLORREF color) { SendMessage(TTM_SETTIPTEXTCOLOR, color); }
+    // A line above the text; icon: TTI_ numbers.
     BOOL SetTitle(UINT icon, LPCSTR title) { return SetTitle(icon, slGbkToShown(title).c_str()); }
     AFX_WIDE_TEXT BOOL SetTitle(UINT icon, const WideTP* title)
     {

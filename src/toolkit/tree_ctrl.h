@@ -10,6 +10,8 @@ class PANELKIT_API CTreeCtrl : public CWnd
 public:
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
+    // A new item below the parent, behind one of its children or TVI_FIRST, TVI_LAST, TVI_SORT. Null: the
+    // system refused.
     HTREEITEM InsertItem(LPCSTR text, HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST)
     {
         return InsertItem(ItemTextCL(text).PointerM(), parent, after);
@@ -44,11 +46,15 @@ public:
     HTREEITEM InsertItem(TVINSERTSTRUCTA* what);
     HTREEITEM InsertItem(TVINSERTSTRUCTW* what);
     BOOL DeleteItem(HTREEITEM item) { return sendM(TVM_DELETEITEM, 0, item) != 0; }
+
+    // FALSE: the system refused.
     BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
     UINT GetCount() const { return static_cast<UINT>(SendMessage(TVM_GETCOUNT)); }
     UINT GetVisibleCount() const { return static_cast<UINT>(SendMessage(TVM_GETVISIBLECOUNT)); }
 
     HTREEITEM GetNextItem(HTREEITEM item, UINT which) const;
+
+    // Items by where they are; null: there is none.
     HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
     HTREEITEM GetChildItem(HTREEITEM item) const { return GetNextItem(item, TVGN_CHILD); }
     HTREEITEM GetNextSiblingItem(HTREEITEM item) const { return GetNextItem(item, TVGN_NEXT); }
@@ -60,9 +66,13 @@ public:
     HTREEITEM GetNextVisibleItem(HTREEITEM item) const { return GetNextItem(item, TVGN_NEXTVISIBLE); }
     HTREEITEM GetPrevVisibleItem(HTREEITEM item) const { return GetNextItem(item, TVGN_PREVIOUSVISIBLE); }
     HTREEITEM GetLastVisibleItem() const { return GetNextItem(nullptr, TVGN_LASTVISIBLE); }
+
+    // Whether there is one below it.
     BOOL ItemHasChildren(HTREEITEM item) const { return GetChildItem(item) != nullptr; }
 
     BOOL Select(HTREEITEM item, UINT which) { return sendM(TVM_SELECTITEM, which, item) != 0; }
+
+    // Selects the item; draws it as a target; makes it the first one seen. Null: none.
     BOOL SelectItem(HTREEITEM item) { return Select(item, TVGN_CARET); }
     BOOL SelectDropTarget(HTREEITEM item) { return Select(item, TVGN_DROPHILITE); }
     BOOL SelectSetFirstVisible(HTREEITEM item) { return Select(item, TVGN_FIRSTVISIBLE); }
@@ -92,29 +102,41 @@ public:
     {
         return setItemM(item, mask, text, image, selectedImage, state, stateMask, param);
     }
+
+    // The whole text; empty: no such item.
     CString GetItemText(HTREEITEM item) const;
+    // FALSE: no such item.
     BOOL SetItemText(HTREEITEM item, LPCSTR text) { return SetItemText(item, ItemTextCL(text).PointerM()); }
     AFX_WIDE_TEXT BOOL SetItemText(HTREEITEM item, const WideTP* text)
     {
         return setItemM(item, TVIF_TEXT, text, 0, 0, 0, 0, 0);
     }
+
+    // The numbers of its pictures. FALSE: no such item.
     BOOL GetItemImage(HTREEITEM item, int& image, int& selectedImage) const;
     BOOL SetItemImage(HTREEITEM item, int image, int selectedImage)
     {
         const UINT mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
         return setItemM(item, mask, nullptr, image, selectedImage, 0, 0, 0);
     }
+
+    // The application's number of the item; 0: none, or no such item.
     DWORD_PTR GetItemData(HTREEITEM item) const;
     BOOL SetItemData(HTREEITEM item, DWORD_PTR data)
     {
         const LPARAM param = static_cast<LPARAM>(data);
         return setItemM(item, TVIF_PARAM, nullptr, 0, 0, 0, 0, param);
     }
+
     UINT GetItemState(HTREEITEM item, UINT mask) const;
+
+    // The TVIS_ bits in the mask. FALSE: no such item.
     BOOL SetItemState(HTREEITEM item, UINT state, UINT mask)
     {
         return setItemM(item, TVIF_STATE, nullptr, 0, 0, state, mask, 0);
     }
+
+    // Of a tree with TVS_CHECKBOXES.
     BOOL GetCheck(HTREEITEM item) const { return GetItemState(item, TVIS_STATEIMAGEMASK) >> 12 == 2; }
     BOOL SetCheck(HTREEITEM item, BOOL check = TRUE)
     {

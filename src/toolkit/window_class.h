@@ -6,7 +6,9 @@
 class PANELKIT_API AfxClassName : public CString
 {
 public:
+    // From GBK.
     explicit AfxClassName(const std::string& name);
+    // Valid as long as the program.
     operator LPCSTR() const { return gbk_; }
     operator LPCWSTR() const { return wide_; }
 
@@ -19,7 +21,9 @@ private:
 class PANELKIT_API WindowClassNameCL
 {
 public:
+    // GBK, an atom or null.
     explicit WindowClassNameCL(LPCSTR name);
+    // Valid as long as the object.
     operator LPCWSTR() const { return isText_ ? wide_.c_str() : reinterpret_cast<LPCWSTR>(atom_); }
 
 private:
@@ -58,6 +62,7 @@ private:
 // window.
 struct PANELKIT_API AfxWndClass
 {
+    // As the members of the system's WNDCLASS.
     UINT style;
     WNDPROC lpfnWndProc;
     int cbClsExtra;
@@ -69,10 +74,12 @@ struct PANELKIT_API AfxWndClass
     AfxGivenName lpszMenuName;
     AfxGivenName lpszClassName;
 
+    // To the system's structure and back.
     operator WNDCLASSW() const;
     AfxWndClass& operator=(const WNDCLASSW& known);
 };
 #undef WNDCLASS
+// The structure above under the name that applications know.
 #define WNDCLASS AfxWndClass
 
 // What the names RegisterClass and GetClassInfo stand for, for such descriptions and names.

@@ -6,14 +6,16 @@ class PANELKIT_API CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)
 public:
+    // Begins the painting of the window; the end of the object ends it.
     explicit CPaintDC(CWnd* window);
     ~CPaintDC() override;
-    PAINTSTRUCT m_ps = {};
+    PAINTSTRUCT m_ps = {}; // what BeginPaint said
 
 protected:
-    HWND m_hWnd;
+    HWND m_hWnd; // whose context it is
 };
 
+// The context of a window's client area.
 class PANELKIT_API CClientDC : public CDC
 {
     DECLARE_DYNAMIC(CClientDC)
@@ -22,9 +24,10 @@ public:
     ~CClientDC() override;
 
 protected:
-    HWND m_hWnd;
+    HWND m_hWnd; // whose context it is
 };
 
+// The context of a whole window, frame included.
 class PANELKIT_API CWindowDC : public CDC
 {
     DECLARE_DYNAMIC(CWindowDC)
@@ -33,5 +36,5 @@ public:
     ~CWindowDC() override;
 
 protected:
-    HWND m_hWnd;
+    HWND m_hWnd; // whose context it is
 };

@@ -115,6 +115,7 @@
 #define ON_WM_CTLCOLOR_REFLECT()                                                                             \
     AFX_WINDOW(WM_REFLECT_BASE + WM_CTLCOLOR, AfxDcLoan dc(reinterpret_cast<HDC>(m.wParam));                 \
                m.result = reinterpret_cast<LRESULT>(self->CtlColor(&dc, m.id)); return m.result != 0;)
+
 #define ON_WM_HSCROLL_REFLECT()                                                                              \
     AFX_WINDOW(WM_REFLECT_BASE + WM_HSCROLL,                                                                 \
                self->HScroll(static_cast<UINT>(LOWORD(m.wParam)), static_cast<UINT>(HIWORD(m.wParam)));      \
@@ -126,6 +127,8 @@
 #define ON_WM_PARENTNOTIFY_REFLECT()                                                                         \
     AFX_WINDOW(WM_REFLECT_BASE + WM_PARENTNOTIFY, self->ParentNotify(static_cast<UINT>(m.wParam), m.lParam); \
                return true;)
+
+// What several of the lines below have in common: how they unpack wParam and lParam.
 #define AFX_BARE(message, handler) AFX_WINDOW(message, m.result = self->handler(); return true;)
 #define AFX_SIDE(message, handler)                                                                           \
     AFX_WINDOW(message, self->handler(static_cast<UINT>(m.wParam), reinterpret_cast<LPRECT>(m.lParam));      \
@@ -280,6 +283,7 @@
                m.result                                                                                      \
                = self->VKeyToItem(static_cast<UINT>(LOWORD(m.wParam)), static_cast<UINT>(HIWORD(m.wParam))); \
                return true;)
+
 #define ON_WM_DRAWITEM_REFLECT()                                                                             \
     AFX_WINDOW(WM_REFLECT_BASE + WM_DRAWITEM, self->DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(m.lParam));  \
                m.result = TRUE; return true;)

@@ -25,7 +25,8 @@ public:
     BOOL Attach(HWND hWnd);         // without taking its messages
     HWND Detach();                  // gives the window back as it was before Attach or SubclassWindow
     BOOL SubclassWindow(HWND hWnd); // from now on its messages come to this object
-    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    BOOL SubclassDlgItem(UINT id, CWnd* parent); // the same for a control of the parent
+    // As Detach.
     HWND UnsubclassWindow() { return Detach(); }
 
     // A window that the object still has is destroyed first. Texts are GBK, or wide; a class name may be an
@@ -72,12 +73,16 @@ public:
     }
     virtual BOOL DestroyWindow();
     virtual BOOL PreCreateWindow(
-        CREATESTRUCT& cs); // may change what the window is made with; FALSE: no window
-    virtual void PreSubclassWindow() { }
+        CREATESTRUCT& cs);               // may change what the window is made with; FALSE: no window
+    virtual void PreSubclassWindow() { } // the window is there, its first message still to come
 
+    // Every message of the window: the map and the virtual handlers, then DefWindowProc.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    // What the window does with a message by itself.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL PreTranslateMessage(MSG* message); // TRUE: dealt with
+    // Asks PreTranslateMessage of the objects from the message's window up to `stop`. TRUE: one dealt with
+    // it.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
     BOOL SendChildNotifyLastMsg(LRESULT* result = nullptr); // offers the current message to its child
 
@@ -91,15 +96,22 @@ public:
     // A message loop until EndModalLoop; its result. flags: MLF_SHOWONIDLE shows the window when nothing is
     // left to do.
     int RunModalLoop(DWORD flags = 0);
+
+    // Whether that loop goes on.
     virtual BOOL ContinueModal() { return modal_ == Modal::Running; }
+    // Ends it; result: that of RunModalLoop.
     virtual void EndModalLoop(int result);
 
 protected:
+    // Whether a handler of the map, OnCommand or OnNotify dealt with the message; *result is its result.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    // WM_COMMAND, before the map. TRUE: dealt with.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    // The same for WM_NOTIFY.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
     // A notification of this control, before its parent sees it. TRUE: the parent doesn't.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    // Names the members that go with controls, by DDX_ and DDV_ functions (ddx.h).
     virtual void DoDataExchange(CDataExchange*) { }
     virtual void PostNcDestroy() { } // the window is gone; may delete the object
     afx_msg void OnNcDestroy();      // lets the window go, then PostNcDestroy
@@ -113,6 +125,8 @@ protected:
     virtual void catchUpM() { }
     // EndModalLoop counts from the beginning, which may lie before the window, to the end.
     void beginModalM();
+
+    // Whether it has begun and not been ended.
     bool isModalM() const { return modal_ != Modal::No; }
     int endModalM(); // what EndModalLoop said, else -1
     DECLARE_MESSAGE_MAP()
@@ -147,4 +161,4 @@ private:
 
 #define MLF_NOIDLEMSG 0x0001  // without effect: the loop sends no WM_ENTERIDLE
 #define MLF_NOKICKIDLE 0x0002 // without effect
-#define MLF_SHOWONIDLE 0x0004
+#define MLF_SHOWONIDLE 0x0004 // the window is shown when nothing is left to do

@@ -11,9 +11,10 @@ class CWnd;
 class PANELKIT_API WndCallsCL : public CCmdTarget
 {
 public:
-    HWND m_hWnd = nullptr;
+    HWND m_hWnd = nullptr;    // null: no window
     HWND GetSafeHwnd() const; // null also where there is no object
     operator HWND() const { return m_hWnd; }
+    // Compare the windows.
     BOOL operator==(const WndCallsCL& other) const { return m_hWnd == other.m_hWnd; }
     BOOL operator!=(const WndCallsCL& other) const { return m_hWnd != other.m_hWnd; }
 
@@ -59,6 +60,7 @@ public:
     int GetWindowTextLength() const; // in bytes of GBK
     void SetDlgItemText(int id, LPCSTR text);
     AFX_WIDE_TEXT void SetDlgItemText(int id, const WideTP* text) { ::SetDlgItemTextW(m_hWnd, id, text); }
+    // The text of a child; the result is its bytes without the final zero.
     int GetDlgItemText(int id, LPSTR to, int size) const;
     AFX_WIDE_TEXT int GetDlgItemText(int id, WideTP* to, int size) const
     {
@@ -83,6 +85,8 @@ public:
     // Lists file names in the list box or combo box; path (GBK) may be changed by the call.
     int DlgDirList(LPSTR path, int listId, int textId, UINT kinds);
     int DlgDirListComboBox(LPSTR path, int comboId, int textId, UINT kinds);
+
+    // The name selected in such a list. TRUE: it is a folder or drive.
     BOOL DlgDirSelect(LPSTR to, int size, int listId);
     BOOL DlgDirSelectComboBox(LPSTR to, int size, int comboId);
     void SetFont(CFont* font, BOOL redraw = TRUE); // null: the system's
@@ -129,9 +133,12 @@ public:
     void GetClientRect(LPRECT rect) const { ::GetClientRect(m_hWnd, rect); }
     void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
     void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
+    // Both corners.
     void ClientToScreen(LPRECT rect) const;
     void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
+    // Both corners.
     void ScreenToClient(LPRECT rect) const;
+
     void MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const;
     void MapWindowPoints(CWnd* to, LPRECT rect) const;
     BOOL SetLayeredWindowAttributes(COLORREF key, BYTE alpha, DWORD flags)
@@ -173,6 +180,7 @@ public:
     }
     BOOL DrawCaption(CDC* dc, LPCRECT rect, UINT flags);
 
+    // How CalcWindowRect is to reckon.
     enum AdjustType
     {
         adjustBorder = 0,

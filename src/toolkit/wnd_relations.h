@@ -42,13 +42,18 @@ public:
     CWnd* GetOwner() const;     // as SetOwner said, else the parent
     void SetOwner(CWnd* owner); // not kept: who gets the notifications; null: the parent again
     CWnd* GetAncestor(UINT which) const { return FromHandle(::GetAncestor(m_hWnd, which)); }
+
+    // The topmost of its parents, itself if it has none.
     CWnd* GetTopLevelParent() const { return GetAncestor(GA_ROOT); }
+    // The same along parents and owners.
     CWnd* GetTopLevelOwner() const;
     CWnd* GetParentOwner() const; // the nearest that is no child window
     // The window to own a popup: the given one's or the main window's, or what is in front of it. *topLevel
     // gets the top-level window that was taken for granted.
     static CWnd* GetSafeOwner(CWnd* parent = nullptr, HWND* topLevel = nullptr);
     CWnd* GetWindow(UINT which) const { return FromHandle(::GetWindow(m_hWnd, which)); }
+
+    // GW_HWNDNEXT: behind it in the stacking order, GW_HWNDPREV: before it.
     CWnd* GetNextWindow(UINT which = GW_HWNDNEXT) const { return GetWindow(which); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
     CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }

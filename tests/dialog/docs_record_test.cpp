@@ -138,6 +138,14 @@ template <class RecordTP> void expectPage(const std::string& page, const char* h
     expectTold(told.fields, tables.empty() ? std::vector<RowTP>() : tables[0]);
     const std::string text = wholeFile(std::string(PANELKIT_DOCS "/") + page);
     EXPECT_NE(text.substr(0, text.find('\n')).find("`" + slGbkToUtf8(header) + "`"), std::string::npos);
+    // Its example is in a block of its own, and the picture of that behind it.
+    const std::size_t example = text.find("\n```\n");
+    const std::size_t end = text.find("\n```\n\n![", example + 1);
+    ASSERT_NE(end, std::string::npos);
+    EXPECT_NE(text.substr(example, end - example).find("\n" + slGbkToUtf8(header) + "\n"), std::string::npos);
+    const std::string picture = "pictures/" + page.substr(0, page.size() - 3) + ".png";
+    EXPECT_EQ(text.compare(text.find("](", end), picture.size() + 6, "](../" + picture + ")"), 0) << picture;
+    EXPECT_NE(wholeFile(std::string(PANELKIT_DOCS "/") + picture), "");
 }
 
 template <class RowTP> class DocsTest : public testing::Test
@@ -172,4 +180,18 @@ TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
     ASSERT_EQ(tables.size(), 2U);
     expectTold(ofHeader.fields, tables[0]);
     expectTold(ofAll.fields, tables[1]);
+}
+
+TEST(Docs, TellTheTableOfKinds)
+{
+    std::string table = "| kind | code | built | Tab order | value by id |\n|---|---|---|---|---|\n";
+    slEachKind([&](auto row) {
+        using RowTP = decltype(row);
+        const std::string name = RowTP::Records::KindName;
+        table += "| [" + name + "](kinds/" + name + ".md) | " + std::to_string(RowTP::Code) + " | "
+            + std::to_string(RowTP::BuildPlace) + (RowTP::CanM(Stacked) ? " | by window index" : " | last")
+            + (RowTP::CanM(HasValue) ? " | yes |\n" : " | |\n");
+    });
+    const std::string page = wholeFile(PANELKIT_DOCS "/inside.md");
+    EXPECT_NE(page.find("\n\n" + table + "\n"), std::string::npos) << "The table is:\n" << table;
 }

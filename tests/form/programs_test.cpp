@@ -1,5 +1,6 @@
 // The programs of the pages, run as their readers would; and what the pages say of the events.
 #include "support/all.h"
+#include "support/seen_by_reader.h"
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -110,7 +111,7 @@ std::set<std::string> namesIn(const std::string& text, const char* pattern)
 
 TEST(PagePrograms, TheSmallestProgramPrintsWhatWasTyped)
 {
-    PageProgramCL program("readme_program");
+    PageProgramCL program("README_page_program");
     const HWND window = program.WindowM();
     ClickM(::GetDlgItem(window, 1002), 5, 5);
     KeyM(VK_HOME);
@@ -124,6 +125,15 @@ TEST(PagePrograms, TheSmallestProgramPrintsWhatWasTyped)
     ClickM(::GetDlgItem(window, 1), 5, 5);
     EXPECT_EQ(program.ExitCodeM(), 0u);
     EXPECT_EQ(program.PrintedM(), "pen\r\n");
+}
+
+TEST(Programs, NamesOfControlsReachAScreenReaderInAnotherProcess)
+{
+    PageProgramCL program("named_program");
+    const HWND window = program.WindowM();
+    EXPECT_EQ(SeenByReaderCL(::GetDlgItem(window, 1003)).NameM(), L"Frame the drawing");
+    ClickM(::GetDlgItem(window, 2), 5, 5);
+    EXPECT_EQ(program.ExitCodeM(), 0u);
 }
 
 TEST(PagePrograms, OfThePagesEndAsTheySay)

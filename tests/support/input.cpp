@@ -2,6 +2,7 @@
 #include "support/pump.h"
 #include "support/script.h"
 #include "support/window.h"
+#include <optional>
 
 namespace testing_support {
 
@@ -53,6 +54,9 @@ INPUT namedKey(WORD virtualKey, DWORD flags)
     return keyInput(virtualKey, static_cast<WORD>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)), flags);
 }
 
+// Where the pointer was moved to last, on the 65536 scale; none: nowhere yet.
+std::optional<POINT> place;
+
 void mouse(DWORD flags, LONG x = 0, LONG y = 0, DWORD data = 0)
 {
     INPUT input = {};
@@ -62,6 +66,17 @@ void mouse(DWORD flags, LONG x = 0, LONG y = 0, DWORD data = 0)
     input.mi.mouseData = data;
     input.mi.dwFlags = flags;
     inject(input);
+}
+
+// With its place: what the display reports of the pointer to another program, such as that it has entered a
+// window, may come late and take the pointer back to where it was then.
+void injectButton(DWORD flags)
+{
+    if (place) {
+        mouse(flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, place->x, place->y);
+    } else {
+        mouse(flags);
+    }
 }
 
 } // namespace
@@ -110,8 +125,8 @@ bool MoveMouseToM(HWND window, int x, int y)
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
     // The middle of the pixel on the 65536 scale, so that no rounding leaves it.
-    mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, MulDiv(2 * wanted.x + 1, 65536, 2 * width),
-        MulDiv(2 * wanted.y + 1, 65536, 2 * height));
+    place = POINT { MulDiv(2 * wanted.x + 1, 65536, 2 * width), MulDiv(2 * wanted.y + 1, 65536, 2 * height) };
+    mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, place->x, place->y);
     if (!Script::RunningM()) {
         SettleM(); // The pointer enters and leaves windows.
     }
@@ -121,12 +136,12 @@ bool MoveMouseToM(HWND window, int x, int y)
 
 void PressM(Button button)
 {
-    mouse(button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+    injectButton(button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
 }
 
 void ReleaseM(Button button)
 {
-    mouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+    injectButton(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
 }
 
 void ClickM(HWND window, int x, int y, Button button)

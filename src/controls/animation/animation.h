@@ -5,13 +5,16 @@
 class PANELKIT_API AnimationCL : public PictureStaticCL
 {
 public:
-    int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing.
+    int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing. 1.
     void DelItemM();
-    // Deletes a frame. If it is the current one there is none from then on, and the window shows so.
-
+    // Deletes a frame; nothing outside the list. If it is the current one there is none from then on, and the
+    // window shows so. 1.
     int DeleteBmpM(int index);
+    // Whether there is a frame with that number, from 0.
+    bool HasBmpM(int index) const { return frames_.CheckAvailableM(index) == 1; }
 
 protected:
+    // Without frames; current: what counts as the current one until there is one.
     explicit AnimationCL(int current)
         : current_(current)
     {
@@ -21,8 +24,8 @@ protected:
         , current_(current)
     {
     }
-    void deleteFramesM();
+    void deleteFramesM(); // All of them.
 
-    int current_; // -1: none.
-    DVrBitmapArr frames_;
+    int current_;         // -1: none.
+    DVrBitmapArr frames_; // In the order in which they were added.
 };

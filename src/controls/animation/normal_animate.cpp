@@ -179,3 +179,22 @@ void DuNormalAnimateCL::OnLButtonUp(UINT, CPoint point)
         }
     });
 }
+
+void DuNormalAnimateCL::keyPressM()
+{
+    beginClickM();
+    const WPARAM notification = MAKEWPARAM(GetFunctionIDM(), STN_CLICKED);
+    ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, notification, reinterpret_cast<LPARAM>(m_hWnd));
+}
+
+void DuNormalAnimateCL::keyReleaseM()
+{
+    endClickM([this] { postToParentM(AnimationClickedMsg); });
+}
+
+CSize DuNormalAnimateCL::pictureSizeM() const
+{
+    int size[2] {};
+    frames_.GetBmpSizeM(current_, size);
+    return { size[0], size[1] };
+}

@@ -30,7 +30,7 @@ public:
     int DispBmpM(int index);        // Shows a frame, none for any other number; 0 in mode 1.
     int GetCurIdxM(int* out) const; // 0, and *out unchanged, when there is no current frame.
     int RedrawWindowM();            // Paints at once; 0 when there is no current frame.
-    int DelAllBmpM();
+    int DelAllBmpM();               // Deletes all frames, and the window shows so. 1.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -42,6 +42,10 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return notify_ == 1 ? PressKey : NoKeys; }
+    void keyPressM() override;
+    void keyReleaseM() override;
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -36,8 +36,33 @@ int DuSpecAnimateCL::AddBmpM(const char* file)
     return 1;
 }
 
+int DuSpecAnimateCL::DeleteBmpM(int index)
+{
+    const int result = AnimationCL::DeleteBmpM(index);
+    RepaintM();
+    return result;
+}
+
 int DuSpecAnimateCL::DelAllBmpM()
 {
     deleteFramesM();
+    RepaintM();
     return 1;
+}
+
+int DuSpecAnimateCL::DispBmpM(int index)
+{
+    if (!HasBmpM(index)) {
+        return 0;
+    }
+    current_ = index;
+    RepaintM();
+    return 1;
+}
+
+void DuSpecAnimateCL::drawUnderM(CDC& dc, const CSize& size)
+{
+    drawBehindM(&dc, size);
+    const int room[2] = { static_cast<int>(size.cx), static_cast<int>(size.cy) };
+    frames_.DrawBitmapM(current_, &dc, 0, 0, &room);
 }

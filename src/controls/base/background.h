@@ -7,6 +7,7 @@
 class PANELKIT_API BackgroundCL
 {
 public:
+    // With that colour, and no brush until the first request.
     explicit BackgroundCL(COLORREF colour)
         : colour_(colour)
     {
@@ -21,11 +22,13 @@ public:
         return *this;
     }
 
+    // For the next request: 1.
     int SetColourM(COLORREF colour) { return slKeep(colour_, colour); }
 
     // Answers a colour request: sets the text background and replaces the brush, which stays owned here. Null
     // without dc.
     HBRUSH AnswerM(CDC* dc);
+    // The next request makes a new one.
     void DeleteBrushM() { brush_.DeleteObject(); }
 
 private:

@@ -34,5 +34,5 @@ protected:
         return result;
     }
 
-    CharArr text_;
+    CharArr text_; // The caption.
 };

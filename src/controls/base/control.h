@@ -134,6 +134,7 @@ protected:
     {
         ::PostMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
     }
+    // Sends it instead: the parent handles it first, and may destroy this object.
     void sendToParentM(unsigned message, LPARAM lParam = 0)
     {
         ::SendMessageW(::GetParent(this->m_hWnd), message, static_cast<WPARAM>(GetFunctionIDM()), lParam);
@@ -151,5 +152,5 @@ protected:
         }
     }
 
-    ControlLooksCL looks_;
+    ControlLooksCL looks_; // Nothing until the application says otherwise.
 };

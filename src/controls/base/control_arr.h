@@ -1,70 +1,20 @@
 #pragma once
 #include "containers/arr.h"
 #include "controls/base/id_index.h"
-#include "toolkit/toolkit.h"
+#include "controls/base/stand_ins.h"
 #include <functional>
 #include <memory>
-#include <vector>
 
 // Makes a control of the application's own class, derived from the kind's, for the description with that
 // function id; null: the library's own will do.
 template <class ControlTP> using ControlFactoryTP = std::function<std::unique_ptr<ControlTP>(int functionId)>;
-
-// The objects that stand in place of elements of an array of controls: by slot, null where the element itself
-// does. They are of classes that the array knows nothing of, and would not fit into it. They go with their
-// windows: a copy starts without.
-template <class ControlTP> class StandInsCL
-{
-public:
-    StandInsCL() = default;
-    StandInsCL(const StandInsCL&) { }
-    StandInsCL& operator=(const StandInsCL& other)
-    {
-        if (this != &other) {
-            ClearM();
-        }
-        return *this;
-    }
-    ~StandInsCL() = default;
-
-    void PutM(int i, std::unique_ptr<ControlTP> control)
-    {
-        if (static_cast<std::size_t>(i) >= controls_.size()) {
-            controls_.resize(static_cast<std::size_t>(i) + 1);
-        }
-        controls_[static_cast<std::size_t>(i)] = std::move(control);
-    }
-    ControlTP* AtM(int i) const
-    {
-        return i >= 0 && static_cast<std::size_t>(i) < controls_.size()
-            ? controls_[static_cast<std::size_t>(i)].get()
-            : nullptr;
-    }
-    void DelM(int i)
-    {
-        if (ControlTP* const control = AtM(i)) {
-            control->DelItemM(); // Also what the kind has beside its window.
-            controls_[static_cast<std::size_t>(i)] = nullptr;
-        }
-    }
-    void ClearM()
-    {
-        for (std::size_t i = 0; i < controls_.size(); ++i) {
-            DelM(static_cast<int>(i));
-        }
-        controls_.clear();
-    }
-
-private:
-    std::vector<std::unique_ptr<ControlTP>> controls_;
-};
 
 // What the runtime array of every kind does. Controls are created in place: once a window exists, the array
 // must not grow.
 template <class ControlParamTP> class ControlArr : public Arr<ControlParamTP>
 {
 public:
-    using ControlTP = ControlParamTP;
+    using ControlTP = ControlParamTP; // The control's class.
 
     // From now on an object stands in place of the element at slot i of the array, whose element keeps the
     // slot alive; the array owns the object. It stays with the slot: what moves elements doesn't move it.

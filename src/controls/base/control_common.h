@@ -26,9 +26,12 @@ public:
     DControlCommonCL& operator=(const DControlCommonCL& other);
     virtual ~DControlCommonCL();
 
+    // The window index: controls of a dialog are stacked by ascending ones.
     void SetWinIdxM(int index) { windowIndex_ = index; }
     int GetWinIdxM() const { return windowIndex_; }
+    // A number of the application's; only kept.
     void SetSelfIdxM(int index) { selfIndex_ = index; }
+    // The function id, which becomes the window's id when that is created.
     void SetFunctionIDM(int id)
     {
         if (functionId_ != id) {
@@ -37,7 +40,9 @@ public:
         }
     }
     int GetFunctionIDM() const { return functionId_; }
+    // All three at once.
     void SetBaseInfoM(int windowIndex, int selfIndex, int functionId);
+    // When the control is shown, in the application's own terms; only kept.
     void SetShowConditionM(int condition) { showCondition_ = condition; }
     int GetShowConditionM() const { return showCondition_; }
 
@@ -45,7 +50,8 @@ public:
     // Null: nothing, here and below.
     void SetPositionM(const int position[2]) { slCopyPair(position_, position); }
     void SetSizeM(const int size[2]) { slCopyPair(size_, size); }
-    int GetPosM(int position[2]) const { return slCopyPair(position, position_); } // 1; 0 for null.
+    // Copies it: 1; 0 for null.
+    int GetPosM(int position[2]) const { return slCopyPair(position, position_); }
     int GetSizeM(int size[2]) const { return slCopyPair(size, size_); }
 
     // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character; null is
@@ -54,12 +60,14 @@ public:
     const char* GetDescriptM() const { return descript_.TextM(); } // Valid until it is set anew.
 
     int AddRelationItemM(int a, int b, int c); // The index of the new triple.
+    // All triples; the control keeps them.
     const Int3DArr& GetRelationItemsM() const { return relationItems_; }
-    // The relation hook: calls doRelationItemM for each triple; 1 when there is an item with id b, else 0.
-    // It changes nothing.
+    // Calls doRelationItemM for each triple.
     void doRelationM() const;
+    // 1 when the parent has a control with id b, else 0. It changes nothing.
     int doRelationItemM(int a, int b, int c) const;
 
+    // Shows the window, or hides it.
     void ShowObjectM(bool show) { SetVisibleM(show ? 1 : 0); }
     void SetVisibleM(int visible); // Shows for every value but 0.
 
@@ -71,8 +79,9 @@ public:
     int GetWidthM() const { return clientRectM().Width(); }
     int GetHeightM() const { return clientRectM().Height(); }
 
-    // These move or size the window rectangle, frame included, which the getters above leave out.
-    void SetPosM(int top, int left); // The top comes first.
+    // These move or size the window rectangle, frame included, which the getters above leave out. The first
+    // takes the top first.
+    void SetPosM(int top, int left);
     void SetLeftM(int left) { MoveM(left - windowRectM().left, 0); }
     void SetTopM(int top) { MoveM(0, top - windowRectM().top); }
     void SetRightM(int right) { MoveM(right - windowRectM().right, 0); }
@@ -83,8 +92,9 @@ public:
     void SetCenterM(const CPoint& centre);
     void LayoutControlM() { placeM(describedRectM()); } // Moves the window to the described place.
 
-    // These move the other control: to this left; to this vertical centre; to this horizontal centre. Null:
-    // nothing.
+    // These move the other control: AlignLeftM its left edge to that of this one, AlignCenterHorizonM it up
+    // or down until the centres are level, AlignCenterVerticalM to the left or right until they are above
+    // each other. Null: nothing.
     void AlignLeftM(DControlCommonCL* other);
     void AlignCenterHorizonM(DControlCommonCL* other);
     void AlignCenterVerticalM(DControlCommonCL* other);
@@ -102,6 +112,7 @@ public:
     void OnMouseMove(CWnd* target, UINT flags, const CPoint& point);
 
 protected:
+    // The window that is the control's from now on; null: none. It is not kept alive.
     void InitialCommonM(CWnd* window) { window_ = window; }
     void DoAfterCreateM(CWnd* window) { window_ = window; }
     // The described place as a window can have it (slWindowLength).
@@ -129,7 +140,7 @@ private:
 // What wParam of message 3044 points to: the pointer in screen coordinates and the control under it.
 struct PointerReportCL
 {
-    int x;
-    int y;
-    CWnd* control;
+    int x;         // In pixels of the screen.
+    int y;         // The same.
+    CWnd* control; // Its own, not to be kept.
 };

@@ -1,6 +1,12 @@
 #include "controls/base/control_looks.h"
 #include "controls/base/accessible.h"
 
+// Here, once for all kinds.
+ControlLooksCL::ControlLooksCL() = default;
+ControlLooksCL::ControlLooksCL(const ControlLooksCL& other) = default;
+ControlLooksCL& ControlLooksCL::operator=(const ControlLooksCL& other) = default;
+ControlLooksCL::~ControlLooksCL() = default;
+
 void ControlLooksCL::SetNameM(const ValueTextCL& name, long role)
 {
     const std::wstring text = name.WideM();

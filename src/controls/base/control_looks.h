@@ -9,7 +9,14 @@
 class PANELKIT_API ControlLooksCL
 {
 public:
+    ControlLooksCL();
+    ControlLooksCL(const ControlLooksCL& other);
+    ControlLooksCL& operator=(const ControlLooksCL& other);
+    ~ControlLooksCL();
+
+    // For the next colour request; none: that of the system.
     void SetTextColourM(std::optional<COLORREF> colour) { textColour_ = colour; }
+    // What was set.
     const std::optional<COLORREF>& TextColourM() const { return textColour_; }
     // None or the empty text: no name. role: one of ROLE_SYSTEM_...; 0: the role that the window has.
     // A push button can be pressed through it.

@@ -20,10 +20,10 @@ enum ValuePart : unsigned
 // consist of its own parts only.
 struct PANELKIT_API ControlValueCL
 {
-    std::optional<bool> checked;
-    std::optional<int> number;
-    std::optional<float> real;
-    std::optional<ValueTextCL> text;
+    std::optional<bool> checked;           // Whether it is.
+    std::optional<int> number;             // Of edits, multi-state buttons, rotate buttons.
+    std::optional<float> real;             // Of edits; degrees of a rotate button.
+    std::optional<ValueTextCL> text;       // Of edits and combo boxes.
     std::optional<std::vector<int>> lines; // Ascending, from 0; empty: none is selected.
     std::optional<ValueTextCL> path;       // Empty: no item is selected.
 

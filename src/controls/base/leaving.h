@@ -18,11 +18,13 @@
 class PANELKIT_API ValidationPauseCL
 {
 public:
+    // Whether fields are left all the same while the application asks for their values.
     enum Requests
     {
         RefuseRequests,
         AllowRequests
     };
+    // Begins the pause, until the object goes.
     explicit ValidationPauseCL(HWND within = nullptr, Requests requests = RefuseRequests);
     ValidationPauseCL(const ValidationPauseCL&) = delete;
     ValidationPauseCL& operator=(const ValidationPauseCL&) = delete;

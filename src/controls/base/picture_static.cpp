@@ -15,7 +15,27 @@ void PictureStaticCL::PreSubclassWindow()
 LRESULT PictureStaticCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = m_hWnd;
+    if (takesKeysM()) {
+        if (message == WM_GETDLGCODE) {
+            return dialogCodeM(reinterpret_cast<const MSG*>(lParam));
+        }
+        if (handleKeyM(message, wParam, lParam)) {
+            return 0;
+        }
+    }
     const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    if (CWnd::FromHandlePermanent(window) == this && takesKeysM()) {
+        if (message == WM_CREATE) {
+            addTabStopM();
+        } else if (message == WM_UPDATEUISTATE) {
+            keepFocusStateM(wParam);
+            showFocusM();
+        } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+            showFocusM();
+        } else if (message == WM_PAINT) {
+            drawFocusM();
+        }
+    }
     if (message == WM_ENABLE) {
         // Wine 8's statics paint themselves at once, without WM_PAINT, over what the control shows.
         ::InvalidateRect(window, nullptr, TRUE);
@@ -65,6 +85,15 @@ void PictureStaticCL::invalidateInParentM()
         parent->ScreenToClient(&rect);
         parent->InvalidateRect(&rect, TRUE);
     }
+}
+
+void PictureStaticCL::drawBehindM(CDC* dc, const CSize& size) const
+{
+    const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
+    auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
+        parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
+    const RECT all { 0, 0, size.cx, size.cy };
+    ::FillRect(dc->m_hDC, &all, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
 int PictureStaticCL::appendPictureM(DVrBitmapArr* pictures, const char* file)

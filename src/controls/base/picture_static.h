@@ -45,11 +45,16 @@ public:
     using CStatic::Create;
     int Create(CWnd* parent) { return createM(parent, ""); }
 
+    // Whether Space, Enter and arrows work it like the mouse, as far as its kind takes clicks: then Tab
+    // reaches it, and a frame shows that it has the focus. At first not.
+    void UseKeyboardM(bool use);
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // Whether the window has the mouse: a click that began here goes on.
     bool holdsMouseM() const { return m_hWnd != nullptr && ::GetCapture() == m_hWnd; }
     bool beginClickM(); // Takes the mouse; false when the window has it already.
     // Ends a click begun here: finish() runs while the mouse is still held. Any other: nothing.
@@ -67,9 +72,40 @@ protected:
     void invalidateM(bool erase);         // The whole window, if there is one.
     void clientRgnM(CRgn* region) const;  // The region becomes the client rectangle.
     void clipWindowM(const CRgn& region); // To a copy: a window owns the region that it is given.
-    void invalidateInParentM();           // The window's rectangle in the parent, with erasing.
+    void drawBehindM(CDC* dc, const CSize& size) const; // What of the dialog shows through, from the corner.
+    void invalidateInParentM();                         // The window's rectangle in the parent, with erasing.
 
     // Appends the picture of a file as named. The slot; -1 when it can't be loaded: its slot then holds a
     // picture that draws nothing, so that later ones keep their places.
     static int appendPictureM(DVrBitmapArr* pictures, const char* file);
+
+    // What the keyboard can do with a kind, and how.
+    enum Keys : unsigned
+    {
+        NoKeys = 0,
+        PressKey = 1, // Space: keyPressM, keyReleaseM.
+        EnterKey = 2, // The same by Enter.
+        TurnKeys = 4  // Arrows: keyTurnM.
+    };
+    virtual unsigned keysM() const { return NoKeys; } // The Keys bits of the kind.
+    virtual void keyPressM() { }                      // As the left button of the mouse begins a click
+    virtual void keyReleaseM() { }                    // and ends it.
+    virtual void keyTurnM(bool /*forward*/) { } // Right and up: as by a left click; left and down: back.
+    virtual CSize pictureSizeM() const { return {}; } // Of the picture that it shows.
+
+private:
+    bool takesKeysM() const { return usesKeyboard_ && keysM() != NoKeys; }
+    bool handleKeyM(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT dialogCodeM(const MSG* message) const;
+    void clickByKeyM();
+    void addTabStopM();
+    void cancelKeyM();
+    void keepFocusStateM(WPARAM change);
+    void showFocusM();
+    void drawFocusM();
+
+    bool usesKeyboard_ { false };
+    bool hasOwnTabStop_ { false };
+    bool isKeyDown_ { false };
+    bool hidesFocus_ { false };
 };

@@ -18,15 +18,19 @@ public:
         : ValueTextCL(gbk.c_str())
     {
     }
+    // From UTF-16.
     explicit ValueTextCL(const std::u16string& text)
         : text_(text)
     {
     }
-    static ValueTextCL FromUtf8M(const char* text); // Null: no text.
+    // From UTF-8; what is none gives U+FFFD. Null: no text.
+    static ValueTextCL FromUtf8M(const char* text);
     static ValueTextCL FromUtf8M(const std::string& text) { return FromUtf8M(text.c_str()); }
     static ValueTextCL FromUtf8M(std::nullptr_t) { return nullptr; }
 
+    // Whether it is no text: made of null.
     bool IsNoneM() const { return isNone_; }
+    // Compare the texts, exactly; no text equals no other.
     bool operator==(const ValueTextCL& other) const
     {
         return text_ == other.text_ && isNone_ == other.isNone_;
@@ -35,6 +39,7 @@ public:
 
     // What has no GBK form becomes '?', one for each character; *lost (may be null) receives how many.
     std::string GbkM(int* lost = nullptr) const;
+    // The text in UTF-8, or UTF-16; empty when it is none.
     std::string Utf8M() const;
     const std::u16string& Utf16M() const { return text_; }
 
@@ -44,16 +49,19 @@ public:
     int Utf8M(char* buffer, int size) const;
 
 #ifdef _WIN32
-    ValueTextCL(const wchar_t* wide); // Null: no text.
+    // From UTF-16. Null: no text.
+    ValueTextCL(const wchar_t* wide);
     ValueTextCL(const std::wstring& wide)
         : ValueTextCL(wide.c_str())
     {
     }
+    // The text in UTF-16; empty when it is none.
     std::wstring WideM() const
     {
         return std::wstring(text_.begin(), text_.end());
     }
-    int WideM(wchar_t* buffer, int size) const; // Sizes are units of UTF-16 here.
+    // The same into a buffer, as for GbkM; sizes are units of UTF-16.
+    int WideM(wchar_t* buffer, int size) const;
 #endif
 
 private:

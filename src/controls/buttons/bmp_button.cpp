@@ -88,6 +88,12 @@ void DuBmpButtonCL::OnPaint()
     }
 }
 
+CSize DuBmpButtonCL::pictureSizeM() const
+{
+    const bool hasPicture = status_ >= 0 && status_ < StatusCount;
+    return hasPicture ? CSize(pictures_[status_].GetWidthM(), pictures_[status_].GetHeightM()) : CSize();
+}
+
 void DuBmpButtonCL::OnMouseMove(UINT, CPoint)
 {
     // Nothing changes under the pointer.

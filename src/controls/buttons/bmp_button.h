@@ -2,6 +2,7 @@
 #include "controls/base/control_arr.h"
 #include "controls/base/picture_static.h"
 
+// The statuses of a bitmap button.
 enum BUTTON_STATUS
 {
     ButtonNormal = 0,
@@ -21,6 +22,7 @@ public:
     // Loads the pictures that have a name; the others stay as they were.
     int SetBtnBmpM(const char* normal, const char* pressed, const char* released, const char* disabled);
     int SetBtnStatusM(BUTTON_STATUS status); // Also enables the window, or disables it for 3.
+    // The status, and with it the picture.
     BUTTON_STATUS GetBtnStatusM() const { return status_; }
     DVrRgnCL* GetBtnRgnM() { return &buttonRgn_; } // Never null; the control keeps it.
     DVrRgnCL* GetDrawRgnM() { return &drawRgn_; }  // The window's shape, once there is a window.
@@ -36,6 +38,10 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnCancelMode();
+    unsigned keysM() const override { return PressKey | EnterKey; }
+    void keyPressM() override { OnLButtonDown(0, CPoint()); }
+    void keyReleaseM() override { OnLButtonUp(0, CPoint()); }
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

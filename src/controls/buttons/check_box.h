@@ -9,11 +9,12 @@ public:
     using CheckableButtonCL::CheckableButtonCL;
 
     int SetCurCheckM(int state);                   // 1 checks, every other value unchecks.
-    bool WriteValueM(const ControlValueCL& value); // Posts nothing.
+    bool WriteValueM(const ControlValueCL& value); // Sets the value by id; posts nothing.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     bool hearsCreationM() const override { return !slIsJust(*this); }
+    // It was clicked.
     afx_msg void onClickedM() { postToParentM(CheckClickedMsg); }
     DECLARE_MESSAGE_MAP()
 };

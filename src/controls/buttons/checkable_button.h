@@ -9,6 +9,7 @@ class PANELKIT_API CheckableButtonCL : public CaptionedCL<CButton>
 public:
     using CaptionedCL::CaptionedCL;
 
+    // The caption: 1; 0, and no change, for null.
     int SetTextM(const char* text) { return keepTextM(text); }
     int SetInitCheckM(int check) { return slKeep(initCheck_, check); } // 1: checked from the start.
 

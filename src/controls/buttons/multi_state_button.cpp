@@ -188,11 +188,46 @@ void DuMultiStateButtonCL::OnLButtonDown(UINT, CPoint point)
 void DuMultiStateButtonCL::OnLButtonUp(UINT, CPoint point)
 {
     endClickM([this, point] {
-        if (buttonRgn_.PtInRegion(point) && statuses_.GetAvailableNumM() > 0) {
-            const int next = statuses_.GetNextIdxM(current_);
-            current_ = next >= 0 ? next : statuses_.GetFirstIdxM();
-            postToParentM(ButtonActionMsg, current_);
+        if (buttonRgn_.PtInRegion(point)) {
+            goOnM(true);
         }
     });
     Invalidate(TRUE);
+}
+
+void DuMultiStateButtonCL::goOnM(bool forward)
+{
+    if (statuses_.GetAvailableNumM() == 0) {
+        return;
+    }
+    int next = -1;
+    if (forward) {
+        next = statuses_.GetNextIdxM(current_);
+        next = next >= 0 ? next : statuses_.GetFirstIdxM();
+    } else { // The last one before the current, else the last of all.
+        for (int i = statuses_.GetFirstIdxM(); i >= 0; i = statuses_.GetNextIdxM(i)) {
+            next = i < current_ || next < 0 || next >= current_ ? i : next;
+        }
+    }
+    current_ = next;
+    postToParentM(ButtonActionMsg, current_);
+}
+
+void DuMultiStateButtonCL::keyReleaseM()
+{
+    endClickM([this] { goOnM(true); });
+    Invalidate(TRUE);
+}
+
+void DuMultiStateButtonCL::keyTurnM(bool forward)
+{
+    goOnM(forward);
+    Invalidate(TRUE);
+}
+
+CSize DuMultiStateButtonCL::pictureSizeM() const
+{
+    int size[2] {};
+    pictures_.GetBmpSizeM(pictureOfM(current_), size);
+    return { size[0], size[1] };
 }

@@ -35,11 +35,17 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { beginClickM(); }
+    void keyReleaseM() override;
+    void keyTurnM(bool forward) override;
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:
     int indexOfM(int status) const;  // Of the first entry with that value, -1 when there is none.
     int pictureOfM(int index) const; // The picture of an entry, -1 when there is none.
+    void goOnM(bool forward);        // To the next or previous status, and says so.
 
     int current_ { 0 }; // An index of the status list, -1 for none.
     OwnRgnCL buttonRgn_;

@@ -13,6 +13,17 @@ ON_WM_RBUTTONUP()
 ON_WM_RBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
+namespace {
+
+// A message of the button to itself; wParam: the step of the turn that ends.
+UINT turnEndMessage()
+{
+    static const UINT message = ::RegisterWindowMessageW(L"panelkit_turn_end");
+    return message;
+}
+
+} // namespace
+
 int DVrNewRotateBtnCL::InitNewRotateBtnM(DuNewRotateBtnCL* control) const
 {
     if (InitCommonCtrlM(control) == 0) {
@@ -146,4 +157,30 @@ void DuNewRotateBtnCL::OnLButtonUp(UINT, CPoint)
 void DuNewRotateBtnCL::OnRButtonUp(UINT, CPoint)
 {
     releaseM(rightStep_);
+}
+
+void DuNewRotateBtnCL::keyTurnM(bool forward)
+{
+    const HWND window = m_hWnd;
+    const int step = forward ? leftStep_ : rightStep_;
+    pressM(forward ? PressedLeft : PressedRight, step);
+    if (CWnd::FromHandlePermanent(window) == this) {              // The application was asked.
+        PostMessage(turnEndMessage(), static_cast<WPARAM>(step)); // Behind the press, which is posted.
+    }
+}
+
+LRESULT DuNewRotateBtnCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == turnEndMessage()) {
+        releaseM(static_cast<int>(wParam));
+        return 0;
+    }
+    return PictureStaticCL::WindowProc(message, wParam, lParam);
+}
+
+CSize DuNewRotateBtnCL::pictureSizeM() const
+{
+    int size[2] {};
+    pictures_.GetBmpSizeM(index_, size);
+    return { size[0], size[1] };
 }

@@ -17,7 +17,8 @@ public:
     // shows nothing.
     int InitialM(const int steps[2], int index, const VrStringArr& names);
     void SetIsCycledM(int cycled) { cycled_ = cycled; } // Not 0: behind the last picture comes the first.
-    void SetCurIndxM(int index) { index_ = index; }     // Without repainting.
+    void SetCurIndxM(int index) { index_ = index; }     // The position; without repainting.
+    // The position, from 0; -1 at first.
     int GetCurIndxM() const { return index_; }
     // The value, as other kinds have it: the position; it takes those that have a picture, and repaints.
     unsigned ValuePartsM() const { return NumberPart; }
@@ -29,6 +30,7 @@ public:
     void OnTimerM();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -37,6 +39,11 @@ protected:
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { pressM(PressedLeft, leftStep_); }
+    void keyReleaseM() override { releaseM(leftStep_); }
+    void keyTurnM(bool forward) override;
+    CSize pictureSizeM() const override;
     DECLARE_MESSAGE_MAP()
 
 private:

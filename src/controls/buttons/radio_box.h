@@ -14,7 +14,7 @@ public:
     // The id of the checked button of its group, the first of several. The group is what the window system
     // takes for it: the radio buttons from one that begins a group to the next in the stacking order.
     std::optional<int> CheckedInGroupM() const;
-    // Neighbours with equal numbers form a group.
+    // Neighbours with equal numbers form a group, once DuRadioBoxArr::MakeGroupM is called.
     int SetGroupNoM(int group) { return slKeep(group_, group); }
     int GetGroupNoM(int* out) const;
     // 1: the window begins a group. Any other value clears the whole style of the window.
@@ -23,6 +23,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     bool hearsCreationM() const override { return !slIsJust(*this); }
+    // It was clicked.
     afx_msg void onClickedM() { postToParentM(RadioClickedMsg); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()
@@ -35,11 +36,13 @@ private:
 
 extern template class PANELKIT_API Arr<DuRadioBoxCL>;
 
+// An array of DuRadioBoxCL, whose order makes the groups.
 class PANELKIT_API DuRadioBoxArr : public ControlArr<DuRadioBoxCL>
 {
 public:
     // Lets each run of equal group numbers begin a group. The windows must exist. 0 for an empty array.
     int MakeGroupM();
+    // Called by the host once it has created the windows.
     int AfterCreateM() { return MakeGroupM(); }
     void ShowObjectM(int index, bool show); // The radio button at a place of the array; else nothing.
 };

@@ -138,11 +138,23 @@ void DuRotateBtnCL::pressM(CPoint point)
 void DuRotateBtnCL::releaseM(CPoint point, Side side)
 {
     endClickM([this, point, side] {
-        if (hitRgn_.PtInRegion(point) && stepM(side)) {
-            postToParentM(ButtonActionMsg, counter_);
-            showAngleM();
+        if (hitRgn_.PtInRegion(point)) {
+            turnM(side);
         }
     });
+}
+
+void DuRotateBtnCL::keyReleaseM()
+{
+    endClickM([this] { turnM(Left); });
+}
+
+void DuRotateBtnCL::turnM(Side side)
+{
+    if (stepM(side)) {
+        postToParentM(ButtonActionMsg, counter_);
+        showAngleM();
+    }
 }
 
 void DuRotateBtnCL::showAngleM()

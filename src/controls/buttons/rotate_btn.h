@@ -17,15 +17,20 @@ public:
     using CStatic::Create;
     int Create(CWnd* parent) { return createM(parent, " "); }
 
-    int SetAngleM(const float range[2], float step, float angle); // range: upper, lower.
+    int SetAngleM(
+        const float range[2], float step, float angle); // range: upper, lower; angle: the current one.
+    // The place of the turning picture's corner and the point it turns about: each x, y.
     int SetRotPosM(const int position[2], const int centre[2]);
-    int SetSignM(const int signs[2], const int increments[2]); // Each for left, right.
+    // The factor of the step that a click turns it by, and what it adds to the counter; each for left, right.
+    int SetSignM(const int signs[2], const int increments[2]);
+    // What the clicks count on from.
     int SetCounterM(int counter) { return slKeep(counter_, counter); }
-    int SetBmpM(const char* background, const char* rotating); // Loads both.
+    int SetBmpM(const char* background, const char* rotating); // Loads both pictures.
     // 1: enabled; applied when the window is created.
     int SetEnableM(int enabled) { return slKeep(enabled_, enabled); }
     int EnableButtonM(int enabled);                // The same at once.
     DVrRgnCL* GetButtonRgnM() { return &hitRgn_; } // Where clicks count; the control keeps it.
+    // What the knob shows, or will show when it is painted.
     float GetAngleM() const { return angle_; }
     int GetCounterM() const { return counter_; }
     // The value by id: the angle and the counter. Each is taken for itself, an angle out of the range never;
@@ -50,6 +55,11 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT flags, CPoint point) { OnRButtonDown(flags, point); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
+    unsigned keysM() const override { return PressKey | TurnKeys; }
+    void keyPressM() override { beginClickM(); }
+    void keyReleaseM() override;
+    void keyTurnM(bool forward) override { turnM(forward ? Left : Right); }
+    CSize pictureSizeM() const override { return { background_.GetWidthM(), background_.GetHeightM() }; }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -60,12 +70,12 @@ private:
     };
     void pressM(CPoint point);
     void releaseM(CPoint point, Side side);
+    void turnM(Side side);
     bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
     void showAngleM();
     void composeM(CDC* dc, float angle);
     bool prepareM(CDC* dc);
-    void drawBehindM(CDC* dc);
     void forgetPixelsM();
 
     int counter_ { 0 };

@@ -100,22 +100,12 @@ bool DuRotateBtnCL::prepareM(CDC* dc)
     if (!cache_.CreateM(dc, width_, height_)) {
         return false;
     }
-    drawBehindM(cache_.GetDcM());
+    drawBehindM(cache_.GetDcM(), CSize(width_, height_)); // Where the background has no pixels.
     copyPart(background_, cache_.GetDcM(), width_, height_, position_[0], position_[1]);
     const PixelBlockCL drawn = cache_.PixelsM();
     base_.assign(drawn.pixels, drawn.pixels + static_cast<std::ptrdiff_t>(width_) * height_);
     picture_ = pixelsOf(rotating_, dc->m_hDC, width_, height_);
     return true;
-}
-
-// Where the background has no pixels the dialog shows through.
-void DuRotateBtnCL::drawBehindM(CDC* dc)
-{
-    const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
-    auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
-        parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
-    const RECT all { 0, 0, width_, height_ };
-    ::FillRect(dc->m_hDC, &all, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
 void DuRotateBtnCL::forgetPixelsM()

@@ -14,11 +14,13 @@ public:
 
     // 1: the dialog's default push button, pressed by Enter.
     int SetDefaultM(int flag) { return slKeep(default_, flag); }
+    // The caption: 1; 0, and no change, for null.
     int SetTextM(const char* text) { return keepTextM(text); }
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     bool hearsCreationM() const override { return !slIsJust(*this); }
+    // It was clicked.
     afx_msg void onClickedM() { sendToParentM(ButtonActionMsg); }
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     DECLARE_MESSAGE_MAP()

@@ -21,9 +21,15 @@ BOOL DuDraw2DCL::OnEraseBkgnd(CDC* dc)
 {
     CRect client;
     GetClientRect(&client);
+    drawUnderM(*dc, client.Size());
+    return CStatic::OnEraseBkgnd(dc);
+}
+
+void DuDraw2DCL::drawUnderM(CDC& dc, const CSize& size)
+{
+    const CRect all(CPoint(0, 0), size);
     CBrush brush(bkColour_);
     if (brush.GetSafeHandle() != nullptr) {
-        dc->FillRect(&client, &brush);
+        dc.FillRect(&all, &brush);
     }
-    return CStatic::OnEraseBkgnd(dc);
 }

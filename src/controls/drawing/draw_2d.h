@@ -1,18 +1,19 @@
 #pragma once
 #include "controls/base/control_arr.h"
-#include "controls/base/picture_static.h"
+#include "controls/base/painted.h"
 
-// An empty canvas for the application to draw on. It only fills its background.
-class PANELKIT_API DuDraw2DCL : public PictureStaticCL
+// An empty canvas for the application to draw on, best by a painter. It only fills its background.
+class PANELKIT_API DuDraw2DCL : public PaintedCL<PictureStaticCL>
 {
 public:
-    using PictureStaticCL::PictureStaticCL;
+    using PaintedCL::PaintedCL;
 
     int SetBkColorM(COLORREF colour) { return slKeep(bkColour_, colour); } // From the next erasing on.
 
 protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint() { const CPaintDC validated(this); } // The application draws.
+    void drawUnderM(CDC& dc, const CSize& size) override;
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -9,7 +9,7 @@ public:
     using CaptionedCL::CaptionedCL;
 
     int SetInitTextM(const char* text) { return keepTextM(text); } // Takes effect when the window is created.
-    int SetTextM(const char* text) { return showTextM(text); }     // Also shows the text.
+    int SetTextM(const char* text) { return showTextM(text); }     // The same, and shows it at once.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

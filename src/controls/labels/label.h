@@ -12,9 +12,13 @@ public:
 
     // 0, and no change, for the empty text.
     int SetInitTextM(const char* text) { return text != nullptr && *text != '\0' ? keepTextM(text) : 0; }
-    int SetTextM(const char* text) { return showTextM(text); }       // Also shows the text.
+    int SetTextM(const char* text)
+    {
+        return showTextM(text);
+    } // Takes any text but null, and shows it at once.
     int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); } // 3 centred, 4 right, else left.
     int SetEdgeM(int edge) { return slKeep(edge_, edge); }           // 1: sunken edge with border.
+    // The colour of the background, shown once SetBkColorFlagM has been given 1.
     int SetBkColorM(COLORREF colour) { return background_.SetColourM(colour); }
     void SetBkColorFlagM(int flag) { bkColourFlag_ = flag; } // 1: the background is painted in its colour.
     void destroyM() { background_.DeleteBrushM(); }          // Deletes the background brush.

@@ -42,12 +42,14 @@ public:
     // picture that can't be loaded leaves the line. index -1: at the end.
     int InsertItemM(int index, int data, const char* file);
     void DelItemM();
+    // Deletes a line and its picture; 0 when there is none.
     int DelItemM(int index);
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays.
     int DelAllItemM();
 
     std::optional<ValueTextCL> LineTextM(int) const { return std::nullopt; } // Its lines are pictures.
-    bool InsertLineM(int line, int data, const char* file); // At the end a picture that loads.
+    // Inserts a line by id; at the end only with a picture that can be loaded.
+    bool InsertLineM(int line, int data, const char* file);
 
     // select 0 takes it back, except for a single selection. 0 in modes other than 1, 2 and 3.
     int SetSelM(int index, int select = 1);

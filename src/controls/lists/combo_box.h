@@ -14,8 +14,8 @@ public:
     int SetEditAvailableM(int available) { return slKeep(editAvailable_, available); }
 
     int AddItemM(int data, const char* text); // -1 when it can't be added, else the platform's result.
-    int InsertItemM(int index, int data, const char* text);
-    int DelItemM(int index);
+    int InsertItemM(int index, int data, const char* text); // At a place, -1: at the end; 0 when it can't.
+    int DelItemM(int index);                                // Deletes an item; 0 when there is none.
     using ControlCL::DelItemM;
     // Deletes index 0, 1, 2, ... in turn: as later items move up, every second one stays.
     int DelAllItemM();
@@ -40,6 +40,7 @@ public:
     // Its lines by id.
     int LineCountM() const { return GetCount(); }
     std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    // Change its lines by id; false when the platform refuses.
     bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
     bool DeleteLineM(int line) { return DelItemM(line) == 1; }
     void ClearLinesM() { ResetContent(); }

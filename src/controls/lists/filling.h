@@ -6,6 +6,7 @@
 class FillingCL
 {
 public:
+    // Stops the drawing. The control must live as long.
     explicit FillingCL(CWnd* control)
         : control_(
             control != nullptr && control->GetSafeHwnd() != nullptr && (control->GetStyle() & WS_VISIBLE) != 0

@@ -15,7 +15,7 @@ public:
     // The value by id: the lines selected, as the window was created; none where nothing can be selected.
     unsigned ValuePartsM() const { return selectsM(LBS_NOSEL) ? NoPart : LinesPart; }
     ControlValueCL ReadValueM() const;
-    bool WriteValueM(const ControlValueCL& value); // Sends nothing.
+    bool WriteValueM(const ControlValueCL& value); // Sets it, and sends nothing.
 
     // Its lines by id.
     int LineCountM() const { return GetCount(); }
@@ -23,13 +23,14 @@ public:
     void ClearLinesM() { ResetContent(); }
 
 protected:
-    DWORD selectionStyleM() const;
+    DWORD selectionStyleM() const; // The window style of the selection mode.
     bool selectsM(DWORD styles) const { return (GetStyle() & styles) != 0; } // One of these.
     int selectM(int line, BOOL select); // In a list that selects several lines; 0 in any other.
 
+    // The selection modes.
     static constexpr int SelectOne = 1;
     static constexpr int SelectMany = 2;
     static constexpr int SelectExtended = 3;
     static constexpr int SelectNone = 4;
-    int selMode_ { SelectOne };
+    int selMode_ { SelectOne }; // The mode for the next window.
 };

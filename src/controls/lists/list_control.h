@@ -9,17 +9,20 @@ class PANELKIT_API DuListCtrlCL : public ControlCL<CListCtrl>
 public:
     using ControlCL::ControlCL;
 
-    int SetColNumM(int columns) { return slKeep(columns_, columns); } // Only kept.
+    // How many columns the file has named; only kept, InsertColumnM makes them.
+    int SetColNumM(int columns) { return slKeep(columns_, columns); }
     int GetColNumM() const { return columns_; }
     // 1: one row at most can be selected. Counts at creation.
     int SetSelModeM(int single) { return slKeep(singleSelection_, single); }
 
-    int InsertColumnM(int column, int width, const char* text); // Width in pixels.
+    int InsertColumnM(int column, int width, const char* text); // A heading; width in pixels.
     int InsertItemM(int row, int data, const char* text);       // A new row with its column-0 text.
     int SetItemTextM(int row, int column, const char* text);    // 0 for a row that doesn't exist.
+    // Deletes a row, or all. 0 for a row that doesn't exist.
     int DeleteItemM(int row) { return row >= 0 && DeleteItem(row) ? 1 : 0; }
     int DelAllM() { return DeleteAllItems() ? 1 : 0; }
 
+    // How many rows there are, how many are selected: 1.
     int GetRowNumM(int* count) const;
     int GetSelNumM(int* count) const;
     // The first selected row; the next one behind `from`. 0 when there is none: then GetNextSelM makes the
@@ -40,6 +43,7 @@ public:
     // Its rows by id, with their column-0 texts.
     int LineCountM() const { return GetItemCount(); }
     std::optional<ValueTextCL> LineTextM(int row) const; // None for a row that doesn't exist.
+    // Change its rows by id; false when the platform refuses.
     bool InsertLineM(int row, int data, const char* text) { return InsertItemM(row, data, text) == 1; }
     bool DeleteLineM(int row) { return DeleteItemM(row) == 1; }
     void ClearLinesM() { DelAllM(); }

@@ -14,6 +14,7 @@ inline void slTitleRow(FieldVisitorCL& visitor, const RowCL& row)
     visitor.CaptionM("text", *row.texts[0], NullWord::SkipsEntry);
 }
 
+// A cell.
 inline void slCellRow(FieldVisitorCL& visitor, const RowCL& row)
 {
     visitor.IndexM("row", row.numbers[0]);
@@ -25,12 +26,12 @@ inline void slCellRow(FieldVisitorCL& visitor, const RowCL& row)
 struct PANELKIT_API PairedTextsCL
 {
     int AddM(const int pair[2], const char* text); // 0, and nothing is appended, for null; else 1.
-    void DelAllM();
-    int CountM() const; // Of the shorter list's alive entries.
+    void DelAllM();                                // Empties both lists.
+    int CountM() const;                            // Of the shorter list's alive entries.
     void VisitM(FieldVisitorCL& visitor, const char* name, RowFieldsTP fields); // Shows those as rows.
 
-    OwnListCL<Int2DArr> pairs;
-    TextListCL texts;
+    OwnListCL<Int2DArr> pairs; // The numbers.
+    TextListCL texts;          // The texts, GBK.
 };
 
 // One table of a description file with its headings and initial cells.
@@ -40,12 +41,13 @@ public:
     using RecordCL::RecordCL;
     // pair: column index and width in pixels. 0, and nothing is appended, for a null text; else 1.
     int AddTitleStringM(const int pair[2], const char* text);
-    int AddItemStringM(const int pair[2], const char* text); // pair: row and column.
+    int AddItemStringM(const int pair[2], const char* text); // The same; pair: row and column.
     void destroyM();                                         // Empties headings and cells.
     int InitListCtrlM(DuListCtrlCL* control) const;
     int InitListCtrlStrM(DuListCtrlCL* control) const; // Fills a live control.
     void EachFieldM(FieldVisitorCL& visitor);
 
+    // Column and width with each heading; row and column with each cell. The record keeps them.
     PairedTextsCL& TitlesM() { return titles_; }
     PairedTextsCL& CellsM() { return cells_; }
 

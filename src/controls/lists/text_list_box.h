@@ -14,17 +14,19 @@ public:
     int SetScrollM(int scroll) { return slKeep(scroll_, scroll); } // 1: the scroll bar is always shown.
     int SetEdgeM(int edge) { return slKeep(edge_, edge); }         // 1: sunken edge.
     int SetItemInitHeightM(int height);                            // 0, and no change, below 1.
+    // The background of the lines, 0xBBGGRR.
     int SetBkColorM(unsigned long colour) { return background_.SetColourM(colour); }
 
     int AddItemM(int data, const char* text); // -1, or what the platform says of setting the data.
-    int InsertItemM(int index, int data, const char* text); // -1: at the end.
+    int InsertItemM(int index, int data, const char* text); // At a place, -1: at the end; 0 when it can't.
     void DelItemM();
-    int DelItemM(int index);
-    int DelAllItemM();
+    int DelItemM(int index);             // 0 when there is no such line.
+    int DelAllItemM();                   // Deletes all lines: 1.
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
     // Of a multiple selection: always 0 in single selection mode.
     int SetSelM(int index) { return selectM(index, TRUE); }
     std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    // Inserts a line by id; false when the platform refuses.
     bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
     int SetItemHeightM(int height);                 // Of all lines; 0, and no change, below 1.
     int SetItemHeightM();                           // Applies the height kept, which a new font has changed.

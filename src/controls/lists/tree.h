@@ -45,6 +45,7 @@ public:
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
     void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
+    // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
     void DelItemM();
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.

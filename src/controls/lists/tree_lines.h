@@ -18,30 +18,32 @@ inline void slTreeRow(FieldVisitorCL& visitor, const RowCL& row)
 class PANELKIT_API TreeLinesCL
 {
 public:
+    // One line; texts are GBK.
     struct LineCL
     {
-        int parentKey;
-        int ownKey;
-        int data;
-        const char* text;
-        const char* normalPicture;
-        const char* selectedPicture;
+        int parentKey;               // The key of the line that it stands below; 0: none.
+        int ownKey;                  // That by which its children name it.
+        int data;                    // The application's number of it.
+        const char* text;            // What is shown.
+        const char* normalPicture;   // The name of a .bmp file.
+        const char* selectedPicture; // The one while the item is selected.
     };
 
     // Null is an empty text; without the numbers nothing is added.
     void AddM(const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
     void DelItemM(int index); // The line is deleted from all lists; the others keep their index.
-    void DelAllM();
+    void DelAllM();           // Empties all lists.
+    // How many lines are alive; their indexes in order, -1 behind the last.
     int GetAvailableNumM() const { return keys_.GetAvailableNumM(); }
     int GetFirstIdxM() const { return keys_.GetFirstIdxM(); }
     int GetNextIdxM(int from) const { return keys_.GetNextIdxM(from); }
     void VisitM(FieldVisitorCL& visitor, const char* name); // Shows the alive lines as rows.
     LineCL LineM(int index) const;                          // Its texts are valid until the lists change.
 
+    using PlaceTP = std::function<void*(void* parent, const LineCL& line)>; // Makes an item of a line.
     // Places the lines with that parent key below the parent, in order, each one's children (the lines that
     // name its own key as their parent) before the next line. place(parent, line) returns what it made of the
     // line, null if it failed; either way the line is deleted, so each is placed once. No place: nothing.
-    using PlaceTP = std::function<void*(void* parent, const LineCL& line)>;
     void GenerateM(int parentKey, void* parent, const PlaceTP& place);
 
 private:

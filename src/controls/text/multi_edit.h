@@ -21,6 +21,7 @@ public:
     int SetAlignModeM(int mode) { return slKeep(alignMode_, mode); }       // 3 centred, 4 right, else left.
     int SetReadOnlyM(int readOnly) { return slKeep(readOnly_, readOnly); } // 1: can't be edited.
     int SetEdgeM(int edge) { return slKeep(edge_, edge); }                 // 1: sunken edge with border.
+    // The background of the text.
     int SetBkColorM(COLORREF colour) { return background_.SetColourM(colour); }
     // 0, and no change, for the empty text or one not below the limit; else 1.
     int SetInitTextM(const char* text) { return storeM(text, 1); }

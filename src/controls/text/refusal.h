@@ -13,9 +13,9 @@ struct RefusalCL
 // What of a message depends on the kind of field.
 struct RefusalBoxCL
 {
-    MessageTextId caption;
-    UINT type;        // MB_...
-    bool hasOwnOwner; // The field's top-level window owns the message anyway.
+    MessageTextId caption; // The text of the caption bar.
+    UINT type;             // MB_...
+    bool hasOwnOwner;      // The field's top-level window owns the message anyway.
 };
 
 // Tells the user of a field's value and gives the field the focus back (slTellAboutField). False when the

@@ -63,6 +63,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
+    // The host asks for a check, as if the field were left (1626).
     afx_msg LRESULT onCheckValM(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

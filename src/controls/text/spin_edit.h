@@ -26,7 +26,8 @@ public:
     int SetSpinLenM(int width) { return slKeep(spinWidth_, width); } // Of the arrows, in pixels.
     // Stored by type, not shown: 1; 0 for an unknown type.
     int SetRangeM(const simpleValD& range) { return value_.SetRangeM(range); }
-    int SetStepM(const simpleValD& step);
+    int SetStepM(const simpleValD& step); // By how much one click changes it. The same results.
+    // The value to begin with. The same results.
     int SetInitValM(const simpleValD& value) { return value_.SetValueM(value); }
 
     // Reads the text into the current value; the check code (CheckCode). *value is never written.
@@ -40,6 +41,7 @@ public:
 
     void SetRefusalM(const RefusalCL& refusal) { refusal_ = refusal; } // How a bad value is told.
 
+    // The arrows; the control keeps them.
     DuSpinButtonCL& SpinButtonM() { return spinButton_; }
 
 protected:
@@ -50,6 +52,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* oldFocus) { reportFocusM(oldFocus); }
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    // A click on the arrows (1725); the host asks for a check (1626).
     afx_msg LRESULT onSpinClickM(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT onCheckValM(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

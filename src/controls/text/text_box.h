@@ -24,10 +24,11 @@ public:
     {
     }
 
+    // Which characters can be typed.
     EditConstant GetEditTypeM() const { return editType_; }
     void SetEditTypeM(EditConstant type) { editType_ = type; }
 
-    // Minimum and maximum.
+    // Minimum and maximum of integers, and of reals.
     int SetMinMaxValM(const int limits[2]) { return slCopyPair(intLimits_, limits); }
     int GetMinMaxValueM(int limits[2]) const { return slCopyPair(limits, intLimits_); }
     int SetMinMaxValM(const float limits[2]) { return slCopyPair(realLimits_, limits); }

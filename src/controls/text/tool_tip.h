@@ -14,6 +14,7 @@ public:
     int ShowHelpM(CWnd* owner, const CRect& rect, const char* text);
     // Takes over the context's font as a Chinese one. Painting doesn't use it.
     void initFontM(CDC* dc);
+    // That font; the control keeps it.
     const LOGFONTA& GetFontM() const { return font_; }
     CWnd* GetOwner() const { return FromHandle(ownerWindow_); } // The one it was created for; may be null.
 

@@ -23,6 +23,7 @@ constexpr int MostDecimals = TextSize - 42;
 class PANELKIT_API TypedValueCL
 {
 public:
+    // The data type, a ValueType code.
     int GetTypeM() const { return type_; }
     void SetTypeM(int type, int decimals); // decimals: of a real; below 0 counts as 0.
 
@@ -30,11 +31,12 @@ public:
     // type.
     int SetRangeM(const simpleValD& range);
     int SetValueM(const simpleValD& value);
+    // Gives the value, by type: 1; 0, and nothing is written, for an unknown type or null.
     int GetValueM(simpleValD* value) const;
     // The smallest and the largest value, as the type says.
     union LimitsCL {
-        int numbers[2];
-        float reals[2];
+        int numbers[2]; // Of integers, and of texts the lengths.
+        float reals[2]; // Of reals.
     };
     const LimitsCL& RangeM() const { return range_; }
 

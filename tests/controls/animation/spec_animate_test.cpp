@@ -62,3 +62,56 @@ TEST(SpecAnimate, PaintsNothingAndSendsNothing)
     PumpPending();
     EXPECT_EQ(messages.ListM(), MessageListTP {});
 }
+
+TEST(SpecAnimate, PainterPaintsOverTheCurrentFrame)
+{
+    SpecialDialogCL special("0 0");
+    auto* control = special.dialog.ControlM<DuSpecAnimateCL>(11);
+    int calls = 0;
+    const auto shown = [&special] {
+        PumpPending();
+        return Pixels(special.dialog.ItemM(11));
+    };
+    EXPECT_TRUE(special.dialog.SetPainterM(11, [&calls](CDC& dc, const CSize& size) {
+        ++calls;
+        EXPECT_EQ(size, CSize(40, 30));
+        dc.FillSolidRect(5, 5, 10, 10, RGB(1, 2, 3));
+    }));
+    EXPECT_EQ(control->GetCurIdxM(), 0);
+    EXPECT_EQ(shown().CountM(asShown(Red)), 40 * 30 - 100); // Scaled: the frame is larger.
+    EXPECT_EQ(shown().CountM(RGB(1, 2, 3)), 100);
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(special.dialog.ShowFrameM(11, 1));
+    EXPECT_EQ(shown().CountM(asShown(Green)), 40 * 30 - 100);
+    EXPECT_EQ(calls, 2);
+    EXPECT_FALSE(special.dialog.ShowFrameM(11, 2));
+    EXPECT_FALSE(special.dialog.ShowFrameM(11, -1));
+    EXPECT_FALSE(special.dialog.ShowFrameM(12, 0));
+    EXPECT_EQ(control->GetCurIdxM(), 1);
+    EXPECT_EQ(control->DeleteBmpM(1), 1);
+    EXPECT_EQ(control->GetCurIdxM(), -1);
+    EXPECT_EQ(shown().CountM(::GetSysColor(COLOR_BTNFACE)), 40 * 30 - 100); // The dialog's.
+    EXPECT_EQ(shown().CountM(RGB(1, 2, 3)), 100);
+    EXPECT_EQ(control->DispBmpM(0), 1);
+    EXPECT_EQ(shown().CountM(asShown(Red)), 40 * 30 - 100);
+    EXPECT_EQ(control->DelAllBmpM(), 1);
+    EXPECT_EQ(shown().CountM(asShown(Red)), 0);
+    EXPECT_EQ(control->DispBmpM(0), 0);
+}
+
+TEST(SpecAnimate, AFrameSmallerThanTheControlLeavesTheDialogToBeSeen)
+{
+    const SmallPictureCL small(Blue, 8, 6);
+    SpecialDialogCL special("0 0");
+    auto* control = special.dialog.ControlM<DuSpecAnimateCL>(11);
+    EXPECT_EQ(control->AddBmpM(small.path()), 1);
+    EXPECT_EQ(control->DispBmpM(2), 1); // Without a painter nothing is shown.
+    PumpPending();
+    EXPECT_EQ(Pixels(special.dialog.ItemM(11)).CountM(asShown(Blue)), 0);
+    EXPECT_EQ(control->SetPainterM([](CDC&, const CSize&) {}), 1);
+    PumpPending();
+    const Pixels shown(special.dialog.ItemM(11));
+    EXPECT_EQ(shown.CountM(asShown(Blue)), 8 * 6);
+    EXPECT_EQ(shown.AtM(7, 5), asShown(Blue));
+    EXPECT_EQ(shown.CountM(::GetSysColor(COLOR_BTNFACE)), 40 * 30 - 8 * 6);
+}

@@ -1,6 +1,7 @@
 #include "controls/buttons/new_rotate_btn.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "support/pictured_dialog.h"
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -23,11 +24,15 @@ public:
         if (message == 1361) {
             ++queries;
             *reinterpret_cast<int*>(wParam) = allows;
+            if (onQuery) {
+                onQuery();
+            }
         }
         return PlainWindowCL::WindowProc(message, wParam, lParam);
     }
     int allows { 1 };
     int queries { 0 };
+    std::function<void()> onQuery;
 
 private:
     CWinApp app_;
@@ -382,4 +387,49 @@ TEST(NewRotateBtn, RecordFillsTheControl)
     EXPECT_EQ(button.GetCurIndxM(), 1);
     PumpPending();
     EXPECT_EQ(Pixels(button.m_hWnd).AtM(5, 5), asShown(Green));
+}
+
+TEST(NewRotateBtn, KeysMoveItAsTheMouseDoesOnceTheyAreUsed)
+{
+    SeriesCL series(8, 3, 1, -2);
+    const MessageRecorder messages(series.window.m_hWnd, ButtonMessages);
+    EXPECT_TRUE(FocusM(series.button.m_hWnd));
+    for (const WORD key : { VK_SPACE, VK_RIGHT, VK_LEFT }) {
+        KeyM(key);
+    }
+    EXPECT_EQ(messages.ListM(), MessageListTP {});
+    EXPECT_EQ(series.window.queries, 0);
+    series.button.UseKeyboardM(true);
+    ClickM(series.button.m_hWnd, 5, 5);
+    ClickM(series.button.m_hWnd, 5, 5, Button::Right);
+    const int queries = series.window.queries;
+    const auto clicked = messages.ListM();
+    EXPECT_EQ(clicked.size(), 4u);
+    const MessageRecorder byKeys(series.window.m_hWnd, ButtonMessages);
+    KeyM(VK_UP);
+    KeyM(VK_DOWN);
+    PumpPending();
+    EXPECT_EQ(byKeys.ListM(), clicked);
+    EXPECT_EQ(series.window.queries, 2 * queries);
+    EXPECT_EQ(series.button.GetCurIndxM(), 1);
+    KeyDownM(VK_SPACE);
+    series.button.OnTimerM(); // Held, it goes on as it does for the mouse.
+    KeyUpM(VK_SPACE);
+    EXPECT_EQ(series.button.GetCurIndxM(), 3);
+    series.window.allows = 0;
+    KeyM(VK_RIGHT);
+    PumpPending();
+    EXPECT_EQ(series.button.GetCurIndxM(), 3);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(NewRotateBtn, TheApplicationMayDestroyItWhenAKeyAsks)
+{
+    auto series = std::make_unique<SeriesCL>(8, 3);
+    series->button.UseKeyboardM(true);
+    EXPECT_TRUE(FocusM(series->button.m_hWnd));
+    series->window.onQuery = [&series] { series->button.DestroyWindow(); };
+    KeyM(VK_RIGHT);
+    EXPECT_EQ(series->button.GetCurIndxM(), 3);
+    EXPECT_EQ(series->window.queries, 1);
 }

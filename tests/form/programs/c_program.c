@@ -59,6 +59,12 @@ static void values(panelkit_dialog* dialog)
         panelkit_get_selection(dialog, 3020, lines, 2, &count) == PANELKIT_OK && count == 1 && lines[0] == 1);
     EXPECT(panelkit_get_line(dialog, 3020, 3, text, sizeof text, NULL) == PANELKIT_OK);
     EXPECT(strstr(text, "0.70 mm") != NULL);
+    EXPECT(panelkit_set_text_colour(dialog, 1050, 0x800000) == PANELKIT_OK);
+    EXPECT(panelkit_set_text_colour(dialog, 1050, PANELKIT_COLOUR_OF_SYSTEM) == PANELKIT_OK);
+    EXPECT(panelkit_set_accessible_name(dialog, 1050, "name") == PANELKIT_OK);
+    EXPECT(panelkit_set_message_text(PANELKIT_MESSAGE_BAD_VALUE, "bad") == PANELKIT_OK);
+    EXPECT(panelkit_get_message_text(PANELKIT_MESSAGE_BAD_VALUE, text, sizeof text, NULL) == PANELKIT_OK);
+    EXPECT(strcmp(text, "bad") == 0);
 }
 
 int main(int count, char** arguments)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
+#include <sstream>
 
 TEST(Messages, EveryConstantOfTheHeaderHasWords)
 {
@@ -21,4 +22,33 @@ TEST(Messages, EveryConstantOfTheHeaderHasWords)
         EXPECT_STRNE(words.meaning, "") << words.name;
     }
     EXPECT_EQ(told, constants);
+}
+
+TEST(Messages, ThePageTellsEachAsHeaderAndLogDo)
+{
+    const std::string header = wholeFile(PANELKIT_SOURCES "/controls/base/messages.h");
+    std::istringstream page(wholeFile(PANELKIT_DOCS "/messages.md"));
+    const std::regex row(
+        "\\| `(\\w+Msg)` \\| (\\d+) \\| ([^|]*) \\| [^|]+ \\| [^|]*\\| [^|]+ \\| ([^|]+) \\|");
+    std::vector<std::string> told;
+    std::vector<std::string> wanted;
+    for (std::string line; std::getline(page, line);) {
+        std::smatch cells;
+        if (std::regex_match(line, cells, row)) {
+            told.push_back(cells[1].str() + " " + cells[2].str() + " " + cells[4].str());
+            std::smatch comment;
+            ASSERT_TRUE(
+                std::regex_search(header, comment, std::regex(cells[1].str() + " = \\d+,? *// ([^\n]*)")));
+            for (const char* how : { "sent|Sent", "posted|Posted" }) {
+                EXPECT_EQ(std::regex_search(cells[3].str(), std::regex(how)),
+                    std::regex_search(comment[1].str(), std::regex(how)))
+                    << line;
+            }
+        }
+    }
+    for (const MessageWordsCL& words : messageWords()) {
+        wanted.push_back(std::string(words.name) + " " + std::to_string(words.number) + " " + words.meaning
+            + (words.negative != nullptr ? std::string("; ") + words.negative : ""));
+    }
+    EXPECT_EQ(told, wanted);
 }
