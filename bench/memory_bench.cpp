@@ -2,7 +2,6 @@
 // plain calls.
 #include "measures.h"
 #include "raw_dialog.h"
-#include <memory>
 #define PSAPI_VERSION 2 // In kernel32.
 #include <psapi.h>
 
@@ -22,11 +21,8 @@ double usedBytes()
 
 template <class DialogTP, class... ArgumentsTP> double bytesEach(ArgumentsTP... arguments)
 {
-    std::vector<std::unique_ptr<DialogTP>> dialogs;
-    const auto add = [&] {
-        dialogs.push_back(std::make_unique<DialogTP>(arguments...));
-        dialogs.back()->BuildM();
-    };
+    // They stay: what one gives back, the next would take.
+    const auto add = [&] { (new DialogTP(arguments...))->BuildM(); };
     add(); // With what stays once it is there.
     const double before = usedBytes();
     add();

@@ -9,8 +9,8 @@
 class PANELKIT_API IdChangesCL
 {
 public:
-    static void AddM();
-    static unsigned CountM();
+    static void AddM();       // One has.
+    static unsigned CountM(); // So often until now; any thread may ask.
 };
 
 // Where the controls with each function id stand, for a look-up that is not a walk. It is filled with all
@@ -19,19 +19,23 @@ public:
 template <class PlaceTP> class IdIndexCL
 {
 public:
-    using EntryTP = std::pair<int, PlaceTP>;
+    using EntryTP = std::pair<int, PlaceTP>; // An id and a place.
+    // The entries of one id, to be walked over.
     struct PlacesCL
     {
-        const EntryTP* first;
-        const EntryTP* last;
+        const EntryTP* first; // The first one.
+        const EntryTP* last;  // Behind the last one.
         const EntryTP* begin() const { return first; }
         const EntryTP* end() const { return last; }
     };
 
+    // Whether it holds the places of so many controls as they are now.
     bool IsFilledM(int size) const { return isFilled_ && IsKnownM(size); }
     // Whether it was asked the same before and nothing has changed since: then filling it is worth while.
     bool IsKnownM(int size) const { return size_ == size && changes_ == IdChangesCL::CountM(); }
+    // Empties it.
     void ForgetM() { *this = IdIndexCL(); }
+    // Empties it for the places of so many controls as they are now.
     void RememberM(int size)
     {
         ForgetM();
@@ -41,13 +45,15 @@ public:
 
     // Filling: RememberM, then the places in the order of search, then EndM.
     void AddM(int id, PlaceTP place) { entries_.emplace_back(id, place); }
+    // It is filled.
     void EndM()
     {
         std::stable_sort(entries_.begin(), entries_.end(), isBefore);
         isFilled_ = true;
     }
 
-    PlacesCL PlacesM(int id) const // In the order of search.
+    // Those of an id, in the order of search; none for an unknown one. Valid until it changes.
+    PlacesCL PlacesM(int id) const
     {
         const auto found
             = std::equal_range(entries_.begin(), entries_.end(), EntryTP(id, PlaceTP()), isBefore);

@@ -35,8 +35,8 @@ public:
     int GetValueM(simpleValD* value) const;
     // The smallest and the largest value, as the type says.
     union LimitsCL {
-        int numbers[2];
-        float reals[2];
+        int numbers[2]; // Of integers, and of texts the lengths.
+        float reals[2]; // Of reals.
     };
     // Minimum and maximum.
     const LimitsCL& RangeM() const { return range_; }
