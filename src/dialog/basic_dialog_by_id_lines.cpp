@@ -105,3 +105,38 @@ std::optional<bool> DialogValuesCL::IsShownM(int id) const
     });
     return isShown;
 }
+
+bool DialogValuesCL::FocusM(int id)
+{
+    HWND window = nullptr;
+    dialog_.withControlM(id, [&window](auto, auto& control) { window = control.m_hWnd; });
+    if (window == nullptr || !::IsWindowVisible(window) || !::IsWindowEnabled(window)) {
+        return false;
+    }
+    ::SetFocus(window);
+    return ::GetFocus() == window;
+}
+
+std::optional<ValueTextCL> DialogValuesCL::CaptionM(int id) const
+{
+    std::optional<ValueTextCL> caption;
+    dialog_.withControlM(id, [&caption](auto row, auto& control) {
+        if constexpr (decltype(row)::CanM(HasCaption)) {
+            if (control.m_hWnd != nullptr) {
+                caption = control.CaptionM();
+            }
+        }
+    });
+    return caption;
+}
+
+bool DialogValuesCL::SetCaptionM(int id, const ValueTextCL& caption)
+{
+    bool isSet = false;
+    dialog_.withControlM(id, [&isSet, &caption](auto row, auto& control) {
+        if constexpr (decltype(row)::CanM(HasCaption)) {
+            isSet = control.SetCaptionM(caption);
+        }
+    });
+    return isSet;
+}

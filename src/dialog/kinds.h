@@ -58,7 +58,8 @@ enum Ability : unsigned
     ColoursText = 1024,   // SetTextColourM shows.
     TellsRefusals = 2048, // SetRefusalM.
     ActsAsButton = 4096,  // A picture for a push button.
-    GoesQuietly = 8192    // Destroying its window tells nobody but those whom the window system tells.
+    GoesQuietly = 8192,   // Destroying its window tells nobody but those whom the window system tells.
+    HasCaption = 16384    // CaptionM, SetCaptionM.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -108,7 +109,7 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
                                  Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | ColoursText | GoesQuietly,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | HasCaption | ColoursText | GoesQuietly,
         &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
         Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly,
@@ -128,18 +129,19 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
     KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
         &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
-    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12, Stacked | GoesQuietly,
-        &DVrStandardButtonArr::InitStandardButtonM>,
+    KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12,
+        Stacked | HasCaption | GoesQuietly, &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
-        Stacked | StandsInGroups | HasValue | ColoursText | GoesQuietly, &DVrRadioBoxArr::InitRadioBoxM>,
-    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11, Stacked | HasValue | ColoursText | GoesQuietly,
-        &DVrCheckBoxArr::InitCheckBoxM>,
+        Stacked | HasCaption | StandsInGroups | HasValue | ColoursText | GoesQuietly,
+        &DVrRadioBoxArr::InitRadioBoxM>,
+    KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11,
+        Stacked | HasCaption | HasValue | ColoursText | GoesQuietly, &DVrCheckBoxArr::InitCheckBoxM>,
     KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys | ActsAsButton,
         &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
         Stacked | HasValue | TakesKeys | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
-    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16, Stacked | ColoursText | GoesQuietly,
-        &DVrGroupBoxArr::InitGroupBoxM>,
+    KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16,
+        Stacked | HasCaption | ColoursText | GoesQuietly, &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
         &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,

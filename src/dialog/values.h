@@ -106,6 +106,15 @@ public:
     std::optional<bool> IsEnabledM(int id) const;
     std::optional<bool> IsShownM(int id) const; // Its own state, shown or not as the dialog may be.
 
+    // Gives it the focus as a key of the user's would: the field that has it is left. false also when the
+    // field keeps it, or the control is disabled or can't be seen.
+    bool FocusM(int id);
+
+    // What a label, group box, check box, radio button or standard button says. Setting refuses null; what
+    // GBK can't say shows too, until the dialog is built anew.
+    std::optional<ValueTextCL> CaptionM(int id) const;
+    bool SetCaptionM(int id, const ValueTextCL& caption);
+
 private:
     template <class FunctionTP> bool withLinesM(int id, FunctionTP&& see) const;
 

@@ -75,7 +75,14 @@ panelkit_status panelkit_check(panelkit_dialog* dialog, int32_t* good)
         if (good == nullptr) {
             return PANELKIT_ERROR_ARGUMENT;
         }
-        *good = hosted.CheckValueLegalM() == 0 ? 1 : 0;
+        const int id = ::GetDlgCtrlID(::GetFocus());
+        bool isGood = hosted.CheckValueLegalM() == 0;
+        // The host's answer is about single-line edits; a spin edit has told the user and nobody else.
+        if (hosted.HasWindowM() && (hosted.ValuesM().PartsM(id) & (NumberPart | RealPart)) != 0) {
+            const ControlValueCL value = hosted.ValuesM().ValueM(id);
+            isGood = isGood && (value.IsOfM(NumberPart) || value.IsOfM(RealPart));
+        }
+        *good = isGood ? 1 : 0;
         hosted.ErrorM().clear(); // Of the calls meanwhile.
         return PANELKIT_OK;
     });
@@ -128,6 +135,40 @@ panelkit_status panelkit_is_control_shown(panelkit_dialog* dialog, int32_t id, i
 {
     return slWithControl(dialog, id, [=](HostedDialogCL& hosted, const DialogValuesCL& values) {
         return slGive(hosted, values.IsShownM(id), shown);
+    });
+}
+
+panelkit_status panelkit_focus_control(panelkit_dialog* dialog, int32_t id)
+{
+    return slWithWindow(dialog, [id](HostedDialogCL& hosted) -> panelkit_status {
+        if (!hosted.ValuesM().IsEnabledM(id)) {
+            return slFail(hosted, PANELKIT_ERROR_ID, "there is no control " + std::to_string(id));
+        }
+        const bool isDone = hosted.ValuesM().FocusM(id); // Leaving a field is the user's: that is told.
+        hosted.ErrorM().clear();
+        return doneOrRefused(isDone);
+    });
+}
+
+panelkit_status panelkit_get_caption(
+    panelkit_dialog* dialog, int32_t id, char* buffer, size_t size, size_t* needed)
+{
+    return slWithControl(dialog, id, [=](HostedDialogCL&, const DialogValuesCL& values) -> panelkit_status {
+        const auto caption = values.CaptionM(id);
+        return caption ? slGiveText(caption->Utf8M(), buffer, size, needed) : PANELKIT_ERROR_NO_VALUE;
+    });
+}
+
+panelkit_status panelkit_set_caption(panelkit_dialog* dialog, int32_t id, const char* caption)
+{
+    return slWithControl(dialog, id, [=](HostedDialogCL&, DialogValuesCL& values) -> panelkit_status {
+        if (caption == nullptr) {
+            return PANELKIT_ERROR_ARGUMENT;
+        }
+        if (!values.CaptionM(id)) {
+            return PANELKIT_ERROR_NO_VALUE;
+        }
+        return doneOrRefused(values.SetCaptionM(id, ValueTextCL::FromUtf8M(caption)));
     });
 }
 

@@ -2,6 +2,7 @@
 #include "form/canvas.h"
 #include "form/form_looks.h"
 #include "form/form_state.h"
+#include "form/form_values.h"
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,7 +23,7 @@ struct FormOptions
 // id, a control without such a value and a form without a dialog; Error() tells which. Of the events none
 // comes from what the program does by its functions. A form belongs to the thread that made it. A handler may
 // do everything, destroy its form too; what it throws closes the form and comes out of Run or RunLoop.
-class Form : public FormLooksCL<Form>
+class Form : public FormValuesCL<Form>, public FormLooksCL<Form>
 {
 public:
     using Handler = std::function<void()>; // Of an event with nothing more to tell.
@@ -162,99 +163,21 @@ public:
     // Of a normal animation that doesn't play by itself, or below what is painted on a special one.
     bool ShowFrame(int id, int frame) { return isOk(panelkit_show_frame(Handle(), id, frame)); }
 
-    // The integer of an edit, the status of a multi-state button, the counter of a rotate button.
-    std::optional<int> Int(int id) const { return get<std::int32_t>(panelkit_get_int, id); }
-    // The real of an edit; the angle of a rotate button in degrees.
-    std::optional<double> Real(int id) const { return get<double>(panelkit_get_real, id); }
-    // Of an edit or a combo box.
-    std::optional<std::string> Text(int id) const { return text(panelkit_get_text, id); }
-    // Of a check box or radio button.
-    std::optional<bool> Checked(int id) const { return flag(panelkit_get_checked, id); }
-    // The id of the checked radio button in the group of this one; 0: none is.
-    std::optional<int> Group(int id) const { return get<std::int32_t>(panelkit_get_group, id); }
-    // The selected line of a list box or combo box, the selected row of a table, from 0; -1: none. nullopt
-    // also when several are selected.
-    std::optional<int> Index(int id) const { return get<std::int32_t>(panelkit_get_index, id); }
-    // All selected lines or rows, ascending.
-    std::optional<std::vector<int>> Selection(int id) const
-    {
-        size_t count = 0;
-        if (panelkit_get_selection(Handle(), id, nullptr, 0, &count) != PANELKIT_OK) {
-            return std::nullopt;
-        }
-        std::vector<std::int32_t> lines(count + 1);
-        if (panelkit_get_selection(Handle(), id, lines.data(), lines.size(), &count) != PANELKIT_OK) {
-            return std::nullopt;
-        }
-        return std::vector<int>(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count));
-    }
-    // The selected item of a tree: the texts from the root down with '/' between them; empty: none.
-    std::optional<std::string> Path(int id) const { return text(panelkit_get_path, id); }
-
-    // Sets what Int, Real, Checked or Text give; a field with a real takes an integer too. false also for a
-    // value that the control refuses: it keeps the one that it has.
-    bool Set(int id, int value)
-    {
-        const panelkit_status status = panelkit_set_int(Handle(), id, value);
-        return isOk(status == PANELKIT_ERROR_NO_VALUE ? panelkit_set_real(Handle(), id, value) : status);
-    }
-    bool Set(int id, double value) { return isOk(panelkit_set_real(Handle(), id, value)); }
-    bool Set(int id, bool checked) { return isOk(panelkit_set_checked(Handle(), id, checked ? 1 : 0)); }
-    bool Set(int id, const char* value) { return isOk(panelkit_set_text(Handle(), id, value)); }
-    bool Set(int id, const std::string& value) { return Set(id, value.c_str()); }
-    // Selects that line or row and no other; -1: none.
-    bool SetIndex(int id, int index) { return isOk(panelkit_set_index(Handle(), id, index)); }
-    // Selects those lines or rows and no other, in any order.
-    bool SetSelection(int id, const std::vector<int>& lines)
-    {
-        const std::vector<std::int32_t> given(lines.begin(), lines.end());
-        return isOk(panelkit_set_selection(Handle(), id, given.data(), given.size()));
-    }
-    // Selects that item of a tree.
-    bool SetPath(int id, const std::string& path)
-    {
-        return isOk(panelkit_set_path(Handle(), id, path.c_str()));
-    }
-
-    // A value as a text to keep between runs, whatever its kind, and back.
-    std::optional<std::string> Save(int id) const { return text(panelkit_save, id); }
-    bool Restore(int id, const std::string& saved)
-    {
-        return isOk(panelkit_restore(Handle(), id, saved.c_str()));
-    }
-    // All of them as one text, but those that are not legal now.
-    std::optional<std::string> SaveAll() const { return text(panelkit_save_all); }
-    // Sets what it can; false: some value was refused, or its control is gone.
-    bool RestoreAll(const std::string& saved)
-    {
-        return isOk(panelkit_restore_all(Handle(), saved.c_str(), nullptr));
-    }
-
-    // How many lines a list box or combo box has, or rows a table. They count from 0.
-    std::optional<int> LineCount(int id) const { return get<std::int32_t>(panelkit_line_count, id); }
-    // The text of one, of a row that of its first column; lines that are pictures have none.
-    std::optional<std::string> Line(int id, int line) const { return text(panelkit_get_line, id, line); }
-    // Adds one at the end; of a box of pictures the text is the name of a .bmp file. data: the program's
-    // number of the line. false also for a text that GBK can't say.
-    bool AddLine(int id, const std::string& line, int data = 0)
-    {
-        return isOk(panelkit_add_line(Handle(), id, line.c_str(), data));
-    }
-    // The same before a line; at: 0 up to their number.
-    bool InsertLine(int id, int at, const std::string& line, int data = 0)
-    {
-        return isOk(panelkit_insert_line(Handle(), id, at, line.c_str(), data));
-    }
-    // Takes one away, or all.
-    bool DeleteLine(int id, int line) { return isOk(panelkit_delete_line(Handle(), id, line)); }
-    bool ClearLines(int id) { return isOk(panelkit_clear_lines(Handle(), id)); }
-
     // Any control: enables or disables it.
     bool EnableControl(int id, bool enable) { return isOk(panelkit_enable_control(Handle(), id, enable)); }
     // Whether pictures that take clicks are reached by Tab and used by Space, Enter and arrows. At first not.
     bool UsePictureKeyboard(bool use) { return isOk(panelkit_use_picture_keyboard(Handle(), use ? 1 : 0)); }
     // Any control: shows or hides it.
     bool ShowControl(int id, bool show) { return isOk(panelkit_show_control(Handle(), id, show)); }
+    // What a label, group box, check box, radio button or standard button says.
+    std::optional<std::string> Caption(int id) const { return text(panelkit_get_caption, id); }
+    bool SetCaption(int id, const std::string& caption)
+    {
+        return isOk(panelkit_set_caption(Handle(), id, caption.c_str()));
+    }
+    // Gives it the focus as a key of the user's would. false: it can't have it, or the field that has the
+    // focus keeps it.
+    bool Focus(int id) { return isOk(panelkit_focus_control(Handle(), id)); }
     // Its own state, as if the form were enabled and shown.
     std::optional<bool> IsControlEnabled(int id) const { return flag(panelkit_is_control_enabled, id); }
     std::optional<bool> IsControlShown(int id) const { return flag(panelkit_is_control_shown, id); }
@@ -269,7 +192,8 @@ public:
         return list;
     }
 
-    // The control that takes the focus without a check of the field that was left.
+    // The control whose focus has no field asked again for its value: that is what Cancel wants. A field that
+    // is left for it by the mouse or Tab is checked all the same.
     bool SetCancelId(int id) { return isOk(panelkit_set_cancel_id(Handle(), id)); }
     // Has the field with the focus checked as if it were left; a bad value is told. Whether it is good.
     bool Check() { return flag(panelkit_check).value_or(false); }
@@ -286,35 +210,6 @@ public:
     } // Its dialog for the C interface; the form keeps it. Null: none.
 
 private:
-    static bool isOk(panelkit_status status) { return status == PANELKIT_OK; }
-
-    template <class ValueTP, class GetterTP, class... ArgumentsTP>
-    std::optional<ValueTP> get(GetterTP getter, ArgumentsTP... arguments) const
-    {
-        ValueTP value {};
-        return isOk(getter(Handle(), arguments..., &value)) ? std::optional<ValueTP>(value) : std::nullopt;
-    }
-    template <class GetterTP, class... ArgumentsTP>
-    std::optional<bool> flag(GetterTP getter, ArgumentsTP... arguments) const
-    {
-        const auto found = get<std::int32_t>(getter, arguments...);
-        return found ? std::optional<bool>(*found != 0) : std::nullopt;
-    }
-    template <class GetterTP, class... ArgumentsTP>
-    std::optional<std::string> text(GetterTP getter, ArgumentsTP... arguments) const
-    {
-        size_t needed = 0;
-        if (!isOk(getter(Handle(), arguments..., nullptr, 0, &needed))) {
-            return std::nullopt;
-        }
-        std::string found(needed, '\0');
-        if (!isOk(getter(Handle(), arguments..., found.data(), found.size(), &needed))) {
-            return std::nullopt;
-        }
-        found.resize(needed - 1);
-        return found;
-    }
-
     template <class FunctionTP> Form& on(int kind, int id, FunctionTP handler)
     {
         if (state_ != nullptr) {

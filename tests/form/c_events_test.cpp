@@ -168,7 +168,7 @@ TEST_F(CEvents, TheUserClosesUnlessTheProgramKeepsItOpen)
     EXPECT_EQ(opened_.StoryM(), "closed 0 0 9");
 }
 
-TEST_F(CEvents, TheCancelControlIsReachedWithoutACheck)
+TEST_F(CEvents, CheckingTellsABadFieldAndSaysSo)
 {
     int32_t good = 7;
     EXPECT_EQ(panelkit_check(opened_.dialog, &good), PANELKIT_OK);
@@ -179,6 +179,41 @@ TEST_F(CEvents, TheCancelControlIsReachedWithoutACheck)
     MessageBoxWatcher watcher;
     EXPECT_EQ(panelkit_check(opened_.dialog, &good), PANELKIT_OK);
     EXPECT_EQ(good, 0);
+    EXPECT_EQ(watcher.SeenM().size(), 1u);
+    EXPECT_EQ(::GetFocus(), opened_.ItemM(11));
+}
+
+TEST_F(CEvents, CheckingKnowsSpinEditsToo)
+{
+    int32_t good = 7;
+    StartAtM(14);
+    EXPECT_EQ(panelkit_check(opened_.dialog, &good), PANELKIT_OK);
+    EXPECT_EQ(good, 1);
+    StartAtM(14);
+    ChordM(VK_CONTROL, 'A');
+    TypeM(L"99");
+    MessageBoxWatcher watcher;
+    EXPECT_EQ(panelkit_check(opened_.dialog, &good), PANELKIT_OK);
+    EXPECT_EQ(good, 0);
+    EXPECT_EQ(watcher.SeenM().size(), 1u);
+    EXPECT_EQ(::GetFocus(), opened_.ItemM(14));
+}
+
+TEST_F(CEvents, AControlGetsTheFocusAsByAKey)
+{
+    StartAtM(11);
+    EXPECT_EQ(panelkit_focus_control(opened_.dialog, 43), PANELKIT_OK);
+    EXPECT_EQ(::GetFocus(), opened_.ItemM(43));
+    EXPECT_EQ(opened_.StoryM(), "focus 43 13 0; leave 11 4 0 good");
+    EXPECT_EQ(panelkit_enable_control(opened_.dialog, 42, 0), PANELKIT_OK);
+    EXPECT_EQ(panelkit_focus_control(opened_.dialog, 42), PANELKIT_ERROR_REFUSED);
+    EXPECT_EQ(::GetFocus(), opened_.ItemM(43));
+
+    StartAtM(11);
+    ChordM(VK_CONTROL, 'A');
+    TypeM(L"-");
+    MessageBoxWatcher watcher;
+    EXPECT_EQ(panelkit_focus_control(opened_.dialog, 43), PANELKIT_ERROR_REFUSED); // The field keeps it.
     EXPECT_EQ(watcher.SeenM().size(), 1u);
     EXPECT_EQ(::GetFocus(), opened_.ItemM(11));
 }

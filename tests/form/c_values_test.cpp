@@ -54,6 +54,30 @@ TEST_F(CValues, AreReadAndSetByTheirTypes)
     EXPECT_EQ(opened_.StoryM(), ""); // Nothing of it is the user's doing.
 }
 
+TEST_F(CValues, CaptionsAreReadAndSetInAnyLanguage)
+{
+    char caption[40] = "";
+    EXPECT_EQ(panelkit_get_caption(dialog_, 43, caption, sizeof caption, nullptr), PANELKIT_OK);
+    EXPECT_STREQ(caption, "press");
+    for (const int32_t id : { 31, 41, 43 }) {
+        EXPECT_EQ(panelkit_set_caption(dialog_, id, u8"Größe 크기"), PANELKIT_OK) << id;
+        EXPECT_EQ(panelkit_get_caption(dialog_, id, caption, sizeof caption, nullptr), PANELKIT_OK) << id;
+        EXPECT_STREQ(caption, u8"Größe 크기") << id;
+        wchar_t shown[40] = L"";
+        ::GetWindowTextW(opened_.ItemM(id), shown, 40);
+        EXPECT_STREQ(shown, L"Größe 크기") << id;
+    }
+    size_t needed = 0;
+    EXPECT_EQ(panelkit_get_caption(dialog_, 43, nullptr, 0, &needed), PANELKIT_OK);
+    EXPECT_EQ(needed, sizeof u8"Größe 크기");
+    EXPECT_EQ(panelkit_set_caption(dialog_, 11, "x"), PANELKIT_ERROR_NO_VALUE);
+    EXPECT_EQ(panelkit_get_caption(dialog_, 46, caption, sizeof caption, nullptr), PANELKIT_ERROR_NO_VALUE);
+    EXPECT_EQ(panelkit_set_caption(dialog_, 999, "x"), PANELKIT_ERROR_ID);
+    EXPECT_EQ(panelkit_set_caption(dialog_, 43, nullptr), PANELKIT_ERROR_ARGUMENT);
+    EXPECT_EQ(opened_.TextM(11), "none"); // An integer.
+    EXPECT_EQ(opened_.StoryM(), "");
+}
+
 TEST_F(CValues, SelectionsTellHowManyThereAre)
 {
     const int32_t wanted[] = { 2, 0 };
@@ -233,14 +257,15 @@ TEST(CHandles, AreCheckedByEveryFunction)
             panelkit_get_title(dialog, nullptr, 0, &size), panelkit_set_cancel_id(dialog, 1),
             panelkit_check(dialog, &number), panelkit_control_count(dialog, &size),
             panelkit_control_at(dialog, 0, &control), panelkit_enable_control(dialog, 11, 0),
-            panelkit_show_control(dialog, 11, 0), panelkit_is_control_enabled(dialog, 11, &number),
-            panelkit_is_control_shown(dialog, 11, &number), panelkit_get_int(dialog, 11, &number),
-            panelkit_set_int(dialog, 11, 7), panelkit_get_real(dialog, 12, &real),
-            panelkit_set_real(dialog, 12, 7), panelkit_get_text(dialog, 13, nullptr, 0, &size),
-            panelkit_set_text(dialog, 13, "x"), panelkit_get_checked(dialog, 41, &number),
-            panelkit_set_checked(dialog, 41, 0), panelkit_get_group(dialog, 31, &number),
-            panelkit_get_index(dialog, 17, &number), panelkit_set_index(dialog, 17, 1),
-            panelkit_get_selection(dialog, 18, nullptr, 0, &size),
+            panelkit_show_control(dialog, 11, 0), panelkit_focus_control(dialog, 11),
+            panelkit_get_caption(dialog, 43, nullptr, 0, &size), panelkit_set_caption(dialog, 43, "x"),
+            panelkit_is_control_enabled(dialog, 11, &number), panelkit_is_control_shown(dialog, 11, &number),
+            panelkit_get_int(dialog, 11, &number), panelkit_set_int(dialog, 11, 7),
+            panelkit_get_real(dialog, 12, &real), panelkit_set_real(dialog, 12, 7),
+            panelkit_get_text(dialog, 13, nullptr, 0, &size), panelkit_set_text(dialog, 13, "x"),
+            panelkit_get_checked(dialog, 41, &number), panelkit_set_checked(dialog, 41, 0),
+            panelkit_get_group(dialog, 31, &number), panelkit_get_index(dialog, 17, &number),
+            panelkit_set_index(dialog, 17, 1), panelkit_get_selection(dialog, 18, nullptr, 0, &size),
             panelkit_set_selection(dialog, 18, nullptr, 0), panelkit_get_path(dialog, 46, nullptr, 0, &size),
             panelkit_set_path(dialog, 46, ""), panelkit_save(dialog, 11, nullptr, 0, &size),
             panelkit_restore(dialog, 11, "7"), panelkit_save_all(dialog, nullptr, 0, &size),
