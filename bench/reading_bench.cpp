@@ -104,21 +104,12 @@ SumCL scan(const std::string& bytes)
 
 int readAll(ReadObserverCL* observer)
 {
-    SharedTextCL text;
-    int all = 0;
-    const auto open = [&](VrIOCL& io) {
-        text.OpenM(io, Path);
-        io.SetObserverM(observer);
-    };
-    {
-        VrIOCL io;
-        open(io);
-        DialogHeaderCL header;
-        all += slReadDialogHeader(io, header);
-    }
+    VrIOCL io;
+    io.OpenM(Path, "r");
+    io.SetObserverM(observer);
+    DialogHeaderCL header;
+    int all = slReadDialogHeader(io, header);
     slEachKindAsBuilt([&](auto row) {
-        VrIOCL io;
-        open(io);
         typename decltype(row)::Records records;
         int count = 0;
         slReadSection(io, records, &count);

@@ -17,7 +17,6 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/real_text.cpp
   baselib/real_write.cpp
-  baselib/shared_text.cpp
   baselib/string.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp

@@ -1,12 +1,9 @@
 #pragma once
 #include "baselib/api.h"
-#include "baselib/char_arr.h"
 #include <cstddef>
 #include <memory>
 #include <string_view>
 #include <vector>
-
-class VrIOCL;
 
 // A place as an editor shows it: lines and the characters of a line count from 1, a double-byte one as one.
 struct PlaceCL
@@ -55,20 +52,4 @@ private:
     mutable std::vector<std::size_t> lineStarts_; // Made when the first place is asked for.
     mutable std::size_t lastStart_ { 0 };         // Where the character of the last place asked for begins,
     mutable PlaceCL last_;                        // and that place: a long line is walked over once.
-};
-
-// A description file for several readings of one build, loaded once. What an application does to the file
-// between two of them must be seen by the later one: whoever gave it the chance says so.
-class PANELKIT_API SharedTextCL
-{
-public:
-    // Opens io as VrIOCL::OpenM(path, "r") does. Null or what can't be opened leaves it unopened.
-    void OpenM(VrIOCL& io, const char* path);
-    // The file is loaded anew when it is opened next. If its bytes are the same, the text stays too.
-    void MayHaveChangedM() { isFresh_ = false; }
-
-private:
-    CharArr path_;
-    std::shared_ptr<const FileTextCL> text_;
-    bool isFresh_ { false };
 };
