@@ -43,11 +43,6 @@ public:
     static constexpr int MaxGap = 1 << 22;
 
 private:
-    enum
-    {
-        FirstRoom = 8
-    };
-
     struct Store
     {
         std::vector<int> values;

@@ -1,10 +1,6 @@
 #include "records/field_reader.h"
 #include "baselib/gbk.h"
-#include "baselib/number_scan.h"
 #include "baselib/number_text.h"
-#include <cfloat>
-#include <climits>
-#include <cmath>
 #include <cstring>
 
 ReadObserverCL::~ReadObserverCL() = default;
@@ -14,15 +10,14 @@ void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
 
-// Only a limit may stand for more than itself.
-bool numberFits(std::string_view number, int value)
+bool numberFits(std::string_view number, int)
 {
-    return (value != INT_MAX && value != INT_MIN) || slIntFits(number.data(), number.data() + number.size());
+    return slIntFits(number.data(), number.data() + number.size());
 }
 
-bool numberFits(std::string_view number, float value)
+bool numberFits(std::string_view number, float)
 {
-    return std::abs(value) != FLT_MAX || slRealFits(number.data(), number.data() + number.size());
+    return slRealFits(number.data(), number.data() + number.size());
 }
 
 // Where the word ends, or a text's length of it: many values may be looked for at the same long word.
@@ -36,25 +31,23 @@ std::size_t wordEnd(const FileTextCL& file, std::size_t at)
     return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
-bool standsForNothing(const char* text, NullWord rule)
+bool standsForNothing(const CharArr& text, NullWord rule)
 {
-    if ((*text != 'N' && *text != 'n') || rule == NullWord::Kept) {
-        return false; // Most texts.
-    }
-    return rule == NullWord::UpperEmpty ? std::strcmp(text, "NULL") == 0 : slIsNullWord(text) != 0;
+    return rule == NullWord::UpperEmpty ? std::strcmp(text.TextM(), "NULL") == 0
+                                        : rule != NullWord::Kept && slIsNullWord(text.TextM()) != 0;
 }
 
 } // namespace
 
 std::size_t slNextValue(const VrIOCL& io)
 {
-    const FileTextCL* const file = io.FileTextM().get();
-    if (file == nullptr) {
-        return io.PositionM();
+    std::size_t at = io.PositionM();
+    if (const FileTextCL* const file = io.FileTextM().get()) {
+        while (at < file->SizeM() && slIsBlank(file->BytesM()[at])) {
+            ++at;
+        }
     }
-    const char* const bytes = file->BytesM();
-    const char* const next = slSkipBlanks(bytes + io.PositionM(), bytes + file->SizeM());
-    return static_cast<std::size_t>(next - bytes);
+    return at;
 }
 
 void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
@@ -62,27 +55,10 @@ void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
     observer_->ValueM({ section_, record_, name, part, span, fate, isFileName_ });
 }
 
-bool FieldReaderCL::inputM(int& value)
-{
-    if (io_->binary_) {
-        return io_->InputOneM(&value);
-    }
-    const char* const end = io_->data_ + io_->size_;
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
-    const char* const numberEnd = slScanInt(begin, end, &value);
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return numberEnd > begin;
-}
-
-bool FieldReaderCL::inputM(float& value)
-{
-    return io_->InputOneM(&value);
-}
-
 template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
 {
     if (observer_ == nullptr && !isStopped_) {
-        return inputM(value);
+        return io_->InputOneM(&value);
     }
     return readObservedM(name, part, value);
 }
@@ -94,10 +70,7 @@ template <class T> bool FieldReaderCL::readObservedM(const char* name, int part,
     }
     const FileTextCL* const file = io_->FileTextM().get();
     const std::size_t begin = slNextValue(*io_);
-    if (!isStopped_ && !io_->binary_) {
-        io_->at_ = begin; // Nothing is passed over twice.
-    }
-    const bool isRead = !isStopped_ && inputM(value);
+    const bool isRead = !isStopped_ && io_->InputOneM(&value);
     SpanCL span { begin, isRead ? io_->PositionM() : begin };
     Fate fate = Fate::Read;
     if (isStopped_) {
@@ -124,41 +97,6 @@ template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int
 void FieldReaderCL::IntM(const char* name, int& value)
 {
     readM(name, 0, value);
-}
-
-void FieldReaderCL::IdM(const char* name, int& value)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::IndexM(const char* name, int& value)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::CountM(const char* name, int& value)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::FlagM(const char* name, int& value)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::ChoiceM(const char* name, int& value, const ChoicesCL&)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::LengthM(const char* name, int& value, Along)
-{
-    readM(name, 0, value);
-}
-
-void FieldReaderCL::LengthPairM(const char* name, int (&xy)[2])
-{
-    readAllM(name, xy, 2);
 }
 
 void FieldReaderCL::RealM(const char* name, float& value)
@@ -204,13 +142,8 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
         return;
     }
     const auto most = static_cast<std::size_t>(form.size) - 1;
-    const std::size_t length = slGbkCutLength(item.data(), item.size(), most);
-    if (isReusing_) {
-        text.SetWithinM(item.data(), length, TextSize);
-    } else {
-        text.SetM(item.data(), length);
-    }
-    const bool isNullWord = standsForNothing(text.TextM(), form.nullWord);
+    text.SetM(item.data(), slGbkCutLength(item.data(), item.size(), most));
+    const bool isNullWord = standsForNothing(text, form.nullWord);
     if (observer_ != nullptr) {
         const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
         const bool isWhole = text.LengthM() == item.size();
@@ -227,11 +160,6 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
     } else {
         text.SetM("");
     }
-}
-
-void FieldReaderCL::CaptionM(const char* name, CharArr& text, const TextFormCL& form)
-{
-    TextM(name, text, form);
 }
 
 void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
