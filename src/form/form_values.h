@@ -101,20 +101,24 @@ public:
     bool ClearLines(int id) { return isOk(panelkit_clear_lines(handle(), id)); }
 
 protected:
+    // Whether a call has done what it should.
     static bool isOk(panelkit_status status) { return status == PANELKIT_OK; }
 
+    // What a getter of the C interface gives for these arguments; nullopt where it fails.
     template <class ValueTP, class GetterTP, class... ArgumentsTP>
     std::optional<ValueTP> get(GetterTP getter, ArgumentsTP... arguments) const
     {
         ValueTP value {};
         return isOk(getter(handle(), arguments..., &value)) ? std::optional<ValueTP>(value) : std::nullopt;
     }
+    // That of a getter of 1 or 0.
     template <class GetterTP, class... ArgumentsTP>
     std::optional<bool> flag(GetterTP getter, ArgumentsTP... arguments) const
     {
         const auto found = get<std::int32_t>(getter, arguments...);
         return found ? std::optional<bool>(*found != 0) : std::nullopt;
     }
+    // That of a getter that fills a buffer.
     template <class GetterTP, class... ArgumentsTP>
     std::optional<std::string> text(GetterTP getter, ArgumentsTP... arguments) const
     {

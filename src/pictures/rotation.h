@@ -22,10 +22,10 @@ PANELKIT_API void slDrawRotated(const PixelBlockCL& picture, const PixelBlockCL&
 // A part of a block: its pixels, the top row first, without gaps, and where it stands in the block.
 struct PixelPartCL
 {
-    std::uint32_t* pixels;
-    int left;
+    std::uint32_t* pixels; // The first one.
+    int left;              // Where it stands.
     int top;
-    int width;
+    int width; // Its size.
     int height;
 };
 

@@ -25,6 +25,7 @@ public:
     {
         const EntryTP* first; // The first one.
         const EntryTP* last;  // Behind the last one.
+        // For loops over them.
         const EntryTP* begin() const { return first; }
         const EntryTP* end() const { return last; }
     };
