@@ -204,7 +204,7 @@ TEST_F(CEvents, AControlGetsTheFocusAsByAKey)
     StartAtM(11);
     EXPECT_EQ(panelkit_focus_control(opened_.dialog, 43), PANELKIT_OK);
     EXPECT_EQ(::GetFocus(), opened_.ItemM(43));
-    EXPECT_EQ(opened_.StoryM(), "focus 43 13 0; leave 11 4 0 good");
+    EXPECT_EQ(opened_.StoryM(), "leave 11 4 0 good; focus 43 13 0");
     EXPECT_EQ(panelkit_enable_control(opened_.dialog, 42, 0), PANELKIT_OK);
     EXPECT_EQ(panelkit_focus_control(opened_.dialog, 42), PANELKIT_ERROR_REFUSED);
     EXPECT_EQ(::GetFocus(), opened_.ItemM(43));

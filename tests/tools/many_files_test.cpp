@@ -6,6 +6,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <set>
 #ifdef _WIN32
 #include "support/small_picture.h"
 #include "tools/png_picture.h"
@@ -128,13 +129,21 @@ TEST(ManyFiles, InspectIsAListOfNamedDocuments)
 TEST(ManyFiles, EachIsPicturedAsItIsAloneUnderItsOwnName)
 {
     const FolderCL out;
-    std::vector<std::string> words = exampleFiles();
+    std::vector<std::string> files = exampleFiles();
+    std::set<std::string> stems; // Two examples may have the same name in their folders.
+    files.erase(std::remove_if(files.begin(), files.end(),
+                    [&stems](const std::string& file) {
+                        return !stems.insert(fs::path(file).stem().string()).second;
+                    }),
+        files.end());
+    ASSERT_GT(files.size(), 10U);
+    std::vector<std::string> words = files;
     words.insert(words.end(), { "-o", out.PathM() });
     const CommandResultCL result = runCommand("shot" + quoted(words));
     EXPECT_EQ(result.code, 0) << result.errors;
-    EXPECT_EQ(out.NamesM().size(), exampleFiles().size());
+    EXPECT_EQ(out.NamesM().size(), files.size());
     const FolderCL alone;
-    for (const std::string& file : exampleFiles()) {
+    for (const std::string& file : files) {
         const std::string picture = fs::path(file).stem().string() + ".png";
         EXPECT_EQ(runCommand("shot" + quoted({ file, alone.PathM() + "/" + picture })).code, 0);
         EXPECT_FALSE(wholeFile(out.PathM() + "/" + picture).empty()) << file;
