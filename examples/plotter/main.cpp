@@ -35,7 +35,7 @@ public:
     {
         tip_.InitialM();
         SetConfigFileM("plotter.dlg");
-        SetCancelIdM(CancelId); // Cancel takes the focus without a check of what was typed.
+        SetCancelIdM(CancelId); // Its focus has no field asked again for its value.
     }
     void PrintM() const;
 

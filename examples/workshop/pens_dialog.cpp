@@ -22,7 +22,7 @@ PensDialogCL::PensDialogCL(const SettingsCL& settings)
     : settings_(settings)
 {
     SetConfigFileM("pens.dlg");
-    SetCancelIdM(CancelId); // Cancel takes the focus without a check of what was typed.
+    SetCancelIdM(CancelId); // Its focus has no field asked again for its value.
 }
 
 BOOL PensDialogCL::OnInitDialog()
