@@ -10,6 +10,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/io_read.cpp
   baselib/io_search.cpp
   baselib/io_write.cpp
+  baselib/message_catalogue.cpp
   baselib/moved_bytes.cpp
   baselib/number_text.cpp
   baselib/path.cpp
