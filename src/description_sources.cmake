@@ -52,9 +52,11 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/picture_boundary.cpp
   pictures/picture_edges.cpp
   pictures/picture_pixels.cpp
+  pictures/resampling.cpp
   pictures/rotation.cpp
   records/common_box_record.cpp
   records/field_reader.cpp
   records/fields.cpp
+  records/scaling.cpp
   records/section.cpp
 )
