@@ -12,6 +12,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/io_search.cpp
   baselib/io_write.cpp
   baselib/message_texts.cpp
+  baselib/message_catalogue.cpp
   baselib/moved_bytes.cpp
   baselib/number_text.cpp
   baselib/path.cpp
@@ -56,9 +57,11 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/picture_boundary.cpp
   pictures/picture_edges.cpp
   pictures/picture_pixels.cpp
+  pictures/resampling.cpp
   pictures/rotation.cpp
   records/common_box_record.cpp
   records/field_reader.cpp
   records/fields.cpp
+  records/scaling.cpp
   records/section.cpp
 )

@@ -3,44 +3,13 @@
 #include "baselib/gbk_texts.h"
 #include "baselib/path.h"
 #include "control_list.h"
+#include "row_shape.h"
 #include <cstring>
 #include <map>
 #include <set>
 #include <unordered_set>
 
 namespace {
-
-// What each field of a section's entries is.
-class RowShapeCL : public FieldVisitorCL
-{
-public:
-    struct TextCL
-    {
-        int size;
-        bool isPicture;
-    };
-    void CaptionM(const char* name, CharArr&, const TextFormCL& form) override
-    {
-        texts[name] = { form.size, false };
-    }
-    void NameM(const char* name, CharArr&, const TextFormCL& form) override
-    {
-        texts[name] = { form.size, true };
-    }
-    std::map<std::string, TextCL> texts;
-};
-
-RowShapeCL shapeOf(const GrammarCL& grammar)
-{
-    RowShapeCL shape;
-    if (grammar.row != nullptr) {
-        SectionEntryCL entry;
-        entry.EachFieldM(shape, grammar.row);
-    } else {
-        shape.texts["picture"] = { TextSize, true };
-    }
-    return shape;
-}
 
 // Of the new rotate buttons' pictures a short extension is left to be added.
 std::string pictureOf(const GrammarCL& grammar, std::string_view written)
@@ -199,7 +168,7 @@ void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& finding
         if (grammar.owner == nullptr || section.soundRecords == 0) {
             continue;
         }
-        const RowShapeCL shape = shapeOf(grammar);
+        const RowShapeCL shape(grammar);
         for (int record = 0; record < section.soundRecords; ++record) {
             for (const SeenValueCL* value = section.FirstM(record); value < section.EndM(record); ++value) {
                 checkEntry(file, grammar, shape, *value, pictures, findings);

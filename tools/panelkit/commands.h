@@ -64,6 +64,8 @@ int newCommand(const std::string& file, bool force);
 int idsCommand(
     const std::string& file, const std::string& out, const std::string* space, const std::string& prefix);
 int formatCommand(const std::string& file, bool checkOnly);
+// A template for translators of the texts of all files; `out` "" is standard output.
+int stringsCommand(const std::vector<std::string>& files, const std::string& out);
 
 // Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
 // standard input ends. Prints "ready" once it is there.

@@ -115,6 +115,11 @@ int run(std::vector<std::string> arguments)
     CLI::App* format = add("format", "Lines up the numbers of FILE below its comment lines.");
     format->add_flag("--check", flag, "writes nothing; exit code 1 when numbers are not lined up");
     format->callback([&] { result = formatCommand(file, flag); });
+    CLI::App* strings = app.add_subcommand(
+        "strings", "Writes a gettext template of the texts that people read in each FILE.");
+    strings->add_option("FILE", shown.files, "the dialog description files")->required();
+    strings->add_option("-o", out, "the file to write (else standard output)")->type_name("OUT");
+    strings->callback([&] { result = stringsCommand(shown.files, out); });
 #ifdef _WIN32
     app.add_subcommand("keep")->group("")->callback([&] { result = keepCommand(); });
 #endif
