@@ -39,6 +39,6 @@ class PANELKIT_API DuRadioBoxArr : public ControlArr<DuRadioBoxCL>
 public:
     // Lets each run of equal group numbers begin a group. The windows must exist. 0 for an empty array.
     int MakeGroupM();
-    int AfterCreateM() { return MakeGroupM(); }
+    int AfterCreateM();
     void ShowObjectM(int index, bool show); // The radio button at a place of the array; else nothing.
 };
