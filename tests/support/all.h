@@ -7,4 +7,5 @@
 #include "support/pixels.h"
 #include "support/pump.h"
 #include "support/script.h"
+#include "support/visual_styles.h"
 #include "support/window.h"

@@ -13,6 +13,13 @@ ControlValueCL CheckableButtonCL::ReadValueM() const
     return value;
 }
 
+void CheckableButtonCL::CheckFromStartM()
+{
+    if (initCheck_ == 1 && m_hWnd != nullptr && GetCheck() != BST_CHECKED) {
+        SetCheck(BST_CHECKED);
+    }
+}
+
 int CheckableButtonCL::OnCreate(LPCREATESTRUCT create)
 {
     if (CButton::OnCreate(create) == -1) {

@@ -13,6 +13,9 @@ public:
     int SetTextM(const char* text) { return keepTextM(text); }
     int SetInitCheckM(int check) { return slKeep(initCheck_, check); } // 1: checked from the start.
 
+    // Checks it anew where it was to be checked from the start and isn't.
+    void CheckFromStartM();
+
     // The value by id: checked or not; none without a window.
     unsigned ValuePartsM() const { return CheckedPart; }
     ControlValueCL ReadValueM() const;

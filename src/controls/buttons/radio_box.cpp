@@ -112,6 +112,17 @@ int DuRadioBoxArr::MakeGroupM()
     return 1;
 }
 
+// With visual styles a check takes back those of all radio buttons that stand together: of all groups, until
+// they are made.
+int DuRadioBoxArr::AfterCreateM()
+{
+    const int made = MakeGroupM();
+    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
+        ElementAtM(i).CheckFromStartM();
+    }
+    return made;
+}
+
 void DuRadioBoxArr::ShowObjectM(int index, bool show)
 {
     if (index >= 0 && index < GetBoundM()) {

@@ -43,6 +43,6 @@ public:
     // Lets each run of equal group numbers begin a group. The windows must exist. 0 for an empty array.
     int MakeGroupM();
     // Called by the host once it has created the windows.
-    int AfterCreateM() { return MakeGroupM(); }
+    int AfterCreateM();
     void ShowObjectM(int index, bool show); // The radio button at a place of the array; else nothing.
 };
