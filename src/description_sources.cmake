@@ -48,6 +48,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp
+  dialog/translation.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp
   pictures/bmp_reader.cpp
