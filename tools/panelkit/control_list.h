@@ -1,4 +1,5 @@
 #pragma once
+#include "dialog/translation.h"
 #include "file_reading.h"
 #include "findings.h"
 #include "record_view.h"
@@ -9,6 +10,7 @@
 struct CheckedControlCL
 {
     int kind;       // Its KindCode; 0 for a new rotate button.
+    const char* kindName; // As dump has it.
     int grammar;    // Its section,
     int record;     // and its place there.
     bool isStacked; // Its window index counts.
@@ -78,5 +80,6 @@ void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 // Only where a window system is.
-void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,
+    FindingsCL& findings);
 void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);

@@ -41,7 +41,7 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name, options.textLanguage);
         const bool built = dialog.CreateM() == 1;
         for (const auto& [id, status] : options.statuses) {
             if (built && !dialog.SetStatusM(id, status)) {
