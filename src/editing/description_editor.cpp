@@ -1,0 +1,1 @@
+#include "editing/description_editor.h"

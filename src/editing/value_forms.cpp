@@ -1,0 +1,1 @@
+#include "editing/value_forms.h"
