@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+class EditorStateCL;
+
 // What came of an edit; the file is changed only by one that is done.
 enum class EditResult
 {
@@ -88,6 +90,5 @@ public:
     int FreeIdM(int from) const;
 
 private:
-    struct StateCL;
-    std::unique_ptr<StateCL> state_;
+    std::unique_ptr<EditorStateCL> state_;
 };

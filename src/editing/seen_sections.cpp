@@ -1,5 +1,6 @@
 #include "editing/seen_sections.h"
 #include "baselib/io.h"
+#include "baselib/number_text.h"
 #include <algorithm>
 #include <cstring>
 
@@ -69,4 +70,31 @@ SeenSectionsCL slReadSections(const std::shared_ptr<const FileTextCL>& text)
         section.regionEnd = next != headers.end() ? *next : text->SizeM();
     }
     return seen;
+}
+
+std::size_t slEndOfEmptyHead(const SeenSectionCL& section, std::string_view bytes, bool* hasComments)
+{
+    const std::size_t regionEnd = std::min(section.regionEnd, bytes.size());
+    const auto behindLine = [&](std::size_t at) {
+        const std::size_t lineEnd = bytes.find('\n', at);
+        return lineEnd == std::string_view::npos ? regionEnd : std::min(lineEnd + 1, regionEnd);
+    };
+    const std::size_t behindCount = behindLine(std::min(section.head.countLine.end, regionEnd));
+    std::size_t at = behindCount;
+    while (at < regionEnd && slIsBlank(bytes[at])) {
+        ++at;
+    }
+    int lines = 0;
+    const char* const begin = bytes.data() + at;
+    const bool isThere = slReadInt(begin, bytes.data() + regionEnd, &lines) != begin;
+    if (hasComments != nullptr) {
+        *hasComments = isThere;
+    }
+    if (!isThere) {
+        return behindCount;
+    }
+    for (; lines >= 0 && at < regionEnd; --lines) {
+        at = behindLine(at);
+    }
+    return at;
 }

@@ -78,3 +78,9 @@ private:
 // Reads every section of a file, each on its own: entries too whose owner is missing, and none is dropped.
 // Each section's region ends at the next header that the reader finds. text: not null.
 PANELKIT_API SeenSectionsCL slReadSections(const std::shared_ptr<const FileTextCL>& text);
+
+// What follows the count of an empty section may be the usual rest of a head, which nobody reads then: where
+// its lines end, or the line of the count if there is none. At most the region's end. hasComments: whether it
+// is there; may be null.
+PANELKIT_API std::size_t slEndOfEmptyHead(
+    const SeenSectionCL& section, std::string_view bytes, bool* hasComments = nullptr);

@@ -20,9 +20,10 @@ struct ValueFormCL
 // A value by name, as it is to be written.
 struct NamedTextCL
 {
-    std::string field; // The name of its field.
-    int part { 0 };    // Its number among the values of a field with several.
-    std::string text;  // GBK; "" is written as the word that stands for no text.
+    std::string field;      // The name of its field.
+    int part { 0 };         // Its number among the values of a field with several.
+    std::string text;       // GBK; "" is written as the word that stands for no text.
+    bool isNeeded { true }; // Else it counts only where there is such a value and the text can stand for it.
 };
 
 // The values of a record of a grammar, in the order of the file, as `given` wants them; those not given have
