@@ -53,8 +53,8 @@ int besideCaption(const CheckedControlCL& control, int lineHeight)
     }
 }
 
-void checkCaption(CaptionMeasureCL& measure, const CheckedControlCL& control, const ValueTextCL& text,
-    FindingsCL& findings)
+void checkCaption(
+    CaptionMeasureCL& measure, const CheckedControlCL& control, const ValueTextCL& text, FindingsCL& findings)
 {
     const int line = measure.LineHeightM();
     const int width = std::max(0, control.w - besideCaption(control, line));

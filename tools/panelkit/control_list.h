@@ -9,12 +9,12 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind;       // Its KindCode; 0 for a new rotate button.
+    int kind;             // Its KindCode; 0 for a new rotate button.
     const char* kindName; // As dump has it.
-    int grammar;    // Its section,
-    int record;     // and its place there.
-    bool isStacked; // Its window index counts.
-    int place;      // In the order of collection.
+    int grammar;          // Its section,
+    int record;           // and its place there.
+    bool isStacked;       // Its window index counts.
+    int place;            // In the order of collection.
     int windowIndex;
     int id;
     int x, y, w, h;

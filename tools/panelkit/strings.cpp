@@ -50,8 +50,8 @@ bool hasWords(const std::string& text)
 
 std::string noteOf(const ReadableTextCL& text)
 {
-    return slTextContext(text.kind.c_str(), text.id) + ", " + text.field + ": room for " + std::to_string(text.width) + " x "
-        + std::to_string(text.height) + " pixels";
+    return slTextContext(text.kind.c_str(), text.id) + ", " + text.field + ": room for "
+        + std::to_string(text.width) + " x " + std::to_string(text.height) + " pixels";
 }
 
 // Names with blanks stand between the two marks that gettext's tools know.
@@ -99,6 +99,10 @@ public:
     std::string TextM() const
     {
         std::string text = "# Made by panelkit strings.\n#, fuzzy\nmsgid \"\"\nmsgstr \"\"\n"
+                           "\"Project-Id-Version: PACKAGE VERSION\\n\"\n"
+                           "\"PO-Revision-Date: YEAR-MO-DA HO:MI+ZONE\\n\"\n"
+                           "\"Last-Translator: FULL NAME <EMAIL@ADDRESS>\\n\"\n"
+                           "\"Language-Team: LANGUAGE <LL@li.org>\\n\"\n\"Language: \\n\"\n"
                            "\"MIME-Version: 1.0\\n\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
                            "\"Content-Transfer-Encoding: 8bit\\n\"\n";
         for (const TemplateEntryCL& entry : entries_) {
