@@ -24,6 +24,7 @@
 #include "dialog/kinds.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
+#include "records/scaling.h"
 #include <map>
 #include <memory>
 #include <optional>
@@ -50,6 +51,18 @@ public:
     int SetConfigFileM(const char* path);
     // The control that takes the focus without a value check.
     int SetCancelIdM(int id) { return slKeep(cancelId_, id); }
+
+    // The scale at which the dialog is built, in percent, or AutomaticScale: that of the monitor, also when
+    // the user takes the dialog to another one. 0, and nothing changes, for a number that is neither. To
+    // begin with there is none: pixels are those of the file. A dialog that is built already changes at once:
+    // windows, and what the user has typed, selected and scrolled in them, stay. Once there is a scale all
+    // lengths that controls have and take are pixels of their windows, not those of the file; the file is
+    // read anew by each build.
+    int SetScaleM(int percent);
+    int ScaleM() const { return scale_.PercentM(); } // The scale of the last build or change; else 100.
+    static constexpr int AutomaticScale = 0;
+    static constexpr int LeastScale = 50;
+    static constexpr int MostScale = 800;
 
     // From now on the callback is told, while a dialog is built, what its file lacks or says wrongly: that it
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
@@ -210,6 +223,17 @@ private:
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
     void setTxtLstBoxItemHeightM();
+    bool isScaledM() const { return askedScale_ != NoScale; }
+    int wantedScaleM() const;
+    CSize windowSizeM(HWND window, const ScaleCL& scale, int dpi) const;
+    void sizeWindowM(HWND window);
+    bool hasFileSizeM(HWND window) const;
+    void makeFontM();
+    template <class ControlTP, class RecordTP>
+    void rescaleControlM(ControlTP& control, RecordTP* record, int from);
+    template <class RowTP> void rescaleKindM(VrIOCL& io, int from);
+    void rescaleM(int percent, const RECT* suggested);
+    bool answerDpiM(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     bool partM();
     bool hasControlsM();
     bool showLooksM(int id);
@@ -222,6 +246,12 @@ private:
     char configFile_[TextSize] {};
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
     CFont font_;
+    static constexpr int NoScale = -1;
+    int askedScale_ { NoScale }; // Percent, AutomaticScale or none.
+    ScaleCL scale_;
+    int mode_ { 0 };            // Of the last build.
+    CSize builtSize_;           // Of its window.
+    bool isFileSized_ { true }; // Whether the window had that size before the scale changed.
     DVrBitmapCL background_;
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;

@@ -19,6 +19,7 @@ struct ShowOptionsCL
     bool isChecked { false }; // That program says what check finds.
     std::string language;     // As for check.
     bool isStrict { false };
+    int scale { 0 }; // Percent; 0: none was asked for.
 };
 // As the user wrote the file of a number.
 const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);

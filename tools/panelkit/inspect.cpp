@@ -83,8 +83,11 @@ JsonTP documentOf(HWND dialog)
 int inspectCommand(const ShowOptionsCL& options)
 {
     DocumentsCL documents(options.files.size());
-    const int result = showEachFile(options, [&documents](const OpenedFileCL& file) {
+    const int result = showEachFile(options, [&](const OpenedFileCL& file) {
         DuBasicDialogCL dialog;
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         dialog.SetConfigFileM(file.name.c_str());
         if (dialog.CreateM() != 1) {
             complain("the dialog of '" + file.said + "' can't be created");

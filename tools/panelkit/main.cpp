@@ -36,6 +36,8 @@ int run(std::vector<std::string> arguments)
             ->check(CLI::IsMember({ "en", "zh" }));
         command->add_flag(
             "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
+        command->add_option("--scale", shown.scale, "shows the dialog at so many percent, 50 to 800")
+            ->check(CLI::Range(50, 800));
         command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
         command->add_flag("--checked", shown.isChecked)->group("");
         return command;

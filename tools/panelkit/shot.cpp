@@ -42,6 +42,9 @@ int shotCommand(const ShotOptionsCL& options)
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
         ShotDialogCL dialog(file.name);
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         const bool built = dialog.CreateM() == 1;
         for (const auto& [id, status] : options.statuses) {
             if (built && !dialog.SetStatusM(id, status)) {

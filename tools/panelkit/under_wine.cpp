@@ -82,6 +82,9 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     if (std::none_of(options.files.begin(), options.files.end(), isReadable)) {
         return onEachFile(options, [](const OpenedFileCL&) { return 0; });
     }
+    if (options.scale != 0) {
+        words.push_back("--scale=" + std::to_string(options.scale));
+    }
     for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
     }

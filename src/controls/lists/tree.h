@@ -2,6 +2,8 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
+#include <string>
+#include <vector>
 
 class TreePicturesCL;
 
@@ -18,9 +20,12 @@ public:
     {
         if (this != &other) {
             DeleteImageList();
+            files.clear();
         }
         return *this;
     }
+
+    std::vector<std::string> files; // Where they come from, while their scale may change (TreePicturesCL).
 };
 
 // A tree of texts, each with a picture for its normal and its selected state and a number of the application.
@@ -47,7 +52,13 @@ public:
     void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
+    // Where to note the files of what is added to them; null: nowhere.
+    std::vector<std::string>* ImageFilesM()
+    {
+        return PictureScaleM().MayChangeM() ? &images_.files : nullptr;
+    }
     void DelItemM();
+    void RescaledM(int from, int to);
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
 
 protected:
@@ -57,6 +68,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    int addImagesM(const char* file);
     HTREEITEM insertM(HTREEITEM parent, int data, const char* text, int selected, int normal);
 
     void showTextColourM();
