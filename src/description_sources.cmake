@@ -49,6 +49,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp
+  dialog/translation.cpp
   editing/description_editor.cpp
   editing/edit_plan.cpp
   editing/editor_state.cpp

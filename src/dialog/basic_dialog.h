@@ -22,6 +22,7 @@
 #include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/translation.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
 #include "records/scaling.h"
@@ -63,6 +64,15 @@ public:
     static constexpr int AutomaticScale = 0;
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
+    // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
+    // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
+    // "en", without one they stay. Values and lines by id are the file's in every language
+    // (docs/translating.md). The library's own messages change at once, for the whole process: English for
+    // "en", else Chinese, but for those in the catalogue of the next build. 0, and no change, for what names
+    // no language.
+    int SetLanguageM(const char* language);
+    // '_' for '-'; empty: none. Valid until SetLanguageM.
+    const char* LanguageM() const { return translation_.LanguageM().c_str(); }
 
     // From now on the callback is told, while a dialog is built, what its file lacks or says wrongly: that it
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
@@ -216,6 +226,7 @@ private:
     bool givePainterM(int id, const PainterTP& painter);
     void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
+    template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
     struct StepCL;
@@ -245,6 +256,7 @@ private:
     int cancelId_ { 0 };
     char configFile_[TextSize] {};
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
+    TranslationCL translation_;
     CFont font_;
     static constexpr int NoScale = -1;
     int askedScale_ { NoScale }; // Percent, AutomaticScale or none.

@@ -1,4 +1,5 @@
 // Building: the header and the pass of each kind.
+#include "baselib/message_texts.h"
 #include "dialog/basic_dialog.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
@@ -10,6 +11,10 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     mode_ = mode;
     scale_ = ScaleCL(wantedScaleM());
     beginDiagnosticsM();
+    translation_.ReadM(configFile_);
+    if (!translation_.LanguageM().empty()) { // Else they stay what another dialog may have chosen.
+        slSetMessageLanguage(translation_.LanguageM(), &translation_.CatalogueM());
+    }
     {
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
@@ -45,6 +50,10 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
         if (header_.titleFlag == 1) {
             parent->SetWindowText(header_.title.TextM());
+            const ValueTextCL title = translation_.FindM(header_.title.TextM(), "dialog", 0);
+            if (!title.IsNoneM()) {
+                ::SetWindowTextW(parent->m_hWnd, title.WideM().c_str());
+            }
         }
         // The style may have another frame, of which a window of the same size would not hear.
         parent->SetWindowPos(nullptr, slWindowLength(scale_.PlaceM(header_.position[0])),
@@ -112,6 +121,29 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             (records.*RowTP::FillM)(record, &controls.ControlAtM(control));
             record = records.GetNextIdxM(record);
             control = controls.GetNextIdxM(control);
+        }
+    }
+    if (!translation_.EmptyM()) {
+        translateKindM<RowTP>();
+    }
+}
+
+template <class RowTP> void DuBasicDialogCL::translateKindM()
+{
+    auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
+    for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+        [[maybe_unused]] auto& control = controls.ControlAtM(i);
+        [[maybe_unused]] const auto translate = [this, &control](const ValueTextCL& text) {
+            return translation_.FindM(text, RowTP::Records::KindName, control.GetFunctionIDM());
+        };
+        if constexpr (RowTP::CanM(HasCaption)) {
+            const ValueTextCL caption = translate(control.CaptionM());
+            if (!caption.IsNoneM()) {
+                ::SetWindowTextW(control.m_hWnd, caption.WideM().c_str());
+            }
+        }
+        if constexpr (RowTP::CanM(TranslatesTexts)) {
+            control.TranslateM(translate);
         }
     }
 }

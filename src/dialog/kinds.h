@@ -45,21 +45,22 @@ class DuTreeArr;
 // What a kind can do besides being a control. Code asks for what it needs, never for a kind.
 enum Ability : unsigned
 {
-    Stacked = 1,          // Takes part in the stacking and font passes.
-    HoldsLines = 2,       // AddItemM(data, text), DelItemM(line), SetSelM(line).
-    HoldsTypedValue = 4,  // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
-    ShowsFrames = 8,      // GetCurIdxM, DispBmpM.
-    StandsInGroups = 16,  // ShowObjectM(index, show) on the array; CheckedInGroupM.
-    HasLineHeight = 32,   // SetItemHeightM() on the array, once the font is set.
-    HasValue = 64,        // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128,     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
-    TakesPainter = 256,   // SetPainterM, RepaintM.
-    TakesKeys = 512,      // UseKeyboardM.
-    ColoursText = 1024,   // SetTextColourM shows.
-    TellsRefusals = 2048, // SetRefusalM.
-    ActsAsButton = 4096,  // A picture for a push button.
-    GoesQuietly = 8192,   // Destroying its window tells nobody but those whom the window system tells.
-    HasCaption = 16384    // CaptionM, SetCaptionM.
+    Stacked = 1,            // Takes part in the stacking and font passes.
+    HoldsLines = 2,         // AddItemM(data, text), DelItemM(line), SetSelM(line).
+    HoldsTypedValue = 4,    // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
+    ShowsFrames = 8,        // GetCurIdxM, DispBmpM.
+    StandsInGroups = 16,    // ShowObjectM(index, show) on the array; CheckedInGroupM.
+    HasLineHeight = 32,     // SetItemHeightM() on the array, once the font is set.
+    HasValue = 64,          // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
+    ListsLines = 128,       // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256,     // SetPainterM, RepaintM.
+    TakesKeys = 512,        // UseKeyboardM.
+    ColoursText = 1024,     // SetTextColourM shows.
+    TellsRefusals = 2048,   // SetRefusalM.
+    ActsAsButton = 4096,    // A picture for a push button.
+    GoesQuietly = 8192,     // Destroying its window tells nobody but those whom the window system tells.
+    HasCaption = 16384,     // CaptionM, SetCaptionM.
+    TranslatesTexts = 32768 // TranslateM: texts of the file beside a caption.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -119,16 +120,18 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
     KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
         Stacked | HasValue | ColoursText | TellsRefusals, &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
-        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly
+            | TranslatesTexts,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
         Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
         &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
     KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8,
-        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly | TranslatesTexts,
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
-        &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9,
+        Stacked | HasValue | ListsLines | ColoursText | TranslatesTexts, &DVrListCtrlArr::InitListCtrlM,
+        &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12,
         Stacked | HasCaption | GoesQuietly, &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
@@ -144,8 +147,8 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         Stacked | HasCaption | ColoursText | GoesQuietly, &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
         &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
-        &DVrTreeArr::InitTreeStrM>,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText | TranslatesTexts,
+        &DVrTreeArr::InitTreeM, &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
 // How many kinds there are.

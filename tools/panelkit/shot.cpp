@@ -41,7 +41,7 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name, options.textLanguage);
         if (options.scale != 0) {
             dialog.SetScaleM(options.scale);
         }

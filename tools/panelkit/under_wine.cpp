@@ -88,6 +88,9 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
     }
+    if (!options.textLanguage.empty()) {
+        words.push_back("--language=" + options.textLanguage);
+    }
     words.insert(words.end(), { "--checked", "--" });
     std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
     words.insert(words.end(), more.begin(), more.end());
