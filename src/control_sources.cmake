@@ -51,7 +51,9 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_hooks.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_pictures.cpp
+  dialog/basic_dialog_resize.cpp
   dialog/basic_dialog_values.cpp
+  dialog/deferred_places.cpp
   form/c_canvas.cpp
   form/c_controls.cpp
   form/c_dialog.cpp

@@ -7,15 +7,23 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         return 0;
     }
     builtIn_ = parent->GetSafeHwnd();
+    bound_ = {};
+    const DialogStretchCL before = stretch_.OfM(builtIn_);
+    std::vector<BindingCL> bindings;
+    bool isBound = false;
     beginDiagnosticsM();
     {
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
+        isBound = readBindingsM(io, bindings);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    if (isBound) {
+        bindM(bindings, before, mode);
+    }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }

@@ -117,5 +117,5 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         const ValidationPauseCL closing(m_hWnd, ValidationPauseCL::AllowRequests);
         return CDialog::WindowProc(message, wParam, lParam);
     }
-    return CDialog::WindowProc(message, wParam, lParam);
+    return bound_.isOwn ? whileBoundM(message, wParam, lParam) : CDialog::WindowProc(message, wParam, lParam);
 }

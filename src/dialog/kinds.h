@@ -59,7 +59,11 @@ enum Ability : unsigned
     TellsRefusals = 2048, // SetRefusalM.
     ActsAsButton = 4096,  // A picture for a push button.
     GoesQuietly = 8192,   // Destroying its window tells nobody but those whom the window system tells.
-    HasCaption = 16384    // CaptionM, SetCaptionM.
+    HasCaption = 16384,   // CaptionM, SetCaptionM.
+    KeepsSize = 32768,    // Larger than described it would show no more.
+    KeepsHeight = 65536,  // The same of its height; what is described is more than its window has.
+    Opaque = 131072,      // It paints every pixel of its window.
+    HasArrows = 262144    // SpinButtonM: a second window, at its right edge.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -112,39 +116,42 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | HasCaption | ColoursText | GoesQuietly,
         &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
-        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly,
+        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly | Opaque,
         &DVrSingleEditArr::InitSingleEditM>,
     KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5,
-        Stacked | HasValue | ColoursText | GoesQuietly, &DVrMultiEditArr::InitMultiEditM>,
+        Stacked | HasValue | ColoursText | GoesQuietly | Opaque, &DVrMultiEditArr::InitMultiEditM>,
     KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
-        Stacked | HasValue | ColoursText | TellsRefusals, &DVrSpinEditArr::InitSpinEditM>,
+        Stacked | HasValue | ColoursText | TellsRefusals | Opaque | HasArrows,
+        &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
-        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly | Opaque,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
-        Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
+        Stacked | HoldsLines | HasValue | ListsLines | Opaque, &DVrBmpListBoxArr::InitBmpListBoxM,
         &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
     KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8,
-        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly | KeepsHeight | Opaque,
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
-        &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9,
+        Stacked | HasValue | ListsLines | ColoursText | Opaque, &DVrListCtrlArr::InitListCtrlM,
+        &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12,
-        Stacked | HasCaption | GoesQuietly, &DVrStandardButtonArr::InitStandardButtonM>,
+        Stacked | HasCaption | GoesQuietly | Opaque, &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
         Stacked | HasCaption | StandsInGroups | HasValue | ColoursText | GoesQuietly,
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11,
         Stacked | HasCaption | HasValue | ColoursText | GoesQuietly, &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys | ActsAsButton,
-        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13,
+        Stacked | TakesKeys | ActsAsButton | KeepsSize, &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
-        Stacked | HasValue | TakesKeys | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+        Stacked | HasValue | TakesKeys | ActsAsButton | KeepsSize,
+        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16,
         Stacked | HasCaption | ColoursText | GoesQuietly, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys | KeepsSize,
         &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText | Opaque, &DVrTreeArr::InitTreeM,
         &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 

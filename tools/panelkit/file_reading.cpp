@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
+#include "dialog/binding.h"
 #include "dialog/relation.h"
 #include <algorithm>
 #include <cstring>
@@ -41,6 +42,11 @@ void readRelationSection(VrIOCL& io)
     slReadRelations(io, [](RelationCL&) {});
 }
 
+void readBindingSection(VrIOCL& io)
+{
+    slReadBindings(io, nullptr);
+}
+
 void readNewRotateSections(VrIOCL& io)
 {
     DVrNewRotateBtnArr records;
@@ -58,6 +64,7 @@ std::vector<GrammarCL> makeGrammars()
             all, std::make_index_sequence<std::tuple_size_v<decltype(RecordsTP::Secondaries)>>());
     });
     all.push_back({ RelationHeader, nullptr, "", &readRelationSection });
+    all.push_back({ BindingHeader, nullptr, "", &readBindingSection });
     all.push_back({ NewRotateBtnHeader, nullptr, "", &readNewRotateSections });
     all.push_back({ NewRotateBtnBitmapHeader, NewRotateBtnHeader, std::string(NewRotateBtnHeader) + "\n0 1\n",
         &readNewRotateSections });
@@ -137,6 +144,10 @@ FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
         slReadSection(io, RecordsM<typename decltype(row)::Records>(), &count);
     });
     slReadRelations(io, [](RelationCL&) {});
+    slReadBindings(io, [this](BindingCL& binding) {
+        bindings_.push_back(binding);
+        return 1;
+    });
     newRotateButtons_.FmReadInterfaceM(&io);
 }
 
