@@ -46,6 +46,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/single_edit_record.cpp
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
+  dialog/binding.cpp
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp

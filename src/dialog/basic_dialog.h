@@ -18,6 +18,7 @@
 #include "controls/text/multi_edit.h"
 #include "controls/text/single_edit.h"
 #include "controls/text/spin_edit.h"
+#include "dialog/bound_windows.h"
 #include "dialog/control_index.h"
 #include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
@@ -29,6 +30,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class ReadingDiagnosticsCL;
 class VrIOCL;
@@ -128,6 +130,12 @@ public:
     // Builds the dialog of the description file. TRUE: the system sets the focus.
     BOOL OnInitDialog() override;
     void EndDialog(int result) override; // With that result; no field has been left by that.
+
+    // Puts the controls that the description file binds ("[随窗口变化]") where they stand in a client area of
+    // that size, in pixels; below the file's size: where that has them. The host calls it when the dialog's
+    // own window, built in mode 1, is resized; in another window the application does, in its WM_SIZE. 0 when
+    // the file has no such section, or nothing is built.
+    int ResizeM(int width, int height);
 
     // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
@@ -250,6 +258,13 @@ private:
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
+    bool readBindingsM(VrIOCL& io, std::vector<BindingCL>& bindings);
+    void bindM(const std::vector<BindingCL>& bindings, const DialogStretchCL& before, int mode);
+    void findBoundM(const std::vector<BindingCL>& bindings);
+    void makeSizableM();
+    void stretchAgainM(const DialogStretchCL& before);
+    void leaveOutOpaqueM(HDC dc);
+    LRESULT whileBoundM(UINT message, WPARAM wParam, LPARAM lParam);
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };
@@ -278,6 +293,8 @@ private:
     };
     std::map<int, LooksByIdCL> looks_; // What the application has given controls by id.
     RefusalCL refusal_;
+    BoundWindowsCL bound_;
+    DialogStretchCL stretch_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
     bool isParted_ { false }; // The controls only wait for their windows to go; nobody finds them any more.

@@ -10,6 +10,10 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     builtIn_ = parent->GetSafeHwnd();
     mode_ = mode;
     scale_ = ScaleCL(wantedScaleM());
+    bound_ = {};
+    const DialogStretchCL before = stretch_.OfM(builtIn_);
+    std::vector<BindingCL> bindings;
+    bool isBound = false;
     beginDiagnosticsM();
     translation_.ReadM(configFile_);
     if (!translation_.LanguageM().empty()) { // Else they stay what another dialog may have chosen.
@@ -20,9 +24,13 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
+        isBound = readBindingsM(io, bindings);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    if (isBound) {
+        bindM(bindings, before, mode);
+    }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }

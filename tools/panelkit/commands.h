@@ -57,6 +57,8 @@ struct ShotOptionsCL : ShowOptionsCL
     std::string outName;                   // What the user wrote for that, as `names`.
     std::vector<ControlStatusTP> statuses; // Of each file.
     bool showsIds { false };               // As view does.
+    int width { 0 };                       // Of the dialog, frame included; 0: the file's.
+    int height { 0 };                      // The same.
 };
 int shotCommand(const ShotOptionsCL& options);
 

@@ -137,6 +137,10 @@ int shotCommand(const ShotOptionsCL& options)
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
     }
+    if (options.width > 0) {
+        words.insert(
+            words.end(), { "--size", std::to_string(options.width), std::to_string(options.height) });
+    }
     if (options.showsIds) {
         words.emplace_back("--ids");
     }
