@@ -53,7 +53,12 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_language.cpp
   dialog/basic_dialog_pictures.cpp
+  dialog/basic_dialog_resize.cpp
+  dialog/basic_dialog_scale.cpp
   dialog/basic_dialog_values.cpp
+  dialog/deferred_places.cpp
+  dialog/fitting_font.cpp
+  dialog/monitor_scale.cpp
   form/c_canvas.cpp
   form/c_controls.cpp
   form/c_dialog.cpp

@@ -8,6 +8,12 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         return 0;
     }
     builtIn_ = parent->GetSafeHwnd();
+    mode_ = mode;
+    scale_ = ScaleCL(wantedScaleM());
+    bound_ = {};
+    const DialogStretchCL before = stretch_.OfM(builtIn_);
+    std::vector<BindingCL> bindings;
+    bool isBound = false;
     beginDiagnosticsM();
     translation_.ReadM(configFile_);
     if (!translation_.LanguageM().empty()) { // Else they stay what another dialog may have chosen.
@@ -18,9 +24,13 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
+        isBound = readBindingsM(io, bindings);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    if (isBound) {
+        bindM(bindings, before, mode);
+    }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }
@@ -41,7 +51,8 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
     }
     background_.DropM(); // Perhaps another file's.
     if (!header_.background.EmptyM()) {
-        background_.LoadSafeBitmapM(header_.background.TextM());
+        const PictureScaleCL scale(scale_, { 0, 0 });
+        background_.LoadScaledM(header_.background.TextM(), isScaledM() ? scale : PictureScaleCL());
     }
     if (mode == 1) {
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
@@ -53,9 +64,13 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
             }
         }
         // The style may have another frame, of which a window of the same size would not hear.
-        parent->SetWindowPos(nullptr, slWindowLength(header_.position[0]),
-            slWindowLength(header_.position[1]), slWindowLength(header_.size[0]),
-            slWindowLength(header_.size[1]), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        parent->SetWindowPos(nullptr, slWindowLength(scale_.PlaceM(header_.position[0])),
+            slWindowLength(scale_.PlaceM(header_.position[1])),
+            slWindowLength(scale_.PlaceM(header_.size[0])), slWindowLength(scale_.PlaceM(header_.size[1])),
+            SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        if (isScaledM()) {
+            sizeWindowM(parent->m_hWnd);
+        }
     }
 }
 
@@ -77,6 +92,9 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
     auto& [controls, records, make] = std::get<KindMembersCL<RowTP>>(kinds_);
+    if (isScaledM()) {
+        records.DelAllM(); // Those of a build before this one may have had another scale.
+    }
     int count = 0;
     if (slReadSection(io, records, &count) != SectionStatus::Read) {
         return;
@@ -94,6 +112,11 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
         if (make) {
             controls.StandInM(
                 i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
+        }
+        if (isScaledM() && records.CheckAvailableM(i) == 1) {
+            auto& record = records.ElementAtM(i);
+            controls.ControlAtM(i).SetPictureScaleM({ scale_, record.GetPositionM() });
+            slScaleRecord(record, scale_);
         }
         (records.*RowTP::InitM)(i, &controls.ControlAtM(i));
     }

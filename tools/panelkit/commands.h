@@ -19,6 +19,7 @@ struct ShowOptionsCL
     bool isChecked { false }; // That program says what check finds.
     std::string language;     // As for check.
     bool isStrict { false };
+    int scale { 0 };          // Percent; 0: none was asked for.
     std::string textLanguage; // That the dialog is shown in; empty: as in the file.
 };
 // As the user wrote the file of a number.
@@ -57,6 +58,8 @@ struct ShotOptionsCL : ShowOptionsCL
     std::string outName;                   // What the user wrote for that, as `names`.
     std::vector<ControlStatusTP> statuses; // Of each file.
     bool showsIds { false };               // As view does.
+    int width { 0 };                       // Of the dialog, frame included; 0: the file's.
+    int height { 0 };                      // The same.
 };
 int shotCommand(const ShotOptionsCL& options);
 

@@ -78,6 +78,8 @@ void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, Find
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkBindings(
+    FileReadingCL& file, const CheckedControlsTP& controls, PicturesCL& pictures, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 // Only where a window system is.
 void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,

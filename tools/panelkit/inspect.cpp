@@ -85,6 +85,9 @@ int inspectCommand(const ShowOptionsCL& options)
     DocumentsCL documents(options.files.size());
     const int result = showEachFile(options, [&](const OpenedFileCL& file) {
         DuBasicDialogCL dialog;
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         dialog.SetConfigFileM(file.name.c_str());
         if (!options.textLanguage.empty()) {
             dialog.SetLanguageM(options.textLanguage.c_str());

@@ -19,6 +19,7 @@ LiveDialogCL::LiveDialogCL(const std::string& name, const ViewOptionsCL& options
     , language_(languageOf(options.language))
     , path_(std::filesystem::current_path() / slGbkToWide(name.c_str()))
 {
+    SetScaleM(options.scale != 0 ? options.scale : AutomaticScale);
 }
 
 LiveDialogCL::~LiveDialogCL() = default;

@@ -20,6 +20,7 @@ int run(std::vector<std::string> arguments)
     std::string file;
     ShotOptionsCL shown;
     std::vector<int> statuses; // In pairs: a control's id, its status.
+    std::vector<int> size;     // None, or a width and a height.
     int result = 0;
     const auto add = [&](const char* name, const char* what) {
         CLI::App* command = app.add_subcommand(name, what);
@@ -46,6 +47,8 @@ int run(std::vector<std::string> arguments)
             ->check(CLI::IsMember({ "en", "zh" }));
         command->add_flag(
             "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
+        command->add_option("--scale", shown.scale, "shows the dialog at so many percent, 50 to 800")
+            ->check(CLI::Range(50, 800));
         addLanguage(command, shown.textLanguage);
         command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
         command->add_flag("--checked", shown.isChecked)->group("");
@@ -86,6 +89,11 @@ int run(std::vector<std::string> arguments)
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);
+    shot->add_option("--size", size,
+            "pictures the dialog at another size, frame included, if its file says how its controls follow")
+        ->type_name("WIDTH HEIGHT")
+        ->expected(2)
+        ->check(CLI::Range(1, 32767));
     shot->add_flag("--ids", shown.showsIds, "writes id, place and Tab stop on each control");
     shot->add_option("-o", shown.folder,
             "the folder for the picture of each FILE, named after it: a.dlg is pictured in DIR/a.png")
@@ -102,6 +110,10 @@ int run(std::vector<std::string> arguments)
         }
         for (size_t i = 1; i < statuses.size(); i += 2) {
             shown.statuses.emplace_back(statuses[i - 1], statuses[i]);
+        }
+        if (size.size() == 2) {
+            shown.width = size[0];
+            shown.height = size[1];
         }
         result = shotCommand(shown);
     });

@@ -23,6 +23,7 @@ public:
     BOOL OnInitDialog() override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg LRESULT onPermissionM(WPARAM wParam, LPARAM);
     afx_msg LRESULT onButtonDownM(WPARAM, LPARAM);
     afx_msg LRESULT onButtonM(WPARAM wParam, LPARAM);

@@ -47,6 +47,19 @@ int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
     return 1;
 }
 
+void DuListCtrlCL::RescaledM(int from, int to)
+{
+    const HWND header = GetHeaderCtrl()->GetSafeHwnd();
+    const int count
+        = header != nullptr ? static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
+    int end = 0; // One column behind the other: edges are rounded, not widths.
+    for (int i = 0; i < count; ++i) {
+        const int begin = end;
+        end += GetColumnWidth(i);
+        SetColumnWidth(i, ::MulDiv(end, to, from) - ::MulDiv(begin, to, from));
+    }
+}
+
 BOOL DuListCtrlCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS;

@@ -51,6 +51,8 @@ public:
     bool DeleteLineM(int row) { return DeleteItemM(row) == 1; }
     void ClearLinesM() { DelAllM(); }
 
+    void RescaledM(int from, int to); // The columns follow as the user has made them.
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);

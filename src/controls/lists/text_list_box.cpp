@@ -23,6 +23,11 @@ int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
     return 1;
 }
 
+int DVrTextListBoxCL::GiveLengthsM(DuTextListBoxCL* control) const
+{
+    return RecordCL::GiveLengthsM(control) == 1 ? control->SetItemInitHeightM(itemHeight_) : 0;
+}
+
 int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
 {
     if (control == nullptr) {

@@ -3,7 +3,9 @@
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
 #include "controls/base/translator.h"
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 class TreePicturesCL;
 
@@ -20,9 +22,12 @@ public:
     {
         if (this != &other) {
             DeleteImageList();
+            files.clear();
         }
         return *this;
     }
+
+    std::vector<std::string> files; // Where they come from, while their scale may change (TreePicturesCL).
 };
 
 // What items that show a translation say in the file. It belongs to the window: a copy of the control starts
@@ -81,7 +86,13 @@ public:
     void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
+    // Where to note the files of what is added to them; null: nowhere.
+    std::vector<std::string>* ImageFilesM()
+    {
+        return PictureScaleM().MayChangeM() ? &images_.files : nullptr;
+    }
     void DelItemM();
+    void RescaledM(int from, int to);
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
 
 protected:
@@ -91,6 +102,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    int addImagesM(const char* file);
     HTREEITEM insertM(HTREEITEM parent, int data, const char* text, int selected, int normal);
 
     void showTextColourM();
