@@ -227,7 +227,9 @@ private:
     int wantedScaleM() const;
     CSize windowSizeM(HWND window, const ScaleCL& scale, int dpi) const;
     void sizeWindowM(HWND window);
+    void noteSizeM(HWND window);
     bool hasFileSizeM(HWND window) const;
+    void giveTreeFontsM();
     void makeFontM();
     template <class ControlTP, class RecordTP>
     void rescaleControlM(ControlTP& control, RecordTP* record, int from);
@@ -246,6 +248,7 @@ private:
     char configFile_[TextSize] {};
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
     CFont font_;
+    CFont treeFont_; // At other scales than 100 %: trees have a font of the system's.
     static constexpr int NoScale = -1;
     int askedScale_ { NoScale }; // Percent, AutomaticScale or none.
     ScaleCL scale_;

@@ -133,6 +133,7 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
     makeFontM();
+    giveTreeFontsM();
     for (const StepCL& step : steps) {
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);

@@ -2,6 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,7 @@ public:
         return *this;
     }
 
-    std::vector<std::string> files; // Where they come from, while their scale may change (TreePicturesCL).
+    std::vector<std::shared_ptr<const std::string>> files; // Where they come from (tree_pictures.h).
 };
 
 // A tree of texts, each with a picture for its normal and its selected state and a number of the application.
@@ -52,11 +53,8 @@ public:
     void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
-    // Where to note the files of what is added to them; null: nowhere.
-    std::vector<std::string>* ImageFilesM()
-    {
-        return PictureScaleM().MayChangeM() ? &images_.files : nullptr;
-    }
+    // Where it is kept from which files they come (tree_pictures.h).
+    std::vector<std::shared_ptr<const std::string>>& ImageFilesM() { return images_.files; }
     void DelItemM();
     void RescaledM(int from, int to);
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.
