@@ -241,12 +241,15 @@ private:
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
+    void renewItemFontM(CWnd* parent); // Nothing is drawn.
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;
     CSize windowSizeM(HWND window, const ScaleCL& scale, int dpi) const;
     void sizeWindowM(HWND window);
+    void noteSizeM(HWND window);
     bool hasFileSizeM(HWND window) const;
+    void giveTreeFontsM();
     void makeFontM();
     template <class ControlTP, class RecordTP>
     void rescaleControlM(ControlTP& control, RecordTP* record, int from);
@@ -273,6 +276,7 @@ private:
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
     TranslationCL translation_;
     CFont font_;
+    CFont treeFont_; // At other scales than 100 %: trees have a font of the system's.
     static constexpr int NoScale = -1;
     int askedScale_ { NoScale }; // Percent, AutomaticScale or none.
     ScaleCL scale_;
