@@ -66,6 +66,7 @@ public:
     static constexpr int AutomaticScale = 0;
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
+
     // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
     // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
     // "en", without one they stay. Values and lines by id are the file's in every language
