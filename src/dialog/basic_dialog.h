@@ -238,7 +238,14 @@ private:
     template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes over all controls do with one: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
