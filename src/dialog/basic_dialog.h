@@ -66,6 +66,7 @@ public:
     static constexpr int AutomaticScale = 0;
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
+
     // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
     // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
     // "en", without one they stay. Values and lines by id are the file's in every language
@@ -237,7 +238,14 @@ private:
     template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes over all controls do with one: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
