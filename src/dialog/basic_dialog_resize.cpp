@@ -108,6 +108,7 @@ void DuBasicDialogCL::findBoundM(const std::vector<BindingCL>& bindings)
                 described, described };
             if constexpr (RowTP::CanM(KeepsHeight)) {
                 bound.control.bottom = edgesInParent(control.m_hWnd).bottom;
+                bound.window = bound.now = bound.control;
             }
             if constexpr (RowTP::CanM(HasArrows)) {
                 bound.window = bound.now = edgesInParent(control.m_hWnd); // The arrows have taken some of it.
@@ -199,7 +200,11 @@ int DuBasicDialogCL::ResizeM(int width, int height)
             if constexpr (decltype(row)::CanM(HasArrows)) {
                 window = at->isArrows ? control.SpinButtonM().m_hWnd : window;
             }
-            const EdgesCL place = placeOfM(*at, slBoundEdges(at->control, at->binding, growth, at->kept));
+            EdgesCL place = placeOfM(*at, slBoundEdges(at->control, at->binding, growth, at->kept));
+            if constexpr (decltype(row)::CanM(KeepsHeight)) {
+                const EdgesCL shown = edgesInParent(window); // Its font says how high.
+                place.bottom = place.top + shown.bottom - shown.top;
+            }
             if (!isSame(place, at->now)) {
                 at->now = place;
                 places.AddM(window, place, at->isOpaque);

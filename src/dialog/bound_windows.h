@@ -14,7 +14,7 @@ struct BoundWindowCL
     BindingCL binding;
     KeptSizeCL kept;
     EdgesCL control; // Where the file has the control; of what keeps its height only what shows,
-    EdgesCL window;  // and this window of it, as its size is asked for.
+    EdgesCL window;  // and where this window of it stood then.
     EdgesCL now;     // Where it was put last.
 };
 
