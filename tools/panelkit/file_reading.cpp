@@ -1,7 +1,6 @@
 #include "file_reading.h"
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
-#include "dialog/binding.h"
 #include "dialog/relation.h"
 #include <algorithm>
 
@@ -22,10 +21,6 @@ FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
         slReadSection(io, RecordsM<typename decltype(row)::Records>(), &count);
     });
     slReadRelations(io, [](RelationCL&) {});
-    slReadBindings(io, [this](BindingCL& binding) {
-        bindings_.push_back(binding);
-        return 1;
-    });
     newRotateButtons_.FmReadInterfaceM(&io);
 }
 

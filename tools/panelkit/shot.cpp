@@ -50,7 +50,10 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name, options.textLanguage);
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         const bool built = dialog.CreateM() == 1;
         for (const auto& [id, status] : options.statuses) {
             if (built && !dialog.SetStatusM(id, status)) {
