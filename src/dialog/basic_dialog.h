@@ -237,7 +237,14 @@ private:
     template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes do with one control: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
@@ -258,9 +265,11 @@ private:
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
-    bool readBindingsM(VrIOCL& io, std::vector<BindingCL>& bindings);
-    void bindM(const std::vector<BindingCL>& bindings, const DialogStretchCL& before, int mode);
-    void findBoundM(const std::vector<BindingCL>& bindings);
+    bool readBindingsM(VrIOCL& io);
+    void bindM(const DialogStretchCL& before);
+    bool unbindM();
+    void bindAgainM(const DialogStretchCL& before);
+    void findBoundM();
     void makeSizableM();
     void stretchAgainM(const DialogStretchCL& before);
     void leaveOutOpaqueM(HDC dc);
