@@ -269,9 +269,11 @@ private:
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
-    bool readBindingsM(VrIOCL& io, std::vector<BindingCL>& bindings);
-    void bindM(const std::vector<BindingCL>& bindings, const DialogStretchCL& before, int mode);
-    void findBoundM(const std::vector<BindingCL>& bindings);
+    bool readBindingsM(VrIOCL& io);
+    void bindM(const DialogStretchCL& before);
+    bool unbindM();
+    void bindAgainM(const DialogStretchCL& before);
+    void findBoundM();
     void makeSizableM();
     void stretchAgainM(const DialogStretchCL& before);
     void leaveOutOpaqueM(HDC dc);

@@ -12,7 +12,6 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     scale_ = ScaleCL(wantedScaleM());
     bound_ = {};
     const DialogStretchCL before = stretch_.OfM(builtIn_);
-    std::vector<BindingCL> bindings;
     bool isBound = false;
     beginDiagnosticsM();
     translation_.ReadM(configFile_);
@@ -24,12 +23,12 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
-        isBound = readBindingsM(io, bindings);
+        isBound = readBindingsM(io);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
     if (isBound) {
-        bindM(bindings, before, mode);
+        bindM(before);
     }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
