@@ -184,7 +184,9 @@ EditResult DescriptionEditorCL::InsertM(const RecordPlaceCL& place, const std::v
     }
     EditPlanCL plan = state_->PlanM();
     const bool isThere = plan.SectionM(grammar).IsThereM();
-    if (isThere && !plan.IsSoundM(grammar)) {
+    const int before = place.record;
+    if ((isThere && !plan.IsSoundM(grammar))
+        || !renumber(plan, grammar, [before](int at) { return at >= before ? at + 1 : at; })) {
         return EditResult::Unsound;
     }
     std::vector<NamedTextCL> given = values;
@@ -205,17 +207,13 @@ EditResult DescriptionEditorCL::InsertM(const RecordPlaceCL& place, const std::v
     }
     const RecordLinesCL lines(state_->BytesM(), plan.SectionM(grammar));
     std::optional<RecordTextCL> text;
-    for (const int neighbour : { place.record - 1, place.record }) {
+    for (const int neighbour : { before - 1, before }) {
         if (!text && neighbour >= 0 && neighbour < plan.SectionM(grammar).RecordsM()) {
             text = laidOutLike(plan, state_->BytesM(), grammar, neighbour, forms);
         }
     }
     plan.InsertM(
         grammar, place.record, { text ? *text : laidOut(forms, isEntry, lines.LineEndM()), meantOf(forms) });
-    const int before = place.record;
-    if (!renumber(plan, grammar, [before](int at) { return at >= before ? at + 1 : at; })) {
-        return EditResult::Unsound;
-    }
     return state_->DoM(plan);
 }
 
