@@ -50,6 +50,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/relation.cpp
   editing/description_editor.cpp
   editing/edit_plan.cpp
+  editing/editor_operations.cpp
   editing/editor_state.cpp
   editing/grammars.cpp
   editing/record_lines.cpp
