@@ -109,8 +109,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     case 6:
         idsCommand(file, other, nullptr, "");
         break;
-    default:
-        stringsCommand({ file }, other);
+    default: {
+        StringsOptionsCL options;
+        options.files = { file };
+        options.out = other;
+        stringsCommand(options);
+    }
     }
     return 0;
 }
