@@ -7,6 +7,9 @@ Language languageOf(const std::string& option);                        // en, zh
 bool readBytes(const std::filesystem::path& path, std::string* bytes); // Without a word when it can't.
 // All that is wrong with a file of these bytes. file: as the user named it; folder: where pictures are.
 FindingsCL checkBytes(const std::string& file, const std::filesystem::path& folder, std::string&& bytes);
+// The same of a text. reading: gets what was read; null: not wanted.
+FindingsCL checkText(const std::string& file, const std::filesystem::path& folder,
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading = nullptr);
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.

@@ -31,6 +31,7 @@ struct ViewOptionsCL : ShowOptionsCL
     bool watches { false };      // Follows changes of the file and its pictures.
     bool logsMessages { false }; // Prints what the dialog gets from its controls.
     bool showsIds { false };     // Writes on each control what the file calls it.
+    std::string mark;            // A file with the id of the control to be marked; "": none.
 };
 int viewCommand(const ViewOptionsCL& options);
 
@@ -66,6 +67,9 @@ int idsCommand(
 int formatCommand(const std::string& file, bool checkOnly);
 // A template for translators of the texts of all files; `out` "" is standard output.
 int stringsCommand(const std::vector<std::string>& files, const std::string& out);
+
+// A language server on standard input and output. language: as for check, "" for the client's.
+int lspCommand(const std::string& language);
 
 // Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
 // standard input ends. Prints "ready" once it is there.

@@ -1,5 +1,6 @@
 #pragma once
 #include "baselib/file_text.h"
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -30,3 +31,8 @@ struct BlanksCL
 // beginning have a word each whatever fields they are of. Appends what is to change.
 void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
     std::size_t common, std::vector<BlanksCL>& changes);
+
+// What is to change in a file, in its order, for all numbers to be lined up; nothing where it would then be
+// read otherwise. refusedLine: then the first line in question, may be null.
+std::vector<BlanksCL> blanksToChange(
+    const std::shared_ptr<const FileTextCL>& text, std::size_t* refusedLine = nullptr);

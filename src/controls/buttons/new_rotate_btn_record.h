@@ -41,6 +41,17 @@ private:
     int slotCount_ { 0 };
 };
 
+// One entry of the section of pictures.
+struct NewRotatePictureCL
+{
+    int number { 0 }; // Of no use.
+    int button { 0 }; // The place of the button among the records, from 0.
+    int slot { 0 };   // The position that the picture is for, from 0.
+    CharArr picture;  // Its name.
+
+    PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
+};
+
 extern template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
 
 class PANELKIT_API DVrNewRotateBtnArr : public RecordArr<DVrNewRotateBtnCL>

@@ -1,0 +1,24 @@
+#pragma once
+#include "record_view.h"
+#include <string>
+#include <vector>
+
+// What one field of a section's records is: its layout, and what the pages on the kinds say of it.
+struct FieldInfoCL
+{
+    std::string name;
+    Verb verb { Verb::Int };
+    int parts { 1 };
+    std::vector<std::string> partNames; // Of a field of several values; empty where they have none.
+    std::string defaultText;            // As in a file; "" for an empty text.
+    std::vector<ChoiceCL> choices;
+    std::string meaning;
+
+    std::string LabelM(int part) const; // "size width": the field, and which of its values.
+};
+
+// The fields of a section, in the order of the file; none of the version's.
+const std::vector<FieldInfoCL>& fieldsOf(int grammar);
+const FieldInfoCL* fieldOf(int grammar, const char* name); // Null when there is none.
+// "spin edit", "entry of combo box", "relation": what a record of a section is.
+const std::string& recordName(int grammar);
