@@ -31,7 +31,7 @@ struct ViewOptionsCL : ShowOptionsCL
     bool watches { false };      // Follows changes of the file and its pictures.
     bool logsMessages { false }; // Prints what the dialog gets from its controls.
     bool showsIds { false };     // Writes on each control what the file calls it.
-    std::string mark;            // A file with the id of the control to be marked; "": none.
+    std::string mark;            // A file with the id of a control that is marked; "": none.
 };
 int viewCommand(const ViewOptionsCL& options);
 

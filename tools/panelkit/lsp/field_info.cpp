@@ -158,6 +158,12 @@ std::string FieldInfoCL::LabelM(int part) const
     return name + " " + (place < partNames.size() ? partNames[place] : std::to_string(part + 1));
 }
 
+std::string FieldInfoCL::HintM(int part) const
+{
+    const auto place = static_cast<std::size_t>(part);
+    return part > 0 && place < partNames.size() ? partNames[place] : LabelM(part);
+}
+
 const std::vector<FieldInfoCL>& fieldsOf(int grammar)
 {
     return sectionFields(grammar).fields;

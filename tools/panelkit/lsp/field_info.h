@@ -15,6 +15,7 @@ struct FieldInfoCL
     std::string meaning;
 
     std::string LabelM(int part) const; // "size width": the field, and which of its values.
+    std::string HintM(int part) const;  // The same, but the field only for the first of them.
 };
 
 // The fields of a section, in the order of the file; none of the version's.

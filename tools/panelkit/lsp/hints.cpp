@@ -80,7 +80,7 @@ JsonTP inlayHints(OpenFileCL& file, const JsonTP& params)
             if (field != nullptr && place.value->begin >= begin && place.value->begin <= end) {
                 const ChoiceCL* const choice = choiceOf(file, *field, *place.value);
                 add(spanOf(*place.value),
-                    field->LabelM(place.value->part)
+                    field->HintM(place.value->part)
                         + (choice != nullptr ? std::string(" (") + choice->name + ")" : ""));
             }
         });
