@@ -87,7 +87,7 @@ TEST(LspFixes, WhereOneIsClear)
     mends("20 1\n", "20 9\n", "bad-value",
         "write 1 (left); write 2 (left); write 3 (centred); write 4 (right); ");
     mends("160 0", "160 5", "bad-value", "write 0; write 1; ");
-    mends("速\n", "速\n转速\n", "extra-lines", "");
+    mends("速\n", "速\n转速\n", "extra-lines", "delete the line; ");
     EXPECT_EQ(fixed(client, replaced(Combo, "[下拉列表框初始值]\n2\n0\n3001 自动\n3001 手动\n", ""),
                   "missing-secondary")
                   .text,
@@ -186,7 +186,7 @@ TEST(LspOutline, SectionsAndControlsWithTheirTexts)
     EXPECT_EQ(textOf(text, symbols[2]["range"]), "[标题]\n1\n0\n1 1001 10 10 80 20 1\n转速\n0 10 20 30");
     std::set<std::pair<int, int>> folds;
     for (const LspJson& fold : text.AskM("foldingRange")) {
-        folds.insert({ fold["startLine"], fold["endLine"] });
+        folds.insert({ fold["startLine"].get<int>(), fold["endLine"].get<int>() });
     }
     EXPECT_EQ(folds,
         (std::set<std::pair<int, int>> {

@@ -244,7 +244,8 @@ JsonTP ServerCL::executeM(const JsonTP& params)
     }
     const bool isChinese = language_ == Language::Chinese;
     if (command == ConvertCommand) {
-        const bool isDone = convertCommand(path, "", false) == 0;
+        std::string said; // To the client we say it in its language.
+        const bool isDone = convertFile(path, "", false, &said) == 0;
         file.ChangeM().LookAtFileM();
         showMessage(isDone ? Info : Error,
             isDone ? (isChinese ? "文件已是 GBK 编码: 请以 GBK 编码重新打开"
