@@ -48,6 +48,15 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp
+  editing/description_editor.cpp
+  editing/edit_plan.cpp
+  editing/editor_state.cpp
+  editing/grammars.cpp
+  editing/record_lines.cpp
+  editing/record_text.cpp
+  editing/seen_sections.cpp
+  editing/text_changes.cpp
+  editing/value_forms.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp
   pictures/bmp_reader.cpp

@@ -262,7 +262,7 @@ std::map<std::string, LayoutCL> allLayouts()
     DVrNewRotateBtnCL button(AliveTag);
     button.EachCommonFieldM(all[NewRotateBtnHeader], 1);
     button.EachFieldM(all[NewRotateBtnHeader]);
-    NewRotatePictureCL picture;
+    SlotPictureCL picture;
     picture.EachFieldM(all[NewRotateBtnBitmapHeader]);
     slEachKind([&](auto row) {
         using RecordsTP = typename decltype(row)::Records;

@@ -30,6 +30,14 @@ std::string picturePath(const char* folder, const char* name)
 
 } // namespace
 
+void SlotPictureCL::EachFieldM(FieldVisitorCL& visitor)
+{
+    visitor.IntM("number", number);
+    visitor.IndexM("button", button);
+    visitor.IndexM("slot", slot);
+    visitor.NameM("picture", picture, NullWord::Kept);
+}
+
 void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor, int withShowCondition, int withDescription)
 {
     visitor.IntsM("steps", steps_, 2);
@@ -77,14 +85,6 @@ void DVrNewRotateBtnCL::ReadM(FieldReaderCL& reader, int withShowCondition, int 
     *this = DVrNewRotateBtnCL(AliveTag);
     EachCommonFieldM(reader, 1);
     EachFieldM(reader, withShowCondition, withDescription);
-}
-
-void NewRotatePictureCL::EachFieldM(FieldVisitorCL& visitor)
-{
-    visitor.IntM("number", number);
-    visitor.IndexM("button", button);
-    visitor.IndexM("slot", slot);
-    visitor.NameM("picture", picture, NullWord::Kept);
 }
 
 int DVrNewRotateBtnCL::SetPictureM(int slot, const char* file)
@@ -150,7 +150,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     int lines = 0;
     section.InputCountM(&count);
     section.InputCommentsM(&lines);
-    NewRotatePictureCL entry;
+    SlotPictureCL entry;
     FieldCounterCL values;
     entry.EachFieldM(values);
     section.SetCountM(count, values.ValuesM());
@@ -162,7 +162,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     io->GetFilePathM(folder);
     std::size_t slots = 0;
     for (int i = 0; i < count; ++i) {
-        entry = NewRotatePictureCL();
+        entry = SlotPictureCL();
         entry.EachFieldM(section.RecordM(i));
         if (CheckAvailableM(entry.button) == 0) {
             section.DropM(EntryFault::UnknownId);

@@ -41,18 +41,19 @@ private:
     int slotCount_ { 0 };
 };
 
+extern template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
+
 // One entry of the section of pictures.
-struct NewRotatePictureCL
+struct SlotPictureCL
 {
     int number { 0 }; // Of no use.
-    int button { 0 }; // The place of the button among the records, from 0.
-    int slot { 0 };   // The position that the picture is for, from 0.
-    CharArr picture;  // Its name.
+    int button { 0 }; // The place of its button among the records, from 0.
+    int slot { 0 };   // Which of the button's pictures, from 0.
+    CharArr picture;  // A .bmp file.
 
+    // Shows the visitor those values.
     PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
 };
-
-extern template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
 
 class PANELKIT_API DVrNewRotateBtnArr : public RecordArr<DVrNewRotateBtnCL>
 {

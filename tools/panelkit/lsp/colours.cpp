@@ -18,11 +18,11 @@ SpanCL spanOfColour(const SeenValueCL* first)
 JsonTP documentColours(OpenFileCL& file, const JsonTP&)
 {
     JsonTP colours = JsonTP::array();
-    for (int grammar = 0; grammar < static_cast<int>(allGrammars().size()); ++grammar) {
+    for (int grammar = 0; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
         const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
-        file.EachValueM(grammar, [&](const ValuePlaceCL& place) {
+        file.EachValueM(grammar, [&](const ValueInTextCL& place) {
             const FieldInfoCL* const field = fieldOf(grammar, place.value->field);
-            if (field == nullptr || field->verb != Verb::Colour || place.value->part != Parts - 1) {
+            if (field == nullptr || field->meant != Meant::Colour || place.value->part != Parts - 1) {
                 return;
             }
             const SeenValueCL* const first = place.value - (Parts - 1);
@@ -45,10 +45,10 @@ JsonTP documentColours(OpenFileCL& file, const JsonTP&)
 
 JsonTP colourPresentations(OpenFileCL& file, const JsonTP& params)
 {
-    const ValuePlaceCL place = file.ValueAtM(file.DocumentM().OffsetM(params.at("range").at("start")));
+    const ValueInTextCL place = file.ValueAtM(file.DocumentM().OffsetM(params.at("range").at("start")));
     const FieldInfoCL* const field
         = place.value != nullptr ? fieldOf(place.grammar, place.value->field) : nullptr;
-    if (field == nullptr || field->verb != Verb::Colour || place.value->part != 0) {
+    if (field == nullptr || field->meant != Meant::Colour || place.value->part != 0) {
         return JsonTP::array();
     }
     const std::string& bytes = file.DocumentM().GbkM();

@@ -72,10 +72,10 @@ private:
     // Those that the file doesn't have yet, found by their English names too.
     void addHeadersM()
     {
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const auto grammar = static_cast<int>(i);
             if (!file_.ReadingM().SectionM(grammar).IsThereM()) {
-                const std::string header = slGbkToUtf8(allGrammars()[i].header);
+                const std::string header = slGbkToUtf8(slGrammars()[i].header);
                 const bool isTyped = replaced_.begin < replaced_.end;
                 addM(
                     header, recordName(grammar), ModuleItem, isTyped ? header : header + recordName(grammar));
@@ -112,25 +112,25 @@ private:
         for (const ChoiceCL& choice : field_->choices) {
             addM(std::to_string(choice.value), choice.name, ValueItem);
         }
-        if (field_->verb == Verb::Flag) {
+        if (field_->meant == Meant::Flag) {
             addM("0", "no", ValueItem);
             addM("1", "yes", ValueItem);
-        } else if (field_->verb == Verb::Id) {
+        } else if (field_->meant == Meant::Id) {
             addIdsM();
-        } else if (field_->verb == Verb::Name) {
+        } else if (field_->meant == Meant::Picture) {
             addPicturesM();
         }
     }
     // For who names a control the controls; for a control an id that is free.
     void addIdsM()
     {
-        const char* const owner = allGrammars()[static_cast<std::size_t>(grammar_)].owner;
-        const bool isRelation = grammar_ == grammarOf(RelationHeader);
+        const char* const owner = slGrammars()[static_cast<std::size_t>(grammar_)].owner;
+        const bool isRelation = grammar_ == slGrammarOf(RelationHeader);
         int largest = 2; // OK and Cancel have 1 and 2.
         std::set<int> added;
         for (const IdUseCL& use : file_.IdsM()) {
             const bool isMeant = use.isControl
-                && (isRelation || (owner != nullptr && use.place.grammar == grammarOf(owner)));
+                && (isRelation || (owner != nullptr && use.place.grammar == slGrammarOf(owner)));
             if (isMeant && added.insert(use.id).second) {
                 const std::string words = file_.TextOfM(use.place.grammar, use.place.record);
                 addM(std::to_string(use.id),

@@ -1,6 +1,7 @@
 #include "field_info.h"
 #include "baselib/gbk.h"
-#include "dialog/relation.h"
+#include "baselib/gbk_texts.h"
+#include "dialog/kinds.h"
 #include "field_pages.h"
 #include <algorithm>
 #include <cstring>
@@ -11,24 +12,6 @@ std::string realText(float value)
 {
     char text[32];
     std::snprintf(text, sizeof text, "%g", static_cast<double>(value));
-    return text;
-}
-
-std::string defaultOf(const FieldCL& field)
-{
-    if (field.verb == Verb::Colour) {
-        return !field.isOn ? "-1 0 0"
-                           : std::to_string(field.colour & 0xFF) + " "
-                + std::to_string(field.colour >> 8 & 0xFF) + " " + std::to_string(field.colour >> 16 & 0xFF);
-    }
-    if (field.text != nullptr) {
-        return slGbkToUtf8(field.text->TextM());
-    }
-    std::string text;
-    for (int part = 0; part < field.parts; ++part) {
-        text += part > 0 ? " " : "";
-        text += realText(field.RealM(part));
-    }
     return text;
 }
 
@@ -53,91 +36,112 @@ struct SectionFieldsCL
 };
 
 // Collects the fields of one section from a record that has its defaults.
-class CollectorCL
+class CollectorCL : public FieldVisitorCL
 {
 public:
-    CollectorCL(int grammar, std::string name)
-        : header_(slGbkToUtf8(allGrammars()[static_cast<std::size_t>(grammar)].header))
+    CollectorCL(const char* header, std::vector<FieldInfoCL>& fields)
+        : header_(slGbkToUtf8(header))
+        , fields_(fields)
     {
-        fields_.name = std::move(name);
-        nothing_.starts.push_back(0);
-        nothing_.values.reserve(8); // The view steps over values that aren't there.
-        view_.BeginM(nothing_, 0);
     }
-    FieldVisitorCL& VisitorM() { return view_; }
-    SectionFieldsCL FieldsM()
+    void IntM(const char* name, int& value) override { IntsM(name, &value, 1); }
+    void RealM(const char* name, float& value) override { RealsM(name, &value, 1); }
+    void IntsM(const char* name, int* values, int count) override
     {
-        for (const FieldCL& field : view_.FieldsM()) {
-            FieldInfoCL info;
-            info.name = field.name;
-            info.verb = field.verb;
-            info.parts = field.parts;
-            info.defaultText = defaultOf(field);
-            info.choices.assign(field.firstChoice, field.lastChoice);
-            const DocumentedFieldCL* const documented = documentedField(header_, field.name);
-            if (documented != nullptr) {
-                info.meaning = documented->meaning;
-                info.partNames = partNamesOf(documented->type, field.parts);
-            }
-            fields_.fields.push_back(std::move(info));
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += (i > 0 ? " " : "") + std::to_string(values[i]);
         }
-        return std::move(fields_);
+        addM(name, Meant::Number, count, text);
+    }
+    void RealsM(const char* name, float* values, int count) override
+    {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += (i > 0 ? " " : "") + realText(values[i]);
+        }
+        addM(name, Meant::Number, count, text);
+    }
+    void ColourM(const char* name, ColourTP& colour, int* flag) override
+    {
+        const auto byte = [colour](int shift) { return std::to_string(colour >> shift & 0xFF); };
+        addM(name, Meant::Colour, 3,
+            flag != nullptr && *flag == 0 ? "-1 0 0" : byte(0) + " " + byte(8) + " " + byte(16));
+    }
+    void TextM(const char* name, CharArr& text, const TextFormCL&) override
+    {
+        addM(name, Meant::Text, 1, slGbkToUtf8(text.TextM()));
+    }
+    void NameM(const char* name, CharArr& file, const TextFormCL& form) override
+    {
+        TextM(name, file, form);
+        fields_.back().meant = Meant::Picture;
+    }
+    void IdM(const char* name, int& value) override
+    {
+        IntM(name, value);
+        fields_.back().meant = Meant::Id;
+    }
+    void FlagM(const char* name, int& value) override
+    {
+        IntM(name, value);
+        fields_.back().meant = Meant::Flag;
+    }
+    void ChoiceM(const char* name, int& value, const ChoicesCL& choices) override
+    {
+        IntM(name, value);
+        fields_.back().choices.assign(choices.begin(), choices.end());
     }
 
 private:
+    void addM(const char* name, Meant meant, int parts, const std::string& text)
+    {
+        FieldInfoCL& info = fields_.emplace_back();
+        info.name = name;
+        info.meant = meant;
+        info.parts = parts;
+        info.defaultText = text;
+        const DocumentedFieldCL* const documented = documentedField(header_, name);
+        if (documented != nullptr) {
+            info.meaning = documented->meaning;
+            info.partNames = partNamesOf(documented->type, parts);
+        }
+    }
+
     std::string header_;
-    SeenSectionCL nothing_;
-    RecordViewCL view_;
-    SectionFieldsCL fields_;
+    std::vector<FieldInfoCL>& fields_;
 };
 
-template <class RecordTP> SectionFieldsCL collect(int grammar, const char* name, RecordTP&& visit)
+std::string nameOf(const GrammarCL& grammar)
 {
-    std::string words = name;
-    std::replace(words.begin(), words.end(), '_', ' ');
-    CollectorCL collector(grammar, words);
-    visit(collector.VisitorM());
-    return collector.FieldsM();
+    const char* const main = grammar.owner != nullptr ? grammar.owner : grammar.header;
+    const auto is = [main](const char* header) { return std::strcmp(main, header) == 0; };
+    std::string name = is(VersionHeader) ? "version"
+        : is(DialogHeader)               ? "dialog"
+        : is(RelationHeader)             ? "relation"
+                                         : "new rotate button";
+    slEachKind([&](auto row) {
+        using RecordsTP = typename decltype(row)::Records;
+        if (is(RecordsTP::Header)) {
+            const char* const kind = RecordsTP::KindName;
+            name = kind;
+        }
+    });
+    std::replace(name.begin(), name.end(), '_', ' ');
+    return grammar.owner != nullptr ? "entry of " + name : name;
 }
 
 std::vector<SectionFieldsCL> makeSections()
 {
-    std::vector<SectionFieldsCL> all(allGrammars().size());
-    const auto at
-        = [&all](int grammar) -> SectionFieldsCL& { return all[static_cast<std::size_t>(grammar)]; };
-    DialogHeaderCL dialog;
-    at(VersionGrammar).name = "version";
-    at(DialogGrammar) = collect(DialogGrammar, "dialog", [&](FieldVisitorCL& v) { dialog.EachFieldM(v); });
-    slEachKind([&](auto row) {
-        using RecordsTP = typename decltype(row)::Records;
-        typename RecordsTP::RecordTP record(AliveTag);
-        const char* const kind = RecordsTP::KindName;
-        const int grammar = grammarOf(RecordsTP::Header);
-        at(grammar) = collect(grammar, kind, [&](FieldVisitorCL& v) {
-            record.EachCommonFieldM(v);
-            record.EachFieldM(v);
-        });
-        for (const auto& secondary : RecordsTP::Secondaries) {
-            SectionEntryCL entry;
-            const int place = grammarOf(secondary.header);
-            at(place)
-                = collect(place, kind, [&](FieldVisitorCL& v) { entry.EachFieldM(v, secondary.fields); });
-            at(place).name = "entry of " + at(place).name;
+    std::vector<SectionFieldsCL> all;
+    for (const GrammarCL& grammar : slGrammars()) {
+        SectionFieldsCL& section = all.emplace_back();
+        section.name = nameOf(grammar);
+        if (grammar.head != HeadKind::Line) {
+            CollectorCL collector(grammar.header, section.fields);
+            grammar.visit(collector, HasShowCondition | HasDescription);
         }
-    });
-    RelationCL relation;
-    const int relations = grammarOf(RelationHeader);
-    at(relations) = collect(relations, "relation", [&](FieldVisitorCL& v) { relation.EachFieldM(v); });
-    DVrNewRotateBtnCL button(AliveTag);
-    const int buttons = grammarOf(NewRotateBtnHeader);
-    at(buttons) = collect(buttons, "new_rotate_button", [&](FieldVisitorCL& v) {
-        button.EachCommonFieldM(v, 1);
-        button.EachFieldM(v);
-    });
-    NewRotatePictureCL picture;
-    const int pictures = grammarOf(NewRotateBtnBitmapHeader);
-    at(pictures) = collect(
-        pictures, "picture of new_rotate_button", [&](FieldVisitorCL& v) { picture.EachFieldM(v); });
+    }
     return all;
 }
 

@@ -1,13 +1,24 @@
 #pragma once
-#include "record_view.h"
+#include "editing/grammars.h"
 #include <string>
 #include <vector>
+
+// What the values of a field are to an editor.
+enum class Meant
+{
+    Number,
+    Flag,
+    Id,
+    Colour,
+    Text, // For a person to read.
+    Picture
+};
 
 // What one field of a section's records is: its layout, and what the pages on the kinds say of it.
 struct FieldInfoCL
 {
     std::string name;
-    Verb verb { Verb::Int };
+    Meant meant { Meant::Number };
     int parts { 1 };
     std::vector<std::string> partNames; // Of a field of several values; empty where they have none.
     std::string defaultText;            // As in a file; "" for an empty text.

@@ -1,6 +1,7 @@
 // Findings, and what mends them.
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
+#include "editing/description_editor.h"
 #include "features.h"
 #include "field_info.h"
 #include "section_layout.h"
@@ -74,10 +75,6 @@ private:
     void writeM(SpanCL span, const std::string& text, bool isPreferred = true)
     {
         addM(saidM("write ", "改为 ", text), span, text, isPreferred);
-    }
-    std::string lineEndM() const
-    {
-        return file_.DocumentM().GbkM().find("\r\n") != std::string::npos ? "\r\n" : "\n";
     }
     void setCountM(const std::string& count)
     {
@@ -169,7 +166,7 @@ void FixerCL::fixValueM(const FindingCL& finding)
         break;
     case Says::BadValue:
     case Says::BadDataType: {
-        const ValuePlaceCL place = file_.ValueAtM(finding.offset);
+        const ValueInTextCL place = file_.ValueAtM(finding.offset);
         const FieldInfoCL* const field
             = place.value != nullptr ? fieldOf(place.grammar, place.value->field) : nullptr;
         if (field != nullptr) {
@@ -198,18 +195,14 @@ void FixerCL::fixValueM(const FindingCL& finding)
     }
 }
 
-// Behind the section that needs it.
 void FixerCL::addSectionM(const std::string& header)
 {
-    const int grammar = file_.SectionAtM(finding_->offset);
-    if (grammar < 0) {
-        return;
+    DescriptionEditorCL editor(file_.DocumentM().GbkM());
+    if (editor.AddSectionM(slUtf8ToGbk(header).c_str()) == EditResult::Done) {
+        JsonTP action = actionM(saidM("add the section ", "添加该节 ", header), true);
+        action["edit"]["changes"][file_.DocumentM().UriM()] = textEdits(file_, editor.ChangesM());
+        actions_.push_back(std::move(action));
     }
-    const std::size_t end = file_.ReadingM().SectionM(grammar).regionEnd;
-    const std::string& bytes = file_.DocumentM().GbkM();
-    const std::string before = end > 0 && bytes[end - 1] != '\n' ? lineEndM() : "";
-    addM(saidM("add the section ", "添加该节 ", header), { end, end },
-        before + header + lineEndM() + "0" + lineEndM());
 }
 
 } // namespace

@@ -17,7 +17,7 @@ const ChoiceCL* choiceOf(OpenFileCL& file, const FieldInfoCL& field, const SeenV
 }
 
 // "**size width** of label 2, “Speed”", what it means, its default, its choices.
-std::string explanation(OpenFileCL& file, const ValuePlaceCL& place)
+std::string explanation(OpenFileCL& file, const ValueInTextCL& place)
 {
     const FieldInfoCL* const field = fieldOf(place.grammar, place.value->field);
     if (field == nullptr) {
@@ -33,7 +33,7 @@ std::string explanation(OpenFileCL& file, const ValuePlaceCL& place)
     for (const ChoiceCL& choice : field->choices) {
         text += "\n- `" + std::to_string(choice.value) + "` " + choice.name;
     }
-    if (field->verb == Verb::Flag) {
+    if (field->meant == Meant::Flag) {
         text += "\n- `0` no\n- `1` yes";
     }
     return text;
@@ -68,14 +68,14 @@ JsonTP inlayHints(OpenFileCL& file, const JsonTP& params)
             hints.push_back(hint(file, span.begin, label));
         }
     };
-    for (int grammar = DialogGrammar; grammar < static_cast<int>(allGrammars().size()); ++grammar) {
+    for (int grammar = DialogGrammar; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
         const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
         if (!section.IsThereM() || section.head.headerSpan.begin > end || section.regionEnd < begin) {
             continue;
         }
         add(section.head.countSpan, "records");
         add(section.head.commentCount, "comment lines");
-        file.EachValueM(grammar, [&](const ValuePlaceCL& place) {
+        file.EachValueM(grammar, [&](const ValueInTextCL& place) {
             const FieldInfoCL* const field = fieldOf(grammar, place.value->field);
             if (field != nullptr && place.value->begin >= begin && place.value->begin <= end) {
                 const ChoiceCL* const choice = choiceOf(file, *field, *place.value);
@@ -91,7 +91,7 @@ JsonTP inlayHints(OpenFileCL& file, const JsonTP& params)
 JsonTP hoverAt(OpenFileCL& file, const JsonTP& params)
 {
     const std::size_t offset = file.DocumentM().OffsetM(params.at("position"));
-    const ValuePlaceCL place = file.ValueAtM(offset);
+    const ValueInTextCL place = file.ValueAtM(offset);
     if (place.value != nullptr) {
         const std::string text = explanation(file, place);
         return text.empty() ? JsonTP() : hoverText(file, spanOf(*place.value), text);

@@ -1,5 +1,6 @@
 // Ids: from who names a control to its record, from there to all of them, and another number for all.
 #include "baselib/number_text.h"
+#include "editing/description_editor.h"
 #include "features.h"
 #include <algorithm>
 #include <cstring>
@@ -19,8 +20,8 @@ bool isAt(const SeenValueCL& value, std::size_t offset)
 // The section whose controls a use of an id means; -1: any.
 int ownerOf(const IdUseCL& use)
 {
-    const char* const owner = allGrammars()[static_cast<std::size_t>(use.place.grammar)].owner;
-    return use.isControl ? use.place.grammar : owner != nullptr ? grammarOf(owner) : -1;
+    const char* const owner = slGrammars()[static_cast<std::size_t>(use.place.grammar)].owner;
+    return use.isControl ? use.place.grammar : owner != nullptr ? slGrammarOf(owner) : -1;
 }
 
 // The uses of the id at a place, that one first. Where several kinds of controls have the id, those of the
@@ -52,8 +53,8 @@ std::vector<IdUseCL> usesAt(OpenFileCL& file, std::size_t offset)
 // A picture of a new rotate button names the button by its place.
 const SeenValueCL* buttonAt(OpenFileCL& file, std::size_t offset)
 {
-    const ValuePlaceCL place = file.ValueAtM(offset);
-    if (place.grammar != grammarOf(NewRotateBtnBitmapHeader)
+    const ValueInTextCL place = file.ValueAtM(offset);
+    if (place.grammar != slGrammarOf(NewRotateBtnBitmapHeader)
         || std::strcmp(place.value->field, "button") != 0) {
         return nullptr;
     }
@@ -110,22 +111,27 @@ JsonTP renamed(OpenFileCL& file, const JsonTP& params)
 {
     const std::vector<IdUseCL> uses = usesAt(file, offsetAt(file, params));
     const std::string& name = params.at("newName").get_ref<const std::string&>();
-    if (uses.empty()) {
-        throw RefusalCL { "only function ids can be renamed" };
+    const auto control
+        = std::find_if(uses.begin(), uses.end(), [](const IdUseCL& use) { return use.isControl; });
+    if (uses.empty() || control == uses.end()) {
+        throw RefusalCL { uses.empty() ? "only function ids can be renamed" : "no control has this id" };
     }
     int id = 0;
     const char* const end = name.data() + name.size();
     if (slReadInt(name.data(), end, &id) != end || std::to_string(id) != name) {
         throw RefusalCL { "'" + name + "' is no function id: it must be a number" };
     }
-    for (const IdUseCL& use : file.IdsM()) {
-        if (use.isControl && use.id == id && id != uses[0].id) {
-            throw RefusalCL { "a control has the id " + name + " already" };
-        }
+    const ValueInTextCL& place = control->place;
+    const RecordPlaceCL record { slGrammars()[static_cast<std::size_t>(place.grammar)].header, place.record };
+    DescriptionEditorCL editor(file.DocumentM().GbkM());
+    const bool isOwn = std::strcmp(place.value->field, "function_id") == 0; // Arrows have an id too.
+    switch (isOwn ? editor.RenameM(record, id) : editor.SetM({ record, place.value->field }, name)) {
+    case EditResult::Done:
+        break;
+    case EditResult::IdTaken:
+        throw RefusalCL { "a control has the id " + name + " already" };
+    default:
+        throw RefusalCL { "mend the findings first: a section that names the id doesn't read whole" };
     }
-    JsonTP edits = JsonTP::array();
-    for (const IdUseCL& use : uses) {
-        edits.push_back(textEdit(file, spanOf(*use.place.value), name));
-    }
-    return { { "changes", { { file.DocumentM().UriM(), std::move(edits) } } } };
+    return { { "changes", { { file.DocumentM().UriM(), textEdits(file, editor.ChangesM()) } } } };
 }

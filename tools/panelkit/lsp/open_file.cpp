@@ -1,4 +1,5 @@
 #include "open_file.h"
+#include "baselib/gbk.h"
 #include "baselib/number_text.h"
 #include "check.h"
 #include "field_info.h"
@@ -38,7 +39,7 @@ bool OpenFileCL::IsInSectionM(int grammar, std::size_t offset)
 
 int OpenFileCL::SectionAtM(std::size_t offset)
 {
-    for (int grammar = static_cast<int>(allGrammars().size()) - 1; grammar >= 0; --grammar) {
+    for (int grammar = static_cast<int>(slGrammars().size()) - 1; grammar >= 0; --grammar) {
         if (IsInSectionM(grammar, offset)) {
             return grammar;
         }
@@ -46,12 +47,12 @@ int OpenFileCL::SectionAtM(std::size_t offset)
     return -1;
 }
 
-ValuePlaceCL OpenFileCL::ValueAtM(std::size_t offset)
+ValueInTextCL OpenFileCL::ValueAtM(std::size_t offset)
 {
-    ValuePlaceCL found;
+    ValueInTextCL found;
     const int grammar = SectionAtM(offset);
     if (grammar >= 0) {
-        EachValueM(grammar, [&](const ValuePlaceCL& place) {
+        EachValueM(grammar, [&](const ValueInTextCL& place) {
             if (offset >= place.value->begin && offset <= place.value->end) {
                 found = place;
             }
@@ -63,16 +64,16 @@ ValuePlaceCL OpenFileCL::ValueAtM(std::size_t offset)
 std::vector<IdUseCL> OpenFileCL::IdsM()
 {
     std::vector<IdUseCL> ids;
-    for (int grammar = 0; grammar < static_cast<int>(allGrammars().size()); ++grammar) {
-        const bool isControl = allGrammars()[static_cast<std::size_t>(grammar)].owner == nullptr
-            && grammar != grammarOf(RelationHeader);
+    for (int grammar = 0; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
+        const bool isControl = slGrammars()[static_cast<std::size_t>(grammar)].owner == nullptr
+            && grammar != slGrammarOf(RelationHeader);
         std::vector<std::string> names;
         for (const FieldInfoCL& field : fieldsOf(grammar)) {
-            if (field.verb == Verb::Id) {
+            if (field.meant == Meant::Id) {
                 names.push_back(field.name);
             }
         }
-        EachValueM(grammar, [&](const ValuePlaceCL& place) {
+        EachValueM(grammar, [&](const ValueInTextCL& place) {
             for (const std::string& name : names) {
                 if (name == place.value->field && place.value->fate == Fate::Read) {
                     ids.push_back({ place, NumberM(*place.value), isControl });
@@ -100,10 +101,10 @@ std::string OpenFileCL::TextOfM(int grammar, int record)
         if (field == nullptr || value->fate != Fate::Read) {
             continue;
         }
-        if (field->verb == Verb::Caption) {
+        if (field->meant == Meant::Text) {
             return ReadingM().CutM(*value);
         }
-        name = name == nullptr && field->verb == Verb::Name ? value : name;
+        name = name == nullptr && field->meant == Meant::Picture ? value : name;
     }
     return name != nullptr ? ReadingM().CutM(*name) : "";
 }
@@ -116,4 +117,13 @@ SpanCL spanOf(const SeenValueCL& value)
 JsonTP textEdit(const OpenFileCL& file, SpanCL span, const std::string& text)
 {
     return { { "range", file.DocumentM().RangeM(span) }, { "newText", text } };
+}
+
+JsonTP textEdits(const OpenFileCL& file, const TextChangesTP& changes)
+{
+    JsonTP edits = JsonTP::array();
+    for (const TextChangeCL& change : changes) {
+        edits.push_back(textEdit(file, change.span, slGbkToUtf8(change.text.data(), change.text.size())));
+    }
+    return edits;
 }

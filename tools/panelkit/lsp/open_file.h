@@ -1,5 +1,6 @@
 #pragma once
 #include "document.h"
+#include "editing/text_changes.h"
 #include "file_reading.h"
 #include "findings.h"
 #include <memory>
@@ -13,7 +14,7 @@ struct AnalysisCL
 };
 
 // A value of a record in a text; grammar -1: none.
-struct ValuePlaceCL
+struct ValueInTextCL
 {
     int grammar { -1 };
     int record { -1 };
@@ -23,7 +24,7 @@ struct ValuePlaceCL
 // One function id in a text: of a control, or of who names it.
 struct IdUseCL
 {
-    ValuePlaceCL place;
+    ValueInTextCL place;
     int id;
     bool isControl;
 };
@@ -50,7 +51,7 @@ public:
 
     bool IsInSectionM(int grammar, std::size_t offset); // Of what the section has there, from its header on.
     int SectionAtM(std::size_t offset);                 // -1: none.
-    ValuePlaceCL ValueAtM(std::size_t offset);          // The value that reaches there.
+    ValueInTextCL ValueAtM(std::size_t offset);         // The value that reaches there.
     // Calls see(place) for each value that stands in its section.
     template <class SeeTP> void EachValueM(int grammar, SeeTP&& see)
     {
@@ -58,7 +59,7 @@ public:
         for (int record = 0; record < section.RecordsM(); ++record) {
             for (const SeenValueCL* value = section.FirstM(record); value != section.EndM(record); ++value) {
                 if (value->end > value->begin && value->end <= section.regionEnd) {
-                    see(ValuePlaceCL { grammar, record, value });
+                    see(ValueInTextCL { grammar, record, value });
                 }
             }
         }
@@ -73,5 +74,6 @@ private:
     bool isTold_ { false };
 };
 
-JsonTP textEdit(const OpenFileCL& file, SpanCL span, const std::string& text);
+JsonTP textEdit(const OpenFileCL& file, SpanCL span, const std::string& text); // UTF-8.
+JsonTP textEdits(const OpenFileCL& file, const TextChangesTP& changes);
 SpanCL spanOf(const SeenValueCL& value);

@@ -44,7 +44,7 @@ JsonTP symbol(const OpenFileCL& file, const std::string& name, const std::string
 std::string nameOfRecord(OpenFileCL& file, int grammar, int record)
 {
     const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
-    const char* const key = grammar == grammarOf(RelationHeader) ? "control" : "function_id";
+    const char* const key = grammar == slGrammarOf(RelationHeader) ? "control" : "function_id";
     const SeenValueCL* const id = section.FindM(record, key);
     const std::string words = file.TextOfM(grammar, record);
     if (grammar == DialogGrammar && !words.empty()) {
@@ -59,7 +59,7 @@ std::string nameOfRecord(OpenFileCL& file, int grammar, int record)
 JsonTP documentSymbols(OpenFileCL& file, const JsonTP&)
 {
     JsonTP symbols = JsonTP::array();
-    for (int grammar = 0; grammar < static_cast<int>(allGrammars().size()); ++grammar) {
+    for (int grammar = 0; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
         const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
         if (!section.IsThereM()) {
             continue;
@@ -90,7 +90,7 @@ JsonTP foldingRanges(OpenFileCL& file, const JsonTP&)
                 { { "startLine", range["start"]["line"] }, { "endLine", range["end"]["line"] } });
         }
     };
-    for (int grammar = 0; grammar < static_cast<int>(allGrammars().size()); ++grammar) {
+    for (int grammar = 0; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
         const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
         if (section.IsThereM()) {
             add(sectionSpan(file, section));

@@ -94,7 +94,7 @@ long long startView(const fs::path& file, const fs::path& mark, Language languag
 // The id of the control that a place belongs to; "" for none.
 std::string idAt(OpenFileCL& file, std::size_t offset)
 {
-    const ValuePlaceCL place = file.ValueAtM(offset);
+    const ValueInTextCL place = file.ValueAtM(offset);
     if (place.value == nullptr) {
         return "";
     }
