@@ -88,10 +88,14 @@ TEST(LspFixes, WhereOneIsClear)
         "write 1 (left); write 2 (left); write 3 (centred); write 4 (right); ");
     mends("160 0", "160 5", "bad-value", "write 0; write 1; ");
     mends("速\n", "速\n转速\n", "extra-lines", "delete the line; ");
-    EXPECT_EQ(fixed(client, replaced(Combo, "[下拉列表框初始值]\n2\n0\n3001 自动\n3001 手动\n", ""),
-                  "missing-secondary")
-                  .text,
-        replaced(Combo, "2\n0\n3001 自动\n3001 手动\n", "0\n"));
+    const std::string entries = "2\n0\n3001 自动\n3001 手动\n";
+    const std::string added
+        = fixed(client, replaced(Combo, "[下拉列表框初始值]\n" + entries, ""), "missing-secondary").text;
+    EXPECT_NE(added.find("[下拉列表框初始值]\n0\n1\n"), std::string::npos) << added;
+    EditedTextCL text(client, Path, slUtf8ToGbk(added));
+    for (const LspJson& finding : text.FindingsM()) {
+        EXPECT_NE(finding["severity"], 1) << finding;
+    }
 }
 
 TEST(LspLinks, FromEntriesToTheRecordAndBack)

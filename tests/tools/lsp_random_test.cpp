@@ -17,6 +17,8 @@ constexpr int Edits = 2000; // Both are slow, and memory says nothing there.
 constexpr int Edits = 10000;
 #endif
 
+constexpr std::size_t MostText = 4000;
+
 // A random description of characters that both codes have, with plain line ends.
 std::u16string startingText()
 {
@@ -24,7 +26,7 @@ std::u16string startingText()
     const std::u16string wide = slGbkToUtf16(gbk.data(), gbk.size());
     std::string text = slUtf16ToGbk(wide.data(), wide.size());
     text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
-    return slGbkToUtf16(text.data(), text.size()).substr(0, 12000);
+    return slGbkToUtf16(text.data(), text.size()).substr(0, MostText);
 }
 
 class TypistCL
@@ -39,7 +41,7 @@ public:
         static const std::u16string Typed[] { u"1", u" ", u"\n", u"23", u"标", u"[标题]", u"\n2\n0\n",
             u"-1 0 0", u"NULL", u"x", u"3001 自动\n", u"１", u"€" };
         const std::size_t at = belowM(text_.text.size() + 1);
-        const bool isLong = text_.text.size() > 12000;
+        const bool isLong = text_.text.size() > MostText;
         const std::size_t most = isLong ? 40 : 6;
         const std::size_t length = belowM(3) == 0 || isLong ? belowM(most) : 0;
         text_.TypeM(
