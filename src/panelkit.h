@@ -18,3 +18,5 @@
 #include "pictures/bmp_reader.h"
 #include "pictures/bmp_record.h"
 #include "pictures/region_functions.h"
+#include "pictures/resampling.h"
+#include "records/scaling.h"

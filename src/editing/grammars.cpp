@@ -1,6 +1,7 @@
 #include "editing/grammars.h"
 #include "baselib/gbk_texts.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "dialog/relation.h"
@@ -47,6 +48,12 @@ void visitRelation(FieldVisitorCL& visitor, int)
     relation.EachFieldM(visitor);
 }
 
+void visitBinding(FieldVisitorCL& visitor, int)
+{
+    BindingCL binding;
+    binding.EachFieldM(visitor);
+}
+
 void visitNewRotateButton(FieldVisitorCL& visitor, int flags)
 {
     DVrNewRotateBtnCL record(AliveTag);
@@ -71,6 +78,7 @@ std::vector<GrammarCL> makeGrammars()
             all, std::make_index_sequence<std::tuple_size_v<decltype(RecordsTP::Secondaries)>>());
     });
     all.push_back({ RelationHeader, nullptr, HeadKind::Counted, &visitRelation, nullptr, "control" });
+    all.push_back({ BindingHeader, nullptr, HeadKind::Counted, &visitBinding, nullptr, "control" });
     all.push_back(
         { NewRotateBtnHeader, nullptr, HeadKind::Signed, &visitNewRotateButton, nullptr, "function_id" });
     all.push_back({ NewRotateBtnBitmapHeader, NewRotateBtnHeader, HeadKind::Signed, &visitSlotPicture });

@@ -91,6 +91,7 @@ public:
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
+        checkBindings(file_, controls_, pictures_, findings_);
         checkPlaces(file_, controls_, findings_);
 #ifdef _WIN32
         checkCaptions(file_, controls_, findings_);

@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "editing/seen_sections.h"
@@ -34,6 +35,7 @@ public:
     bool HasDialogM() const { return hasDialog_; }
     DialogHeaderCL& DialogM() { return dialog_; }
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
+    std::vector<BindingCL>& BindingsM() { return bindings_; }
     template <class RecordsTP> RecordsTP& RecordsM() { return std::get<RecordsTP>(records_); }
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
@@ -56,6 +58,7 @@ private:
     SeenSectionsCL seen_;
     AllRecordsTP records_;
     DVrNewRotateBtnArr newRotateButtons_;
+    std::vector<BindingCL> bindings_;
     DialogHeaderCL dialog_;
     bool hasDialog_ { false };
     bool hasStrayText_ { false };
