@@ -4,9 +4,5 @@
 
 JsonTP formattingEdits(OpenFileCL& file, const JsonTP&)
 {
-    JsonTP edits = JsonTP::array();
-    for (const BlanksCL& change : blanksToChange(file.AnalysisM().text)) {
-        edits.push_back(textEdit(file, change.span, std::string(change.spaces, ' ')));
-    }
-    return edits;
+    return textEdits(file, blanksToChange(file.AnalysisM().text));
 }
