@@ -2,9 +2,11 @@
 #include "baselib/gbk_texts.h"
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "dialog/relation.h"
+#include "editing/grammars.h"
 #include "support/description.h"
 #include "support/seen_file.h"
 #include "tools/lsp_client.h"
@@ -30,6 +32,7 @@ SeenFileCL seenIn(const std::string& gbk)
         slReadSection(io, records, &count);
     });
     slReadRelations(io, nullptr);
+    slReadBindings(io, nullptr);
     DVrNewRotateBtnArr().FmReadInterfaceM(&io);
     return seen;
 }
@@ -108,8 +111,7 @@ std::string withId(
     for (const auto& place : seen.values) {
         for (const ValueSeenCL& value : place.second) {
             const std::string field = value.field;
-            const bool isId = field == "function_id" || field == "spin_function_id"
-                || (field == "control" && place.first.first == RelationHeader);
+            const bool isId = field == "function_id" || field == "spin_function_id" || field == "control";
             if (isId && gbk.substr(value.span.begin, value.span.end - value.span.begin) == id) {
                 places[value.span.begin] = value.span.end;
             }
@@ -255,25 +257,11 @@ private:
 std::map<std::string, LayoutCL> allLayouts()
 {
     std::map<std::string, LayoutCL> all;
-    DialogHeaderCL dialog;
-    dialog.EachFieldM(all[DialogHeader]);
-    RelationCL relation;
-    relation.EachFieldM(all[RelationHeader]);
-    DVrNewRotateBtnCL button(AliveTag);
-    button.EachCommonFieldM(all[NewRotateBtnHeader], 1);
-    button.EachFieldM(all[NewRotateBtnHeader]);
-    SlotPictureCL picture;
-    picture.EachFieldM(all[NewRotateBtnBitmapHeader]);
-    slEachKind([&](auto row) {
-        using RecordsTP = typename decltype(row)::Records;
-        typename RecordsTP::RecordTP record(AliveTag);
-        record.EachCommonFieldM(all[RecordsTP::Header]);
-        record.EachFieldM(all[RecordsTP::Header]);
-        for (const auto& secondary : RecordsTP::Secondaries) {
-            SectionEntryCL entry;
-            entry.EachFieldM(all[secondary.header], secondary.fields);
+    for (const GrammarCL& grammar : slGrammars()) {
+        if (grammar.head != HeadKind::Line) {
+            grammar.visit(all[grammar.header], HasShowCondition | HasDescription);
         }
-    });
+    }
     return all;
 }
 
@@ -282,7 +270,7 @@ std::map<std::string, LayoutCL> allLayouts()
 TEST(Lsp, HintsAndHoverTellTheLayout)
 {
     LspClientCL client;
-    const std::string gbk = wholeFile(sample("every_kind.dlg"));
+    const std::string gbk = wholeFile(sample("every_kind.dlg")) + BindingHeader + "\n1\n0\n103 0 1 2 0\n";
     EditedTextCL text(client, sample("every_kind.dlg"), gbk);
     const LspJson hints = text.AskM("inlayHint", { { "range", text.RangeM(0, text.text.size()) } });
     std::map<std::pair<int, int>, std::string> labelAt;

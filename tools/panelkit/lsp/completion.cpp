@@ -125,7 +125,7 @@ private:
     void addIdsM()
     {
         const char* const owner = slGrammars()[static_cast<std::size_t>(grammar_)].owner;
-        const bool isRelation = grammar_ == slGrammarOf(RelationHeader);
+        const bool isRelation = slGrammars()[static_cast<std::size_t>(grammar_)].NamesControlsM();
         int largest = 2; // OK and Cancel have 1 and 2.
         std::set<int> added;
         for (const IdUseCL& use : file_.IdsM()) {

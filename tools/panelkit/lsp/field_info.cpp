@@ -119,6 +119,7 @@ std::string nameOf(const GrammarCL& grammar)
     std::string name = is(VersionHeader) ? "version"
         : is(DialogHeader)               ? "dialog"
         : is(RelationHeader)             ? "relation"
+        : is(BindingHeader)              ? "binding"
                                          : "new rotate button";
     slEachKind([&](auto row) {
         using RecordsTP = typename decltype(row)::Records;

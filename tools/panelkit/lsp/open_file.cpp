@@ -65,8 +65,8 @@ std::vector<IdUseCL> OpenFileCL::IdsM()
 {
     std::vector<IdUseCL> ids;
     for (int grammar = 0; grammar < static_cast<int>(slGrammars().size()); ++grammar) {
-        const bool isControl = slGrammars()[static_cast<std::size_t>(grammar)].owner == nullptr
-            && grammar != slGrammarOf(RelationHeader);
+        const GrammarCL& section = slGrammars()[static_cast<std::size_t>(grammar)];
+        const bool isControl = section.owner == nullptr && !section.NamesControlsM();
         std::vector<std::string> names;
         for (const FieldInfoCL& field : fieldsOf(grammar)) {
             if (field.meant == Meant::Id) {

@@ -44,8 +44,8 @@ JsonTP symbol(const OpenFileCL& file, const std::string& name, const std::string
 std::string nameOfRecord(OpenFileCL& file, int grammar, int record)
 {
     const SeenSectionCL& section = file.ReadingM().SectionM(grammar);
-    const char* const key = grammar == slGrammarOf(RelationHeader) ? "control" : "function_id";
-    const SeenValueCL* const id = section.FindM(record, key);
+    const char* const key = slGrammars()[static_cast<std::size_t>(grammar)].idField;
+    const SeenValueCL* const id = key != nullptr ? section.FindM(record, key) : nullptr;
     const std::string words = file.TextOfM(grammar, record);
     if (grammar == DialogGrammar && !words.empty()) {
         return words; // There is one only.
