@@ -19,6 +19,15 @@ inline void tellRatio(
     tell(name, median(mine) / median(other), "x");
 }
 
+// How many times as fast as the plain version.
+inline void tellSpeedup(
+    const std::string& name, const std::vector<double>& plain, const std::vector<double>& mine)
+{
+    std::fprintf(
+        stderr, "%s: plain %.1f ms, %.1f ms\n", name.c_str(), median(plain) * 1000, median(mine) * 1000);
+    tell(name, median(plain) / median(mine), "x", "higher");
+}
+
 template <class FunctionTP> double secondsOf(FunctionTP&& run)
 {
     const auto begin = std::chrono::steady_clock::now();
