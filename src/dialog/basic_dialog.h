@@ -242,6 +242,7 @@ private:
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
+    void setItemFontM(CWnd* parent, bool isShown);
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;

@@ -147,3 +147,9 @@ void DuBasicDialogCL::setTxtLstBoxItemHeightM()
         }
     });
 }
+
+void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), isShown);
+}

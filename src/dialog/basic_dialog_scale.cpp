@@ -176,8 +176,7 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
         io.OpenM(configFile_, "r");
         slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });
     }
-    int siblings = 0;
-    setItemFontM(stepsM(CWnd::FromHandle(window), &siblings), false);
+    setItemFontM(CWnd::FromHandle(window), false);
     setTxtLstBoxItemHeightM();
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
