@@ -1,9 +1,7 @@
 #include "editing/editor_state.h"
-#include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
 #include <algorithm>
 #include <climits>
-#include <cstring>
 
 namespace {
 
@@ -38,8 +36,7 @@ std::vector<std::vector<std::string>> makeIdFields()
 
 bool isOfControls(const GrammarCL& grammar)
 {
-    return grammar.owner == nullptr && grammar.idField != nullptr
-        && std::strcmp(grammar.header, RelationHeader) != 0;
+    return grammar.owner == nullptr && grammar.idField != nullptr && !grammar.NamesControlsM();
 }
 
 EditorStateCL::EditorStateCL(std::string_view bytes)
@@ -203,7 +200,7 @@ bool EditorStateCL::EachDependantM(const EditPlanCL& plan, int grammar, int reco
     const bool isOnly = controlsWithM(id) == 1;
     for (std::size_t i = 0; i < slGrammars().size(); ++i) {
         const GrammarCL& other = slGrammars()[i];
-        const bool isRelation = std::strcmp(other.header, RelationHeader) == 0;
+        const bool isRelation = other.NamesControlsM();
         const bool isEntry = other.owner == grammarAt(grammar).header;
         const auto place = static_cast<int>(i);
         if (!(isRelation ? isOnly : isEntry) || !seen_.AtM(place).IsThereM()) {

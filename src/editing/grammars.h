@@ -1,5 +1,6 @@
 #pragma once
 #include "records/rows.h"
+#include <string_view>
 #include <vector>
 
 class VrIOCL;
@@ -32,6 +33,11 @@ struct GrammarCL
         nullptr
     }; // Of a secondary section: the fields of its entries behind the id; else null.
     const char* idField { nullptr }; // The field with the id of a control: its own, or whose entry it is.
+    // Whether its records are about controls of any section.
+    bool NamesControlsM() const
+    {
+        return owner == nullptr && idField != nullptr && std::string_view(idField) == "control";
+    }
 };
 
 // All sections that a file may have, in the order of reading; the first two must be there.

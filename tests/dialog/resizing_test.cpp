@@ -46,16 +46,19 @@ std::string bindings()
     return all;
 }
 
-// A dialog with a control of each kind, each where it stands when the dialog has grown so.
-std::string everyKind(const std::string& picture, const GrowthCL& growth, int width, int height)
+const GrowthCL NoGrowth({ 1, 1 }, 1, 1);
+
+// A dialog with a control of each kind, each where it stands when the dialog has grown so. field: the height
+// of a closed combo box.
+std::string everyKind(const std::string& picture, const GrowthCL& growth = NoGrowth, int width = 420,
+    int height = 260, int field = 20)
 {
-    const auto at = [&growth](const char* id, int x, int y, int w, int h) {
+    const auto at = [&growth, field](const char* id, int x, int y, int w, int h) {
         const bool isPicture = id[0] == '3' && (id[1] == '2' || id[1] == '3' || id[1] == '4');
-        constexpr int FieldHeight = 20; // About that of a closed combo box.
         const bool isCombo = std::string(id) == "18";
-        EdgesCL edges = slBoundEdges({ x, y, x + w, y + (isCombo ? FieldHeight : h) }, bindingOf(id), growth,
+        EdgesCL edges = slBoundEdges({ x, y, x + w, y + (isCombo ? field : h) }, bindingOf(id), growth,
             { isPicture, isPicture || isCombo });
-        edges.bottom += isCombo ? h - FieldHeight : 0;
+        edges.bottom += isCombo ? h - field : 0;
         return "1 " + std::string(id) + " " + std::to_string(edges.left) + " " + std::to_string(edges.top)
             + " " + std::to_string(edges.right - edges.left) + " " + std::to_string(edges.bottom - edges.top)
             + " ";
@@ -84,8 +87,6 @@ std::string everyKind(const std::string& picture, const GrowthCL& growth, int wi
         + at("37", 160, 150, 50, 50) + "3 1\n[特殊动画控件位图]\n1\n0\n37 " + picture
         + "\n[二维绘图控件]\n1\n0\n" + at("38", 220, 145, 60, 70) + "10 90 200\n";
 }
-
-const GrowthCL NoGrowth({ 1, 1 }, 1, 1);
 
 class ResizedDialogCL : public TestDialogCL
 {
@@ -217,8 +218,11 @@ TEST(Resizing, TheUserDragsTheFrame)
 TEST(Resizing, EveryKindLooksAsIfTheFileHadItThere)
 {
     const SmallPictureCL picture(0x0000FF, 20, 20);
-    ResizedDialogCL dialog(everyKind(picture.path(), NoGrowth, 420, 260) + bindings());
+    ResizedDialogCL dialog(everyKind(picture.path()) + bindings());
     const SIZE file = dialog.ClientM();
+    RECT closed {};
+    ::GetWindowRect(dialog.ItemM(18), &closed);
+    const int field = static_cast<int>(closed.bottom - closed.top);
     dialog.ShowM();
     const SIZE more[] = { { 57, 0 }, { 120, 91 }, { -150, -60 }, { -27, -31 } };
     for (const SIZE& by : more) {
@@ -229,10 +233,13 @@ TEST(Resizing, EveryKindLooksAsIfTheFileHadItThere)
         const GrowthCL growth({ static_cast<int>(file.cx), static_cast<int>(file.cy) },
             static_cast<int>(now.cx), static_cast<int>(now.cy));
         dialog.ShowWindow(SW_HIDE);
-        ResizedDialogCL there(everyKind(picture.path(), growth, 420 + growth.more[0], 260 + growth.more[1]));
+        ResizedDialogCL there(
+            everyKind(picture.path(), growth, 420 + growth.more[0], 260 + growth.more[1], field));
         there.ShowM();
         ASSERT_EQ(textOf(there.ClientM()), textOf(now));
         const Pixels wanted(there.m_hWnd);
+        seen.SavePngM(L"Z:\\tmp\\wt\\stretch_a" + std::to_wstring(by.cx) + L".png");
+        wanted.SavePngM(L"Z:\\tmp\\wt\\stretch_b" + std::to_wstring(by.cx) + L".png");
         EXPECT_EQ(seen.DifferencesM(wanted), 0) << by.cx << " " << by.cy;
         for (const std::string id : BoundIds) {
             EXPECT_EQ(dialog.PlaceM(std::stoi(id)), there.PlaceM(std::stoi(id))) << id;
@@ -302,7 +309,7 @@ END_MESSAGE_MAP()
 TEST(Resizing, WhatPaintsItselfIsNotErasedBefore)
 {
     const SmallPictureCL picture(0x0000FF, 20, 20);
-    ErasedDialogCL dialog(everyKind(picture.path(), NoGrowth, 420, 260) + bindings());
+    ErasedDialogCL dialog(everyKind(picture.path()) + bindings());
     dialog.ShowM();
     dialog.erased.clear();
     dialog.GrowM(40, 40);
@@ -321,7 +328,7 @@ TEST(Resizing, WhatPaintsItselfIsNotErasedBefore)
 TEST(Resizing, TheApplicationHearsOfTheSizeWhenTheControlsHaveMoved)
 {
     const SmallPictureCL picture(0x0000FF, 20, 20);
-    ErasedDialogCL dialog(everyKind(picture.path(), NoGrowth, 420, 260) + bindings());
+    ErasedDialogCL dialog(everyKind(picture.path()) + bindings());
     dialog.GrowM(40, 30);
     EXPECT_EQ(dialog.seenBySize, "390 230 20 20");
 }
@@ -422,5 +429,5 @@ TEST(Resizing, ABindingOfNoControlIsTold)
         &told);
     dialog.SetConfigFileM(file.path());
     ASSERT_EQ(dialog.CreateM(), 1);
-    EXPECT_EQ(told, "21 unknown-id; ");
+    EXPECT_EQ(told, "23 unknown-id; ");
 }

@@ -45,7 +45,8 @@ struct CheckOptionsCL
     std::string textLanguage;       // That captions are measured in; empty: as in the file.
     bool isStrict { false };        // Warnings count too.
 };
-int checkCommand(const CheckOptionsCL& options); // 0, 1 with findings, CannotUse.
+int checkCommand(const CheckOptionsCL& options);   // 0, 1 with findings, CannotUse.
+int checkUnderWine(const CheckOptionsCL& options); // Linux only: the same by panelkit.exe.
 // For who shows a file: says on standard error what check finds in it, errors alone unless strict, with the
 // file as `said`. True when the exit code must be 1 for that. Says nothing of a file that can't be read.
 bool sayFindings(const std::string& file, const std::string& said, const ShowOptionsCL& options);

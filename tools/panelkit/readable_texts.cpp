@@ -48,8 +48,11 @@ private:
                 captionsM(control);
             }
         }
-        for (std::size_t i = 0; i < std::tuple_size_v<decltype(RecordsTP::Secondaries)>; ++i) {
-            entriesM(grammar + 1 + static_cast<int>(i));
+        for (const auto& secondary : RecordsTP::Secondaries) {
+            // Cells are what the application reads and writes.
+            if (std::strcmp(secondary.header, ListCtrlItemHeader) != 0) {
+                entriesM(slGrammarOf(secondary.header));
+            }
         }
     }
     void captionsM(const ReadableTextCL& control)

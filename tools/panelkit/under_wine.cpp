@@ -105,6 +105,23 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
 
 } // namespace
 
+int checkUnderWine(const CheckOptionsCL& options)
+{
+    std::vector<std::string> words { "check", "--language=" + options.textLanguage,
+        "--format=" + options.format,
+        languageOf(options.language) == Language::Chinese ? "--lang=zh" : "--lang=en" };
+    if (options.isStrict) {
+        words.emplace_back("--strict");
+    }
+    for (const std::string& file : options.files) {
+        words.push_back("--as=" + file);
+    }
+    words.emplace_back("--");
+    std::transform(options.files.begin(), options.files.end(), std::back_inserter(words),
+        [](const std::string& file) { return file == "-" ? file : underWine(file); });
+    return start(std::move(words), Display::OurOwn, [] { return 0; });
+}
+
 int inspectCommand(const ShowOptionsCL& options)
 {
     return startOn({ "inspect" }, options, Display::OurOwn);
