@@ -1,6 +1,5 @@
 // The passes over all controls once they exist: stacking order and font.
 #include "dialog/basic_dialog.h"
-#include "dialog/dialog_font.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
@@ -133,9 +132,7 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 
 void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
-    const LOGFONTA font = slDialogFont(header_.fontOption);
-    font_.DeleteObject();
-    font_.CreateFontIndirect(&font);
+    makeFontM();
     for (const StepCL& step : steps) {
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);

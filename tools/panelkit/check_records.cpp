@@ -81,9 +81,9 @@ public:
     {
         dialogM();
         std::size_t records = 0;
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const auto sound = static_cast<std::size_t>(file_.SectionM(static_cast<int>(i)).soundRecords);
-            records += allGrammars()[i].owner == nullptr ? sound : 0;
+            records += slGrammars()[i].owner == nullptr ? sound : 0;
         }
         controls_.reserve(records);
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
@@ -91,6 +91,7 @@ public:
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
+        checkBindings(file_, controls_, pictures_, findings_);
         checkPlaces(file_, controls_, findings_);
 #ifdef _WIN32
         checkCaptions(file_, controls_, findings_);
@@ -111,7 +112,7 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        const int grammar = grammarOf(RecordsTP::Header);
+        const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         std::unordered_map<int, std::size_t> entries;
         if constexpr (RowTP::Code == MultiStateButtonCode) {
@@ -138,7 +139,7 @@ private:
     }
     void newRotateButtonsM()
     {
-        const int grammar = grammarOf(NewRotateBtnHeader);
+        const int grammar = slGrammarOf(NewRotateBtnHeader);
         const SeenSectionCL& section = file_.SectionM(grammar);
         DVrNewRotateBtnArr& records = file_.NewRotateButtonsM();
         for (int i = 0; i < section.soundRecords; ++i) {

@@ -33,7 +33,7 @@ private:
     {
         using RecordsTP = typename RowTP::Records;
         auto& records = file_.RecordsM<RecordsTP>();
-        const int grammar = grammarOf(RecordsTP::Header);
+        const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         owners_.clear();
         for (int i = 0; i < section.RecordsM(); ++i) {
@@ -63,7 +63,7 @@ private:
     void entriesM(int grammar)
     {
         const SeenSectionCL& section = file_.SectionM(grammar);
-        const RowShapeCL shape(allGrammars()[static_cast<std::size_t>(grammar)]);
+        const RowShapeCL shape(slGrammars()[static_cast<std::size_t>(grammar)]);
         for (int i = 0; i < section.RecordsM(); ++i) {
             const auto owner = owners_.find(file_.NumberM(section, i, "function_id"));
             if (owner == owners_.end()) {

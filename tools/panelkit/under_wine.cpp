@@ -82,8 +82,14 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     if (std::none_of(options.files.begin(), options.files.end(), isReadable)) {
         return onEachFile(options, [](const OpenedFileCL&) { return 0; });
     }
+    if (options.scale != 0) {
+        words.push_back("--scale=" + std::to_string(options.scale));
+    }
     for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
+    }
+    if (!options.textLanguage.empty()) {
+        words.push_back("--language=" + options.textLanguage);
     }
     words.insert(words.end(), { "--checked", "--" });
     std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
@@ -130,6 +136,10 @@ int shotCommand(const ShotOptionsCL& options)
     std::vector<std::string> words { "shot" };
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
+    }
+    if (options.width > 0) {
+        words.insert(
+            words.end(), { "--size", std::to_string(options.width), std::to_string(options.height) });
     }
     if (options.showsIds) {
         words.emplace_back("--ids");

@@ -1,4 +1,5 @@
 #pragma once
+#include "pictures/picture_scale.h"
 #include "toolkit/toolkit.h"
 #include <string>
 #include <unordered_map>
@@ -10,7 +11,9 @@
 class TreePicturesCL
 {
 public:
-    explicit TreePicturesCL(CImageList& images);
+    // files: where an image comes from is noted there, for each image to come a file, and the empty text for
+    // the second and further ones of a file; null: nowhere.
+    TreePicturesCL(CImageList& images, const PictureScaleCL& scale, std::vector<std::string>* files);
     TreePicturesCL(const TreePicturesCL&) = delete;
     TreePicturesCL& operator=(const TreePicturesCL&) = delete;
     ~TreePicturesCL(); // Puts the images into the list.
@@ -20,8 +23,11 @@ public:
     int AddM(const char* file);
 
     // Adds the images of a file to a list, with black as the mask colour: the index of the first, or -1.
-    static int AddFileM(CImageList& images, const char* file);
-    static BOOL CreateListM(CImageList& images); // An empty one as trees have it.
+    static int AddFileM(CImageList& images, const char* file, const PictureScaleCL& scale);
+    // An empty one as trees have it at that scale.
+    static BOOL CreateListM(CImageList& images, const PictureScaleCL& scale);
+    // Notes so many images of a file.
+    static void NoteM(std::vector<std::string>* files, const char* file, int count);
 
 private:
     struct PictureCL
@@ -32,6 +38,9 @@ private:
     void addStripM(size_t from, size_t to);
 
     CImageList& images_;
+    const PictureScaleCL scale_;
+    const int side_;
+    std::vector<std::string>* files_;
     CImageList distinct_; // The images of each file, once.
     std::unordered_map<std::string, PictureCL> known_;
     std::vector<int> added_; // For each image to come its index in distinct_.
