@@ -53,6 +53,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/translation.cpp
   editing/description_editor.cpp
   editing/edit_plan.cpp
+  editing/editor_operations.cpp
   editing/editor_state.cpp
   editing/grammars.cpp
   editing/record_lines.cpp

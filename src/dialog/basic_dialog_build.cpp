@@ -12,7 +12,6 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     scale_ = ScaleCL(wantedScaleM());
     bound_ = {};
     const DialogStretchCL before = stretch_.OfM(builtIn_);
-    std::vector<BindingCL> bindings;
     bool isBound = false;
     beginDiagnosticsM();
     translation_.ReadM(configFile_);
@@ -24,12 +23,12 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
-        isBound = readBindingsM(io, bindings);
+        isBound = readBindingsM(io);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
     if (isBound) {
-        bindM(bindings, before, mode);
+        bindM(before);
     }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
@@ -51,8 +50,7 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
     }
     background_.DropM(); // Perhaps another file's.
     if (!header_.background.EmptyM()) {
-        const PictureScaleCL scale(scale_, { 0, 0 });
-        background_.LoadScaledM(header_.background.TextM(), isScaledM() ? scale : PictureScaleCL());
+        background_.LoadScaledM(header_.background.TextM(), PictureScaleCL(scale_, { 0, 0 }));
     }
     if (mode == 1) {
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
@@ -71,6 +69,7 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
         if (isScaledM()) {
             sizeWindowM(parent->m_hWnd);
         }
+        noteSizeM(parent->m_hWnd);
     }
 }
 
@@ -138,7 +137,7 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             controls.StandInM(
                 i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
         }
-        if (isScaledM() && records.CheckAvailableM(i) == 1) {
+        if (records.CheckAvailableM(i) == 1) {
             auto& record = records.ElementAtM(i);
             controls.ControlAtM(i).SetPictureScaleM({ scale_, record.GetPositionM() });
             slScaleRecord(record, scale_);

@@ -58,8 +58,12 @@ int DuBasicDialogCL::wantedScaleM() const
 // and the frame that it has. dpi: of its monitor.
 CSize DuBasicDialogCL::windowSizeM(HWND window, const ScaleCL& scale, int dpi) const
 {
-    const CSize plain = slFrameOf(window, PlainDpi);
     const CSize frame = slFrameOf(window, dpi);
+    if (bound_.isOwn) { // The frame is not the file's.
+        return { slWindowLength(stretch_.OfM(0, scale.PlaceM(bound_.plainSize[0])) + frame.cx),
+            slWindowLength(stretch_.OfM(1, scale.PlaceM(bound_.plainSize[1])) + frame.cy) };
+    }
+    const CSize plain = slFrameOf(window, PlainDpi);
     return { slWindowLength(scale.PlaceM(header_.size[0] - plain.cx) + frame.cx),
         slWindowLength(scale.PlaceM(header_.size[1] - plain.cy) + frame.cy) };
 }
@@ -69,6 +73,10 @@ void DuBasicDialogCL::sizeWindowM(HWND window)
 {
     const CSize size = windowSizeM(window, scale_, slDpiOf(window));
     ::SetWindowPos(window, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void DuBasicDialogCL::noteSizeM(HWND window)
+{
     CRect now;
     ::GetWindowRect(window, &now);
     builtSize_ = now.Size();
@@ -96,6 +104,33 @@ void DuBasicDialogCL::makeFontM()
     const LOGFONTA font = slDialogFont(slFittingFontOption(header_.fontOption, scale_, captions));
     font_.DeleteObject();
     font_.CreateFontIndirect(&font);
+}
+
+// Trees keep the font that the system gives them; here it grows like that of the others.
+void DuBasicDialogCL::giveTreeFontsM()
+{
+    const bool hadFont = treeFont_.GetSafeHandle() != nullptr;
+    if (scale_.PercentM() == 100 && !hadFont) {
+        return;
+    }
+    CFont font;
+    LOGFONTW system {};
+    const int dpi = slDpiOf(nullptr);
+    if (!::SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0)) {
+        return;
+    }
+    system.lfHeight = scale_.SizeM(::MulDiv(static_cast<int>(system.lfHeight), PlainDpi, dpi));
+    font.CreateFontIndirect(&system);
+    eachControlsM([&font](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == TreeCode) {
+            for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+                ::SendMessageW(controls.ControlAtM(i).GetSafeHwnd(), WM_SETFONT,
+                    reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
+            }
+        }
+    });
+    treeFont_.DeleteObject();
+    treeFont_.Attach(font.Detach());
 }
 
 // A control that the application has moved stays there, in proportion. All others get the edges that they
@@ -159,6 +194,9 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, FALSE, 0);
     }
+    const DialogStretchCL stretch = stretch_;
+    const bool wasBound = unbindM();
+    stretch_ = stretch;
     scale_ = ScaleCL(percent);
     if (mode_ == 1) {
         if (suggested != nullptr) {
@@ -166,8 +204,9 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
                 suggested->right - suggested->left, suggested->bottom - suggested->top,
                 SWP_NOZORDER | SWP_NOACTIVATE);
         }
-        if (isFileSized_) {
+        if (isFileSized_ && !::IsZoomed(window)) {
             sizeWindowM(window);
+            noteSizeM(window);
         }
     }
     background_.RescaleM(PictureScaleCL(scale_, { 0, 0 }));
@@ -178,6 +217,9 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
     }
     setItemFontM(CWnd::FromHandle(window), false);
     setTxtLstBoxItemHeightM();
+    if (wasBound) {
+        bindAgainM(stretch);
+    }
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
         ::RedrawWindow(window, nullptr, nullptr,
@@ -190,7 +232,7 @@ bool DuBasicDialogCL::hasFileSizeM(HWND window) const
 {
     CRect now;
     ::GetWindowRect(window, &now);
-    return now.Size() == builtSize_;
+    return bound_.isOwn || now.Size() == builtSize_; // What is bound goes on having it in proportion.
 }
 
 // The system asks how large the window wants to be on another monitor, and says when it is there.

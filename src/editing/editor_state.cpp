@@ -1,14 +1,10 @@
 #include "editing/editor_state.h"
+#include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
 #include <algorithm>
 #include <climits>
 
 namespace {
-
-const GrammarCL& grammarAt(int grammar)
-{
-    return slGrammars()[static_cast<std::size_t>(grammar)];
-}
 
 int numberIn(std::string_view text)
 {
@@ -41,22 +37,26 @@ bool isOfControls(const GrammarCL& grammar)
 
 EditorStateCL::EditorStateCL(std::string_view bytes)
     : text_(std::make_shared<const FileTextCL>(bytes))
-    , seen_(slReadSections(text_))
 {
 }
 
-void EditorStateCL::takeM(std::shared_ptr<const FileTextCL> text, SeenSectionsCL seen)
+const SeenSectionsCL& EditorStateCL::SeenM() const
 {
-    text_ = std::move(text);
-    seen_ = std::move(seen);
+    if (!seen_) {
+        seen_ = slReadSections(text_);
+    }
+    return *seen_;
 }
 
 EditResult EditorStateCL::DoM(TextChangesTP changes, const EditPlanCL* plan)
 {
     const auto after = std::make_shared<const FileTextCL>(slWithChanges(BytesM(), changes));
-    SeenSectionsCL read = slReadSections(after);
-    if (plan != nullptr && !plan->IsMetM(*after, read)) {
-        return EditResult::Misread;
+    std::optional<SeenSectionsCL> read;
+    if (plan != nullptr) {
+        read = slReadSections(after);
+        if (!plan->IsMetM(*after, *read)) {
+            return EditResult::Misread;
+        }
     }
     changes_ = std::move(changes);
     if (changes_.empty()) {
@@ -65,14 +65,15 @@ EditResult EditorStateCL::DoM(TextChangesTP changes, const EditPlanCL* plan)
     steps_.resize(stepsDone_);
     steps_.push_back({ changes_, slUndoing(BytesM(), changes_) });
     ++stepsDone_;
-    takeM(after, std::move(read));
+    text_ = after;
+    seen_ = std::move(read);
     return EditResult::Done;
 }
 
 void EditorStateCL::goM(const TextChangesTP& changes)
 {
-    const auto after = std::make_shared<const FileTextCL>(slWithChanges(BytesM(), changes));
-    takeM(after, slReadSections(after));
+    text_ = std::make_shared<const FileTextCL>(slWithChanges(BytesM(), changes));
+    seen_.reset();
     changes_ = changes;
 }
 
@@ -97,21 +98,21 @@ bool EditorStateCL::RedoM()
 int EditorStateCL::SectionAtM(const RecordPlaceCL& place) const
 {
     const int grammar = slGrammarOf(place.section);
-    const bool isThere = grammar >= 0 && grammarAt(grammar).head != HeadKind::Line && place.record >= 0
-        && place.record <= seen_.AtM(grammar).RecordsM();
+    const bool isThere = grammar >= 0 && grammarOf(grammar).head != HeadKind::Line && place.record >= 0
+        && place.record <= SeenM().AtM(grammar).RecordsM();
     return isThere ? grammar : -1;
 }
 
 int EditorStateCL::RecordAtM(const RecordPlaceCL& place) const
 {
     const int grammar = SectionAtM(place);
-    return grammar >= 0 && place.record < seen_.AtM(grammar).RecordsM() ? grammar : -1;
+    return grammar >= 0 && place.record < SeenM().AtM(grammar).RecordsM() ? grammar : -1;
 }
 
 int EditorStateCL::FlagsM(int grammar) const
 {
-    const SectionSeenCL& head = seen_.AtM(grammar).head;
-    if (grammarAt(grammar).head != HeadKind::Signed || grammarAt(grammar).owner != nullptr) {
+    const SectionSeenCL& head = SeenM().AtM(grammar).head;
+    if (grammarOf(grammar).head != HeadKind::Signed || grammarOf(grammar).owner != nullptr) {
         return 0;
     }
     return (numberIn(text_->CutM(head.commentCount)) < 0 ? HasShowCondition : 0)
@@ -126,7 +127,7 @@ std::vector<int> EditorStateCL::IdsM() const
         if (Fields[i].empty()) {
             continue;
         }
-        for (const SeenValueCL& value : seen_.AtM(static_cast<int>(i)).values) {
+        for (const SeenValueCL& value : SeenM().AtM(static_cast<int>(i)).values) {
             if (!value.IsAbsentM()
                 && std::find(Fields[i].begin(), Fields[i].end(), value.field) != Fields[i].end()) {
                 ids.push_back(numberIn(text_->CutM(value.SpanM())));
@@ -153,7 +154,7 @@ int EditorStateCL::NextIndexM() const
     int highest = 0;
     for (std::size_t i = 0; i < slGrammars().size(); ++i) {
         const auto grammar = static_cast<int>(i);
-        for (int record = 0; isOfControls(grammarAt(grammar)) && record < seen_.AtM(grammar).RecordsM();
+        for (int record = 0; isOfControls(grammarOf(grammar)) && record < SeenM().AtM(grammar).RecordsM();
              ++record) {
             highest = std::max(highest, plan.NumberM(grammar, record, "window_index"));
         }
@@ -167,7 +168,7 @@ int EditorStateCL::controlsWithM(int id) const
     int count = 0;
     for (std::size_t i = 0; i < slGrammars().size(); ++i) {
         const auto grammar = static_cast<int>(i);
-        for (int record = 0; isOfControls(grammarAt(grammar)) && record < seen_.AtM(grammar).RecordsM();
+        for (int record = 0; isOfControls(grammarOf(grammar)) && record < SeenM().AtM(grammar).RecordsM();
              ++record) {
             count += plan.NumberM(grammar, record, "function_id") == id ? 1 : 0;
         }
@@ -179,7 +180,7 @@ int EditorStateCL::ByPlaceM(int grammar)
 {
     for (std::size_t i = 0; i < slGrammars().size(); ++i) {
         const GrammarCL& other = slGrammars()[i];
-        if (other.owner == grammarAt(grammar).header && other.idField == nullptr) {
+        if (other.owner == grammarOf(grammar).header && other.idField == nullptr) {
             return static_cast<int>(i);
         }
     }
@@ -189,7 +190,7 @@ int EditorStateCL::ByPlaceM(int grammar)
 bool EditorStateCL::EachDependantM(const EditPlanCL& plan, int grammar, int record,
     const std::function<void(int grammar, int record)>& see) const
 {
-    if (!isOfControls(grammarAt(grammar))) {
+    if (!isOfControls(grammarOf(grammar))) {
         return true;
     }
     const int id = plan.NumberM(grammar, record, "function_id");
@@ -201,16 +202,16 @@ bool EditorStateCL::EachDependantM(const EditPlanCL& plan, int grammar, int reco
     for (std::size_t i = 0; i < slGrammars().size(); ++i) {
         const GrammarCL& other = slGrammars()[i];
         const bool isRelation = other.NamesControlsM();
-        const bool isEntry = other.owner == grammarAt(grammar).header;
+        const bool isEntry = other.owner == grammarOf(grammar).header;
         const auto place = static_cast<int>(i);
-        if (!(isRelation ? isOnly : isEntry) || !seen_.AtM(place).IsThereM()) {
+        if (!(isRelation ? isOnly : isEntry) || !SeenM().AtM(place).IsThereM()) {
             continue;
         }
         if (!plan.IsSoundM(place)) {
             return false;
         }
         const bool isByPlace = other.idField == nullptr;
-        for (int entry = 0; entry < seen_.AtM(place).RecordsM() && (isByPlace || isFirst || isRelation);
+        for (int entry = 0; entry < SeenM().AtM(place).RecordsM() && (isByPlace || isFirst || isRelation);
              ++entry) {
             const int owner = plan.NumberM(place, entry, isByPlace ? "button" : other.idField);
             if (owner == (isByPlace ? record : id)) {

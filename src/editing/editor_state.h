@@ -2,6 +2,7 @@
 #include "editing/description_editor.h"
 #include "editing/edit_plan.h"
 #include <functional>
+#include <optional>
 
 // The file that an editor has, what has been done to it, and what its records are to each other.
 class EditorStateCL
@@ -10,10 +11,10 @@ public:
     explicit EditorStateCL(std::string_view bytes);
 
     const std::shared_ptr<const FileTextCL>& TextM() const { return text_; }
-    const SeenSectionsCL& SeenM() const { return seen_; }
+    const SeenSectionsCL& SeenM() const;
     const TextChangesTP& ChangesM() const { return changes_; }
     std::string_view BytesM() const { return text_->CutM({ 0, text_->SizeM() }); }
-    EditPlanCL PlanM() const { return { *text_, seen_ }; }
+    EditPlanCL PlanM() const { return { *text_, SeenM() }; }
 
     // Makes changes if what is read then is what is planned; null: whatever is read.
     EditResult DoM(TextChangesTP changes, const EditPlanCL* plan);
@@ -42,7 +43,6 @@ public:
 private:
     int controlsWithM(int id) const;
     void goM(const TextChangesTP& changes);
-    void takeM(std::shared_ptr<const FileTextCL> text, SeenSectionsCL seen);
 
     struct StepCL
     {
@@ -50,11 +50,16 @@ private:
         TextChangesTP undoing;
     };
     std::shared_ptr<const FileTextCL> text_;
-    SeenSectionsCL seen_;
+    mutable std::optional<SeenSectionsCL>
+        seen_; // Read when it is asked for: many steps may be taken back at once.
     std::vector<StepCL> steps_;
     std::size_t stepsDone_ { 0 }; // Those behind them have been undone.
     TextChangesTP changes_;       // The last ones.
 };
 
+inline const GrammarCL& grammarOf(int grammar)
+{
+    return slGrammars()[static_cast<std::size_t>(grammar)];
+}
 // Whether a grammar's records are controls.
 bool isOfControls(const GrammarCL& grammar);

@@ -49,11 +49,24 @@ FindingsCL checkBytes(
 {
     const auto text = std::make_shared<const FileTextCL>(bytes);
     std::string().swap(bytes);
+    return checkText(file, folder, text, nullptr, translation);
+}
+
+FindingsCL checkText(const std::string& file, const fs::path& folder,
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading,
+    const TranslationCL& translation)
+{
     FindingsCL findings(file, text);
-    if (checkEncoding(*text, findings)) {
-        FileReadingCL reading(text);
-        checkSections(reading, findings);
-        checkRecords(reading, folder, translation, findings);
+    const bool isReadable = checkEncoding(*text, findings);
+    if (isReadable || reading != nullptr) {
+        auto read = std::make_unique<FileReadingCL>(text);
+        if (isReadable) {
+            checkSections(*read, findings);
+            checkRecords(*read, folder, translation, findings);
+        }
+        if (reading != nullptr) {
+            *reading = std::move(read);
+        }
     }
     findings.SortM();
     return findings;

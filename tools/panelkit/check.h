@@ -10,6 +10,10 @@ bool readBytes(const std::filesystem::path& path, std::string* bytes); // Withou
 // translation: the captions that are measured.
 FindingsCL checkBytes(const std::string& file, const std::filesystem::path& folder, std::string&& bytes,
     const TranslationCL& translation = {});
+// The same of a text. reading: gets what was read; null: not wanted.
+FindingsCL checkText(const std::string& file, const std::filesystem::path& folder,
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading = nullptr,
+    const TranslationCL& translation = {});
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.

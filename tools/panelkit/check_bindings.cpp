@@ -20,7 +20,7 @@ public:
         , findings_(findings)
     {
         isWhole_ = !file.HasStrayTextM();
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             isWhole_ = isWhole_ && !file.SectionM(static_cast<int>(i)).isFaulty;
         }
         for (const CheckedControlCL& control : controls) {
