@@ -124,10 +124,17 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
     makeFontM();
+    giveTreeFontsM();
     for (const StepCL& step : steps) {
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);
     }
+}
+
+void DuBasicDialogCL::renewItemFontM(CWnd* parent)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), false);
 }
 
 void DuBasicDialogCL::setTxtLstBoxItemHeightM()
