@@ -34,18 +34,18 @@ public:
     }
 };
 
-struct PlaceCL
+struct PlacedCL
 {
     HWND window;
     RECT rect;
 };
 
-std::vector<PlaceCL> placesOf(HWND dialog)
+std::vector<PlacedCL> placesOf(HWND dialog)
 {
-    std::vector<PlaceCL> places;
+    std::vector<PlacedCL> places;
     for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
-        PlaceCL place { child, {} };
+        PlacedCL place { child, {} };
         ::GetWindowRect(child, &place.rect);
         ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place.rect), 2);
         places.push_back(place);
@@ -53,10 +53,10 @@ std::vector<PlaceCL> placesOf(HWND dialog)
     return places;
 }
 
-void placePlainly(const std::vector<PlaceCL>& places)
+void placePlainly(const std::vector<PlacedCL>& places)
 {
     HDWP pass = ::BeginDeferWindowPos(static_cast<int>(places.size()));
-    for (const PlaceCL& place : places) {
+    for (const PlacedCL& place : places) {
         pass = ::DeferWindowPos(pass, place.window, nullptr, place.rect.left, place.rect.top,
             place.rect.right - place.rect.left, place.rect.bottom - place.rect.top,
             SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
@@ -89,14 +89,14 @@ int main()
     // Where the windows of the other dialog go, before any time is taken.
     const int sizes[][2] = { { static_cast<int>(client.right) + 300, static_cast<int>(client.bottom) + 200 },
         { static_cast<int>(client.right) + 20, static_cast<int>(client.bottom) + 350 } };
-    std::vector<PlaceCL> places[2];
+    std::vector<PlacedCL> places[2];
     for (int i = 0; i < 2; ++i) {
         plain.ResizeM(sizes[i][0], sizes[i][1]);
         places[i] = placesOf(plain.m_hWnd);
     }
     std::vector<double> resized;
     std::vector<double> raw;
-    for (int round = 0; round < 42; ++round) {
+    for (int round = 0; round < 12; ++round) {
         const int which = round % 2;
         const auto run = [&](bool isMine) {
             testing_support::PumpPending();
