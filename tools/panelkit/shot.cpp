@@ -52,6 +52,9 @@ int shotCommand(const ShotOptionsCL& options)
                     + std::to_string(status));
             }
         }
+        if (built && options.scale != 0) { // What lies beyond the screen is in no picture.
+            ::SetWindowPos(dialog.m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
         if (built) {
             dialog.ShowWindow(SW_SHOW); // The library would take its time, for each picture.
         }
