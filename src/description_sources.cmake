@@ -46,9 +46,22 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/single_edit_record.cpp
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
+  dialog/binding.cpp
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp
+  dialog/translation.cpp
+  editing/description_editor.cpp
+  editing/description_editor_records.cpp
+  editing/edit_plan.cpp
+  editing/editor_operations.cpp
+  editing/editor_state.cpp
+  editing/grammars.cpp
+  editing/record_lines.cpp
+  editing/record_text.cpp
+  editing/seen_sections.cpp
+  editing/text_changes.cpp
+  editing/value_forms.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp
   pictures/bmp_reader.cpp

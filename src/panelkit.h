@@ -13,6 +13,7 @@
 #include "dialog/basic_dialog.h"
 #include "dialog/reading_diagnostics.h"
 #include "dialog/relation.h"
+#include "editing/description_editor.h"
 #include "form/form_host.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/bmp_record.h"

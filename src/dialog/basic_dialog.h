@@ -18,16 +18,19 @@
 #include "controls/text/multi_edit.h"
 #include "controls/text/single_edit.h"
 #include "controls/text/spin_edit.h"
+#include "dialog/bound_windows.h"
 #include "dialog/control_index.h"
 #include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/translation.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
 #include "records/scaling.h"
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class ReadingDiagnosticsCL;
 class VrIOCL;
@@ -63,6 +66,16 @@ public:
     static constexpr int AutomaticScale = 0;
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
+
+    // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
+    // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
+    // "en", without one they stay. Values and lines by id are the file's in every language
+    // (docs/translating.md). The library's own messages change at once, for the whole process: English for
+    // "en", else Chinese, but for those in the catalogue of the next build. 0, and no change, for what names
+    // no language.
+    int SetLanguageM(const char* language);
+    // '_' for '-'; empty: none. Valid until SetLanguageM.
+    const char* LanguageM() const { return translation_.LanguageM().c_str(); }
 
     // From now on the callback is told, while a dialog is built, what its file lacks or says wrongly: that it
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
@@ -118,6 +131,12 @@ public:
     // Builds the dialog of the description file. TRUE: the system sets the focus.
     BOOL OnInitDialog() override;
     void EndDialog(int result) override; // With that result; no field has been left by that.
+
+    // Puts the controls that the description file binds ("[随窗口变化]") where they stand in a client area of
+    // that size, in pixels; below the file's size: where that has them. The host calls it when the dialog's
+    // own window, built in mode 1, is resized; in another window the application does, in its WM_SIZE. 0 when
+    // the file has no such section, or nothing is built.
+    int ResizeM(int width, int height);
 
     // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
@@ -210,18 +229,28 @@ private:
     template <class FunctionTP> void eachControlsM(FunctionTP&& see);
     template <class FunctionTP> bool withControlM(int id, FunctionTP&& see);
     void fillIndexM();
+    void* findM(int id, int* row);
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     void initM(VrIOCL& io, CWnd* parent, int mode);
     void beginDiagnosticsM();
     bool givePainterM(int id, const PainterTP& painter);
     void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
+    template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes over all controls do with one: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
+    void setItemFontM(CWnd* parent, bool isShown);
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;
@@ -241,12 +270,22 @@ private:
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
+    bool readBindingsM(VrIOCL& io);
+    void bindM(const DialogStretchCL& before);
+    bool unbindM();
+    void bindAgainM(const DialogStretchCL& before);
+    void findBoundM();
+    void makeSizableM();
+    void stretchAgainM(const DialogStretchCL& before);
+    void leaveOutOpaqueM(HDC dc);
+    LRESULT whileBoundM(UINT message, WPARAM wParam, LPARAM lParam);
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };
     int cancelId_ { 0 };
     char configFile_[TextSize] {};
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
+    TranslationCL translation_;
     CFont font_;
     CFont treeFont_; // At other scales than 100 %: trees have a font of the system's.
     static constexpr int NoScale = -1;
@@ -269,6 +308,8 @@ private:
     };
     std::map<int, LooksByIdCL> looks_; // What the application has given controls by id.
     RefusalCL refusal_;
+    BoundWindowsCL bound_;
+    DialogStretchCL stretch_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
     bool isParted_ { false }; // The controls only wait for their windows to go; nobody finds them any more.
@@ -300,24 +341,15 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
 // Whether there is one.
 template <class FunctionTP> bool DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
 {
-    if (!index_.IsFilledM(0)) {
-        fillIndexM();
-    }
-    for (const auto& [placeId, place] : index_.PlacesM(id)) {
-        bool found = false;
+    int wanted = 0;
+    void* const found = findM(id, &wanted);
+    if (found != nullptr) {
         int number = 0;
-        const int slot = place.slot;
-        const int wanted = place.row;
-        eachControlsM([&](auto row, auto& controls) {
-            if (number++ == wanted && controls.CheckAvailableM(slot) == 1
-                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
-                found = true;
-                see(row, controls.ControlAtM(slot));
+        slEachKind([&](auto row) {
+            if (number++ == wanted) {
+                see(row, *static_cast<typename decltype(row)::Controls::ControlTP*>(found));
             }
         });
-        if (found) {
-            return true; // What see() did may have changed the index.
-        }
     }
-    return false;
+    return found != nullptr;
 }

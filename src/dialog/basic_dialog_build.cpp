@@ -1,4 +1,5 @@
 // Building: the header and the pass of each kind.
+#include "baselib/message_texts.h"
 #include "dialog/basic_dialog.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
@@ -9,15 +10,26 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     builtIn_ = parent->GetSafeHwnd();
     mode_ = mode;
     scale_ = ScaleCL(wantedScaleM());
+    bound_ = {};
+    const DialogStretchCL before = stretch_.OfM(builtIn_);
+    bool isBound = false;
     beginDiagnosticsM();
+    translation_.ReadM(configFile_);
+    if (!translation_.LanguageM().empty()) { // Else they stay what another dialog may have chosen.
+        slSetMessageLanguage(translation_.LanguageM(), &translation_.CatalogueM());
+    }
     {
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
+        isBound = readBindingsM(io);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    if (isBound) {
+        bindM(before);
+    }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }
@@ -44,6 +56,10 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
         if (header_.titleFlag == 1) {
             parent->SetWindowText(header_.title.TextM());
+            const ValueTextCL title = translation_.FindM(header_.title.TextM(), "dialog", 0);
+            if (!title.IsNoneM()) {
+                ::SetWindowTextW(parent->m_hWnd, title.WideM().c_str());
+            }
         }
         // The style may have another frame, of which a window of the same size would not hear.
         parent->SetWindowPos(nullptr, slWindowLength(scale_.PlaceM(header_.position[0])),
@@ -68,6 +84,31 @@ void DuBasicDialogCL::fillIndexM()
         ++number;
     });
     index_.EndM();
+}
+
+// The first control with that id, as an object of the class of its kind, whose row of the table is told;
+// null: none. Once, not for each use: a use then has code only for the kinds that it does something with.
+void* DuBasicDialogCL::findM(int id, int* row)
+{
+    if (!index_.IsFilledM(0)) {
+        fillIndexM();
+    }
+    void* found = nullptr;
+    for (const auto& [placeId, place] : index_.PlacesM(id)) {
+        int number = 0;
+        const int slot = place.slot;
+        *row = place.row;
+        eachControlsM([&found, &number, id, slot, row](auto, auto& controls) {
+            if (number++ == *row && controls.CheckAvailableM(slot) == 1
+                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
+                found = &controls.ControlAtM(slot);
+            }
+        });
+        if (found != nullptr) {
+            break;
+        }
+    }
+    return found;
 }
 
 // Reads the records of one kind, then makes and fills its controls.
@@ -112,6 +153,29 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             (records.*RowTP::FillM)(record, &controls.ControlAtM(control));
             record = records.GetNextIdxM(record);
             control = controls.GetNextIdxM(control);
+        }
+    }
+    if (!translation_.EmptyM()) {
+        translateKindM<RowTP>();
+    }
+}
+
+template <class RowTP> void DuBasicDialogCL::translateKindM()
+{
+    auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
+    for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+        [[maybe_unused]] auto& control = controls.ControlAtM(i);
+        [[maybe_unused]] const auto translate = [this, &control](const ValueTextCL& text) {
+            return translation_.FindM(text, RowTP::Records::KindName, control.GetFunctionIDM());
+        };
+        if constexpr (RowTP::CanM(HasCaption)) {
+            const ValueTextCL caption = translate(control.CaptionM());
+            if (!caption.IsNoneM()) {
+                ::SetWindowTextW(control.m_hWnd, caption.WideM().c_str());
+            }
+        }
+        if constexpr (RowTP::CanM(TranslatesTexts)) {
+            control.TranslateM(translate);
         }
     }
 }

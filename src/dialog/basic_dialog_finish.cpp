@@ -4,15 +4,6 @@
 #include <unordered_map>
 #include <vector>
 
-// What the passes do with one control: the topmost child with its id.
-struct DuBasicDialogCL::StepCL
-{
-    int windowIndex;
-    HWND window;
-    int place;     // Among its siblings, from the top down.
-    bool isOfKind; // The window belongs to a control of the library's own class.
-};
-
 namespace {
 
 struct ChildCL
@@ -147,4 +138,10 @@ void DuBasicDialogCL::setTxtLstBoxItemHeightM()
             controls.SetItemHeightM();
         }
     });
+}
+
+void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), isShown);
 }

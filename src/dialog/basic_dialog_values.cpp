@@ -123,5 +123,5 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         && answerDpiM(message, wParam, lParam, &result)) {
         return result;
     }
-    return CDialog::WindowProc(message, wParam, lParam);
+    return bound_.isOwn ? whileBoundM(message, wParam, lParam) : CDialog::WindowProc(message, wParam, lParam);
 }

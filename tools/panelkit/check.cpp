@@ -44,15 +44,29 @@ bool readBytes(const fs::path& path, std::string* bytes)
         && (in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) || bytes->empty());
 }
 
-FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::string&& bytes)
+FindingsCL checkBytes(
+    const std::string& file, const fs::path& folder, std::string&& bytes, const TranslationCL& translation)
 {
     const auto text = std::make_shared<const FileTextCL>(bytes);
     std::string().swap(bytes);
+    return checkText(file, folder, text, nullptr, translation);
+}
+
+FindingsCL checkText(const std::string& file, const fs::path& folder,
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading,
+    const TranslationCL& translation)
+{
     FindingsCL findings(file, text);
-    if (checkEncoding(*text, findings)) {
-        FileReadingCL reading(text);
-        checkSections(reading, findings);
-        checkRecords(reading, folder, findings);
+    const bool isReadable = checkEncoding(*text, findings);
+    if (isReadable || reading != nullptr) {
+        auto read = std::make_unique<FileReadingCL>(text);
+        if (isReadable) {
+            checkSections(*read, findings);
+            checkRecords(*read, folder, translation, findings);
+        }
+        if (reading != nullptr) {
+            *reading = std::move(read);
+        }
     }
     findings.SortM();
     return findings;
@@ -72,13 +86,31 @@ bool readStandardInput(std::string* bytes)
     return std::ferror(stdin) == 0;
 }
 
-bool readNamedFile(const std::string& file, std::string* bytes)
+bool readNamedFile(const std::string& file, const std::string& said, std::string* bytes)
 {
-    if (!isRegularFile(file)) {
+    if (!isRegularFile(file, said)) {
         return false;
     }
     if (!readBytes(fs::u8path(file), bytes)) {
-        complain("cannot read '" + file + "'");
+        complain("cannot read '" + said + "'");
+        return false;
+    }
+    return true;
+}
+
+// Without a language there is nothing to read.
+bool readTranslation(TranslationCL& translation, const std::string& file, const std::string& said)
+{
+    if (translation.LanguageM().empty()) {
+        return true;
+    }
+#ifdef _WIN32
+    const std::string name = slWideToGbk(fs::u8path(file).wstring());
+#else
+    const std::string& name = file;
+#endif
+    if (file == "-" || !translation.ReadM(name.c_str())) {
+        complain("no catalogue of '" + translation.LanguageM() + "' is beside '" + said + "'");
         return false;
     }
     return true;
@@ -88,19 +120,29 @@ bool readNamedFile(const std::string& file, std::string* bytes)
 
 int checkCommand(const CheckOptionsCL& options)
 {
+#ifndef _WIN32
+    if (!options.textLanguage.empty()) {
+        return checkUnderWine(options); // Where captions can be measured.
+    }
+#endif
+    TranslationCL translation;
+    translation.SetLanguageM(options.textLanguage.c_str());
     const Language language = languageOf(options.language);
     std::vector<FindingsCL> all;
     bool isUnreadable = false;
     bool isFaulty = false;
-    for (const std::string& file : options.files) {
+    for (std::size_t i = 0; i < options.files.size(); ++i) {
+        const std::string& file = options.files[i];
+        const std::string& said = i < options.names.size() ? options.names[i] : file;
         std::string bytes;
         const bool isInput = file == "-";
-        if (!(isInput ? readStandardInput(&bytes) : readNamedFile(file, &bytes))) {
+        if (!(isInput ? readStandardInput(&bytes) : readNamedFile(file, said, &bytes))
+            || !readTranslation(translation, file, said)) {
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkBytes(isInput ? "<stdin>" : file,
-            isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes)));
+        all.push_back(checkBytes(isInput ? "<stdin>" : said,
+            isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes), translation));
         isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {

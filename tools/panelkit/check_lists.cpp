@@ -162,8 +162,8 @@ void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings)
 {
-    for (std::size_t i = 0; i < allGrammars().size(); ++i) {
-        const GrammarCL& grammar = allGrammars()[i];
+    for (std::size_t i = 0; i < slGrammars().size(); ++i) {
+        const GrammarCL& grammar = slGrammars()[i];
         const SeenSectionCL& section = file.SectionM(static_cast<int>(i));
         if (grammar.owner == nullptr || section.soundRecords == 0) {
             continue;

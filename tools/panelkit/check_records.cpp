@@ -13,10 +13,10 @@ std::size_t offsetOf(const RecordViewCL& view, const char* name)
     return field != nullptr && field->seen != nullptr ? field->seen->begin : 0;
 }
 
-CheckedControlCL controlOf(
-    const RecordViewCL& view, int kind, int grammar, int record, bool isStacked, int place)
+CheckedControlCL controlOf(const RecordViewCL& view, int kind, const char* kindName, int grammar, int record,
+    bool isStacked, int place)
 {
-    CheckedControlCL control { kind, grammar, record, isStacked, place, view.IntM("window_index"),
+    CheckedControlCL control { kind, kindName, grammar, record, isStacked, place, view.IntM("window_index"),
         view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
         view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
         offsetOf(view, "position") };
@@ -71,8 +71,10 @@ std::unordered_map<int, std::size_t> entriesById(FileReadingCL& file, const Seen
 class RecordsCheckerCL
 {
 public:
-    RecordsCheckerCL(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings)
+    RecordsCheckerCL(FileReadingCL& file, const std::filesystem::path& folder,
+        const TranslationCL& translation, FindingsCL& findings)
         : file_(file)
+        , translation_(translation)
         , findings_(findings)
         , pictures_(folder)
     {
@@ -81,9 +83,9 @@ public:
     {
         dialogM();
         std::size_t records = 0;
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const auto sound = static_cast<std::size_t>(file_.SectionM(static_cast<int>(i)).soundRecords);
-            records += allGrammars()[i].owner == nullptr ? sound : 0;
+            records += slGrammars()[i].owner == nullptr ? sound : 0;
         }
         controls_.reserve(records);
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
@@ -91,9 +93,10 @@ public:
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
+        checkBindings(file_, controls_, pictures_, findings_);
         checkPlaces(file_, controls_, findings_);
 #ifdef _WIN32
-        checkCaptions(file_, controls_, findings_);
+        checkCaptions(file_, controls_, translation_, findings_);
 #endif
         checkOrder(file_, controls_, findings_);
     }
@@ -111,7 +114,7 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        const int grammar = grammarOf(RecordsTP::Header);
+        const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         std::unordered_map<int, std::size_t> entries;
         if constexpr (RowTP::Code == MultiStateButtonCode) {
@@ -122,23 +125,23 @@ private:
             view_.BeginM(section, i);
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
-            recordM(RowTP::Code, grammar, i, RowTP::CanM(Stacked));
+            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
             if ((RowTP::Code != MultiStateButtonCode || file_.IsSoundM(MultiStateButtonDataHeader))
                 && isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
                 findings_.AddM(Says::InvisibleTabStop, controls_.back().idAt);
             }
         }
     }
-    void recordM(int kind, int grammar, int record, bool isStacked)
+    void recordM(int kind, const char* kindName, int grammar, int record, bool isStacked)
     {
         checkValues(file_, view_, pictures_, findings_);
         checkRanges(file_, kind, view_, findings_);
         controls_.push_back(
-            controlOf(view_, kind, grammar, record, isStacked, static_cast<int>(controls_.size())));
+            controlOf(view_, kind, kindName, grammar, record, isStacked, static_cast<int>(controls_.size())));
     }
     void newRotateButtonsM()
     {
-        const int grammar = grammarOf(NewRotateBtnHeader);
+        const int grammar = slGrammarOf(NewRotateBtnHeader);
         const SeenSectionCL& section = file_.SectionM(grammar);
         DVrNewRotateBtnArr& records = file_.NewRotateButtonsM();
         for (int i = 0; i < section.soundRecords; ++i) {
@@ -146,7 +149,7 @@ private:
             records.ElementAtM(i).EachCommonFieldM(view_, 1);
             records.ElementAtM(i).EachFieldM(view_, section.FindM(i, "show_condition") != nullptr,
                 section.FindM(i, "description") != nullptr);
-            recordM(0, grammar, i, false);
+            recordM(0, "new_rotate_button", grammar, i, false);
             const FieldCL* const first = view_.FindM("initial_index");
             const int slots = records.ElementAtM(i).SlotCountM();
             if (!file_.IsSoundM(NewRotateBtnBitmapHeader)
@@ -161,6 +164,7 @@ private:
     }
 
     FileReadingCL& file_;
+    [[maybe_unused]] const TranslationCL& translation_; // Where captions are measured.
     FindingsCL& findings_;
     PicturesCL pictures_;
     RecordViewCL view_;
@@ -169,7 +173,8 @@ private:
 
 } // namespace
 
-void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings)
+void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, const TranslationCL& translation,
+    FindingsCL& findings)
 {
-    RecordsCheckerCL(file, folder, findings).CheckM();
+    RecordsCheckerCL(file, folder, translation, findings).CheckM();
 }

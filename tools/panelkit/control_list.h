@@ -1,4 +1,5 @@
 #pragma once
+#include "dialog/translation.h"
 #include "file_reading.h"
 #include "findings.h"
 #include "record_view.h"
@@ -8,11 +9,12 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind;       // Its KindCode; 0 for a new rotate button.
-    int grammar;    // Its section,
-    int record;     // and its place there.
-    bool isStacked; // Its window index counts.
-    int place;      // In the order of collection.
+    int kind;             // Its KindCode; 0 for a new rotate button.
+    const char* kindName; // As dump has it.
+    int grammar;          // Its section,
+    int record;           // and its place there.
+    bool isStacked;       // Its window index counts.
+    int place;            // In the order of collection.
     int windowIndex;
     int id;
     int x, y, w, h;
@@ -76,7 +78,10 @@ void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, Find
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkBindings(
+    FileReadingCL& file, const CheckedControlsTP& controls, PicturesCL& pictures, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 // Only where a window system is.
-void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,
+    FindingsCL& findings);
 void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);

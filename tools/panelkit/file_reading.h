@@ -1,86 +1,14 @@
 #pragma once
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
-#include "records/read_observer.h"
+#include "editing/seen_sections.h"
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-// One value as the library's reader met it.
-struct SeenValueCL
-{
-    const char* field;
-    std::uint32_t begin;
-    std::uint32_t end;
-    std::uint8_t part;
-    Fate fate;
-};
-
-// One section of the file: its head, and the values of its records.
-struct SeenSectionCL
-{
-    SectionSeenCL head {};
-    std::vector<SeenValueCL> values;
-    std::vector<std::uint32_t> starts; // Where each record's values begin in `values`.
-    std::vector<EntryDroppedCL> dropped;
-    std::size_t regionEnd { 0 }; // Where the next header stands, or the file ends.
-    bool isFaulty { false };     // Its layout is: what it lost can't be missed elsewhere.
-    int soundRecords { 0 };      // Records before the first fault of its layout.
-    bool IsThereM() const { return head.headerSpan.end > 0; }
-    bool IsReadM() const
-    {
-        return head.status == SectionStatus::Read || head.status == SectionStatus::Incomplete;
-    }
-    int RecordsM() const { return static_cast<int>(starts.size()); }
-    const SeenValueCL* FirstM(int record) const { return values.data() + starts[record]; }
-    const SeenValueCL* EndM(int record) const
-    {
-        return record + 1 < RecordsM() ? FirstM(record + 1) : values.data() + values.size();
-    }
-    // A record's value by the name of its field; null when there is none.
-    const SeenValueCL* FindM(int record, const char* field, int part = 0) const;
-};
-
-// A kind of section: how the library reads it, and what it belongs to.
-struct GrammarCL
-{
-    const char* header;
-    const char* owner;           // The main section of a secondary one; else null.
-    std::string before;          // What must stand before it for a reading on its own.
-    void (*read)(VrIOCL& io);    // Reads it alone.
-    RowFieldsTP row { nullptr }; // The fields of a secondary section's entries.
-};
-
-// All sections that a file may have, in the order of reading; the first two must be there.
-const std::vector<GrammarCL>& allGrammars();
-int grammarOf(const char* header); // -1 for an unknown one.
-constexpr int VersionGrammar = 0;
-constexpr int DialogGrammar = 1;
-
-// Keeps what the reader meets.
-class SeenSectionsCL : public ReadObserverCL
-{
-public:
-    SeenSectionsCL()
-        : sections_(allGrammars().size())
-    {
-    }
-    void ValueM(const ValueSeenCL& value) override;
-    void EntryDroppedM(const EntryDroppedCL& entry) override;
-    void SectionM(const SectionSeenCL& section) override;
-    SeenSectionCL& AtM(int grammar) { return sections_[static_cast<std::size_t>(grammar)]; }
-    const SeenSectionCL& AtM(int grammar) const { return sections_[static_cast<std::size_t>(grammar)]; }
-
-private:
-    SeenSectionCL& findM(const char* header);
-
-    std::vector<SeenSectionCL> sections_;
-    const char* lastHeader_ { nullptr };
-    SeenSectionCL* last_ { nullptr };
-};
 
 // The tuple of the record arrays of all kinds, in the order of the table of kinds.
 template <class RowsTP> struct RecordsOfTableCL;
@@ -99,7 +27,7 @@ public:
     const std::shared_ptr<const FileTextCL>& SharedTextM() const { return text_; }
 
     SeenSectionCL& SectionM(int grammar) { return seen_.AtM(grammar); }
-    SeenSectionCL& SectionM(const char* header) { return seen_.AtM(grammarOf(header)); }
+    SeenSectionCL& SectionM(const char* header) { return seen_.AtM(slGrammarOf(header)); }
     // Headers or text that belong to no section: any kind may lack controls.
     bool HasStrayTextM() const { return hasStrayText_; }
     void SetStrayTextM() { hasStrayText_ = true; }
@@ -107,6 +35,7 @@ public:
     bool HasDialogM() const { return hasDialog_; }
     DialogHeaderCL& DialogM() { return dialog_; }
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
+    std::vector<BindingCL>& BindingsM() { return bindings_; }
     template <class RecordsTP> RecordsTP& RecordsM() { return std::get<RecordsTP>(records_); }
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
@@ -129,6 +58,7 @@ private:
     SeenSectionsCL seen_;
     AllRecordsTP records_;
     DVrNewRotateBtnArr newRotateButtons_;
+    std::vector<BindingCL> bindings_;
     DialogHeaderCL dialog_;
     bool hasDialog_ { false };
     bool hasStrayText_ { false };

@@ -83,7 +83,7 @@ public:
     }
 
     // What is to change, in the order of the file.
-    std::vector<BlanksCL> ChangesM() const;
+    TextChangesTP ChangesM() const;
     // All values and what became of them: whether two files are read the same.
     const std::string& ReadM() const { return read_; }
 
@@ -167,7 +167,7 @@ void LineFinderCL::textsTogether(RowsTP& rows)
     }
 }
 
-std::vector<BlanksCL> LineFinderCL::ChangesM() const
+TextChangesTP LineFinderCL::ChangesM() const
 {
     // Lines of a section that begin with the same value have the same columns.
     std::map<std::tuple<std::string, std::string, int>, std::vector<std::size_t>> alike;
@@ -177,7 +177,7 @@ std::vector<BlanksCL> LineFinderCL::ChangesM() const
             alike[{ first.section, first.field, first.part }].push_back(i);
         }
     }
-    std::vector<BlanksCL> changes;
+    TextChangesTP changes;
     for (const auto& [key, numbers] : alike) {
         RowsTP rows;
         SpanCL comments;
@@ -201,7 +201,7 @@ std::vector<BlanksCL> LineFinderCL::ChangesM() const
         }
     }
     std::sort(changes.begin(), changes.end(),
-        [](const BlanksCL& one, const BlanksCL& other) { return one.span.begin < other.span.begin; });
+        [](const TextChangeCL& one, const TextChangeCL& other) { return one.span.begin < other.span.begin; });
     return changes;
 }
 
@@ -213,20 +213,29 @@ void readWith(LineFinderCL& finder, const std::shared_ptr<const FileTextCL>& tex
     readAllSections(io, [](const char*, auto&) {});
 }
 
-std::string withChanges(const FileTextCL& text, const std::vector<BlanksCL>& changes)
-{
-    std::string result;
-    std::size_t at = 0;
-    for (const BlanksCL& change : changes) {
-        result += text.CutM({ at, change.span.begin });
-        result.append(change.spaces, ' ');
-        at = change.span.end;
-    }
-    result += text.CutM({ at, text.SizeM() });
-    return result;
-}
-
 } // namespace
+
+TextChangesTP blanksToChange(const std::shared_ptr<const FileTextCL>& text, std::size_t* refusedLine)
+{
+    LineFinderCL finder(*text);
+    readWith(finder, text);
+    TextChangesTP changes = finder.ChangesM();
+    if (changes.empty()) {
+        return changes;
+    }
+    const auto formatted
+        = std::make_shared<const FileTextCL>(slWithChanges(text->CutM({ 0, text->SizeM() }), changes));
+    LineFinderCL again(*formatted);
+    readWith(again, formatted);
+    if (again.ReadM() != finder.ReadM()) {
+        // How much a file can be meant to hold depends on its size.
+        if (refusedLine != nullptr) {
+            *refusedLine = text->PlaceM(changes[0].span.end).line;
+        }
+        changes.clear();
+    }
+    return changes;
+}
 
 int formatCommand(const std::string& file, bool checkOnly)
 {
@@ -234,28 +243,22 @@ int formatCommand(const std::string& file, bool checkOnly)
     if (!readWholeFile(file, &bytes)) {
         return CannotUse;
     }
-    const auto text = std::make_shared<FileTextCL>(bytes);
-    LineFinderCL finder(*text);
-    readWith(finder, text);
-    const std::vector<BlanksCL> changes = finder.ChangesM();
+    const auto text = std::make_shared<const FileTextCL>(bytes);
+    std::size_t refusedLine = 0;
+    const TextChangesTP changes = blanksToChange(text, &refusedLine);
+    if (refusedLine > 0) {
+        std::fprintf(stderr, "%s:%zu: left as it is: with other blanks the file would be read otherwise\n",
+            file.c_str(), refusedLine);
+        return 0;
+    }
     if (changes.empty()) {
         const Encoding encoding = encodingOf(bytes);
         return encoding == Encoding::Gbk ? 0 : complainOfEncoding(file, encoding);
     }
-    const std::string result = withChanges(*text, changes);
-    const auto formatted = std::make_shared<FileTextCL>(result);
-    LineFinderCL again(*formatted);
-    readWith(again, formatted);
-    const std::size_t line = text->PlaceM(changes[0].span.end).line;
-    if (again.ReadM() != finder.ReadM()) {
-        // How much a file can be meant to hold depends on its size.
-        std::fprintf(stderr, "%s:%zu: left as it is: with other blanks the file would be read otherwise\n",
-            file.c_str(), line);
-        return 0;
-    }
     if (checkOnly) {
-        std::printf("%s:%zu: numbers are not lined up from here on\n", file.c_str(), line);
+        std::printf("%s:%zu: numbers are not lined up from here on\n", file.c_str(),
+            text->PlaceM(changes[0].span.end).line);
         return 1;
     }
-    return writeWholeFile(file, result) ? 0 : CannotUse;
+    return writeWholeFile(file, slWithChanges(text->CutM({ 0, text->SizeM() }), changes)) ? 0 : CannotUse;
 }

@@ -89,6 +89,9 @@ int inspectCommand(const ShowOptionsCL& options)
             dialog.SetScaleM(options.scale);
         }
         dialog.SetConfigFileM(file.name.c_str());
+        if (!options.textLanguage.empty()) {
+            dialog.SetLanguageM(options.textLanguage.c_str());
+        }
         if (dialog.CreateM() != 1) {
             complain("the dialog of '" + file.said + "' can't be created");
             return 1;

@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "check.h"
 #include "controls/base/leaving.h"
+#include <cstdlib>
 
 namespace {
 
@@ -14,7 +15,7 @@ constexpr UINT OverlayMilliseconds = 200;
 } // namespace
 
 LiveDialogCL::LiveDialogCL(const std::string& name, const ViewOptionsCL& options)
-    : PreviewDialogCL(name)
+    : PreviewDialogCL(name, options.textLanguage)
     , options_(options)
     , language_(languageOf(options.language))
     , path_(std::filesystem::current_path() / slGbkToWide(name.c_str()))
@@ -34,7 +35,7 @@ BOOL LiveDialogCL::OnInitDialog()
         const HWND window = m_hWnd;
         watched_
             = std::make_unique<WatchedFilesCL>([window] { ::PostMessageW(window, FilesChangedMsg, 0, 0); });
-        watched_->WatchM({ path_ });
+        watched_->WatchM(watchedM());
     }
     const BOOL result = PreviewDialogCL::OnInitDialog();
     isBuilding_ = false;
@@ -43,10 +44,22 @@ BOOL LiveDialogCL::OnInitDialog()
     if (options_.watches) {
         checkM();
     }
-    if (options_.showsIds) {
+    if (isLabelledM()) {
         SetTimer(OverlayTimer, OverlayMilliseconds);
     }
     return result;
+}
+
+// The file itself and where its translations may come from.
+std::vector<std::filesystem::path> LiveDialogCL::watchedM() const
+{
+    TranslationCL translation;
+    translation.SetLanguageM(options_.textLanguage.c_str());
+    std::vector<std::filesystem::path> files { path_ };
+    for (const std::string& catalogue : translation.FilesM(slWideToGbk(path_.wstring()).c_str())) {
+        files.emplace_back(slGbkToWide(catalogue.c_str()));
+    }
+    return files;
 }
 
 // Says what is wrong with the file, and watches the pictures that it names. False: nothing can be built of
@@ -58,7 +71,7 @@ bool LiveDialogCL::checkM()
         return false;
     }
     const FindingsCL findings = checkBytes("", path_.parent_path(), std::move(bytes));
-    std::vector<std::filesystem::path> files { path_ };
+    std::vector<std::filesystem::path> files = watchedM();
     for (const std::string& picture : findings.PicturesM()) {
         files.push_back(path_.parent_path() / slGbkToWide(picture.c_str()));
     }
@@ -138,7 +151,7 @@ void LiveDialogCL::rebuildM()
 
 void LiveDialogCL::followControlsM()
 {
-    overlay_.FollowM(m_hWnd);
+    labelM();
     const HWND focus = ::GetFocus();
     if (focus != overlaidFocus_ && IsWindowEnabled() && !isDroppedDownM()) {
         overlaidFocus_ = focus;
@@ -169,8 +182,25 @@ void LiveDialogCL::keepPlaceM(WINDOWPOS& place)
 void LiveDialogCL::dockM()
 {
     bar_.DockM(m_hWnd);
+    if (isLabelledM()) {
+        labelM();
+    }
+}
+
+// Where no control is marked the file names none, or one that isn't there.
+void LiveDialogCL::labelM()
+{
     if (options_.showsIds) {
         overlay_.FollowM(m_hWnd);
+        return;
+    }
+    std::string word;
+    readBytes(std::filesystem::u8path(options_.mark), &word);
+    const int id = std::atoi(word.c_str());
+    if (id != 0) {
+        overlay_.FollowM(m_hWnd, &id);
+    } else {
+        overlay_.HideM();
     }
 }
 

@@ -27,6 +27,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
+    std::vector<std::filesystem::path> watchedM() const;
     bool checkM();
     void followFileM();
     bool isBusyM() const;
@@ -34,7 +35,9 @@ private:
     void rebuildM();
     void giveFocusM(HWND control);
     void keepPlaceM(WINDOWPOS& place);
+    bool isLabelledM() const { return options_.showsIds || !options_.mark.empty(); }
     void followControlsM();
+    void labelM();
     void dockM();
 
     ViewOptionsCL options_;

@@ -63,10 +63,13 @@ ON_MESSAGE(ButtonDownMsg, &PreviewDialogCL::onButtonDownM)
 ON_MESSAGE(ButtonActionMsg, &PreviewDialogCL::onButtonM)
 END_MESSAGE_MAP()
 
-PreviewDialogCL::PreviewDialogCL(const std::string& file)
+PreviewDialogCL::PreviewDialogCL(const std::string& file, const std::string& language)
     : file_(file)
 {
     SetConfigFileM(file.c_str());
+    if (!language.empty()) {
+        SetLanguageM(language.c_str());
+    }
 }
 
 BOOL PreviewDialogCL::OnInitDialog()

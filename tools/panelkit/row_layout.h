@@ -1,6 +1,6 @@
 #pragma once
-#include "baselib/file_text.h"
-#include <string>
+#include "editing/text_changes.h"
+#include <memory>
 #include <vector>
 
 // A value that stands in a line of a record: a column of that line.
@@ -18,15 +18,13 @@ struct RowCellsCL
     std::vector<CellCL> cells;
 };
 
-// Blanks that are to be written otherwise.
-struct BlanksCL
-{
-    SpanCL span;
-    std::size_t spaces;
-};
-
 // Lines up rows of the same columns: numbers end one above the other, and as far as they have room below the
 // ends of the words of the last comment line that has a word for each. common: how many values at the
-// beginning have a word each whatever fields they are of. Appends what is to change.
+// beginning have a word each whatever fields they are of. Appends the blanks that are to be others.
 void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
-    std::size_t common, std::vector<BlanksCL>& changes);
+    std::size_t common, TextChangesTP& changes);
+
+// What is to change in a file, in its order, for all numbers to be lined up; nothing where it would then be
+// read otherwise. refusedLine: then the first line in question, may be null.
+TextChangesTP blanksToChange(
+    const std::shared_ptr<const FileTextCL>& text, std::size_t* refusedLine = nullptr);

@@ -20,6 +20,15 @@ public:
         SendMessage(WM_NCACTIVATE, static_cast<WPARAM>(ofTheFirst));
     }
 
+    // Frame included; below the file's size: that. False when the controls would not follow.
+    bool SetSizeM(int width, int height)
+    {
+        CRect client;
+        GetClientRect(&client);
+        return ResizeM(client.Width(), client.Height()) == 1
+            && SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
@@ -41,7 +50,7 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name, options.textLanguage);
         if (options.scale != 0) {
             dialog.SetScaleM(options.scale);
         }
@@ -54,6 +63,9 @@ int shotCommand(const ShotOptionsCL& options)
         }
         if (built && options.scale != 0) { // What lies beyond the screen is in no picture.
             ::SetWindowPos(dialog.m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
+        if (built && options.width > 0 && !dialog.SetSizeM(options.width, options.height)) {
+            return complain("the dialog of '" + file.said + "' can't be resized: no control of it is bound");
         }
         if (built) {
             dialog.ShowWindow(SW_SHOW); // The library would take its time, for each picture.

@@ -12,6 +12,26 @@ ON_CONTROL_REFLECT(CBN_SELCHANGE, &DuComboBoxCL::OnSelchange)
 ON_CONTROL_REFLECT(CBN_KILLFOCUS, &DuComboBoxCL::OnKillfocus)
 END_MESSAGE_MAP()
 
+namespace {
+
+// Adds texts as AddItemM does, but to the list below the control, which that would hand each of them on to,
+// for half of the time. Of a control of the library's own class nobody waits for the messages.
+void fillList(const DuComboBoxCL& control, const VrStringArr& texts)
+{
+    COMBOBOXINFO info {};
+    control.GetComboBoxInfo(&info);
+    slEachText(texts, [&info](int number, const char* text) {
+        const std::wstring wide = slGbkToShown(text);
+        const LRESULT line
+            = ::SendMessageW(info.hwndList, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide.c_str()));
+        if (line >= 0) {
+            ::SendMessageW(info.hwndList, LB_SETITEMDATA, static_cast<WPARAM>(line), number);
+        }
+    });
+}
+
+} // namespace
+
 int DVrComboBoxCL::InitComboBoxM(DuComboBoxCL* control) const
 {
     if (InitCommonCtrlM(control) == 0) {
@@ -27,7 +47,11 @@ int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
         return 0;
     }
     const FillingCL filling(control);
-    slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
+    if (slMakeRoom(control, items_.GetAvailableNumM()) && slIsJust(*control)) {
+        fillList(*control, items_);
+    } else {
+        slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
+    }
     return 1;
 }
 
@@ -111,7 +135,8 @@ int DuComboBoxCL::GetCurItemM(int* index, int* data, char* text)
     }
     *index = selected;
     *data = itemData;
-    slCopyText(text, TextSize, itemText);
+    const ValueTextCL* const original = originals_.AtM(selected);
+    slCopyText(text, TextSize, original != nullptr ? original->GbkM().c_str() : itemText.GetString());
     return 1;
 }
 
@@ -179,18 +204,24 @@ void DuComboBoxCL::followSelectionM(UINT message, int index, int result)
         break;
     case CB_ADDSTRING:
     case CB_INSERTSTRING:
-        if (result >= 0 && result <= currentSel_) {
-            ++currentSel_;
+        if (result >= 0) {
+            currentSel_ += result <= currentSel_ ? 1 : 0;
+            originals_.InsertedM(result);
         }
         break;
     case CB_DELETESTRING:
-        if (result >= 0 && index <= currentSel_) {
-            currentSel_ = index < currentSel_ ? currentSel_ - 1 : -1;
+        if (result >= 0) {
+            currentSel_ = index > currentSel_ ? currentSel_ : index < currentSel_ ? currentSel_ - 1 : -1;
+            originals_.DeletedM(index);
         }
         break;
     case CB_RESETCONTENT:
     case WM_CREATE:
         currentSel_ = -1;
+        originals_.ClearM();
+        break;
+    case WM_DESTROY:
+        originals_.ClearM();
         break;
     default:
         break;
@@ -222,6 +253,12 @@ void DuComboBoxCL::takeTypedTextM()
     char typed[TextSize];
     GetWindowText(typed, TextSize);
     const int item = currentSel_;
+    if (showsTranslationM(item)) {
+        if (GetCurSel() != item) {
+            SetCurSel(item); // Typing makes the list forget it.
+        }
+        return;
+    }
     if (item >= 0 && item < GetCount()) {
         CString kept;
         GetLBText(item, kept);

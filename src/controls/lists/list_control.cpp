@@ -110,6 +110,31 @@ int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
     return CListCtrl::InsertColumn(column, &heading) != -1 ? 1 : 0;
 }
 
+void DuListCtrlCL::TranslateM(const TranslatorTP& translate)
+{
+    if (m_hWnd == nullptr) {
+        return;
+    }
+    char text[TextSize];
+    for (int column = 0;; ++column) {
+        LVCOLUMNA heading {};
+        heading.mask = LVCF_TEXT;
+        heading.pszText = text;
+        heading.cchTextMax = TextSize;
+        if (!GetColumn(column, &heading)) {
+            return;
+        }
+        const ValueTextCL shown = translate(ValueTextCL(text));
+        if (!shown.IsNoneM()) {
+            std::wstring title = shown.WideM();
+            LVCOLUMNW wide {};
+            wide.mask = LVCF_TEXT;
+            wide.pszText = title.data();
+            SetColumn(column, &wide);
+        }
+    }
+}
+
 int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
 {
     if (text == nullptr) {

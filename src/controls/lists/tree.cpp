@@ -49,6 +49,7 @@ int DuTreeCL::OnCreate(LPCREATESTRUCT create)
     if (CTreeCtrl::OnCreate(create) == -1) {
         return -1;
     }
+    originals_.ClearM();
     images_.DeleteImageList();
     images_.files.clear();
     TreePicturesCL::CreateListM(images_, PictureScaleM().AnywhereM());
