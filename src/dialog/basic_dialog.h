@@ -66,6 +66,7 @@ public:
     static constexpr int AutomaticScale = 0;
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
+
     // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
     // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
     // "en", without one they stay. Values and lines by id are the file's in every language
@@ -237,16 +238,26 @@ private:
     template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes over all controls do with one: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
+    void renewItemFontM(CWnd* parent); // Nothing is drawn.
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;
     CSize windowSizeM(HWND window, const ScaleCL& scale, int dpi) const;
     void sizeWindowM(HWND window);
+    void noteSizeM(HWND window);
     bool hasFileSizeM(HWND window) const;
+    void giveTreeFontsM();
     void makeFontM();
     template <class ControlTP, class RecordTP>
     void rescaleControlM(ControlTP& control, RecordTP* record, int from);
@@ -273,6 +284,7 @@ private:
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
     TranslationCL translation_;
     CFont font_;
+    CFont treeFont_; // At other scales than 100 %: trees have a font of the system's.
     static constexpr int NoScale = -1;
     int askedScale_ { NoScale }; // Percent, AutomaticScale or none.
     ScaleCL scale_;

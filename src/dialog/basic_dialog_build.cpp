@@ -51,8 +51,7 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
     }
     background_.DropM(); // Perhaps another file's.
     if (!header_.background.EmptyM()) {
-        const PictureScaleCL scale(scale_, { 0, 0 });
-        background_.LoadScaledM(header_.background.TextM(), isScaledM() ? scale : PictureScaleCL());
+        background_.LoadScaledM(header_.background.TextM(), PictureScaleCL(scale_, { 0, 0 }));
     }
     if (mode == 1) {
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
@@ -71,6 +70,7 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
         if (isScaledM()) {
             sizeWindowM(parent->m_hWnd);
         }
+        noteSizeM(parent->m_hWnd);
     }
 }
 
@@ -113,7 +113,7 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             controls.StandInM(
                 i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
         }
-        if (isScaledM() && records.CheckAvailableM(i) == 1) {
+        if (records.CheckAvailableM(i) == 1) {
             auto& record = records.ElementAtM(i);
             controls.ControlAtM(i).SetPictureScaleM({ scale_, record.GetPositionM() });
             slScaleRecord(record, scale_);

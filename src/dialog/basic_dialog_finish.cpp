@@ -4,15 +4,6 @@
 #include <unordered_map>
 #include <vector>
 
-// What the passes do with one control: the topmost child with its id.
-struct DuBasicDialogCL::StepCL
-{
-    int windowIndex;
-    HWND window;
-    int place;     // Among its siblings, from the top down.
-    bool isOfKind; // The window belongs to a control of the library's own class.
-};
-
 namespace {
 
 struct ChildCL
@@ -133,10 +124,17 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
     makeFontM();
+    giveTreeFontsM();
     for (const StepCL& step : steps) {
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);
     }
+}
+
+void DuBasicDialogCL::renewItemFontM(CWnd* parent)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), false);
 }
 
 void DuBasicDialogCL::setTxtLstBoxItemHeightM()

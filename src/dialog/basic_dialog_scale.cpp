@@ -69,6 +69,10 @@ void DuBasicDialogCL::sizeWindowM(HWND window)
 {
     const CSize size = windowSizeM(window, scale_, slDpiOf(window));
     ::SetWindowPos(window, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void DuBasicDialogCL::noteSizeM(HWND window)
+{
     CRect now;
     ::GetWindowRect(window, &now);
     builtSize_ = now.Size();
@@ -96,6 +100,33 @@ void DuBasicDialogCL::makeFontM()
     const LOGFONTA font = slDialogFont(slFittingFontOption(header_.fontOption, scale_, captions));
     font_.DeleteObject();
     font_.CreateFontIndirect(&font);
+}
+
+// Trees keep the font that the system gives them; here it grows like that of the others.
+void DuBasicDialogCL::giveTreeFontsM()
+{
+    const bool hadFont = treeFont_.GetSafeHandle() != nullptr;
+    if (scale_.PercentM() == 100 && !hadFont) {
+        return;
+    }
+    CFont font;
+    LOGFONTW system {};
+    const int dpi = slDpiOf(nullptr);
+    if (!::SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0)) {
+        return;
+    }
+    system.lfHeight = scale_.SizeM(::MulDiv(static_cast<int>(system.lfHeight), PlainDpi, dpi));
+    font.CreateFontIndirect(&system);
+    eachControlsM([&font](auto row, auto& controls) {
+        if constexpr (decltype(row)::Code == TreeCode) {
+            for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+                ::SendMessageW(controls.ControlAtM(i).GetSafeHwnd(), WM_SETFONT,
+                    reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
+            }
+        }
+    });
+    treeFont_.DeleteObject();
+    treeFont_.Attach(font.Detach());
 }
 
 // A control that the application has moved stays there, in proportion. All others get the edges that they
@@ -168,6 +199,7 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
         }
         if (isFileSized_) {
             sizeWindowM(window);
+            noteSizeM(window);
         }
     }
     background_.RescaleM(PictureScaleCL(scale_, { 0, 0 }));
@@ -176,8 +208,7 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
         io.OpenM(configFile_, "r");
         slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });
     }
-    int siblings = 0;
-    setItemFontM(stepsM(CWnd::FromHandle(window), &siblings), false);
+    renewItemFontM(CWnd::FromHandle(window));
     setTxtLstBoxItemHeightM();
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);

@@ -24,7 +24,7 @@ int systemDpi()
 int slDpiOf(HWND window)
 {
     static const auto dpiOfWindow = userFunction<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
-    const int dpi = dpiOfWindow != nullptr ? static_cast<int>(dpiOfWindow(window)) : 0;
+    const int dpi = dpiOfWindow != nullptr && window != nullptr ? static_cast<int>(dpiOfWindow(window)) : 0;
     return dpi > 0 ? dpi : systemDpi();
 }
 

@@ -9,7 +9,8 @@ constexpr int PlainDpi = 96; // Where pixels are those of description files.
 constexpr UINT GetDpiScaledSizeMsg = 0x02E4;
 constexpr UINT DpiChangedMsg = 0x02E0;
 
-// Pixels an inch of the monitor that the window is on, as far as the program is told of it.
+// Pixels an inch of the monitor that the window is on, as far as the program is told of it; null: what fonts
+// of the system are made for.
 int slDpiOf(HWND window);
 // How much larger than its client area the window is there: what its frame takes on both sides together.
 CSize slFrameOf(HWND window);

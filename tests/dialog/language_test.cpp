@@ -59,7 +59,8 @@ const char* const Captions = "[标题]\n1\n0\n1 11 10 10 80 20 1\n速度\n0 -1 0
                              "[单选按钮]\n1\n0\n4 14 110 10 90 20 1 1\n毫米\n"
                              "[多选按钮]\n1\n0\n5 15 110 40 90 20 1\n自动\n"
                              "[成组控件]\n1\n0\n6 16 110 70 90 50\n参数\n"
-                             "[多行文本]\n1\n0\n7 17 210 10 90 50 1 99\n速度\n0 1 255 255 255\n"
+                             "[多行文本]\n2\n0\n7 17 210 10 90 50 1 99\n速度\n0 1 255 255 255\n"
+                             "9 19 310 10 90 50 1 99\n速度\n1 1 255 255 255\n"
                              "[单行文本]\n1\n0\n8 18 210 70 90 22 3 0 20 0 0 1\n速度\n0 1 255 255 255\n";
 
 // Lists 11 and 12 of lines, a combo box 13 and one with a field 14, a table 15, a tree 16.
@@ -107,6 +108,14 @@ TEST(DialogLanguage, CaptionsAndTheTitleGoWideToTheirWindows)
     // What the user may change is a value.
     EXPECT_EQ(dialog.ShownM(17), "速度");
     EXPECT_EQ(dialog.ShownM(18), "速度");
+    // What he may not is a text like others, and a value all the same.
+    EXPECT_EQ(dialog.ShownM(19), "Geschwindigkeit in m/s²");
+    EXPECT_EQ(dialog.ValuesM().TextM(19)->Utf8M(), "速度");
+    char text[TextSize] = "";
+    EXPECT_EQ(dialog.ControlM<DuMultiEditCL>(19).GetTextM(text), 1);
+    EXPECT_EQ(slGbkToUtf8(text), "速度");
+    EXPECT_TRUE(dialog.ValuesM().SetTextM(19, "new"));
+    EXPECT_EQ(dialog.ValuesM().TextM(19)->Utf8M(), "new");
     // What the application reads by the window classes is what is shown, as far as GBK can say it.
     CString caption;
     dialog.GetDlgItem(12)->GetWindowText(caption);

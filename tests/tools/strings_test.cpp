@@ -59,6 +59,12 @@ TEST(Strings, WhatTheUserTypesAndBareNumbersAreNoTextsToTranslate)
         "");
 }
 
+TEST(Strings, ATextThatOnlyCanBeReadIsOne)
+{
+    EXPECT_EQ(stringsOf("[多行文本]\n1\n0\n1 1001 0 0 9 9 1 99\n备注\n1 1 1 1 1\n"),
+        "#. multi edit 1001, text: room for 9 x 9 pixels\n#: FILE:5\nmsgid \"备注\"\nmsgstr \"\"\n");
+}
+
 TEST(Strings, FilesShareTheirTextsAndNamesWithBlanksAreMarked)
 {
     const DescriptionFileCL first("[成组控件]\n1\n0\n1 1 0 0 9 9\n速度\n");

@@ -44,7 +44,8 @@ private:
             const ReadableTextCL control { {}, RecordsTP::KindName, nullptr, view_.IntM("function_id"), 0,
                 view_.IntM("size"), view_.IntM("size", 1) };
             owners_.emplace(control.id, control);
-            if (RowTP::Code != MultiEditCode) { // Its text is what the user may change.
+            // What the user may change is no text to translate.
+            if (RowTP::Code != MultiEditCode || view_.IntM("read_only") == 1) {
                 captionsM(control);
             }
         }

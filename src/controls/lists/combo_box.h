@@ -2,7 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
-#include "controls/lists/line_originals.h"
+#include "controls/lists/translated_lines.h"
 #include "records/fields.h"
 
 // A drop-down list, with or without an edit field. Indexes count from 0; texts are GBK.

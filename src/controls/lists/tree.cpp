@@ -84,10 +84,11 @@ void DuTreeCL::RescaledM(int, int)
         return;
     }
     {
-        TreePicturesCL pictures(again, scale, nullptr);
-        for (const std::string& file : images_.files) {
-            if (!file.empty()) {
-                pictures.AddM(file.c_str());
+        ImageFilesTP files; // The same again.
+        TreePicturesCL pictures(again, scale, files);
+        for (const auto& file : images_.files) {
+            if (file != nullptr) {
+                pictures.AddM(file->c_str());
             }
         }
     }
@@ -103,7 +104,8 @@ int DuTreeCL::addImagesM(const char* file)
     const int before = images_.GetImageCount();
     const int first = TreePicturesCL::AddFileM(images_, file, PictureScaleM().AnywhereM());
     if (first != -1) {
-        TreePicturesCL::NoteM(ImageFilesM(), file, images_.GetImageCount() - before);
+        TreePicturesCL::NoteM(
+            images_.files, std::make_shared<const std::string>(file), images_.GetImageCount() - before);
     }
     return first;
 }

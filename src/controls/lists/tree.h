@@ -3,6 +3,7 @@
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
 #include "controls/base/translator.h"
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -27,7 +28,7 @@ public:
         return *this;
     }
 
-    std::vector<std::string> files; // Where they come from, while their scale may change (TreePicturesCL).
+    std::vector<std::shared_ptr<const std::string>> files; // Where they come from (tree_pictures.h).
 };
 
 // What items that show a translation say in the file. It belongs to the window: a copy of the control starts
@@ -86,11 +87,8 @@ public:
     void SetTextColourM(std::optional<COLORREF> colour); // Of the items' texts (ControlCL).
     // The pictures of its items; the control keeps them.
     CImageList& ImagesM() { return images_; }
-    // Where to note the files of what is added to them; null: nowhere.
-    std::vector<std::string>* ImageFilesM()
-    {
-        return PictureScaleM().MayChangeM() ? &images_.files : nullptr;
-    }
+    // Where it is kept from which files they come (tree_pictures.h).
+    std::vector<std::shared_ptr<const std::string>>& ImageFilesM() { return images_.files; }
     void DelItemM();
     void RescaledM(int from, int to);
     void destroyM() { images_.DeleteImageList(); } // Deletes the image list.

@@ -24,8 +24,7 @@ HBITMAP loadImages(const char* file, const PictureScaleCL& scale)
 
 } // namespace
 
-TreePicturesCL::TreePicturesCL(
-    CImageList& images, const PictureScaleCL& scale, std::vector<std::string>* files)
+TreePicturesCL::TreePicturesCL(CImageList& images, const PictureScaleCL& scale, ImageFilesTP& files)
     : images_(images)
     , scale_(scale)
     , side_(scale.WidthM(Side))
@@ -58,10 +57,10 @@ int TreePicturesCL::AddFileM(CImageList& images, const char* file, const Picture
     return loaded.GetSafeHandle() != nullptr ? images.Add(&loaded, Black) : -1;
 }
 
-void TreePicturesCL::NoteM(std::vector<std::string>* files, const char* file, int count)
+void TreePicturesCL::NoteM(ImageFilesTP& files, const std::shared_ptr<const std::string>& file, int count)
 {
-    for (int i = 0; files != nullptr && i < count; ++i) {
-        files->push_back(i == 0 ? file : "");
+    for (int i = 0; i < count; ++i) {
+        files.push_back(i == 0 ? file : nullptr);
     }
 }
 
@@ -76,6 +75,7 @@ int TreePicturesCL::AddM(const char* file)
         const int count = distinct_.GetImageCount();
         picture.first = AddFileM(distinct_, file, scale_);
         picture.count = distinct_.GetImageCount() - count;
+        picture.file = std::make_shared<const std::string>(file);
     }
     if (picture.first == -1) {
         return -1;
@@ -84,7 +84,7 @@ int TreePicturesCL::AddM(const char* file)
     for (int i = 0; i < picture.count; ++i) {
         added_.push_back(picture.first + i);
     }
-    NoteM(files_, file, picture.count);
+    NoteM(files_, picture.file, picture.count);
     return index;
 }
 
