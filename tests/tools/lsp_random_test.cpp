@@ -46,7 +46,7 @@ public:
         const std::size_t length = belowM(3) == 0 || isLong ? belowM(most) : 0;
         changes_.push_back(text_.ChangeM(
             at, std::min(at + length, text_.text.size()), isLong ? u"" : Typed[belowM(std::size(Typed))]));
-        if (belowM(20) == 0) { // Editors too tell of several at once.
+        if (belowM(50) == 0) { // Editors too tell of several at once.
             TellM();
         }
     }
