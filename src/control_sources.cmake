@@ -49,6 +49,7 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_by_id_lines.cpp
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
+  dialog/basic_dialog_frame.cpp
   dialog/basic_dialog_hooks.cpp
   dialog/basic_dialog_items.cpp
   dialog/basic_dialog_language.cpp

@@ -12,7 +12,6 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     scale_ = ScaleCL(wantedScaleM());
     bound_ = {};
     const DialogStretchCL before = stretch_.OfM(builtIn_);
-    std::vector<BindingCL> bindings;
     bool isBound = false;
     beginDiagnosticsM();
     translation_.ReadM(configFile_);
@@ -24,12 +23,12 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
-        isBound = readBindingsM(io, bindings);
+        isBound = readBindingsM(io);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
     if (isBound) {
-        bindM(bindings, before, mode);
+        bindM(before);
     }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
@@ -85,6 +84,31 @@ void DuBasicDialogCL::fillIndexM()
         ++number;
     });
     index_.EndM();
+}
+
+// The first control with that id, as an object of the class of its kind, whose row of the table is told;
+// null: none. Once, not for each use: a use then has code only for the kinds that it does something with.
+void* DuBasicDialogCL::findM(int id, int* row)
+{
+    if (!index_.IsFilledM(0)) {
+        fillIndexM();
+    }
+    void* found = nullptr;
+    for (const auto& [placeId, place] : index_.PlacesM(id)) {
+        int number = 0;
+        const int slot = place.slot;
+        *row = place.row;
+        eachControlsM([&found, &number, id, slot, row](auto, auto& controls) {
+            if (number++ == *row && controls.CheckAvailableM(slot) == 1
+                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
+                found = &controls.ControlAtM(slot);
+            }
+        });
+        if (found != nullptr) {
+            break;
+        }
+    }
+    return found;
 }
 
 // Reads the records of one kind, then makes and fills its controls.

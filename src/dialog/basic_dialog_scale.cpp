@@ -58,8 +58,12 @@ int DuBasicDialogCL::wantedScaleM() const
 // and the frame that it has. dpi: of its monitor.
 CSize DuBasicDialogCL::windowSizeM(HWND window, const ScaleCL& scale, int dpi) const
 {
-    const CSize plain = slFrameOf(window, PlainDpi);
     const CSize frame = slFrameOf(window, dpi);
+    if (bound_.isOwn) { // The frame is not the file's.
+        return { slWindowLength(stretch_.OfM(0, scale.PlaceM(bound_.plainSize[0])) + frame.cx),
+            slWindowLength(stretch_.OfM(1, scale.PlaceM(bound_.plainSize[1])) + frame.cy) };
+    }
+    const CSize plain = slFrameOf(window, PlainDpi);
     return { slWindowLength(scale.PlaceM(header_.size[0] - plain.cx) + frame.cx),
         slWindowLength(scale.PlaceM(header_.size[1] - plain.cy) + frame.cy) };
 }
@@ -190,6 +194,9 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, FALSE, 0);
     }
+    const DialogStretchCL stretch = stretch_;
+    const bool wasBound = unbindM();
+    stretch_ = stretch;
     scale_ = ScaleCL(percent);
     if (mode_ == 1) {
         if (suggested != nullptr) {
@@ -197,7 +204,7 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
                 suggested->right - suggested->left, suggested->bottom - suggested->top,
                 SWP_NOZORDER | SWP_NOACTIVATE);
         }
-        if (isFileSized_) {
+        if (isFileSized_ && !::IsZoomed(window)) {
             sizeWindowM(window);
             noteSizeM(window);
         }
@@ -208,8 +215,11 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
         io.OpenM(configFile_, "r");
         slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });
     }
-    renewItemFontM(CWnd::FromHandle(window));
+    setItemFontM(CWnd::FromHandle(window), false);
     setTxtLstBoxItemHeightM();
+    if (wasBound) {
+        bindAgainM(stretch);
+    }
     if (isShown) {
         ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
         ::RedrawWindow(window, nullptr, nullptr,
@@ -222,7 +232,7 @@ bool DuBasicDialogCL::hasFileSizeM(HWND window) const
 {
     CRect now;
     ::GetWindowRect(window, &now);
-    return now.Size() == builtSize_;
+    return bound_.isOwn || now.Size() == builtSize_; // What is bound goes on having it in proportion.
 }
 
 // The system asks how large the window wants to be on another monitor, and says when it is there.

@@ -14,7 +14,7 @@ struct BoundWindowCL
     BindingCL binding;
     KeptSizeCL kept;
     EdgesCL control; // Where the file has the control; of what keeps its height only what shows,
-    EdgesCL window;  // and this window of it, as its size is asked for.
+    EdgesCL window;  // and where this window of it stood then.
     EdgesCL now;     // Where it was put last.
 };
 
@@ -23,8 +23,10 @@ struct BoundWindowsCL
 {
     bool isBound { false };             // The file has the section.
     bool isOwn { false };               // The dialog's own window is what is resized.
-    int fileSize[2] {};                 // Of the client area, in pixels, as the file has it.
+    int plainSize[2] {};                // Of the client area, in pixels, as the file has it,
+    int fileSize[2] {};                 // and at the dialog's scale.
     int least[2] {};                    // Of the dialog's window, frame included; 0: any.
+    std::vector<BindingCL> bindings;    // As the file has them.
     std::vector<BoundWindowCL> windows; // As they stand in the table.
 };
 
@@ -37,6 +39,8 @@ struct DialogStretchCL
     RECT zoomed {}; // The window then.
 
     bool IsLargerM() const { return size[0] > fileSize[0] || size[1] > fileSize[1]; }
+    // A width (i 0) or height (1) at the file's size made larger in proportion.
+    int OfM(int i, int length) const { return IsLargerM() ? ::MulDiv(length, size[i], fileSize[i]) : length; }
     // The same with what the window is now.
     DialogStretchCL OfM(HWND window) const
     {

@@ -15,6 +15,15 @@ void addRect(HRGN region, HRGN scratch, const RECT& rect)
 
 } // namespace
 
+EdgesCL slEdgesInParent(HWND window)
+{
+    RECT rect {};
+    ::GetWindowRect(window, &rect);
+    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<POINT*>(&rect), 2);
+    return { static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+        static_cast<int>(rect.bottom) };
+}
+
 DeferredPlacesCL::DeferredPlacesCL(HWND parent, std::size_t most)
     : parent_(parent)
 {
@@ -47,10 +56,8 @@ void DeferredPlacesCL::EndM()
     HDWP pass = ::BeginDeferWindowPos(static_cast<int>(places_.size()));
     for (const PlaceCL& place : places_) {
         if (!place.isOpaque) {
-            RECT before {};
-            ::GetWindowRect(place.child, &before);
-            ::MapWindowPoints(nullptr, parent_, reinterpret_cast<POINT*>(&before), 2);
-            addRect(beneath, scratch, before);
+            const EdgesCL before = slEdgesInParent(place.child);
+            addRect(beneath, scratch, { before.left, before.top, before.right, before.bottom });
             addRect(beneath, scratch, place.rect);
             isPainted = true;
         }

@@ -3,6 +3,9 @@
 #include "toolkit/platform.h"
 #include <vector>
 
+// Where a child window stands in its parent, in client coordinates.
+EdgesCL slEdgesInParent(HWND child);
+
 // Moves and sizes many children of one window in one pass.
 class DeferredPlacesCL
 {

@@ -3,10 +3,6 @@
 
 // What the operations of an editor share.
 
-inline const GrammarCL& grammarOf(int grammar)
-{
-    return slGrammars()[static_cast<std::size_t>(grammar)];
-}
 // Whether its records can neither be inserted nor deleted.
 inline bool hasFixedRecords(int grammar)
 {

@@ -1,6 +1,6 @@
+#include "editing/editor_state.h"
 #include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
-#include "editing/editor_operations.h"
 #include <algorithm>
 #include <climits>
 

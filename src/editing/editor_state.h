@@ -57,5 +57,9 @@ private:
     TextChangesTP changes_;       // The last ones.
 };
 
+inline const GrammarCL& grammarOf(int grammar)
+{
+    return slGrammars()[static_cast<std::size_t>(grammar)];
+}
 // Whether a grammar's records are controls.
 bool isOfControls(const GrammarCL& grammar);

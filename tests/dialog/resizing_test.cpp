@@ -238,8 +238,6 @@ TEST(Resizing, EveryKindLooksAsIfTheFileHadItThere)
         there.ShowM();
         ASSERT_EQ(textOf(there.ClientM()), textOf(now));
         const Pixels wanted(there.m_hWnd);
-        seen.SavePngM(L"Z:\\tmp\\wt\\stretch_a" + std::to_wstring(by.cx) + L".png");
-        wanted.SavePngM(L"Z:\\tmp\\wt\\stretch_b" + std::to_wstring(by.cx) + L".png");
         EXPECT_EQ(seen.DifferencesM(wanted), 0) << by.cx << " " << by.cy;
         for (const std::string id : BoundIds) {
             EXPECT_EQ(dialog.PlaceM(std::stoi(id)), there.PlaceM(std::stoi(id))) << id;
@@ -278,8 +276,9 @@ public:
 protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc)
     {
-        for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
-             child = ::GetWindow(child, GW_HWNDNEXT)) {
+        // Controls ask for what is behind them on contexts of their own.
+        const HWND first = ::WindowFromDC(dc->m_hDC) == m_hWnd ? ::GetWindow(m_hWnd, GW_CHILD) : nullptr;
+        for (HWND child = first; child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
             RECT rect {};
             ::GetWindowRect(child, &rect);
             ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
@@ -430,4 +429,50 @@ TEST(Resizing, ABindingOfNoControlIsTold)
     dialog.SetConfigFileM(file.path());
     ASSERT_EQ(dialog.CreateM(), 1);
     EXPECT_EQ(told, "23 unknown-id; ");
+}
+
+TEST(Resizing, AtAnotherScaleItGoesOnInProportion)
+{
+    ResizedDialogCL dialog(TwoBound);
+    const SIZE file = dialog.ClientM();
+    dialog.GrowM(100, 60);
+    ASSERT_EQ(dialog.SetScaleM(150), 1);
+    const SIZE larger = dialog.ClientM();
+    EXPECT_NEAR(larger.cx, (file.cx + 100) * 3 / 2, 1);
+    EXPECT_NEAR(larger.cy, (file.cy + 60) * 3 / 2, 1);
+    const auto placeAt
+        = [&](int x, int y) { return std::to_string(150 + x) + " " + std::to_string(15 + y) + " 120 33"; };
+    const int scaled[2] = { static_cast<int>(file.cx * 3 + 1) / 2, static_cast<int>(file.cy * 3 + 1) / 2 };
+    EXPECT_EQ(dialog.PlaceM(12),
+        placeAt(static_cast<int>(larger.cx) - scaled[0], static_cast<int>(larger.cy) - scaled[1]));
+    dialog.GrowM(-1000, -1000);
+    EXPECT_EQ(textOf(dialog.ClientM()), textOf({ scaled[0], scaled[1] }));
+    EXPECT_EQ(dialog.PlaceM(12), placeAt(0, 0));
+    ASSERT_EQ(dialog.SetScaleM(100), 1);
+    EXPECT_EQ(textOf(dialog.ClientM()), textOf(file));
+    EXPECT_EQ(dialog.PlaceM(11), "10 10 80 22");
+    EXPECT_EQ(dialog.PlaceM(12), "100 10 80 22");
+    dialog.GrowM(31, 7);
+    EXPECT_EQ(dialog.PlaceM(12), "131 17 80 22");
+}
+
+TEST(Resizing, ADialogBuiltAtAScaleFollowsFromThere)
+{
+    ResizedDialogCL plain(TwoEdits);
+    const DescriptionFileCL file(TwoBound);
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.SetScaleM(200), 1);
+    ASSERT_EQ(dialog.CreateM(), 1);
+    RECT client {};
+    dialog.GetClientRect(&client);
+    EXPECT_EQ(
+        textOf({ client.right, client.bottom }), textOf({ plain.ClientM().cx * 2, plain.ClientM().cy * 2 }));
+    EXPECT_EQ(placeOf(::GetDlgItem(dialog.m_hWnd, 12)), "200 20 160 44");
+    RECT window {};
+    dialog.GetWindowRect(&window);
+    dialog.SetWindowPos(nullptr, 0, 0, window.right - window.left + 9, window.bottom - window.top + 4,
+        SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(placeOf(::GetDlgItem(dialog.m_hWnd, 12)), "209 24 160 44");
+    EXPECT_EQ(placeOf(::GetDlgItem(dialog.m_hWnd, 11)), "20 20 169 44");
 }

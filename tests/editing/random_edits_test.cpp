@@ -2,9 +2,9 @@
 // but for those. PANELKIT_EDITS says how many; the same number gives the same edits everywhere.
 #include "baselib/number_text.h"
 #include "editing/description_editor.h"
-#include "editing/read_model.h"
 #include "support/description_files.h"
 #include "support/random_description.h"
+#include "support/read_model.h"
 #include "support/sound_description.h"
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -234,9 +234,10 @@ private:
         } else {
             value.text = readAs(form, text);
         }
-        if (field == "data_type") {
-            for (ModelValueCL& other : model) {
-                other.text = other.field == "range" || other.field == "initial" ? "*" : other.text;
+        if (field == "data_type") { // What is of another type now may become its default.
+            const std::vector<ValueFormCL> now = formsM(grammar, record);
+            for (std::size_t i = 0; i < now.size(); ++i) {
+                model[i].text = now[i].type != forms[i].type ? "*" : model[i].text;
             }
         }
         const EditResult result

@@ -103,7 +103,7 @@ private:
     // A new one for a control; for what belongs to one mostly one that is there.
     std::string idM(const GrammarCL& grammar, std::size_t place)
     {
-        const bool isRelation = std::strcmp(grammar.header, RelationHeader) == 0;
+        const bool isRelation = grammar.NamesControlsM();
         if (grammar.owner == nullptr && !isRelation) {
             nextId_ += 1 + (ChanceM(20) ? BelowM(50) : 0);
             ids_[place].push_back(nextId_);

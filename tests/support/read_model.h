@@ -147,11 +147,9 @@ void addShown(RecordsTP& records, const char* section, std::vector<ShownControlC
     }
 }
 
-inline ShownDialogCL shownOf(std::string_view bytes)
+inline ShownDialogCL shownOf(VrIOCL& io)
 {
     ShownDialogCL shown;
-    VrIOCL io;
-    io.OpenM(std::make_shared<const FileTextCL>(bytes));
     slEachKindAsBuilt([&](auto row) {
         typename decltype(row)::Records records;
         int count = 0;
@@ -167,4 +165,11 @@ inline ShownDialogCL shownOf(std::string_view bytes)
     buttons.FmReadInterfaceM(&io);
     addShown(buttons, NewRotateBtnHeader, shown.controls);
     return shown;
+}
+
+inline ShownDialogCL shownOf(std::string_view bytes)
+{
+    VrIOCL io;
+    io.OpenM(std::make_shared<const FileTextCL>(bytes));
+    return shownOf(io);
 }
