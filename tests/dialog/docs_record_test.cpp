@@ -1,5 +1,6 @@
 // The tables of the docs tell of each value what the code does: its name, its kind, its default, its choices.
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "support/description_files.h"
 #include "support/kind_types.h"
@@ -180,6 +181,16 @@ TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
     ASSERT_EQ(tables.size(), 2U);
     expectTold(ofHeader.fields, tables[0]);
     expectTold(ofAll.fields, tables[1]);
+}
+
+TEST(Docs, TellTheValuesOfABinding)
+{
+    BindingCL binding;
+    ToTellCL told;
+    binding.EachFieldM(told);
+    const auto tables = tablesOf("resizing.md");
+    ASSERT_EQ(tables.size(), 1U);
+    expectTold(told.fields, tables[0]);
 }
 
 TEST(Docs, TellTheTableOfKinds)

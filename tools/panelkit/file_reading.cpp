@@ -21,6 +21,10 @@ FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
         slReadSection(io, RecordsM<typename decltype(row)::Records>(), &count);
     });
     slReadRelations(io, [](RelationCL&) {});
+    slReadBindings(io, [this](BindingCL& binding) {
+        bindings_.push_back(binding);
+        return 1;
+    });
     newRotateButtons_.FmReadInterfaceM(&io);
 }
 
