@@ -142,8 +142,8 @@ std::vector<std::pair<RectCL, RectCL>> rectsOf(const std::string& file, const Sc
         slReadSection(io, records, &count);
         for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
             auto& record = records.ElementAtM(i);
-            const RectCL before = rectOf(record);
             const bool counts = isMeant(record);
+            const RectCL before = counts ? rectOf(record) : RectCL {};
             slScaleRecord(record, scale);
             if (counts) {
                 rects.emplace_back(before, rectOf(record));
