@@ -22,6 +22,8 @@ struct CommandResultCL
 
 #ifdef _WIN32
 
+constexpr DWORD NotStarted = 999; // The code of a command that the system did not start.
+
 inline HANDLE inheritedFile(const std::string& path)
 {
     SECURITY_ATTRIBUTES attributes { sizeof attributes, nullptr, TRUE };
@@ -38,17 +40,18 @@ inline int startCommand(const std::string& arguments, const std::string& output,
     start.hStdError = inheritedFile(errors);
     PROCESS_INFORMATION process {};
     std::string line = "\"" PANELKIT_COMMAND "\" " + arguments;
-    DWORD code = 999;
-    if (::CreateProcessA(
-            nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process)) {
-        ::WaitForSingleObject(process.hProcess, 120000);
-        ::GetExitCodeProcess(process.hProcess, &code);
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
-    } else {
-        const std::string why = "not started: error " + std::to_string(::GetLastError()) + "\n";
-        DWORD written = 0;
-        ::WriteFile(start.hStdError, why.data(), static_cast<DWORD>(why.size()), &written, nullptr);
+    DWORD code = NotStarted;
+    // Wine now and then refuses one start of thousands, before our program runs at all: each refusal is told.
+    for (int attempt = 1; attempt <= 3; ++attempt) {
+        if (::CreateProcessA(
+                nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process)) {
+            ::WaitForSingleObject(process.hProcess, 120000);
+            ::GetExitCodeProcess(process.hProcess, &code);
+            ::CloseHandle(process.hThread);
+            ::CloseHandle(process.hProcess);
+            break;
+        }
+        std::printf("NOT STARTED, attempt %d, error %lu: %s\n", attempt, ::GetLastError(), line.c_str());
     }
     ::CloseHandle(start.hStdOutput);
     ::CloseHandle(start.hStdError);
