@@ -1,6 +1,8 @@
 #include "baselib/file_text.h"
+#include "baselib/character_starts.h"
 #include "baselib/gbk.h"
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 FileTextCL::FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size)
@@ -57,4 +59,42 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
     }
     lastStart_ = static_cast<std::size_t>(at - bytes);
     return last_;
+}
+
+void FileTextCL::findHeadersM() const
+{
+    hasHeaders_ = true;
+    const char* const end = bytes_.get() + size_;
+    CharacterStartsCL starts(bytes_.get());
+    for (const char* at = bytes_.get();
+         (at = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at)))) != nullptr;
+         ++at) {
+        if (starts.IsStartM(at, end)) {
+            headers_.push_back(static_cast<std::size_t>(at - bytes_.get()));
+        }
+    }
+}
+
+std::size_t FileTextCL::HeaderEndM(std::string_view header) const
+{
+    if (!hasHeaders_) {
+        findHeadersM();
+    }
+    const char* const end = bytes_.get() + size_;
+    for (const std::size_t begin : headers_) {
+        const char* at = bytes_.get() + begin;
+        if (size_ - begin < header.size()) {
+            break;
+        }
+        if (std::memcmp(at, header.data(), header.size()) == 0) {
+            const char* const headerEnd = at + header.size();
+            while (at < headerEnd) {
+                at += slGbkCharLength(at, end);
+            }
+            if (at == headerEnd) {
+                return begin + header.size();
+            }
+        }
+    }
+    return SIZE_MAX;
 }

@@ -1,6 +1,10 @@
 #include "records/field_reader.h"
 #include "baselib/gbk.h"
+#include "baselib/number_scan.h"
 #include "baselib/number_text.h"
+#include <cfloat>
+#include <climits>
+#include <cmath>
 #include <cstring>
 
 ReadObserverCL::~ReadObserverCL() = default;
@@ -10,14 +14,15 @@ void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
 
-bool numberFits(std::string_view number, int)
+// Only a limit may stand for more than itself.
+bool numberFits(std::string_view number, int value)
 {
-    return slIntFits(number.data(), number.data() + number.size());
+    return (value != INT_MAX && value != INT_MIN) || slIntFits(number.data(), number.data() + number.size());
 }
 
-bool numberFits(std::string_view number, float)
+bool numberFits(std::string_view number, float value)
 {
-    return slRealFits(number.data(), number.data() + number.size());
+    return std::abs(value) != FLT_MAX || slRealFits(number.data(), number.data() + number.size());
 }
 
 // Where the word ends, or a text's length of it: many values may be looked for at the same long word.
@@ -31,23 +36,25 @@ std::size_t wordEnd(const FileTextCL& file, std::size_t at)
     return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
-bool standsForNothing(const CharArr& text, NullWord rule)
+bool standsForNothing(const char* text, NullWord rule)
 {
-    return rule == NullWord::UpperEmpty ? std::strcmp(text.TextM(), "NULL") == 0
-                                        : rule != NullWord::Kept && slIsNullWord(text.TextM()) != 0;
+    if ((*text != 'N' && *text != 'n') || rule == NullWord::Kept) {
+        return false; // Most texts.
+    }
+    return rule == NullWord::UpperEmpty ? std::strcmp(text, "NULL") == 0 : slIsNullWord(text) != 0;
 }
 
 } // namespace
 
 std::size_t slNextValue(const VrIOCL& io)
 {
-    std::size_t at = io.PositionM();
-    if (const FileTextCL* const file = io.FileTextM().get()) {
-        while (at < file->SizeM() && slIsBlank(file->BytesM()[at])) {
-            ++at;
-        }
+    const FileTextCL* const file = io.FileTextM().get();
+    if (file == nullptr) {
+        return io.PositionM();
     }
-    return at;
+    const char* const bytes = file->BytesM();
+    const char* const next = slSkipBlanks(bytes + io.PositionM(), bytes + file->SizeM());
+    return static_cast<std::size_t>(next - bytes);
 }
 
 void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
@@ -55,10 +62,27 @@ void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
     observer_->ValueM({ section_, record_, name, part, span, fate, isFileName_ });
 }
 
+bool FieldReaderCL::inputM(int& value)
+{
+    if (io_->binary_) {
+        return io_->InputOneM(&value);
+    }
+    const char* const end = io_->data_ + io_->size_;
+    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
+    const char* const numberEnd = slScanInt(begin, end, &value);
+    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
+    return numberEnd > begin;
+}
+
+bool FieldReaderCL::inputM(float& value)
+{
+    return io_->InputOneM(&value);
+}
+
 template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
 {
     if (observer_ == nullptr && !isStopped_) {
-        return io_->InputOneM(&value);
+        return inputM(value);
     }
     return readObservedM(name, part, value);
 }
@@ -70,7 +94,10 @@ template <class T> bool FieldReaderCL::readObservedM(const char* name, int part,
     }
     const FileTextCL* const file = io_->FileTextM().get();
     const std::size_t begin = slNextValue(*io_);
-    const bool isRead = !isStopped_ && io_->InputOneM(&value);
+    if (!isStopped_ && !io_->binary_) {
+        io_->at_ = begin; // Nothing is passed over twice.
+    }
+    const bool isRead = !isStopped_ && inputM(value);
     SpanCL span { begin, isRead ? io_->PositionM() : begin };
     Fate fate = Fate::Read;
     if (isStopped_) {
@@ -97,6 +124,41 @@ template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int
 void FieldReaderCL::IntM(const char* name, int& value)
 {
     readM(name, 0, value);
+}
+
+void FieldReaderCL::IdM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::IndexM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::CountM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::FlagM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::ChoiceM(const char* name, int& value, const ChoicesCL&)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::LengthM(const char* name, int& value, Along)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::LengthPairM(const char* name, int (&xy)[2])
+{
+    readAllM(name, xy, 2);
 }
 
 void FieldReaderCL::RealM(const char* name, float& value)
@@ -142,8 +204,13 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
         return;
     }
     const auto most = static_cast<std::size_t>(form.size) - 1;
-    text.SetM(item.data(), slGbkCutLength(item.data(), item.size(), most));
-    const bool isNullWord = standsForNothing(text, form.nullWord);
+    const std::size_t length = slGbkCutLength(item.data(), item.size(), most);
+    if (isReusing_) {
+        text.SetWithinM(item.data(), length, TextSize);
+    } else {
+        text.SetM(item.data(), length);
+    }
+    const bool isNullWord = standsForNothing(text.TextM(), form.nullWord);
     if (observer_ != nullptr) {
         const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
         const bool isWhole = text.LengthM() == item.size();
@@ -160,6 +227,11 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
     } else {
         text.SetM("");
     }
+}
+
+void FieldReaderCL::CaptionM(const char* name, CharArr& text, const TextFormCL& form)
+{
+    TextM(name, text, form);
 }
 
 void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)

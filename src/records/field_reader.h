@@ -23,6 +23,8 @@ public:
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
     }
+    // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
+    void ReuseTextsM() { isReusing_ = true; }
     bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
     bool IsSkippedM() const { return isSkipped_; } // A text said that the entry doesn't count.
 
@@ -35,7 +37,19 @@ public:
     void NameM(const char* name, CharArr& file, const TextFormCL& form) override;
     void StopReadingM() override;
 
+    // What is read as another verb's value, without the way through that verb.
+    void IdM(const char* name, int& value) override;
+    void IndexM(const char* name, int& value) override;
+    void CountM(const char* name, int& value) override;
+    void FlagM(const char* name, int& value) override;
+    void ChoiceM(const char* name, int& value, const ChoicesCL& choices) override;
+    void LengthM(const char* name, int& value, Along along) override;
+    void LengthPairM(const char* name, int (&xy)[2]) override;
+    void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override;
+
 private:
+    bool inputM(int& value);
+    bool inputM(float& value);
     template <class T> bool readM(const char* name, int part, T& value);
     template <class T> bool readObservedM(const char* name, int part, T& value);
     template <class T> void readAllM(const char* name, T* values, int count);
@@ -48,6 +62,7 @@ private:
     bool isStopped_;
     bool isSkipped_ { false };
     bool isFileName_ { false };
+    bool isReusing_ { false };
 };
 
 // Where the next value would begin: the offset of the next byte of the open file that is no blank.

@@ -2,8 +2,12 @@
 #include "records/field_counter.h"
 #include "records/field_reader.h"
 #include "records/rows.h"
+#include <algorithm>
+#include <climits>
 #include <cstddef>
-#include <unordered_map>
+#include <cstdint>
+#include <utility>
+#include <vector>
 
 // Whether so many bytes can hold `count` records or entries, each of at least `values` numbers and texts. A
 // small count may leave much to the defaults; a large one only serves to make the reader waste memory.
@@ -53,6 +57,20 @@ private:
     bool isEnded_ { false };
 };
 
+// Finds the first record with an id, in little time however many records there are.
+class PANELKIT_API IdsOfRecordsCL
+{
+public:
+    explicit IdsOfRecordsCL(int count) { ids_.reserve(static_cast<std::size_t>(std::max(count, 0))); }
+    void AddM(int id, int index) { ids_.push_back({ id, index }); } // In rising order of index.
+    void SortM();                                                   // Once all are there.
+    int FindM(int id);                                              // -1 when no record has it.
+
+private:
+    std::vector<std::pair<int, int>> ids_;
+    std::size_t last_ { 0 }; // Entries of one record mostly stand together, and in the order of the records.
+};
+
 // What the entries of one secondary section of a kind hold, and how a record takes one.
 template <class RecordTP> struct SecondarySectionCL
 {
@@ -76,14 +94,20 @@ struct SectionEntryCL
     PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields); // What can't be read is 0 or "".
 };
 
-// Reads one record of a main section: from its defaults (the delete tag is kept), the common fields, then its
-// own. 0 when it turned out to be unreadable, else 1.
-template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& reader)
+// Reads one record of a main section, which holds its defaults: the common fields, then its own. 0 when it
+// turned out to be unreadable, else 1.
+template <class RecordTP> int slReadFreshRecord(RecordTP& record, FieldReaderCL& reader)
 {
-    record = RecordTP(record.GetDeleteTagM());
     record.EachCommonFieldM(reader);
     record.EachFieldM(reader);
     return reader.IsStoppedM() ? 0 : 1;
+}
+
+// The same, from its defaults on; the delete tag is kept.
+template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& reader)
+{
+    record = RecordTP(record.GetDeleteTagM());
+    return slReadFreshRecord(record, reader);
 }
 
 // Reads the entries of one secondary section and gives each to the first alive record with its function id.
@@ -99,21 +123,32 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
-    std::unordered_map<int, int> firstOfId;
+    IdsOfRecordsCL ids(records.GetAvailableNumM());
     for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        firstOfId.emplace(records.ElementAtM(i).GetFuncIDM(), i);
+        ids.AddM(records.ElementAtM(i).GetFuncIDM(), i);
     }
+    ids.SortM();
     for (int i = 0; i < section.CountM(); ++i) {
         FieldReaderCL& reader = section.RecordM(i);
         entry.ReadM(reader, secondary.fields);
-        const auto found = firstOfId.find(entry.functionId);
-        if (reader.IsSkippedM() || found == firstOfId.end()) {
+        const int found = ids.FindM(entry.functionId);
+        if (reader.IsSkippedM() || found < 0) {
             section.DropM(reader.IsSkippedM() ? EntryFault::NullWord : EntryFault::UnknownId);
         } else {
-            secondary.attach(records.ElementAtM(found->second), entry.RowM());
+            secondary.attach(records.ElementAtM(found), entry.RowM());
         }
     }
     return SectionStatus::Read;
+}
+
+// Room for so many more, as adding one by one would make it, at once. Without the memory: none.
+template <class ArrTP> void slMakeRoom(ArrTP& items, int count)
+{
+    std::int64_t length = items.GetLengthM();
+    while (length < std::int64_t { items.GetBoundM() } + count) {
+        length *= 2;
+    }
+    items.AddSizeM(static_cast<int>(std::min<std::int64_t>(length, INT_MAX)) - items.GetLengthM());
 }
 
 // Reads the main section of one kind and its secondary sections from an open file, appending to the array.
@@ -127,10 +162,16 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
     if (status != SectionStatus::Read) {
         return status;
     }
-    typename RecordArrTP::RecordTP scratch(AliveTag);
+    const typename RecordArrTP::RecordTP defaults(AliveTag);
+    slMakeRoom(records, *count);
     for (int i = 0; i < *count; ++i) {
-        slReadRecord(scratch, section.RecordM(i));
-        records.AddItemM(scratch);
+        const int index = records.AddItemM(defaults);
+        if (index >= 0) {
+            slReadFreshRecord(records.ElementAtM(index), section.RecordM(i));
+        } else { // No memory is left for it.
+            typename RecordArrTP::RecordTP lost(AliveTag);
+            slReadFreshRecord(lost, section.RecordM(i));
+        }
     }
     section.EndM();
     for (const auto& secondary : RecordArrTP::Secondaries) {
