@@ -12,7 +12,7 @@ FileTextCL::FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size)
 }
 
 FileTextCL::FileTextCL(std::string_view bytes)
-    : FileTextCL(std::make_unique<char[]>(bytes.size() + 1), bytes.size())
+    : FileTextCL(std::unique_ptr<char[]>(new char[bytes.size() + 1]), bytes.size()) // Not zeroed first.
 {
     std::copy(bytes.begin(), bytes.end(), bytes_.get());
 }

@@ -14,15 +14,25 @@ void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
 
-// Only a limit may stand for more than itself.
-bool numberFits(std::string_view number, int value)
+const char* scanNumber(const char* at, const char* end, int& value)
 {
-    return (value != INT_MAX && value != INT_MIN) || slIntFits(number.data(), number.data() + number.size());
+    return slScanInt(at, end, &value);
 }
 
-bool numberFits(std::string_view number, float value)
+const char* scanNumber(const char* at, const char* end, float& value)
 {
-    return std::abs(value) != FLT_MAX || slRealFits(number.data(), number.data() + number.size());
+    return slReadReal(at, end, &value);
+}
+
+// Only a limit may stand for more than itself.
+bool numberFits(const char* at, const char* end, int value)
+{
+    return (value != INT_MAX && value != INT_MIN) || slIntFits(at, end);
+}
+
+bool numberFits(const char* at, const char* end, float value)
+{
+    return std::abs(value) != FLT_MAX || slRealFits(at, end);
 }
 
 // Where the word ends, or a text's length of it: many values may be looked for at the same long word.
@@ -57,61 +67,65 @@ std::size_t slNextValue(const VrIOCL& io)
     return static_cast<std::size_t>(next - bytes);
 }
 
-void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
+inline void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
 {
-    observer_->ValueM({ section_, record_, name, part, span, fate, isFileName_ });
-}
-
-bool FieldReaderCL::inputM(int& value)
-{
-    if (io_->binary_) {
-        return io_->InputOneM(&value);
-    }
-    const char* const end = io_->data_ + io_->size_;
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
-    const char* const numberEnd = slScanInt(begin, end, &value);
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return numberEnd > begin;
-}
-
-bool FieldReaderCL::inputM(float& value)
-{
-    return io_->InputOneM(&value);
+    seen_.field = name;
+    seen_.part = part;
+    seen_.span = span;
+    seen_.fate = fate;
+    observer_->ValueM(seen_);
 }
 
 template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
 {
-    if (observer_ == nullptr && !isStopped_) {
-        return inputM(value);
+    if (isStopped_ || io_->binary_) {
+        return readOtherwiseM(name, part, value);
     }
-    return readObservedM(name, part, value);
+    const char* const end = io_->data_ + io_->size_;
+    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
+    const char* const numberEnd = scanNumber(begin, end, value);
+    const bool isRead = numberEnd > begin;
+    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
+    if (isObservedM()) {
+        const std::size_t at = io_->at_ - static_cast<std::size_t>(numberEnd - begin);
+        if (isRead) {
+            tellM(name, part, { at, io_->at_ },
+                numberFits(begin, numberEnd, value) ? Fate::Read : Fate::Saturated);
+        } else {
+            tellUnreadM(name, part, at);
+        }
+    }
+    return isRead;
 }
 
-template <class T> bool FieldReaderCL::readObservedM(const char* name, int part, T& value)
+// From a binary file, or not at all.
+template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part, T& value)
 {
-    if (observer_ == nullptr || io_->FileTextM() == nullptr) {
-        return !isStopped_ && io_->InputOneM(&value);
+    const std::size_t begin = isObservedM() ? slNextValue(*io_) : 0;
+    const bool isRead = !isStopped_ && io_->InputOneM(&value);
+    if (isObservedM()) {
+        const FileTextCL& file = *io_->FileTextM();
+        if (isStopped_) {
+            tellM(name, part, { begin, begin }, Fate::NotLookedAt);
+        } else if (isRead) {
+            const char* const bytes = file.BytesM();
+            const bool fits = numberFits(bytes + begin, bytes + io_->at_, value);
+            tellM(name, part, { begin, io_->at_ }, fits ? Fate::Read : Fate::Saturated);
+        } else {
+            tellUnreadM(name, part, begin);
+        }
     }
-    const FileTextCL* const file = io_->FileTextM().get();
-    const std::size_t begin = slNextValue(*io_);
-    if (!isStopped_ && !io_->binary_) {
-        io_->at_ = begin; // Nothing is passed over twice.
-    }
-    const bool isRead = !isStopped_ && inputM(value);
-    SpanCL span { begin, isRead ? io_->PositionM() : begin };
-    Fate fate = Fate::Read;
-    if (isStopped_) {
-        fate = Fate::NotLookedAt;
-    } else if (isRead) {
-        fate = numberFits(file->CutM(span), value) ? Fate::Read : Fate::Saturated;
-    } else if (begin == file->SizeM()) {
-        fate = Fate::Missing;
-    } else {
-        fate = Fate::NotANumber;
-        span.end = wordEnd(*file, begin);
-    }
-    tellM(name, part, span, fate);
     return isRead;
+}
+
+void FieldReaderCL::tellUnreadM(const char* name, int part, std::size_t begin)
+{
+    const FileTextCL& file = *io_->FileTextM();
+    if (begin == file.SizeM()) {
+        tellM(name, part, { begin, begin }, Fate::Missing);
+    } else {
+        tellM(name, part, { begin, wordEnd(file, begin) }, Fate::NotANumber);
+    }
 }
 
 template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int count)
@@ -236,9 +250,9 @@ void FieldReaderCL::CaptionM(const char* name, CharArr& text, const TextFormCL& 
 
 void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
 {
-    isFileName_ = true;
+    seen_.isFileName = true;
     TextM(name, file, form);
-    isFileName_ = false;
+    seen_.isFileName = false;
 }
 
 void FieldReaderCL::StopReadingM()

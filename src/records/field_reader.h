@@ -12,14 +12,14 @@ public:
     explicit FieldReaderCL(VrIOCL* io, const char* section = "")
         : io_(io)
         , observer_(io != nullptr ? io->ObserverM() : nullptr)
-        , section_(section)
+        , seen_ { section, 0, "", 0, {}, Fate::Read }
         , isStopped_(io == nullptr)
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
     void BeginRecordM(int number)
     {
-        record_ = number;
+        seen_.record = number;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
     }
@@ -48,20 +48,18 @@ public:
     void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override;
 
 private:
-    bool inputM(int& value);
-    bool inputM(float& value);
+    bool isObservedM() const { return observer_ != nullptr && io_->FileTextM() != nullptr; }
     template <class T> bool readM(const char* name, int part, T& value);
-    template <class T> bool readObservedM(const char* name, int part, T& value);
+    template <class T> bool readOtherwiseM(const char* name, int part, T& value);
+    void tellUnreadM(const char* name, int part, std::size_t begin);
     template <class T> void readAllM(const char* name, T* values, int count);
     void tellM(const char* name, int part, SpanCL span, Fate fate);
 
     VrIOCL* io_;
     ReadObserverCL* observer_;
-    const char* section_;
-    int record_ { 0 };
+    ValueSeenCL seen_; // What the observer is told, one value after the other.
     bool isStopped_;
     bool isSkipped_ { false };
-    bool isFileName_ { false };
     bool isReusing_ { false };
 };
 

@@ -90,16 +90,14 @@ const SeenValueCL* SeenSectionCL::FindM(int record, const char* field, int part)
 
 SeenSectionCL& SeenSectionsCL::findM(const char* header)
 {
-    if (header != lastHeader_) {
-        lastHeader_ = header;
-        last_ = &AtM(std::max(0, grammarOf(header)));
-    }
+    lastHeader_ = header;
+    last_ = &AtM(std::max(0, grammarOf(header)));
     return *last_;
 }
 
 void SeenSectionsCL::ValueM(const ValueSeenCL& value)
 {
-    SeenSectionCL& section = findM(value.section);
+    SeenSectionCL& section = value.section == lastHeader_ ? *last_ : findM(value.section);
     if (section.values.size() == section.values.capacity()) {
         section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
     }
