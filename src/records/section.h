@@ -110,35 +110,48 @@ template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& read
     return slReadFreshRecord(record, reader);
 }
 
-// Reads the entries of one secondary section and gives each to the first alive record with its function id.
-// An entry that a text of it rules out, or that no record takes, is passed over.
-template <class RecordArrTP, class RecordTP>
-SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
+// Reads the entries of one secondary section. ids() tells the ids of the records, once and only if there are
+// entries to be read; take(number, row) is given each entry of record `number`, the first one with its
+// function id. An entry that a text of it rules out, or that no record takes, is passed over.
+template <class IdsTP, class TakeTP>
+SectionStatus slReadEntries(VrIOCL& io, const char* header, RowFieldsTP fields, IdsTP&& ids, TakeTP&& take)
 {
     SectionEntryCL entry;
     FieldCounterCL values;
-    entry.EachFieldM(values, secondary.fields);
-    SectionReaderCL section(io, secondary.header);
+    entry.EachFieldM(values, fields);
+    SectionReaderCL section(io, header);
     const SectionStatus status = section.OpenM(values.ValuesM());
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
-    IdsOfRecordsCL ids(records.GetAvailableNumM());
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        ids.AddM(records.ElementAtM(i).GetFuncIDM(), i);
-    }
-    ids.SortM();
+    auto&& known = ids();
+    known.SortM();
     for (int i = 0; i < section.CountM(); ++i) {
         FieldReaderCL& reader = section.RecordM(i);
-        entry.ReadM(reader, secondary.fields);
-        const int found = ids.FindM(entry.functionId);
+        entry.ReadM(reader, fields);
+        const int found = known.FindM(entry.functionId);
         if (reader.IsSkippedM() || found < 0) {
             section.DropM(reader.IsSkippedM() ? EntryFault::NullWord : EntryFault::UnknownId);
         } else {
-            secondary.attach(records.ElementAtM(found), entry.RowM());
+            take(found, entry.RowM());
         }
     }
     return SectionStatus::Read;
+}
+
+// The same for the alive records of an array.
+template <class RecordArrTP, class RecordTP>
+SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
+{
+    const auto ids = [&records] {
+        IdsOfRecordsCL all(records.GetAvailableNumM());
+        for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+            all.AddM(records.ElementAtM(i).GetFuncIDM(), i);
+        }
+        return all;
+    };
+    return slReadEntries(io, secondary.header, secondary.fields, ids,
+        [&](int i, const RowCL& row) { secondary.attach(records.ElementAtM(i), row); });
 }
 
 // Room for so many more, as adding one by one would make it, at once. Without the memory: none.
@@ -176,6 +189,40 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
     section.EndM();
     for (const auto& secondary : RecordArrTP::Secondaries) {
         if (slReadSecondary(io, records, secondary) != SectionStatus::Read) {
+            section.SetStatusM(SectionStatus::Incomplete);
+            break;
+        }
+    }
+    return section.StatusM();
+}
+
+// Reads the same without keeping the records: see(number, record) is shown each when it was read, without
+// what its secondary sections add, and may take from it what it likes.
+template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL& io, SeeTP&& see)
+{
+    using RecordTP = typename RecordArrTP::RecordTP;
+    SectionReaderCL section(io, RecordArrTP::Header);
+    const SectionStatus status = section.OpenM(slFewestValues<RecordTP>());
+    if (status != SectionStatus::Read) {
+        return status;
+    }
+    const RecordTP defaults(AliveTag);
+    RecordTP record(AliveTag);
+    IdsOfRecordsCL ids(RecordArrTP::Secondaries.empty() ? 0 : section.CountM());
+    for (int i = 0; i < section.CountM(); ++i) {
+        record = defaults;
+        slReadFreshRecord(record, section.RecordM(i));
+        if constexpr (!RecordArrTP::Secondaries.empty()) {
+            ids.AddM(record.GetFuncIDM(), i);
+        }
+        see(i, record);
+    }
+    section.EndM();
+    for (const auto& secondary : RecordArrTP::Secondaries) {
+        if (slReadEntries(
+                io, secondary.header, secondary.fields, [&ids]() -> IdsOfRecordsCL& { return ids; },
+                [](int, const RowCL&) {})
+            != SectionStatus::Read) {
             section.SetStatusM(SectionStatus::Incomplete);
             break;
         }

@@ -51,7 +51,6 @@ FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::stri
     FindingsCL findings(file, text);
     if (checkEncoding(*text, findings)) {
         FileReadingCL reading(text);
-        checkSections(reading, findings);
         checkRecords(reading, folder, findings);
     }
     findings.SortM();

@@ -10,7 +10,7 @@ FindingsCL checkBytes(const std::string& file, const std::filesystem::path& fold
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.
-// Says how many records of each section are sound; the others keep to those.
+// Of sections that have been read: says how many records of each are sound.
 void checkSections(FileReadingCL& file, FindingsCL& findings);
-// Every record, and what it says to others. folder: where pictures are.
+// The sections, every sound record, and what it says to others. folder: where pictures are.
 void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings);

@@ -57,7 +57,7 @@ void checkCaption(CaptionMeasureCL& measure, const CheckedControlCL& control, Fi
 {
     const int line = measure.LineHeightM();
     const int width = std::max(0, control.w - besideCaption(control, line));
-    const char* const text = control.caption->TextM();
+    const char* const text = control.caption.TextM();
     // Labels alone break lines, at blanks.
     const UINT format = control.kind == LabelCode ? DT_WORDBREAK | DT_EXPANDTABS : DT_SINGLELINE;
     const SIZE size = measure.MeasureM(text, format, width);
@@ -81,7 +81,7 @@ void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, Findi
     }
     CaptionMeasureCL measure(file.DialogM().fontOption);
     for (const CheckedControlCL& control : controls) {
-        if (control.caption != nullptr && !control.caption->EmptyM() && control.w > 0 && control.h > 0) {
+        if (!control.caption.EmptyM() && control.w > 0 && control.h > 0) {
             checkCaption(measure, control, findings);
         }
     }

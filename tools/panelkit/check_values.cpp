@@ -114,7 +114,8 @@ void checkLimits(const FieldCL& range, int low, int high, const FieldCL& initial
 
 } // namespace
 
-void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pictures, FindingsCL& findings)
+void checkValues(
+    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings)
 {
     for (const FieldCL& field : record.FieldsM()) {
         if (field.seen == nullptr) {
@@ -143,8 +144,8 @@ void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pi
             checkColour(file, field, record, findings);
             break;
         case Verb::Name:
-            if (slIsNullWord(field.text->TextM()) == 0) {
-                pictures.CheckM(field.text->TextM(), field.seen->begin, findings);
+            if (!field.text->EmptyM() && slIsNullWord(field.text->TextM()) == 0) {
+                pictures.push_back({ field.seen->begin, field.seen->begin + field.text->LengthM() });
             }
             break;
         default:
@@ -153,9 +154,8 @@ void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pi
     }
 }
 
-void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, FindingsCL& findings)
+void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings)
 {
-    static_cast<void>(file);
     const auto field = [&record](const char* name) { return record.FindM(name); };
     const auto tooLong = [&findings](const FieldCL& text, std::size_t length, int most) {
         if (static_cast<long>(length) > most) {

@@ -8,24 +8,23 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind;       // Its KindCode; 0 for a new rotate button.
-    int grammar;    // Its section,
-    int record;     // and its place there.
-    bool isStacked; // Its window index counts.
-    int place;      // In the order of collection.
-    int windowIndex;
-    int id;
-    int x, y, w, h;
-    std::size_t idAt, indexAt, positionAt; // Offsets in the file.
+    int kind { 0 };    // Its KindCode; 0 for a new rotate button.
+    int grammar { 0 }; // Its section,
+    int record { 0 };  // and its place there.
+    int windowIndex { 0 };
+    int id { 0 };
+    int x { 0 }, y { 0 }, w { 0 }, h { 0 };
+    std::uint32_t idAt { 0 }, indexAt { 0 }, positionAt { 0 }; // Offsets in the file.
+    std::uint32_t captionAt { 0 };
+    CharArr caption; // Of a kind that shows one; GBK.
+    int group { 0 };
+    int arrowsId { 0 }; // Of a spin edit; 0 for none.
+    std::uint32_t arrowsAt { 0 };
+    bool isStacked { false }; // Its window index counts.
     bool hasText { false };
-    const CharArr* caption { nullptr }; // Of a kind that shows one; GBK,
-    std::size_t captionAt { 0 };        // and where the file has it.
     bool isSunken { false };
     bool isReadOnly { false };
     bool isDefault { false };
-    int group { 0 };
-    int arrowsId { 0 }; // Of a spin edit; 0 for none.
-    std::size_t arrowsAt { 0 };
     bool IsM(std::initializer_list<int> kinds) const
     {
         for (const int other : kinds) {
@@ -71,8 +70,10 @@ private:
 
 using CheckedControlsTP = std::vector<CheckedControlCL>;
 
-void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pictures, FindingsCL& findings);
-void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, FindingsCL& findings);
+// Appends the names of pictures.
+void checkValues(
+    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings);
+void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);

@@ -10,9 +10,7 @@ namespace {
 
 template <class RecordsTP> void readMainSection(VrIOCL& io)
 {
-    RecordsTP records;
-    int count = 0;
-    slReadSection(io, records, &count);
+    slEachRecordRead<RecordsTP>(io, [](int, typename RecordsTP::RecordTP&) {});
 }
 
 template <class RecordsTP, std::size_t placeN> void readSecondarySection(VrIOCL& io)
@@ -121,21 +119,11 @@ void SeenSectionsCL::SectionM(const SectionSeenCL& section)
 FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
     : text_(std::move(text))
 {
-    lines_.push_back(0);
-    const std::string_view bytes = text_->CutM({ 0, text_->SizeM() });
-    for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1)) {
-        lines_.push_back(at + 1);
-    }
-    VrIOCL io;
-    io.OpenM(text_);
-    io.SetObserverM(&seen_);
-    hasDialog_ = slReadDialogHeader(io, dialog_) != 0;
-    slEachKindAsBuilt([&](auto row) {
-        int count = 0;
-        slReadSection(io, RecordsM<typename decltype(row)::Records>(), &count);
-    });
-    slReadRelations(io, [](RelationCL&) {});
-    newRotateButtons_.FmReadInterfaceM(&io);
+    io_.OpenM(text_);
+    io_.SetObserverM(&seen_);
+    hasDialog_ = slReadDialogHeader(io_, dialog_) != 0;
+    slReadRelations(io_, [](RelationCL&) {});
+    newRotateButtons_.FmReadInterfaceM(&io_);
 }
 
 int FileReadingCL::NumberM(const SeenSectionCL& section, int record, const char* field) const
@@ -149,15 +137,27 @@ int FileReadingCL::NumberM(const SeenSectionCL& section, int record, const char*
     return number;
 }
 
+const std::vector<std::size_t>& FileReadingCL::linesM() const
+{
+    if (lines_.empty()) {
+        lines_.push_back(0);
+        const std::string_view bytes = text_->CutM({ 0, text_->SizeM() });
+        for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1)) {
+            lines_.push_back(at + 1);
+        }
+    }
+    return lines_;
+}
+
 std::size_t FileReadingCL::LineM(std::size_t offset) const
 {
-    return static_cast<std::size_t>(std::upper_bound(lines_.begin(), lines_.end(), offset) - lines_.begin())
-        - 1;
+    const std::vector<std::size_t>& lines = linesM();
+    return static_cast<std::size_t>(std::upper_bound(lines.begin(), lines.end(), offset) - lines.begin()) - 1;
 }
 
 std::size_t FileReadingCL::LineStartM(std::size_t line) const
 {
-    return line < lines_.size() ? lines_[line] : text_->SizeM();
+    return line < linesM().size() ? linesM()[line] : text_->SizeM();
 }
 
 std::string FileReadingCL::utf8M(std::string_view text)

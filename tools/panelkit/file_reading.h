@@ -82,15 +82,8 @@ private:
     SeenSectionCL* last_ { nullptr };
 };
 
-// The tuple of the record arrays of all kinds, in the order of the table of kinds.
-template <class RowsTP> struct RecordsOfTableCL;
-template <class... RowTP> struct RecordsOfTableCL<std::tuple<RowTP...>>
-{
-    using Type = std::tuple<typename RowTP::Records...>;
-};
-using AllRecordsTP = RecordsOfTableCL<KindTable>::Type;
-
-// A whole file, read by the library.
+// A whole file, read by the library: the dialog, its relations and the new rotate buttons at once, each kind
+// of control when it is asked for.
 class FileReadingCL
 {
 public:
@@ -107,7 +100,12 @@ public:
     bool HasDialogM() const { return hasDialog_; }
     DialogHeaderCL& DialogM() { return dialog_; }
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
-    template <class RecordsTP> RecordsTP& RecordsM() { return std::get<RecordsTP>(records_); }
+    // Reads the sections of one kind; see(number, record) is shown each control when its values have been
+    // seen, and may take from the record what it likes.
+    template <class RecordsTP, class SeeTP> void ReadKindM(SeeTP&& see)
+    {
+        slEachRecordRead<RecordsTP>(io_, see);
+    }
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
     std::string CutM(const SeenValueCL& value) const { return CutM(SpanCL { value.begin, value.end }); }
@@ -119,15 +117,15 @@ public:
     int NumberM(const SeenSectionCL& section, int record, const char* field) const;
     std::size_t LineM(std::size_t offset) const; // From 0.
     std::size_t LineStartM(std::size_t line) const;
-    std::size_t LineCountM() const { return lines_.size(); }
 
 private:
     static std::string utf8M(std::string_view text);
+    const std::vector<std::size_t>& linesM() const;
 
     std::shared_ptr<const FileTextCL> text_;
-    std::vector<std::size_t> lines_;
+    VrIOCL io_;
+    mutable std::vector<std::size_t> lines_; // Where each begins; made when first asked for.
     SeenSectionsCL seen_;
-    AllRecordsTP records_;
     DVrNewRotateBtnArr newRotateButtons_;
     DialogHeaderCL dialog_;
     bool hasDialog_ { false };

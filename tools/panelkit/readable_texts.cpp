@@ -32,12 +32,10 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        auto& records = file_.RecordsM<RecordsTP>();
         const int grammar = grammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         owners_.clear();
-        for (int i = 0; i < section.RecordsM(); ++i) {
-            auto& record = records.ElementAtM(i);
+        file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
             view_.BeginM(section, i);
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
@@ -47,7 +45,7 @@ private:
             if (RowTP::Code != MultiEditCode) { // Its text is what the user may change.
                 captionsM(control);
             }
-        }
+        });
         for (std::size_t i = 0; i < std::tuple_size_v<decltype(RecordsTP::Secondaries)>; ++i) {
             entriesM(grammar + 1 + static_cast<int>(i));
         }
