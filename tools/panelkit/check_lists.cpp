@@ -139,6 +139,7 @@ void checkCells(FileReadingCL& file, FindingsCL& findings)
 // A button's status that stands first, but isn't there.
 void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 {
+    file.KeepValuesM(grammarOf(MultiStateButtonHeader));
     const SeenSectionCL& buttons = file.SectionM(MultiStateButtonHeader);
     const SeenSectionCL& states = file.SectionM(MultiStateButtonDataHeader);
     if (!file.IsSoundM(MultiStateButtonDataHeader) || !states.dropped.empty()) {

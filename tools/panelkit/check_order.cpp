@@ -126,14 +126,16 @@ private:
     // Neighbouring records with equal numbers are one group; the stack must keep them together.
     void findSplitGroupsM()
     {
-        std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
-        for (std::size_t i = 0; i < order_.size(); ++i) {
-            placeOf[order_[i]] = i;
-        }
         std::vector<const CheckedControlCL*> radios;
         for (const CheckedControlCL& control : controls_) {
             if (control.kind == RadioBoxCode) {
                 radios.push_back(&control);
+            }
+        }
+        std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
+        for (std::size_t i = 0; i < order_.size(); ++i) {
+            if (order_[i]->kind == RadioBoxCode) {
+                placeOf[order_[i]] = i;
             }
         }
         for (std::size_t begin = 0; begin < radios.size();) {

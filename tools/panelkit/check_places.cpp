@@ -32,15 +32,17 @@ void checkOutside(FileReadingCL& file, const CheckedControlCL& control, Findings
         return control.RightM() + frame.width <= dialog.size[0]
             && control.BottomM() + frame.height <= dialog.size[1];
     };
-    const auto pixels = [](std::int64_t total, int frame) { return std::to_string(total - frame); };
-    const std::string place = std::to_string(control.x) + " " + std::to_string(control.y) + " "
-        + std::to_string(control.w) + " " + std::to_string(control.h);
+    const auto say = [&](Says says, const FrameCL& frame) {
+        const auto pixels = [](std::int64_t total, int framed) { return std::to_string(total - framed); };
+        const std::string place = std::to_string(control.x) + " " + std::to_string(control.y) + " "
+            + std::to_string(control.w) + " " + std::to_string(control.h);
+        findings.AddM(says, control.positionAt,
+            { place, pixels(dialog.size[0], frame.width), pixels(dialog.size[1], frame.height) });
+    };
     if (control.x < 0 || control.y < 0 || !fits(small)) {
-        findings.AddM(Says::OutsideDialog, control.positionAt,
-            { place, pixels(dialog.size[0], small.width), pixels(dialog.size[1], small.height) });
+        say(Says::OutsideDialog, small);
     } else if (!fits(large)) {
-        findings.AddM(Says::OutsideOtherFrame, control.positionAt,
-            { place, pixels(dialog.size[0], large.width), pixels(dialog.size[1], large.height) });
+        say(Says::OutsideOtherFrame, large);
     }
 }
 

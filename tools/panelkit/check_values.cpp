@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
 #include "control_list.h"
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -36,15 +37,23 @@ void checkFates(FileReadingCL& file, const FieldCL& field, FindingsCL& findings)
     }
 }
 
+// The light of each value of a colour's component.
+std::array<double, 256> makeLinear()
+{
+    std::array<double, 256> linear {};
+    for (std::size_t i = 0; i < linear.size(); ++i) {
+        const double value = static_cast<double>(i) / 255.0;
+        linear[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    }
+    return linear;
+}
+
 // The contrast of black text on a colour, from 1 to 21.
 double contrastOfBlack(ColourTP colour)
 {
-    const auto linear = [](unsigned byte) {
-        const double value = byte / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const double luminance = 0.2126 * linear(colour & 0xFF) + 0.7152 * linear(colour >> 8 & 0xFF)
-        + 0.0722 * linear(colour >> 16 & 0xFF);
+    static const std::array<double, 256> linear = makeLinear();
+    const double luminance = 0.2126 * linear[colour & 0xFF] + 0.7152 * linear[colour >> 8 & 0xFF]
+        + 0.0722 * linear[colour >> 16 & 0xFF];
     return (luminance + 0.05) / 0.05;
 }
 

@@ -99,11 +99,22 @@ void SeenSectionsCL::ValueM(const ValueSeenCL& value)
     if (section.values.size() == section.values.capacity()) {
         section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
     }
+    const auto begin = static_cast<std::uint32_t>(value.span.begin);
+    const auto end = static_cast<std::uint32_t>(value.span.end);
+    if (section.keepsLast) {
+        if (section.starts.empty()) {
+            section.firstBegin = begin;
+        }
+        if (value.record >= section.RecordsM()) {
+            section.values.clear();
+        }
+        section.isRegular = section.isRegular && !isAbsent(value.fate) && begin > section.lastEnd;
+        section.lastEnd = end;
+    }
     if (value.record >= section.RecordsM()) {
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }
-    section.values.push_back({ value.field, static_cast<std::uint32_t>(value.span.begin),
-        static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate });
+    section.values.push_back({ value.field, begin, end, static_cast<std::uint8_t>(value.part), value.fate });
 }
 
 void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)
@@ -124,6 +135,21 @@ FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
     hasDialog_ = slReadDialogHeader(io_, dialog_) != 0;
     slReadRelations(io_, [](RelationCL&) {});
     newRotateButtons_.FmReadInterfaceM(&io_);
+}
+
+void FileReadingCL::KeepValuesM(int grammar)
+{
+    SeenSectionCL& section = SectionM(grammar);
+    if (!section.keepsLast) {
+        return;
+    }
+    SeenSectionsCL all;
+    io_.SetObserverM(&all);
+    allGrammars()[static_cast<std::size_t>(grammar)].read(io_);
+    io_.SetObserverM(&seen_);
+    section.values = std::move(all.AtM(grammar).values);
+    section.starts = std::move(all.AtM(grammar).starts);
+    section.keepsLast = false;
 }
 
 int FileReadingCL::NumberM(const SeenSectionCL& section, int record, const char* field) const

@@ -19,6 +19,12 @@ struct SeenValueCL
     Fate fate;
 };
 
+// Of a value that isn't there.
+inline bool isAbsent(Fate fate)
+{
+    return fate == Fate::NotANumber || fate == Fate::Missing || fate == Fate::NotLookedAt;
+}
+
 // One section of the file: its head, and the values of its records.
 struct SeenSectionCL
 {
@@ -42,6 +48,19 @@ struct SeenSectionCL
     }
     // A record's value by the name of its field; null when there is none.
     const SeenValueCL* FindM(int record, const char* field, int part = 0) const;
+
+    // A section of many records may keep the values of the last one alone.
+    bool keepsLast { false };
+    bool isRegular { true }; // All values were there, with something between them; only while keepsLast.
+    std::uint32_t firstBegin { 0 };
+    std::uint32_t lastEnd { 0 };
+    // Whether the values that were dropped are not missed: they all lie in the section's region as they
+    // should.
+    bool IsPlainM() const
+    {
+        return !keepsLast || values.empty()
+            || (isRegular && firstBegin > head.commentCount.end && values.back().begin < regionEnd);
+    }
 };
 
 // A kind of section: how the library reads it, and what it belongs to.
@@ -69,6 +88,10 @@ public:
     {
     }
     void ValueM(const ValueSeenCL& value) override;
+    void KeepLastM(int grammar)
+    {
+        AtM(grammar).keepsLast = true;
+    } // Values of the section's last record only.
     void EntryDroppedM(const EntryDroppedCL& entry) override;
     void SectionM(const SectionSeenCL& section) override;
     SeenSectionCL& AtM(int grammar) { return sections_[static_cast<std::size_t>(grammar)]; }
@@ -104,8 +127,10 @@ public:
     // seen, and may take from the record what it likes.
     template <class RecordsTP, class SeeTP> void ReadKindM(SeeTP&& see)
     {
+        seen_.KeepLastM(grammarOf(RecordsTP::Header));
         slEachRecordRead<RecordsTP>(io_, see);
     }
+    void KeepValuesM(int grammar); // Reads a section again if values of it were dropped.
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
     std::string CutM(const SeenValueCL& value) const { return CutM(SpanCL { value.begin, value.end }); }

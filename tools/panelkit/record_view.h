@@ -149,7 +149,7 @@ private:
     static std::size_t placeM(const char* name)
     {
         const auto bits = reinterpret_cast<std::uintptr_t>(name);
-        return (bits ^ bits >> 6) % Places;
+        return (bits ^ bits >> 8) % Places;
     }
     const FieldCL* searchM(const char* name) const;
     FieldCL& addM(const char* name, Verb verb, int parts)
@@ -176,7 +176,7 @@ private:
         field.size = form.size;
     }
 
-    static constexpr std::size_t Places = 64;
+    static constexpr std::size_t Places = 256;
 
     std::vector<FieldCL> fields_; // Those of the record, and behind them what others left.
     std::size_t count_ { 0 };

@@ -46,11 +46,6 @@ bool isRowOfNumbers(std::string_view text, int least)
 
 namespace {
 
-bool isAbsent(const SeenValueCL& value)
-{
-    return value.fate == Fate::NotANumber || value.fate == Fate::Missing || value.fate == Fate::NotLookedAt;
-}
-
 // What follows the count of an empty section may be the usual rest of a head.
 std::size_t restOfEmptySection(const SectionSeenCL& head, std::string_view bytes, std::size_t regionEnd)
 {
@@ -95,9 +90,9 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     bool isJoined = false; // A value begins right behind a number.
     for (const SeenValueCL& value : section.values) {
         const bool isBehind = value.begin >= regionEnd;
-        isJoined = !isAbsent(value) && value.begin == before && value.begin > 0
+        isJoined = !isAbsent(value.fate) && value.begin == before && value.begin > 0
             && !slIsBlank(bytes[value.begin - 1]);
-        if (isAbsent(value) || isBehind || isJoined) {
+        if (isAbsent(value.fate) || isBehind || isJoined) {
             layout.bad = &value;
             layout.runsOver = isBehind || value.fate == Fate::Missing;
             break;
