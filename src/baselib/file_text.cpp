@@ -36,7 +36,18 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
         }
     }
     offset = std::min(offset, size_);
-    const auto next = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
+    // Mostly asked for in rising order: in growing steps from the last one on.
+    auto from = lineStarts_.begin();
+    auto to = lineStarts_.end();
+    if (offset >= lastStart_) {
+        from += static_cast<std::ptrdiff_t>(last_.line) - 1;
+        std::ptrdiff_t step = 1;
+        for (; to - from > step && from[step] <= offset; step *= 2) {
+            from += step;
+        }
+        to = to - from > step ? from + step : to;
+    }
+    const auto next = std::upper_bound(from, to, offset);
     const auto line = static_cast<std::size_t>(next - lineStarts_.begin());
     const std::size_t start = *(next - 1);
     std::size_t end = next != lineStarts_.end() ? *next - 1 : size_;

@@ -34,20 +34,21 @@ Language languageOf(const std::string& option)
     return Language::English;
 }
 
-bool readBytes(const fs::path& path, std::string* bytes)
+std::shared_ptr<const FileTextCL> readText(const fs::path& path)
 {
     std::error_code error;
     std::ifstream in(path, std::ios::binary);
-    const auto size = fs::file_size(path, error);
-    bytes->resize(error ? 0 : static_cast<std::size_t>(size));
-    return in.is_open()
-        && (in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) || bytes->empty());
+    const auto length = fs::file_size(path, error);
+    const auto size = static_cast<std::size_t>(error ? 0 : length);
+    std::unique_ptr<char[]> bytes(new char[size + 1]);
+    const bool isRead
+        = in.is_open() && (in.read(bytes.get(), static_cast<std::streamsize>(size)) || size == 0);
+    return isRead ? std::make_shared<const FileTextCL>(std::move(bytes), size) : nullptr;
 }
 
-FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::string&& bytes)
+FindingsCL checkText(
+    const std::string& file, const fs::path& folder, const std::shared_ptr<const FileTextCL>& text)
 {
-    const auto text = std::make_shared<const FileTextCL>(bytes);
-    std::string().swap(bytes);
     FindingsCL findings(file, text);
     if (checkEncoding(*text, findings)) {
         FileReadingCL reading(text);
@@ -59,28 +60,29 @@ FindingsCL checkBytes(const std::string& file, const fs::path& folder, std::stri
 
 namespace {
 
-bool readStandardInput(std::string* bytes)
+std::shared_ptr<const FileTextCL> readStandardInput()
 {
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
+    std::string bytes;
     char block[65536];
     for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
-        bytes->append(block, read);
+        bytes.append(block, read);
     }
-    return std::ferror(stdin) == 0;
+    return std::ferror(stdin) == 0 ? std::make_shared<const FileTextCL>(bytes) : nullptr;
 }
 
-bool readNamedFile(const std::string& file, std::string* bytes)
+std::shared_ptr<const FileTextCL> readNamedFile(const std::string& file)
 {
     if (!isRegularFile(file)) {
-        return false;
+        return nullptr;
     }
-    if (!readBytes(fs::u8path(file), bytes)) {
+    auto text = readText(fs::u8path(file));
+    if (text == nullptr) {
         complain("cannot read '" + file + "'");
-        return false;
     }
-    return true;
+    return text;
 }
 
 } // namespace
@@ -92,14 +94,14 @@ int checkCommand(const CheckOptionsCL& options)
     bool isUnreadable = false;
     bool isFaulty = false;
     for (const std::string& file : options.files) {
-        std::string bytes;
         const bool isInput = file == "-";
-        if (!(isInput ? readStandardInput(&bytes) : readNamedFile(file, &bytes))) {
+        const auto text = isInput ? readStandardInput() : readNamedFile(file);
+        if (text == nullptr) {
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkBytes(isInput ? "<stdin>" : file,
-            isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes)));
+        all.push_back(checkText(
+            isInput ? "<stdin>" : file, isInput ? fs::path() : fs::u8path(file).parent_path(), text));
         isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {
@@ -116,11 +118,11 @@ bool sayFindings(const std::string& file, const std::string& said, const ShowOpt
 {
     std::error_code error;
     const fs::path path = fs::u8path(file);
-    std::string bytes;
-    if (!fs::is_regular_file(path, error) || !readBytes(path, &bytes)) {
+    const auto bytes = fs::is_regular_file(path, error) ? readText(path) : nullptr;
+    if (bytes == nullptr) {
         return false;
     }
-    const FindingsCL findings = checkBytes(said, path.parent_path(), std::move(bytes));
+    const FindingsCL findings = checkText(said, path.parent_path(), bytes);
     const std::string text = findings.TextM(languageOf(options.language), options.isStrict);
     std::fwrite(text.data(), 1, text.size(), stderr);
     return options.isStrict && findings.IsFaultyM(true);

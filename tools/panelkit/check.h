@@ -3,10 +3,12 @@
 #include "findings.h"
 #include <filesystem>
 
-Language languageOf(const std::string& option);                        // en, zh; else the user's.
-bool readBytes(const std::filesystem::path& path, std::string* bytes); // Without a word when it can't.
-// All that is wrong with a file of these bytes. file: as the user named it; folder: where pictures are.
-FindingsCL checkBytes(const std::string& file, const std::filesystem::path& folder, std::string&& bytes);
+Language languageOf(const std::string& option); // en, zh; else the user's.
+std::shared_ptr<const FileTextCL> readText(
+    const std::filesystem::path& path); // Null when it can't, without a word.
+// All that is wrong with a file. file: as the user named it; folder: where pictures are.
+FindingsCL checkText(const std::string& file, const std::filesystem::path& folder,
+    const std::shared_ptr<const FileTextCL>& text);
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.

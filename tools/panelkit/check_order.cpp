@@ -37,20 +37,15 @@ bool isName(const CheckedControlCL& label, const CheckedControlCL& control, bool
 class OrderCheckerCL
 {
 public:
-    OrderCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+    OrderCheckerCL(
+        FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings)
         : file_(file)
         , controls_(controls)
         , findings_(findings)
+        , order_(stack.begin(), std::find_if(stack.begin(), stack.end(), [](const CheckedControlCL* control) {
+            return !control->isStacked;
+        }))
     {
-        for (const CheckedControlCL& control : controls_) {
-            if (control.isStacked) {
-                order_.push_back(&control);
-            }
-        }
-        std::stable_sort(
-            order_.begin(), order_.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
-                return a->windowIndex < b->windowIndex;
-            });
     }
     void CheckM()
     {
@@ -158,12 +153,13 @@ private:
     FileReadingCL& file_;
     const CheckedControlsTP& controls_;
     FindingsCL& findings_;
-    std::vector<const CheckedControlCL*> order_;
+    StackTP order_; // Without those that have no place in the stack.
 };
 
 } // namespace
 
-void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkOrder(
+    FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings)
 {
-    OrderCheckerCL(file, controls, findings).CheckM();
+    OrderCheckerCL(file, controls, stack, findings).CheckM();
 }

@@ -105,29 +105,22 @@ private:
 
 } // namespace
 
-void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings)
 {
     const bool isPlaced = file.HasDialogM() && file.SectionM(DialogGrammar).soundRecords > 0;
-    std::vector<const CheckedControlCL*> order;
-    for (const CheckedControlCL& control : controls) {
-        if (control.w <= 0 || control.h <= 0) {
-            findings.AddM(Says::NeverShown, control.positionAt,
-                { std::to_string(control.w), std::to_string(control.h) });
+    CoversCL covers;
+    for (const CheckedControlCL* const control : stack) {
+        if (control->w <= 0 || control->h <= 0) {
+            findings.AddM(Says::NeverShown, control->positionAt,
+                { std::to_string(control->w), std::to_string(control->h) });
             continue;
         }
         if (isPlaced) {
-            checkOutside(file, control, findings);
+            checkOutside(file, *control, findings);
         }
-        if (control.kind != 0) {
-            order.push_back(&control);
+        if (control->kind == 0) {
+            continue;
         }
-    }
-    // From the top of the stack down; those without a place in it lie below the others.
-    std::stable_sort(order.begin(), order.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
-        return a->isStacked != b->isStacked ? a->isStacked : a->isStacked && a->windowIndex < b->windowIndex;
-    });
-    CoversCL covers;
-    for (const CheckedControlCL* const control : order) {
         const CheckedControlCL* const cover = covers.FindM(*control);
         if (cover != nullptr) {
             findings.AddM(

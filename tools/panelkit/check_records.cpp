@@ -4,6 +4,7 @@
 #include "check.h"
 #include "control_list.h"
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 namespace {
@@ -79,6 +80,20 @@ std::unordered_map<int, std::size_t> entriesById(FileReadingCL& file, const Seen
     return counts;
 }
 
+StackTP stackOf(const CheckedControlsTP& controls)
+{
+    std::vector<std::pair<std::int64_t, const CheckedControlCL*>> places;
+    places.reserve(controls.size());
+    for (const CheckedControlCL& control : controls) {
+        places.push_back({ control.isStacked ? std::int64_t { control.windowIndex } : INT64_MAX, &control });
+    }
+    std::sort(places.begin(), places.end()); // Of equal places the first record's is first.
+    StackTP stack(places.size());
+    std::transform(
+        places.begin(), places.end(), stack.begin(), [](const auto& place) { return place.second; });
+    return stack;
+}
+
 class RecordsCheckerCL
 {
 public:
@@ -105,11 +120,12 @@ public:
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
-        checkPlaces(file_, controls_, findings_);
+        const StackTP stack = stackOf(controls_);
+        checkPlaces(file_, stack, findings_);
 #ifdef _WIN32
         checkCaptions(file_, controls_, findings_);
 #endif
-        checkOrder(file_, controls_, findings_);
+        checkOrder(file_, controls_, stack, findings_);
     }
 
 private:

@@ -211,13 +211,19 @@ private:
         }
     }
 
-    // Values that have been dropped are missed only where not all is in order.
+    // Values that were dropped are missed where not all is in order.
     SectionLayoutCL layoutM(int grammar)
     {
-        if (!file_.SectionM(grammar).IsPlainM()) {
-            file_.KeepValuesM(grammar);
+        const auto layout
+            = [&] { return layoutOf(file_.SectionM(grammar), bytes_, grammar != DialogGrammar); };
+        if (file_.SectionM(grammar).IsPlainM()) {
+            const SectionLayoutCL plain = layout();
+            if (plain.isClean) {
+                return plain;
+            }
         }
-        return layoutOf(file_.SectionM(grammar), bytes_, grammar != DialogGrammar);
+        file_.KeepValuesM(grammar);
+        return layout();
     }
 
     void checkSectionM(int grammar)

@@ -61,14 +61,21 @@ private:
         Bad,
         Remote
     };
+    struct PictureCL
+    {
+        State state;
+        std::string shown; // Its name in UTF-8.
+    };
     State stateM(const std::string& name);
     std::filesystem::path findM(const std::string& name) const;
 
     std::filesystem::path folder_;
-    std::unordered_map<std::string, State> states_;
+    std::unordered_map<std::string, PictureCL> states_;
 };
 
 using CheckedControlsTP = std::vector<CheckedControlCL>;
+// From the top of the stack down, those without a place in it behind the others.
+using StackTP = std::vector<const CheckedControlCL*>;
 
 // Appends the names of pictures.
 void checkValues(
@@ -77,7 +84,8 @@ void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
-void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings);
 // Only where a window system is.
 void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
-void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkOrder(
+    FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings);

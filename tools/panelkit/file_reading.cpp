@@ -88,33 +88,44 @@ const SeenValueCL* SeenSectionCL::FindM(int record, const char* field, int part)
 
 SeenSectionCL& SeenSectionsCL::findM(const char* header)
 {
-    lastHeader_ = header;
-    last_ = &AtM(std::max(0, grammarOf(header)));
+    if (header != lastHeader_) {
+        lastHeader_ = header;
+        last_ = &AtM(std::max(0, grammarOf(header)));
+    }
     return *last_;
+}
+
+void SeenSectionsCL::beginRecordM(const ValueSeenCL& first)
+{
+    SeenSectionCL& section = findM(first.section);
+    lastRecord_ = first.record;
+    if (section.keepsLast && section.starts.empty()) {
+        section.firstBegin = static_cast<std::uint32_t>(first.span.begin);
+    }
+    if (first.record >= section.RecordsM()) {
+        if (section.keepsLast) {
+            section.values.clear();
+        }
+        section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
+    }
 }
 
 void SeenSectionsCL::ValueM(const ValueSeenCL& value)
 {
-    SeenSectionCL& section = value.section == lastHeader_ ? *last_ : findM(value.section);
+    if (value.record != lastRecord_ || value.section != lastHeader_) {
+        beginRecordM(value);
+    }
+    SeenSectionCL& section = *last_;
     if (section.values.size() == section.values.capacity()) {
         section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
     }
-    const auto begin = static_cast<std::uint32_t>(value.span.begin);
-    const auto end = static_cast<std::uint32_t>(value.span.end);
+    const SeenValueCL seen { value.field, static_cast<std::uint32_t>(value.span.begin),
+        static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate };
     if (section.keepsLast) {
-        if (section.starts.empty()) {
-            section.firstBegin = begin;
-        }
-        if (value.record >= section.RecordsM()) {
-            section.values.clear();
-        }
-        section.isRegular = section.isRegular && !isAbsent(value.fate) && begin > section.lastEnd;
-        section.lastEnd = end;
+        section.isRegular = section.isRegular && seen.begin > section.lastEnd && !isAbsent(seen.fate);
+        section.lastEnd = seen.end;
     }
-    if (value.record >= section.RecordsM()) {
-        section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
-    }
-    section.values.push_back({ value.field, begin, end, static_cast<std::uint8_t>(value.part), value.fate });
+    section.values.push_back(seen);
 }
 
 void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)

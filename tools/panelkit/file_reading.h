@@ -99,10 +99,12 @@ public:
 
 private:
     SeenSectionCL& findM(const char* header);
+    void beginRecordM(const ValueSeenCL& first);
 
     std::vector<SeenSectionCL> sections_;
     const char* lastHeader_ { nullptr };
     SeenSectionCL* last_ { nullptr };
+    int lastRecord_ { -1 };
 };
 
 // A whole file, read by the library: the dialog, its relations and the new rotate buttons at once, each kind

@@ -68,8 +68,8 @@ private:
                 continue;
             }
             for (const SeenValueCL* value = section.FirstM(i); value != section.EndM(i); ++value) {
-                const auto text = shape.texts.find(value->field);
-                if (text == shape.texts.end() || text->second.isPicture || value->fate == Fate::NullWord) {
+                const RowShapeCL::TextCL* const text = shape.FindM(value->field);
+                if (text == nullptr || text->isPicture || value->fate == Fate::NullWord) {
                     continue;
                 }
                 ReadableTextCL control = owner->second;
@@ -77,8 +77,8 @@ private:
                     control.width = file_.NumberM(section, i, "width");
                 }
                 std::string bytes(file_.BytesM(*value));
-                bytes.resize(slGbkCutLength(
-                    bytes.data(), bytes.size(), static_cast<std::size_t>(text->second.size - 1)));
+                bytes.resize(
+                    slGbkCutLength(bytes.data(), bytes.size(), static_cast<std::size_t>(text->size - 1)));
                 addM(control, value->field, bytes.c_str(), value->begin);
             }
         }

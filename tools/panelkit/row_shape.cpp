@@ -6,6 +6,13 @@ RowShapeCL::RowShapeCL(const GrammarCL& grammar)
         SectionEntryCL entry;
         entry.EachFieldM(*this, grammar.row);
     } else if (grammar.owner != nullptr) { // The pictures of new rotate buttons.
-        texts["picture"] = { TextSize, true };
+        texts_["picture"] = { TextSize, true };
     }
+}
+
+const RowShapeCL::TextCL* RowShapeCL::searchM(const char* field) const
+{
+    const auto found = texts_.find(field);
+    asked_.push_back({ field, found != texts_.end() ? &found->second : nullptr });
+    return asked_.back().second;
 }
