@@ -119,13 +119,16 @@ void SeenSectionsCL::ValueM(const ValueSeenCL& value)
     if (section.values.size() == section.values.capacity()) {
         section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
     }
-    const SeenValueCL seen { value.field, static_cast<std::uint32_t>(value.span.begin),
-        static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate };
+    SeenValueCL& seen = section.values.emplace_back(); // Filled one by one: a copy would wait for its parts.
+    seen.field = value.field;
+    seen.begin = static_cast<std::uint32_t>(value.span.begin);
+    seen.end = static_cast<std::uint32_t>(value.span.end);
+    seen.part = static_cast<std::uint8_t>(value.part);
+    seen.fate = value.fate;
     if (section.keepsLast) {
         section.isRegular = section.isRegular && seen.begin > section.lastEnd && !isAbsent(seen.fate);
         section.lastEnd = seen.end;
     }
-    section.values.push_back(seen);
 }
 
 void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)
