@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "control_list.h"
+#include "sort_rows.h"
 #include <algorithm>
 #include <map>
 #include <unordered_set>
@@ -73,9 +74,7 @@ private:
         for (std::size_t i = 0; i < controls_.size(); ++i) {
             uses.push_back({ controls_[i].id, controls_[i].idAt, i });
         }
-        if (!std::is_sorted(uses.begin(), uses.end())) { // Mostly they are.
-            std::sort(uses.begin(), uses.end());
-        }
+        sortRows(uses);
         std::vector<UseCL> firstOf; // Of each id.
         firstOf.reserve(uses.size());
         for (const UseCL& use : uses) {

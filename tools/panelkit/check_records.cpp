@@ -3,6 +3,7 @@
 #include "baselib/gbk_texts.h"
 #include "check.h"
 #include "control_list.h"
+#include "sort_rows.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -87,7 +88,7 @@ StackTP stackOf(const CheckedControlsTP& controls)
     for (const CheckedControlCL& control : controls) {
         places.push_back({ control.isStacked ? std::int64_t { control.windowIndex } : INT64_MAX, &control });
     }
-    std::sort(places.begin(), places.end()); // Of equal places the first record's is first.
+    sortRows(places); // Of equal places the first record's is first.
     StackTP stack(places.size());
     std::transform(
         places.begin(), places.end(), stack.begin(), [](const auto& place) { return place.second; });

@@ -1,5 +1,6 @@
 #include "findings.h"
 #include "json.h"
+#include "sort_rows.h"
 #include <algorithm>
 #include <cstdio>
 #include <tuple>
@@ -37,7 +38,7 @@ void FindingsCL::SortM()
     for (std::size_t i = 0; i < list_.size(); ++i) {
         order.push_back({ list_[i].offset, list_[i].says, i });
     }
-    std::sort(order.begin(), order.end());
+    sortRows(order);
     std::vector<FindingCL> sorted;
     sorted.reserve(list_.size());
     for (const auto& [offset, says, i] : order) {
