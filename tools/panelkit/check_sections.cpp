@@ -138,7 +138,7 @@ private:
         std::vector<SpanCL> whole;
         for (std::size_t i = 0; i < allGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
-            if (section.IsThereM() && layoutM(static_cast<int>(i)).isClean
+            if (section.IsThereM() && layoutOf(file_, static_cast<int>(i)).isClean
                 && static_cast<int>(i) != VersionGrammar) {
                 whole.push_back({ section.head.headerSpan.begin, section.head.end });
             }
@@ -211,21 +211,6 @@ private:
         }
     }
 
-    // Values that were dropped are missed where not all is in order.
-    SectionLayoutCL layoutM(int grammar)
-    {
-        const auto layout
-            = [&] { return layoutOf(file_.SectionM(grammar), bytes_, grammar != DialogGrammar); };
-        if (file_.SectionM(grammar).IsPlainM()) {
-            const SectionLayoutCL plain = layout();
-            if (plain.isClean) {
-                return plain;
-            }
-        }
-        file_.KeepValuesM(grammar);
-        return layout();
-    }
-
     void checkSectionM(int grammar)
     {
         SeenSectionCL& section = file_.SectionM(grammar);
@@ -236,7 +221,7 @@ private:
             checkVersionM(section);
             return;
         }
-        const SectionLayoutCL layout = layoutM(grammar);
+        const SectionLayoutCL layout = layoutOf(file_, grammar);
         const bool isRepeated
             = std::find(repeated_.begin(), repeated_.end(), section.regionEnd) != repeated_.end()
             && nextText(bytes_, section.head.headerSpan.end, section.regionEnd) == section.regionEnd;

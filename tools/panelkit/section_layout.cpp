@@ -114,3 +114,17 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     layout.isClean = layout.isHeadSound && layout.leftover == regionEnd;
     return layout;
 }
+
+SectionLayoutCL layoutOf(FileReadingCL& file, int grammar)
+{
+    const std::string_view bytes = file.TextM().CutM({ 0, file.TextM().SizeM() });
+    const auto layout = [&] { return layoutOf(file.SectionM(grammar), bytes, grammar != DialogGrammar); };
+    if (file.SectionM(grammar).IsPlainM()) {
+        const SectionLayoutCL plain = layout();
+        if (plain.isClean) {
+            return plain;
+        }
+    }
+    file.KeepValuesM(grammar);
+    return layout();
+}
