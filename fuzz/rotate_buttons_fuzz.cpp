@@ -4,37 +4,16 @@
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "controls/buttons/rotate_btn_record.h"
+#include "memory_file.h"
 #include "pictures/rotation.h"
 #include "records/section.h"
 #include <cstdint>
 #include <cstdlib>
 #include <map>
 #include <string>
-#include <sys/mman.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
-
-// A file in memory with a name, as readers want one.
-class MemoryFileCL
-{
-public:
-    MemoryFileCL(const std::uint8_t* data, std::size_t size)
-        : file_(::memfd_create("description", 0))
-    {
-        if (file_ < 0 || ::write(file_, data, size) != static_cast<ssize_t>(size)) {
-            std::abort();
-        }
-    }
-    MemoryFileCL(const MemoryFileCL&) = delete;
-    MemoryFileCL& operator=(const MemoryFileCL&) = delete;
-    ~MemoryFileCL() { ::close(file_); }
-    std::string PathM() const { return "/proc/self/fd/" + std::to_string(file_); }
-
-private:
-    int file_;
-};
 
 // What a record says of places and angles.
 class TurnCL : public FieldVisitorCL

@@ -34,6 +34,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/lists/text_list_box.cpp
   controls/lists/tree.cpp
   controls/lists/tree_pictures.cpp
+  controls/lists/tree_texts.cpp
   controls/lists/tree_value.cpp
   controls/text/multi_edit.cpp
   controls/text/refusal.cpp
@@ -48,10 +49,17 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_by_id_lines.cpp
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
+  dialog/basic_dialog_frame.cpp
   dialog/basic_dialog_hooks.cpp
   dialog/basic_dialog_items.cpp
+  dialog/basic_dialog_language.cpp
   dialog/basic_dialog_pictures.cpp
+  dialog/basic_dialog_resize.cpp
+  dialog/basic_dialog_scale.cpp
   dialog/basic_dialog_values.cpp
+  dialog/deferred_places.cpp
+  dialog/fitting_font.cpp
+  dialog/monitor_scale.cpp
   form/c_canvas.cpp
   form/c_controls.cpp
   form/c_dialog.cpp

@@ -18,6 +18,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/path.cpp
   baselib/real_text.cpp
   baselib/real_write.cpp
+  baselib/scale.cpp
   baselib/string.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
@@ -45,9 +46,21 @@ set(PANELKIT_DESCRIPTION_SOURCES
   controls/text/single_edit_record.cpp
   controls/text/spin_edit_record.cpp
   controls/text/typed_value.cpp
+  dialog/binding.cpp
   dialog/dialog_header.cpp
   dialog/reading_diagnostics.cpp
   dialog/relation.cpp
+  dialog/translation.cpp
+  editing/description_editor.cpp
+  editing/edit_plan.cpp
+  editing/editor_operations.cpp
+  editing/editor_state.cpp
+  editing/grammars.cpp
+  editing/record_lines.cpp
+  editing/record_text.cpp
+  editing/seen_sections.cpp
+  editing/text_changes.cpp
+  editing/value_forms.cpp
   pictures/bmp_header.cpp
   pictures/bmp_indices.cpp
   pictures/bmp_reader.cpp
@@ -57,6 +70,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/picture_boundary.cpp
   pictures/picture_edges.cpp
   pictures/picture_pixels.cpp
+  pictures/picture_scale.cpp
   pictures/resampling.cpp
   pictures/rotation.cpp
   records/common_box_record.cpp

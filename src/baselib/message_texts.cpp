@@ -1,6 +1,7 @@
 #include "baselib/message_texts.h"
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
+#include "baselib/message_catalogue.h"
 #include <iterator>
 #include <map>
 #include <mutex>
@@ -55,10 +56,40 @@ constexpr OwnMessageCL OwnMessages[] = {
 };
 static_assert(std::size(OwnMessages) == MessageTextCount, "each message has a text");
 
+constexpr const char16_t* EnglishMessages[] = {
+    u"This value can't be read. Please enter it again.",
+    u"This number is too small. Please enter it again.\n(It must not be less than {minimum})",
+    u"This number is too large. Please enter it again.\n(It must not be more than {maximum})",
+    u"This text is too long. Please enter it again.\n(It must not be longer than {maximum})",
+    u"This whole number is too small. Please enter it again.\n(It must not be less than {minimum})",
+    u"This whole number is too large. Please enter it again.\n(It must not be more than {maximum})",
+    u"This decimal number is too small. Please enter it again.\n(It must not be less than {minimum})",
+    u"This decimal number is too large. Please enter it again.\n(It must not be more than {maximum})",
+    u"This is the smallest whole number.\n(It must not be less than {minimum})",
+    u"This is the largest whole number.\n(It must not be more than {maximum})",
+    u"This is the smallest decimal number.\n(It must not be less than {minimum})",
+    u"This is the largest decimal number.\n(It must not be more than {maximum})",
+    u"",
+    u"Warning",
+    u"Please enter a whole number.",
+    u"Please enter a positive whole number.",
+    u"Please enter a number.",
+    u"Please enter a whole number between {minimum} and {maximum}.",
+    u"Please enter a number between {minimum} and {maximum}.",
+    u"Please enter no more than {maximum} characters.",
+    u"The operation failed.",
+    u"There is not enough memory.",
+    u"A resource that is needed was not found.",
+    u"This operation is not supported.",
+    u"An argument is not valid.",
+};
+static_assert(std::size(EnglishMessages) == MessageTextCount, "each message has an English text");
+
 struct ReplacedMessagesCL
 {
     std::mutex mutex;
-    std::map<int, std::u16string> texts;
+    std::map<int, std::u16string> texts;      // By the application;
+    std::map<int, std::u16string> translated; // by the language chosen.
 };
 
 ReplacedMessagesCL& replacedMessages()
@@ -85,8 +116,13 @@ std::u16string slMessageTemplate(int id)
     }
     ReplacedMessagesCL& replaced = replacedMessages();
     const std::lock_guard<std::mutex> lock(replaced.mutex);
-    const auto found = replaced.texts.find(id);
-    return found != replaced.texts.end() ? found->second : ownMessage(OwnMessages[id]);
+    for (const auto* texts : { &replaced.texts, &replaced.translated }) {
+        const auto found = texts->find(id);
+        if (found != texts->end()) {
+            return found->second;
+        }
+    }
+    return ownMessage(OwnMessages[id]);
 }
 
 bool slSetMessageTemplate(int id, const std::u16string* text)
@@ -102,6 +138,26 @@ bool slSetMessageTemplate(int id, const std::u16string* text)
         replaced.texts[id] = *text;
     }
     return true;
+}
+
+void slSetMessageLanguage(std::string_view language, const MessageCatalogueCL* catalogue)
+{
+    std::map<int, std::u16string> translated;
+    const bool isEnglish = language.substr(0, language.find_first_of("_-")) == "en";
+    for (int id = 0; id < MessageTextCount; ++id) {
+        const std::u16string own = ownMessage(OwnMessages[id]);
+        const char* const found = catalogue != nullptr
+            ? catalogue->FindM(slUtf16ToUtf8(own.data(), own.size()), slMessageContext(id))
+            : nullptr;
+        if (found != nullptr) {
+            translated[id] = slUtf8ToUtf16(found);
+        } else if (isEnglish) {
+            translated[id] = EnglishMessages[id];
+        }
+    }
+    ReplacedMessagesCL& replaced = replacedMessages();
+    const std::lock_guard<std::mutex> lock(replaced.mutex);
+    replaced.translated.swap(translated);
 }
 
 std::u16string slMessageText(MessageTextId id, const std::u16string& minimum, const std::u16string& maximum)

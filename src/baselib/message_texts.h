@@ -1,12 +1,15 @@
 #pragma once
 #include "baselib/api.h"
 #include <string>
+#include <string_view>
+
+class MessageCatalogueCL;
 
 // The texts of the library's own message boxes: one table for the whole process, which an application
 // replaces as it likes, say by those of another language. Any thread may call these at any time; a message
 // that is open stays as it is. In a text {minimum} and {maximum} stand for the limits of the field that it is
 // about, as that field shows numbers; of a field with a text they are numbers of bytes. Everything else in
-// braces stays as it is.
+// braces stays as it is. They are Chinese until a language is chosen.
 
 // The numbers of the texts.
 enum MessageTextId : int
@@ -44,8 +47,18 @@ constexpr int MessageTextCount = 25;
 
 // The text as it is in the table; empty for a number that is none of the above.
 PANELKIT_API std::u16string slMessageTemplate(int id);
-// Replaces a text; null: the library's own again. False for a number that is none of the above.
+// Replaces a text, whatever the language; null: the library's own again. False for a number that is none of
+// the above.
 PANELKIT_API bool slSetMessageTemplate(int id, const std::u16string* text);
+// The language of the library's own texts: English for "en", "en_GB" and such, Chinese for every other one.
+// The catalogue's translations come first, each in the context of its number; null: none. It is not kept.
+PANELKIT_API void slSetMessageLanguage(
+    std::string_view language, const MessageCatalogueCL* catalogue = nullptr);
+// That context.
+inline std::string slMessageContext(int id)
+{
+    return "message " + std::to_string(id);
+}
 // The text with the limits filled in.
 PANELKIT_API std::u16string slMessageText(
     MessageTextId id, const std::u16string& minimum = {}, const std::u16string& maximum = {});

@@ -74,6 +74,7 @@ int DuBasicDialogCL::DoModalM(CWnd* parent)
 BOOL DuBasicDialogCL::OnInitDialog()
 {
     DestroyM();
+    stretch_ = {}; // That of a window before.
     InitDlgM(this, 1);
     CDialog::OnInitDialog(); // The host's data exchange finds the controls.
     timerId_ = SetTimer(StartTimer, StartPeriod, nullptr);
@@ -85,6 +86,7 @@ void DuBasicDialogCL::DestroyM()
     const ValidationPauseCL destroying(m_hWnd);
     std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
     index_.ForgetM();
+    bound_ = {};
     font_.DeleteObject();
 }
 
@@ -156,6 +158,7 @@ int DuBasicDialogCL::DrawBkGroundM(CDC* dc, int x, int y)
 void DuBasicDialogCL::OnPaint()
 {
     CPaintDC dc(this);
+    leaveOutOpaqueM(dc.m_hDC);
     DrawBkGroundM(&dc, 0, 0);
 }
 

@@ -18,15 +18,19 @@
 #include "controls/text/multi_edit.h"
 #include "controls/text/single_edit.h"
 #include "controls/text/spin_edit.h"
+#include "dialog/bound_windows.h"
 #include "dialog/control_index.h"
 #include "dialog/diagnostics.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "dialog/translation.h"
 #include "dialog/values.h"
 #include "pictures/bitmap_record.h"
+#include "records/scaling.h"
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class ReadingDiagnosticsCL;
 class VrIOCL;
@@ -50,6 +54,28 @@ public:
     int SetConfigFileM(const char* path);
     // The control that takes the focus without a value check.
     int SetCancelIdM(int id) { return slKeep(cancelId_, id); }
+
+    // The scale at which the dialog is built, in percent, or AutomaticScale: that of the monitor, also when
+    // the user takes the dialog to another one. 0, and nothing changes, for a number that is neither. To
+    // begin with there is none: pixels are those of the file. A dialog that is built already changes at once:
+    // windows, and what the user has typed, selected and scrolled in them, stay. Once there is a scale all
+    // lengths that controls have and take are pixels of their windows, not those of the file; the file is
+    // read anew by each build.
+    int SetScaleM(int percent);
+    int ScaleM() const { return scale_.PercentM(); } // The scale of the last build or change; else 100.
+    static constexpr int AutomaticScale = 0;
+    static constexpr int LeastScale = 50;
+    static constexpr int MostScale = 800;
+
+    // The language that the texts of the file are shown in from the next build on: "en", "pt_BR"; empty: the
+    // system's; null: as in the file, as at first. FILE.en.mo beside FILE.dlg has them; "en_GB" falls back to
+    // "en", without one they stay. Values and lines by id are the file's in every language
+    // (docs/translating.md). The library's own messages change at once, for the whole process: English for
+    // "en", else Chinese, but for those in the catalogue of the next build. 0, and no change, for what names
+    // no language.
+    int SetLanguageM(const char* language);
+    // '_' for '-'; empty: none. Valid until SetLanguageM.
+    const char* LanguageM() const { return translation_.LanguageM().c_str(); }
 
     // From now on the callback is told, while a dialog is built, what its file lacks or says wrongly: that it
     // is missing, pictures that are missing or can't be shown, values and entries that can't be read. Null:
@@ -105,6 +131,12 @@ public:
     // Builds the dialog of the description file. TRUE: the system sets the focus.
     BOOL OnInitDialog() override;
     void EndDialog(int result) override; // With that result; no field has been left by that.
+
+    // Puts the controls that the description file binds ("[随窗口变化]") where they stand in a client area of
+    // that size, in pixels; below the file's size: where that has them. The host calls it when the dialog's
+    // own window, built in mode 1, is resized; in another window the application does, in its WM_SIZE. 0 when
+    // the file has no such section, or nothing is built.
+    int ResizeM(int width, int height);
 
     // Draws the background picture with its corner at (x, y), in pixels; 0 when there is none.
     int DrawBkGroundM(CDC* dc, int x, int y);
@@ -203,25 +235,64 @@ private:
     bool givePainterM(int id, const PainterTP& painter);
     void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
+    template <class RowTP> void translateKindM();
     template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
-    struct StepCL;
+    // What the passes over all controls do with one: the topmost child with its id.
+    struct StepCL
+    {
+        int windowIndex;
+        HWND window;
+        int place;     // Among its siblings, from the top down.
+        bool isOfKind; // The window belongs to a control of the library's own class.
+    };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
+    void renewItemFontM(CWnd* parent); // Nothing is drawn.
     void setTxtLstBoxItemHeightM();
+    bool isScaledM() const { return askedScale_ != NoScale; }
+    int wantedScaleM() const;
+    CSize windowSizeM(HWND window, const ScaleCL& scale, int dpi) const;
+    void sizeWindowM(HWND window);
+    void noteSizeM(HWND window);
+    bool hasFileSizeM(HWND window) const;
+    void giveTreeFontsM();
+    void makeFontM();
+    template <class ControlTP, class RecordTP>
+    void rescaleControlM(ControlTP& control, RecordTP* record, int from);
+    template <class RowTP> void rescaleKindM(VrIOCL& io, int from);
+    void rescaleM(int percent, const RECT* suggested);
+    bool answerDpiM(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     bool partM();
     bool hasControlsM();
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
+    bool readBindingsM(VrIOCL& io);
+    void bindM(const DialogStretchCL& before);
+    bool unbindM();
+    void bindAgainM(const DialogStretchCL& before);
+    void findBoundM();
+    void makeSizableM();
+    void stretchAgainM(const DialogStretchCL& before);
+    void leaveOutOpaqueM(HDC dc);
+    LRESULT whileBoundM(UINT message, WPARAM wParam, LPARAM lParam);
 
     DialogHeaderCL header_;
     int lastLeftId_ { 0 };
     int cancelId_ { 0 };
     char configFile_[TextSize] {};
     std::unique_ptr<ReadingDiagnosticsCL> diagnostics_; // Null: nobody is told.
+    TranslationCL translation_;
     CFont font_;
+    CFont treeFont_; // At other scales than 100 %: trees have a font of the system's.
+    static constexpr int NoScale = -1;
+    int askedScale_ { NoScale }; // Percent, AutomaticScale or none.
+    ScaleCL scale_;
+    int mode_ { 0 };            // Of the last build.
+    CSize builtSize_;           // Of its window.
+    bool isFileSized_ { true }; // Whether the window had that size before the scale changed.
     DVrBitmapCL background_;
     int valueStatus_ { 0 };
     MembersOfCL<KindTable>::Type kinds_;
@@ -236,6 +307,8 @@ private:
     };
     std::map<int, LooksByIdCL> looks_; // What the application has given controls by id.
     RefusalCL refusal_;
+    BoundWindowsCL bound_;
+    DialogStretchCL stretch_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
     bool isParted_ { false }; // The controls only wait for their windows to go; nobody finds them any more.

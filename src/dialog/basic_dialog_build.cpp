@@ -1,4 +1,5 @@
 // Building: the header and the pass of each kind.
+#include "baselib/message_texts.h"
 #include "dialog/basic_dialog.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
@@ -7,15 +8,28 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         return 0;
     }
     builtIn_ = parent->GetSafeHwnd();
+    mode_ = mode;
+    scale_ = ScaleCL(wantedScaleM());
+    bound_ = {};
+    const DialogStretchCL before = stretch_.OfM(builtIn_);
+    bool isBound = false;
     beginDiagnosticsM();
+    translation_.ReadM(configFile_);
+    if (!translation_.LanguageM().empty()) { // Else they stay what another dialog may have chosen.
+        slSetMessageLanguage(translation_.LanguageM(), &translation_.CatalogueM());
+    }
     {
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
         initM(io, parent, mode);
         slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
+        isBound = readBindingsM(io);
     }
     finishM(parent, mode);
     setTxtLstBoxItemHeightM(); // The font has changed them.
+    if (isBound) {
+        bindM(before);
+    }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }
@@ -36,17 +50,26 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
     }
     background_.DropM(); // Perhaps another file's.
     if (!header_.background.EmptyM()) {
-        background_.LoadSafeBitmapM(header_.background.TextM());
+        background_.LoadScaledM(header_.background.TextM(), PictureScaleCL(scale_, { 0, 0 }));
     }
     if (mode == 1) {
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
         if (header_.titleFlag == 1) {
             parent->SetWindowText(header_.title.TextM());
+            const ValueTextCL title = translation_.FindM(header_.title.TextM(), "dialog", 0);
+            if (!title.IsNoneM()) {
+                ::SetWindowTextW(parent->m_hWnd, title.WideM().c_str());
+            }
         }
         // The style may have another frame, of which a window of the same size would not hear.
-        parent->SetWindowPos(nullptr, slWindowLength(header_.position[0]),
-            slWindowLength(header_.position[1]), slWindowLength(header_.size[0]),
-            slWindowLength(header_.size[1]), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        parent->SetWindowPos(nullptr, slWindowLength(scale_.PlaceM(header_.position[0])),
+            slWindowLength(scale_.PlaceM(header_.position[1])),
+            slWindowLength(scale_.PlaceM(header_.size[0])), slWindowLength(scale_.PlaceM(header_.size[1])),
+            SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+        if (isScaledM()) {
+            sizeWindowM(parent->m_hWnd);
+        }
+        noteSizeM(parent->m_hWnd);
     }
 }
 
@@ -68,6 +91,9 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
     auto& [controls, records, make] = std::get<KindMembersCL<RowTP>>(kinds_);
+    if (isScaledM()) {
+        records.DelAllM(); // Those of a build before this one may have had another scale.
+    }
     int count = 0;
     if (slReadSection(io, records, &count) != SectionStatus::Read) {
         return;
@@ -86,6 +112,11 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             controls.StandInM(
                 i, make(records.CheckAvailableM(i) == 1 ? records.GetItemPM(i)->GetFuncIDM() : 0));
         }
+        if (records.CheckAvailableM(i) == 1) {
+            auto& record = records.ElementAtM(i);
+            controls.ControlAtM(i).SetPictureScaleM({ scale_, record.GetPositionM() });
+            slScaleRecord(record, scale_);
+        }
         (records.*RowTP::InitM)(i, &controls.ControlAtM(i));
     }
     controls.Create(parent);
@@ -97,6 +128,29 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             (records.*RowTP::FillM)(record, &controls.ControlAtM(control));
             record = records.GetNextIdxM(record);
             control = controls.GetNextIdxM(control);
+        }
+    }
+    if (!translation_.EmptyM()) {
+        translateKindM<RowTP>();
+    }
+}
+
+template <class RowTP> void DuBasicDialogCL::translateKindM()
+{
+    auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
+    for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+        [[maybe_unused]] auto& control = controls.ControlAtM(i);
+        [[maybe_unused]] const auto translate = [this, &control](const ValueTextCL& text) {
+            return translation_.FindM(text, RowTP::Records::KindName, control.GetFunctionIDM());
+        };
+        if constexpr (RowTP::CanM(HasCaption)) {
+            const ValueTextCL caption = translate(control.CaptionM());
+            if (!caption.IsNoneM()) {
+                ::SetWindowTextW(control.m_hWnd, caption.WideM().c_str());
+            }
+        }
+        if constexpr (RowTP::CanM(TranslatesTexts)) {
+            control.TranslateM(translate);
         }
     }
 }

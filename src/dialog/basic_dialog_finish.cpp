@@ -1,18 +1,8 @@
 // The passes over all controls once they exist: stacking order and font.
 #include "dialog/basic_dialog.h"
-#include "dialog/dialog_font.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
-
-// What the passes do with one control: the topmost child with its id.
-struct DuBasicDialogCL::StepCL
-{
-    int windowIndex;
-    HWND window;
-    int place;     // Among its siblings, from the top down.
-    bool isOfKind; // The window belongs to a control of the library's own class.
-};
 
 namespace {
 
@@ -133,13 +123,18 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
 
 void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
 {
-    const LOGFONTA font = slDialogFont(header_.fontOption);
-    font_.DeleteObject();
-    font_.CreateFontIndirect(&font);
+    makeFontM();
+    giveTreeFontsM();
     for (const StepCL& step : steps) {
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);
     }
+}
+
+void DuBasicDialogCL::renewItemFontM(CWnd* parent)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), false);
 }
 
 void DuBasicDialogCL::setTxtLstBoxItemHeightM()

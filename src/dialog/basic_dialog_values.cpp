@@ -1,5 +1,6 @@
 // Typed values by function id, and the check of what the user typed.
 #include "dialog/basic_dialog.h"
+#include "dialog/monitor_scale.h"
 
 // Gives see(edit) for the control with that id, if it is a single-line edit; otherwise 0.
 template <class FunctionTP> int DuBasicDialogCL::withSingleEditM(int id, FunctionTP&& see)
@@ -117,5 +118,10 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         const ValidationPauseCL closing(m_hWnd, ValidationPauseCL::AllowRequests);
         return CDialog::WindowProc(message, wParam, lParam);
     }
-    return CDialog::WindowProc(message, wParam, lParam);
+    LRESULT result = 0;
+    if ((message == DpiChangedMsg || message == GetDpiScaledSizeMsg)
+        && answerDpiM(message, wParam, lParam, &result)) {
+        return result;
+    }
+    return bound_.isOwn ? whileBoundM(message, wParam, lParam) : CDialog::WindowProc(message, wParam, lParam);
 }

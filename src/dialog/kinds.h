@@ -45,21 +45,26 @@ class DuTreeArr;
 // What a kind can do besides being a control. Code asks for what it needs, never for a kind.
 enum Ability : unsigned
 {
-    Stacked = 1,          // Takes part in the stacking and font passes.
-    HoldsLines = 2,       // AddItemM(data, text), DelItemM(line), SetSelM(line).
-    HoldsTypedValue = 4,  // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
-    ShowsFrames = 8,      // GetCurIdxM, DispBmpM.
-    StandsInGroups = 16,  // ShowObjectM(index, show) on the array; CheckedInGroupM.
-    HasLineHeight = 32,   // SetItemHeightM() on the array, once the font is set.
-    HasValue = 64,        // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
-    ListsLines = 128,     // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
-    TakesPainter = 256,   // SetPainterM, RepaintM.
-    TakesKeys = 512,      // UseKeyboardM.
-    ColoursText = 1024,   // SetTextColourM shows.
-    TellsRefusals = 2048, // SetRefusalM.
-    ActsAsButton = 4096,  // A picture for a push button.
-    GoesQuietly = 8192,   // Destroying its window tells nobody but those whom the window system tells.
-    HasCaption = 16384    // CaptionM, SetCaptionM.
+    Stacked = 1,             // Takes part in the stacking and font passes.
+    HoldsLines = 2,          // AddItemM(data, text), DelItemM(line), SetSelM(line).
+    HoldsTypedValue = 4,     // SetValueM, GetValueM, SetCurValM, GetCurValM; ranges and checks.
+    ShowsFrames = 8,         // GetCurIdxM, DispBmpM.
+    StandsInGroups = 16,     // ShowObjectM(index, show) on the array; CheckedInGroupM.
+    HasLineHeight = 32,      // SetItemHeightM() on the array, once the font is set.
+    HasValue = 64,           // ValuePartsM, ReadValueM, WriteValueM: its value by id, kept between runs.
+    ListsLines = 128,        // LineCountM, LineTextM, InsertLineM, DeleteLineM, ClearLinesM.
+    TakesPainter = 256,      // SetPainterM, RepaintM.
+    TakesKeys = 512,         // UseKeyboardM.
+    ColoursText = 1024,      // SetTextColourM shows.
+    TellsRefusals = 2048,    // SetRefusalM.
+    ActsAsButton = 4096,     // A picture for a push button.
+    GoesQuietly = 8192,      // Destroying its window tells nobody but those whom the window system tells.
+    HasCaption = 16384,      // CaptionM, SetCaptionM.
+    TranslatesTexts = 32768, // TranslateM: texts of the file beside a caption.
+    KeepsSize = 65536,       // Larger than described it would show no more.
+    KeepsHeight = 131072,    // The same of its height; what is described is more than its window has.
+    Opaque = 262144,         // It paints every pixel of its window.
+    HasArrows = 524288       // SpinButtonM: a second window, at its right edge.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -112,40 +117,46 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
     KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | HasCaption | ColoursText | GoesQuietly,
         &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
-        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly,
+        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly | Opaque,
         &DVrSingleEditArr::InitSingleEditM>,
     KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5,
-        Stacked | HasValue | ColoursText | GoesQuietly, &DVrMultiEditArr::InitMultiEditM>,
+        Stacked | HasValue | ColoursText | GoesQuietly | Opaque | TranslatesTexts,
+        &DVrMultiEditArr::InitMultiEditM>,
     KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
-        Stacked | HasValue | ColoursText | TellsRefusals, &DVrSpinEditArr::InitSpinEditM>,
+        Stacked | HasValue | ColoursText | TellsRefusals | Opaque | HasArrows,
+        &DVrSpinEditArr::InitSpinEditM>,
     KindRowCL<DVrTextListBoxArr, DuTextListBoxArr, TextListBoxCode, 6,
-        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasLineHeight | HasValue | ListsLines | ColoursText | GoesQuietly
+            | TranslatesTexts | Opaque,
         &DVrTextListBoxArr::InitTextListBoxM, &DVrTextListBoxArr::InitTextListBoxStrM>,
     KindRowCL<DVrBmpListBoxArr, DuBmpListBoxArr, BmpListBoxCode, 7,
-        Stacked | HoldsLines | HasValue | ListsLines, &DVrBmpListBoxArr::InitBmpListBoxM,
+        Stacked | HoldsLines | HasValue | ListsLines | Opaque, &DVrBmpListBoxArr::InitBmpListBoxM,
         &DVrBmpListBoxArr::InitBmpListBoxBmpM>,
     KindRowCL<DVrComboBoxArr, DuComboBoxArr, ComboBoxCode, 8,
-        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly,
+        Stacked | HoldsLines | HasValue | ListsLines | ColoursText | GoesQuietly | KeepsHeight | Opaque
+            | TranslatesTexts,
         &DVrComboBoxArr::InitComboBoxM, &DVrComboBoxArr::InitComboBoxStrM>,
-    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9, Stacked | HasValue | ListsLines | ColoursText,
+    KindRowCL<DVrListCtrlArr, DuListCtrlArr, ListCtrlCode, 9,
+        Stacked | HasValue | ListsLines | ColoursText | Opaque | TranslatesTexts,
         &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12,
-        Stacked | HasCaption | GoesQuietly, &DVrStandardButtonArr::InitStandardButtonM>,
+        Stacked | HasCaption | GoesQuietly | Opaque, &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
         Stacked | HasCaption | StandsInGroups | HasValue | ColoursText | GoesQuietly,
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11,
         Stacked | HasCaption | HasValue | ColoursText | GoesQuietly, &DVrCheckBoxArr::InitCheckBoxM>,
-    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13, Stacked | TakesKeys | ActsAsButton,
-        &DVrBmpButtonArr::InitBmpButtonM>,
+    KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13,
+        Stacked | TakesKeys | ActsAsButton | KeepsSize, &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
-        Stacked | HasValue | TakesKeys | ActsAsButton, &DVrMultiStateButtonArr::InitMultiStateButtonM>,
+        Stacked | HasValue | TakesKeys | ActsAsButton | KeepsSize,
+        &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16,
         Stacked | HasCaption | ColoursText | GoesQuietly, &DVrGroupBoxArr::InitGroupBoxM>,
-    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys,
+    KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys | KeepsSize,
         &DVrRotateBtnArr::InitRotateBtnM>,
-    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText, &DVrTreeArr::InitTreeM,
-        &DVrTreeArr::InitTreeStrM>,
+    KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText | Opaque | TranslatesTexts,
+        &DVrTreeArr::InitTreeM, &DVrTreeArr::InitTreeStrM>,
     KindRowCL<DVrDraw2DArr, DuDraw2DArr, Draw2DCode, 18, TakesPainter, &DVrDraw2DArr::InitDraw2DM>>;
 
 // How many kinds there are.

@@ -68,6 +68,9 @@ panelkit_status open(const char* file, const panelkit_options* given, panelkit_d
         return readable;
     }
     auto dialog = std::make_unique<HostedDialogCL>(slNewHandle(), options);
+    if (options.language != nullptr && dialog->SetLanguageM(options.language) == 0) {
+        return PANELKIT_ERROR_ARGUMENT;
+    }
     if (!dialog->BuildM(path, static_cast<HWND>(options.owner))) {
         return PANELKIT_ERROR_WINDOW;
     }

@@ -1,6 +1,7 @@
 // The C interface: what the description file doesn't say.
 #include "form/dialog_handles.h"
 
+static_assert(PANELKIT_SCALE_AUTOMATIC == DuBasicDialogCL::AutomaticScale, "one number for both");
 static_assert(static_cast<int>(PANELKIT_MESSAGE_BAD_VALUE) == BadValueMessage
         && static_cast<int>(PANELKIT_MESSAGE_TEXT_TOO_LONG) == TextTooLongMessage
         && static_cast<int>(PANELKIT_MESSAGE_REAL_TOO_LARGE) == RealTooLargeMessage
@@ -40,6 +41,25 @@ panelkit_status panelkit_set_message_owner(panelkit_dialog* dialog, int32_t over
 {
     return slWithDialog(dialog, [over](HostedDialogCL& hosted) {
         hosted.SetMessageOwnerM(over != 0);
+        return PANELKIT_OK;
+    });
+}
+
+panelkit_status panelkit_set_scale(panelkit_dialog* dialog, int32_t percent)
+{
+    return slWithDialog(dialog, [percent](HostedDialogCL& hosted) -> panelkit_status {
+        const HostedDialogCL::QuietCL quiet(hosted);
+        return hosted.SetScaleM(percent) == 1 ? PANELKIT_OK : PANELKIT_ERROR_ARGUMENT;
+    });
+}
+
+panelkit_status panelkit_get_scale(panelkit_dialog* dialog, int32_t* percent)
+{
+    return slWithDialog(dialog, [percent](HostedDialogCL& hosted) -> panelkit_status {
+        if (percent == nullptr) {
+            return PANELKIT_ERROR_ARGUMENT;
+        }
+        *percent = hosted.ScaleM();
         return PANELKIT_OK;
     });
 }

@@ -17,6 +17,9 @@ struct FormOptions
 {
     void* owner = nullptr; // The window (HWND) that it stands before and disables while it runs.
     std::function<void(const panelkit_diagnostic&)> diagnostics; // Told what the file lacks or says wrongly.
+    // Of its texts, as "en" or "pt_BR": FILE.en.mo beside FILE.dlg has them, else those of the file are
+    // shown. Empty: the system's; nullopt: those of the file. What names no language: the form has no dialog.
+    std::optional<std::string> language;
 };
 
 // The dialog of a description file. Texts are UTF-8. Getters give nullopt and setters false for an unknown
@@ -44,6 +47,7 @@ public:
             told.diagnostics = &FormStateCL::TellDiagnosticM;
             told.diagnostics_user = state_.get();
         }
+        told.language = options.language ? options.language->c_str() : nullptr;
         if (panelkit_open(file.c_str(), &told, &state_->dialog) != PANELKIT_OK) {
             state_->error = panelkit_last_error(nullptr);
         }

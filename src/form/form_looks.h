@@ -24,6 +24,20 @@ public:
     bool SetSelectRefused(bool select) { return isDone(panelkit_set_select_refused(handle(), select)); }
     // Whether messages about fields stand over the form and disable it.
     bool SetMessageOwner(bool over) { return isDone(panelkit_set_message_owner(handle(), over)); }
+    // The scale in percent, 50 to 800; what the user has done stays. False for another number.
+    bool SetScale(int percent)
+    {
+        return percent != PANELKIT_SCALE_AUTOMATIC && isDone(panelkit_set_scale(handle(), percent));
+    }
+    // That of the monitor, also when the user takes the form to another one.
+    bool AutoScale() { return isDone(panelkit_set_scale(handle(), PANELKIT_SCALE_AUTOMATIC)); }
+    // The scale that it has; 100 to begin with and without a dialog.
+    int Scale() const
+    {
+        int32_t percent = 100;
+        panelkit_get_scale(handle(), &percent);
+        return percent;
+    }
     // Replaces a text of the library's message boxes (PANELKIT_MESSAGE_...), for the whole process; null: the
     // library's own again. False for a number that is none.
     static bool SetMessageText(int message, const char* text)

@@ -131,6 +131,11 @@ typedef struct panelkit_options
     void* user;                               /* For the callback; the library only hands it on. */
     panelkit_diagnostic_callback diagnostics; /* Null: nobody is told. Called by panelkit_open alone. */
     void* diagnostics_user;                   /* For that callback. */
+    /* The language of its texts, as "en" or "pt_BR": FILE.en.mo beside FILE.dlg has them, else those of the
+       file are shown. Empty: the system's. Null: those of the file. Values and lines by id stay as the file
+       has them. The library's own messages follow, for the whole process. What names no language:
+       PANELKIT_ERROR_ARGUMENT. */
+    const char* language;
 } panelkit_options;
 
 /* What panelkit_control_at tells of a control. */

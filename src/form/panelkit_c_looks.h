@@ -28,6 +28,15 @@ PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_select_refused(
    0: as to begin with, those of single-line edits belong to the thread's active window. */
 PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_message_owner(panelkit_dialog* dialog, int32_t over);
 
+/* For panelkit_set_scale. */
+#define PANELKIT_SCALE_AUTOMATIC 0
+/* The scale of the dialog in percent, 50 to 800, or PANELKIT_SCALE_AUTOMATIC: that of the monitor, also when
+   the user takes the dialog to another one. What the user has done in it stays. PANELKIT_ERROR_ARGUMENT:
+   neither. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_set_scale(panelkit_dialog* dialog, int32_t percent);
+/* *percent: the scale that the dialog has; 100 to begin with. */
+PANELKIT_API panelkit_status PANELKIT_CALL panelkit_get_scale(panelkit_dialog* dialog, int32_t* percent);
+
 /* The texts of the library's message boxes, for the whole process. {minimum} and {maximum} stand for the
    limits of the field that a message is about. */
 enum

@@ -1,5 +1,6 @@
 #include "pictures/bitmap_record.h"
 #include "baselib/path.h"
+#include "pictures/picture_loader.h"
 #include "pictures/region_functions.h"
 #include <algorithm>
 #include <string>
@@ -92,6 +93,7 @@ DVrBitmapCL::DVrBitmapCL(const DVrBitmapCL& other)
 {
     bitmap_.ShareM(other.bitmap_);
     SetExtraM(other.extra_[0], other.extra_[1]);
+    copyFileM(other);
 }
 
 DVrBitmapCL& DVrBitmapCL::operator=(const DVrBitmapCL& other)
@@ -100,8 +102,17 @@ DVrBitmapCL& DVrBitmapCL::operator=(const DVrBitmapCL& other)
         VrBaseCL::operator=(other);
         bitmap_.ShareM(other.bitmap_);
         SetExtraM(other.extra_[0], other.extra_[1]);
+        copyFileM(other);
     }
     return *this;
+}
+
+void DVrBitmapCL::copyFileM(const DVrBitmapCL& other)
+{
+    if (!file_.EmptyM() || !other.file_.EmptyM()) {
+        file_ = other.file_;
+    }
+    key_ = other.key_;
 }
 
 DVrBitmapCL::~DVrBitmapCL()
@@ -126,6 +137,9 @@ CBitmap* DVrBitmapCL::GetBitmapM()
 void DVrBitmapCL::LoadBitmapM(const char* file)
 {
     bitmap_.DeleteM();
+    if (!file_.EmptyM()) {
+        file_ = CharArr();
+    }
     CBitmap loaded;
     slLoadPicture(&loaded, file);
     bitmap_.OwnM(loaded.Detach());
@@ -135,6 +149,27 @@ int DVrBitmapCL::LoadSafeBitmapM(const char* file)
 {
     LoadBitmapM(file);
     return HoldsBitmapM() ? 1 : 0;
+}
+
+int DVrBitmapCL::LoadScaledM(const char* file, const PictureScaleCL& scale, std::int64_t key)
+{
+    if (!scale.MayChangeM()) {
+        return LoadSafeBitmapM(file);
+    }
+    bitmap_.DeleteM();
+    bitmap_.OwnM(slMakeBitmap(file, scale, key));
+    file_.SetM(file);
+    key_ = key;
+    return HoldsBitmapM() ? 1 : 0;
+}
+
+void DVrBitmapCL::RescaleM(const PictureScaleCL& scale)
+{
+    const HBITMAP again = file_.EmptyM() ? nullptr : slMakeBitmap(file_.TextM(), scale, key_);
+    if (again != nullptr) {
+        bitmap_.DeleteM();
+        bitmap_.OwnM(again);
+    }
 }
 
 int DVrBitmapCL::MoveBitmapM(CBitmap* source)
@@ -237,42 +272,49 @@ int DVrBitmapCL::BlendBitmapM(CDC* dc)
     return result;
 }
 
-int DVrBitmapArr::AddBitmapM(const char* file)
+int DVrBitmapArr::AddBitmapM(const char* file, const PictureScaleCL& scale)
 {
     const int index = AddItemM(DVrBitmapCL(AliveTag));
     DVrBitmapCL* const record = ElementAtPM(index);
     if (record == nullptr) {
         return -1;
     }
-    if (record->LoadSafeBitmapM(file) == 0) {
+    if (record->LoadScaledM(file, scale) == 0) {
         DelItemM(index);
         return -1;
     }
     return index;
 }
 
-int DVrBitmapArr::SetBitmapM(int index, const char* file)
+int DVrBitmapArr::SetBitmapM(int index, const char* file, const PictureScaleCL& scale)
 {
     if (DVrBitmapCL* const old = ElementAtPM(index)) {
         old->DropM(); // Assigning would only let it go.
     }
     const int stored = SetItemM(DVrBitmapCL(AliveTag), index);
     DVrBitmapCL* const record = ElementAtPM(index);
-    return stored == 1 && record != nullptr ? record->LoadSafeBitmapM(completeName(file).c_str()) : 0;
+    return stored == 1 && record != nullptr ? record->LoadScaledM(completeName(file).c_str(), scale) : 0;
 }
 
-int DVrBitmapArr::InsertBitmapM(int index, const char* file)
+int DVrBitmapArr::InsertBitmapM(int index, const char* file, const PictureScaleCL& scale)
 {
     const int inserted = InsertItemM(DVrBitmapCL(AliveTag), index);
     DVrBitmapCL* const record = ElementAtPM(index);
     if (inserted != 1 || record == nullptr) {
         return inserted == 1 ? 0 : inserted;
     }
-    if (record->LoadSafeBitmapM(completeName(file).c_str()) == 0) {
+    if (record->LoadScaledM(completeName(file).c_str(), scale) == 0) {
         DelItemM(index);
         return 0;
     }
     return inserted;
+}
+
+void DVrBitmapArr::RescaleM(const PictureScaleCL& scale)
+{
+    for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
+        ElementAtM(i).RescaleM(scale);
+    }
 }
 
 int DVrBitmapArr::DrawBitmapM(int index, CDC* dc, int x, int y, const int (*size)[2])

@@ -1,5 +1,8 @@
 #pragma once
+#include "baselib/char_arr.h"
 #include "containers/arr.h"
+#include "pictures/picture_scale.h"
+#include "pictures/resampling.h"
 #include "toolkit/toolkit.h"
 #include <memory>
 
@@ -21,6 +24,11 @@ public:
 
     void LoadBitmapM(const char* file);    // Deletes the bitmap first; stays empty when loading fails.
     int LoadSafeBitmapM(const char* file); // The same; 1 when loaded, otherwise 0.
+    // The same at a scale; key: the colour of pixels that let the background through (slResample). With a
+    // scale that may change the file's name is kept for RescaleM, which loads it anew, and leaves the picture
+    // as it is where that fails; nothing without a kept name.
+    int LoadScaledM(const char* file, const PictureScaleCL& scale, std::int64_t key = NoKey);
+    void RescaleM(const PictureScaleCL& scale);
     // Takes over the source's bitmap and leaves the source empty; its own is let go, not deleted. A source
     // that is another record's (GetBitmapM) hands over its part in a shared bitmap. 1, or 0 when there is no
     // source.
@@ -64,7 +72,11 @@ private:
         std::shared_ptr<bool> deleted_;
     };
 
+    void copyFileM(const DVrBitmapCL& other);
+
     SharedCL bitmap_;
+    CharArr file_; // That it was loaded from at a scale which may change.
+    std::int64_t key_ { NoKey };
     int extra_[2] { 0, 0 };
 };
 
@@ -74,13 +86,15 @@ extern template class PANELKIT_API Arr<DVrBitmapCL>;
 class PANELKIT_API DVrBitmapArr : public Arr<DVrBitmapCL>
 {
 public:
-    // Appends the picture of a file, the name as given. Its slot; -1 when loading fails.
-    int AddBitmapM(const char* file);
+    // Appends the picture of a file, the name as given. Its slot; -1 when loading fails. scale: as for
+    // LoadScaledM, also below.
+    int AddBitmapM(const char* file, const PictureScaleCL& scale = {});
     // Loads into a new record at index, whose old bitmap is dropped, or inserts one there. A name without
     // extension gets ".bmp". 1, or 0 when loading fails: SetBitmapM leaves an empty record there,
     // InsertBitmapM a deleted one.
-    int SetBitmapM(int index, const char* file);
-    int InsertBitmapM(int index, const char* file);
+    int SetBitmapM(int index, const char* file, const PictureScaleCL& scale = {});
+    int InsertBitmapM(int index, const char* file, const PictureScaleCL& scale = {});
+    void RescaleM(const PictureScaleCL& scale); // That of each record.
 
     // As the record's DrawBitmapM; 0 for a slot that isn't alive or holds no bitmap.
     int DrawBitmapM(int index, CDC* dc, int x, int y, const int (*size)[2]);

@@ -48,6 +48,21 @@ HBITMAP makeSection(const SectionInfo& info, unsigned char** bits)
     return bitmap;
 }
 
+// A section of 32-bit pixels, the top row first.
+HBITMAP makeBlock(int width, int height, PixelBlockCL* block)
+{
+    SectionInfo info {};
+    info.header.biSize = sizeof info.header;
+    info.header.biWidth = width;
+    info.header.biHeight = -height;
+    info.header.biPlanes = 1;
+    info.header.biBitCount = 32;
+    unsigned char* bits = nullptr;
+    const HBITMAP bitmap = makeSection(info, &bits);
+    *block = { reinterpret_cast<std::uint32_t*>(bits), width, height };
+    return bitmap;
+}
+
 HBITMAP makeIndexed(const BmpBytes& file, const BmpHeader& header)
 {
     std::vector<unsigned char> indices;
@@ -123,4 +138,49 @@ HBITMAP slMakeBitmap(const char* file)
         return nullptr;
     }
     return header.bits <= 8 ? makeIndexed(bytes, header) : makeColoured(bytes, header);
+}
+
+HBITMAP slResizeBitmap(HBITMAP bitmap, int width, int height, std::int64_t key)
+{
+    BITMAP measures {};
+    if (bitmap == nullptr || ::GetObjectW(bitmap, sizeof measures, &measures) == 0
+        || (measures.bmWidth == width && measures.bmHeight == height)) {
+        return bitmap;
+    }
+    PixelBlockCL from {};
+    PixelBlockCL onto {};
+    const HBITMAP plain = makeBlock(measures.bmWidth, measures.bmHeight, &from);
+    HBITMAP result = plain != nullptr ? makeBlock(width, height, &onto) : nullptr;
+    if (result != nullptr) {
+        const HDC source = ::CreateCompatibleDC(nullptr);
+        const HDC target = ::CreateCompatibleDC(nullptr);
+        const HGDIOBJ sourceBefore = ::SelectObject(source, bitmap);
+        const HGDIOBJ targetBefore = ::SelectObject(target, plain);
+        ::BitBlt(target, 0, 0, measures.bmWidth, measures.bmHeight, source, 0, 0, SRCCOPY);
+        ::SelectObject(source, sourceBefore);
+        ::SelectObject(target, targetBefore);
+        ::DeleteDC(source);
+        ::DeleteDC(target);
+        ::GdiFlush();
+        slResample(from, onto, key);
+        ::DeleteObject(bitmap);
+    }
+    ::DeleteObject(plain);
+    return result != nullptr ? result : bitmap;
+}
+
+HBITMAP slMakeBitmap(const char* file, const PictureScaleCL& scale, std::int64_t key)
+{
+    if (scale.PercentM() == 100 || file == nullptr) {
+        return slMakeBitmap(file);
+    }
+    if (const HBITMAP drawn = slMakeBitmap(slNameAtScale(file, scale.PercentM()).c_str())) {
+        return drawn;
+    }
+    const HBITMAP loaded = slMakeBitmap(file);
+    BITMAP measures {};
+    if (loaded == nullptr || ::GetObjectW(loaded, sizeof measures, &measures) == 0) {
+        return loaded;
+    }
+    return slResizeBitmap(loaded, scale.WidthM(measures.bmWidth), scale.HeightM(measures.bmHeight), key);
 }

@@ -24,6 +24,10 @@ public:
     // Hands window index, function id, position, size and show condition to a control. Always 1.
     int InitCommonCtrlM(DControlCommonCL* control) const;
 
+    // Hands the control what may change with the scale of a dialog that is built: position and size, and what
+    // else of lengths a kind has. Always 1.
+    int GiveLengthsM(DControlCommonCL* control) const;
+
     // Shapes in the control's own client coordinates. A region that the argument held is deleted.
     void GetButtonRgnM(DVrRgnCL* region) const;       // The rectangle; nothing unless the region kind is 0.
     void GetDrawRgnM(DVrRgnCL* region) const;         // The outline polygon.

@@ -1,52 +1,10 @@
 // Compiled gettext catalogues: what they give, and that no bytes make them read outside the file.
 #include "baselib/message_catalogue.h"
+#include "support/catalogue_file.h"
 #include <gtest/gtest.h>
 #include <random>
-#include <utility>
-#include <vector>
 
 namespace {
-
-using TextsTP = std::vector<std::pair<std::string, std::string>>;
-
-// A .mo file of texts and their translations.
-class CatalogueFileCL
-{
-public:
-    explicit CatalogueFileCL(bool isSwapped = false)
-        : isSwapped_(isSwapped)
-    {
-    }
-    std::string BytesM(const TextsTP& texts, std::uint32_t revision = 0) const
-    {
-        const auto count = static_cast<std::uint32_t>(texts.size());
-        constexpr std::uint32_t headSize = 28;
-        std::uint32_t at = headSize + 16 * count;
-        std::string tables[2];
-        std::string data;
-        for (int table = 0; table < 2; ++table) {
-            for (const auto& text : texts) {
-                const std::string& one = table == 0 ? text.first : text.second;
-                tables[table] += numberM(static_cast<std::uint32_t>(one.size())) + numberM(at);
-                data += one + '\0';
-                at += static_cast<std::uint32_t>(one.size()) + 1;
-            }
-        }
-        return numberM(0x950412DE) + numberM(revision) + numberM(count) + numberM(headSize)
-            + numberM(headSize + 8 * count) + numberM(0) + numberM(at) + tables[0] + tables[1] + data;
-    }
-
-private:
-    std::string numberM(std::uint32_t number) const
-    {
-        std::string bytes;
-        for (int i = 0; i < 4; ++i) {
-            bytes += static_cast<char>(number >> (isSwapped_ ? 24 - 8 * i : 8 * i));
-        }
-        return bytes;
-    }
-    bool isSwapped_;
-};
 
 const TextsTP Texts { { "", "Content-Type: text/plain; charset=UTF-8\n" }, { "1001\4确定", "Go" },
     { "取消", "Annuler" }, { "确定", "OK" }, { std::string("一个\0几个", 13), std::string("one\0many", 8) },

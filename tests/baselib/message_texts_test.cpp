@@ -1,5 +1,7 @@
 #include "baselib/gbk.h"
+#include "baselib/message_catalogue.h"
 #include "baselib/message_texts.h"
+#include "support/catalogue_file.h"
 #include <gtest/gtest.h>
 #include <set>
 
@@ -19,6 +21,7 @@ protected:
         for (int id = 0; id < MessageTextCount; ++id) {
             slSetMessageTemplate(id, nullptr);
         }
+        slSetMessageLanguage("");
     }
     static void replaceM(int id, const std::u16string& text) { EXPECT_TRUE(slSetMessageTemplate(id, &text)); }
 };
@@ -73,4 +76,54 @@ TEST_F(MessageTextsTest, RefuseNumbersThatAreNone)
         EXPECT_FALSE(slSetMessageTemplate(id, nullptr)) << id;
         EXPECT_EQ(slMessageTemplate(id), u"") << id;
     }
+}
+
+TEST_F(MessageTextsTest, AreEnglishForThatLanguageAlone)
+{
+    for (const char* const language : { "en", "en_GB", "en-US" }) {
+        slSetMessageLanguage(language);
+        EXPECT_EQ(slMessageText(IntegerBetweenMessage, u"1", u"9"),
+            u"Please enter a whole number between 1 and 9.");
+        slSetMessageLanguage("");
+    }
+    for (const char* const language : { "", "zh", "de", "enm" }) {
+        slSetMessageLanguage(language);
+        EXPECT_EQ(utf8(slMessageTemplate(BadArgumentMessage)), "参数无效。") << language;
+    }
+}
+
+TEST_F(MessageTextsTest, InEnglishSayTheSameLimitsAndDiffer)
+{
+    std::set<std::u16string> all;
+    for (int id = 0; id < MessageTextCount; ++id) {
+        slSetMessageLanguage("");
+        const std::u16string chinese = slMessageTemplate(id);
+        slSetMessageLanguage("en");
+        const std::u16string english = slMessageTemplate(id);
+        for (const char16_t* const limit : { u"{minimum}", u"{maximum}" }) {
+            EXPECT_EQ(chinese.find(limit) == chinese.npos, english.find(limit) == english.npos) << id;
+        }
+        EXPECT_EQ(chinese.empty(), english.empty()) << id;
+        EXPECT_TRUE(std::all_of(english.begin(), english.end(), [](char16_t unit) { return unit < 0x80; }));
+        EXPECT_TRUE(all.insert(english).second) << id;
+    }
+}
+
+TEST_F(MessageTextsTest, OfTheCatalogueComeBeforeEnglishAndBehindTheApplications)
+{
+    MessageCatalogueCL catalogue;
+    ASSERT_TRUE(catalogue.ReadM(CatalogueFileCL().BytesM({ { "message 24\4参数无效。", "Неверный аргумент." },
+        { "message 13\4别的", "Другое" }, { "操作失败。", "Не удалось." } })));
+    for (const char* const language : { "ru", "en" }) {
+        slSetMessageLanguage(language, &catalogue);
+        EXPECT_EQ(utf8(slMessageTemplate(BadArgumentMessage)), "Неверный аргумент.");
+        EXPECT_EQ(utf8(slMessageTemplate(FailedMessage)), "Не удалось.");
+    }
+    EXPECT_EQ(slMessageTemplate(SpinEditCaption), u"Warning"); // Its text is another one.
+    replaceM(BadArgumentMessage, u"Nonsense!");
+    EXPECT_EQ(slMessageTemplate(BadArgumentMessage), u"Nonsense!");
+    slSetMessageLanguage("en");
+    EXPECT_EQ(slMessageTemplate(BadArgumentMessage), u"Nonsense!");
+    EXPECT_TRUE(slSetMessageTemplate(BadArgumentMessage, nullptr));
+    EXPECT_EQ(slMessageTemplate(BadArgumentMessage), u"An argument is not valid.");
 }

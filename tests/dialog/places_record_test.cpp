@@ -204,6 +204,7 @@ public:
         dialogM();
         slEachKind([this](auto row) { kindM<typename decltype(row)::Records>(); });
         relationsM();
+        bindingsM();
         newRotateButtonsM();
     }
     int matched { 0 }; // Values held against their places.
@@ -302,6 +303,17 @@ private:
         slReadRelations(io_, [&](RelationCL& relation) {
             matchM(
                 RelationHeader, number++, 0, [&](FieldVisitorCL& matcher) { relation.EachFieldM(matcher); });
+        });
+        sectionsM(1);
+    }
+
+    void bindingsM()
+    {
+        openM();
+        int number = 0;
+        slReadBindings(io_, [&](BindingCL& binding) {
+            matchM(BindingHeader, number++, 0, [&](FieldVisitorCL& matcher) { binding.EachFieldM(matcher); });
+            return 1;
         });
         sectionsM(1);
     }

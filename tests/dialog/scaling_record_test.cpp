@@ -81,7 +81,7 @@ TEST(Scaling, OfEachKindLengthsGrowAndNothingElse)
         typename decltype(row)::Records records;
         int count = 0;
         slReadSection(io, records, &count);
-        EXPECT_GT(count, 0) << decltype(records)::KindName;
+        EXPECT_GT(count, 0) << std::string(decltype(records)::KindName);
         for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
             compareScaled(seen, [&records, i](FieldVisitorCL& visitor) {
                 records.ElementAtM(i).EachCommonFieldM(visitor);

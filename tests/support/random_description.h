@@ -3,6 +3,7 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "dialog/relation.h"
@@ -25,7 +26,8 @@ public:
     std::string FileM()
     {
         isCrLf_ = chanceM(20);
-        std::vector<std::string> parts { dialogM(), relationsM(), newRotateButtonsM(), picturesM() };
+        std::vector<std::string> parts { dialogM(), relationsM(), bindingsM(), newRotateButtonsM(),
+            picturesM() };
         slEachKind([&](auto row) { addKindM<typename decltype(row)::Records>(parts); });
         for (std::size_t i = parts.size(); i > 1; --i) {
             std::swap(parts[i - 1], parts[static_cast<std::size_t>(belowM(static_cast<int>(i)))]);
@@ -198,6 +200,14 @@ private:
         return sectionM(RelationHeader, belowM(5), [&] {
             RelationCL relation;
             relation.EachFieldM(*this);
+        });
+    }
+
+    std::string bindingsM()
+    {
+        return sectionM(BindingHeader, belowM(5), [&] {
+            BindingCL binding;
+            binding.EachFieldM(*this);
         });
     }
 

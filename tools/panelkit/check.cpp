@@ -46,13 +46,13 @@ std::shared_ptr<const FileTextCL> readText(const fs::path& path)
     return isRead ? std::make_shared<const FileTextCL>(std::move(bytes), size) : nullptr;
 }
 
-FindingsCL checkText(
-    const std::string& file, const fs::path& folder, const std::shared_ptr<const FileTextCL>& text)
+FindingsCL checkText(const std::string& file, const fs::path& folder,
+    const std::shared_ptr<const FileTextCL>& text, const TranslationCL& translation)
 {
     FindingsCL findings(file, text);
     if (checkEncoding(*text, findings)) {
         FileReadingCL reading(text);
-        checkRecords(reading, folder, findings);
+        checkRecords(reading, folder, translation, findings);
     }
     findings.SortM();
     return findings;
@@ -73,35 +73,62 @@ std::shared_ptr<const FileTextCL> readStandardInput()
     return std::ferror(stdin) == 0 ? std::make_shared<const FileTextCL>(bytes) : nullptr;
 }
 
-std::shared_ptr<const FileTextCL> readNamedFile(const std::string& file)
+std::shared_ptr<const FileTextCL> readNamedFile(const std::string& file, const std::string& said)
 {
-    if (!isRegularFile(file)) {
+    if (!isRegularFile(file, said)) {
         return nullptr;
     }
     auto text = readText(fs::u8path(file));
     if (text == nullptr) {
-        complain("cannot read '" + file + "'");
+        complain("cannot read '" + said + "'");
     }
     return text;
+}
+
+// Without a language there is nothing to read.
+bool readTranslation(TranslationCL& translation, const std::string& file, const std::string& said)
+{
+    if (translation.LanguageM().empty()) {
+        return true;
+    }
+#ifdef _WIN32
+    const std::string name = slWideToGbk(fs::u8path(file).wstring());
+#else
+    const std::string& name = file;
+#endif
+    if (file == "-" || !translation.ReadM(name.c_str())) {
+        complain("no catalogue of '" + translation.LanguageM() + "' is beside '" + said + "'");
+        return false;
+    }
+    return true;
 }
 
 } // namespace
 
 int checkCommand(const CheckOptionsCL& options)
 {
+#ifndef _WIN32
+    if (!options.textLanguage.empty()) {
+        return checkUnderWine(options); // Where captions can be measured.
+    }
+#endif
+    TranslationCL translation;
+    translation.SetLanguageM(options.textLanguage.c_str());
     const Language language = languageOf(options.language);
     std::vector<FindingsCL> all;
     bool isUnreadable = false;
     bool isFaulty = false;
-    for (const std::string& file : options.files) {
+    for (std::size_t i = 0; i < options.files.size(); ++i) {
+        const std::string& file = options.files[i];
+        const std::string& said = i < options.names.size() ? options.names[i] : file;
         const bool isInput = file == "-";
-        const auto text = isInput ? readStandardInput() : readNamedFile(file);
-        if (text == nullptr) {
+        const auto text = isInput ? readStandardInput() : readNamedFile(file, said);
+        if (text == nullptr || !readTranslation(translation, file, said)) {
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkText(
-            isInput ? "<stdin>" : file, isInput ? fs::path() : fs::u8path(file).parent_path(), text));
+        all.push_back(checkText(isInput ? "<stdin>" : said,
+            isInput ? fs::path() : fs::u8path(file).parent_path(), text, translation));
         isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {

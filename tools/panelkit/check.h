@@ -1,4 +1,5 @@
 #pragma once
+#include "dialog/translation.h"
 #include "file_reading.h"
 #include "findings.h"
 #include <filesystem>
@@ -6,13 +7,15 @@
 Language languageOf(const std::string& option); // en, zh; else the user's.
 std::shared_ptr<const FileTextCL> readText(
     const std::filesystem::path& path); // Null when it can't, without a word.
-// All that is wrong with a file. file: as the user named it; folder: where pictures are.
+// All that is wrong with a file. file: as the user named it; folder: where pictures are; translation: the
+// captions that are measured.
 FindingsCL checkText(const std::string& file, const std::filesystem::path& folder,
-    const std::shared_ptr<const FileTextCL>& text);
+    const std::shared_ptr<const FileTextCL>& text, const TranslationCL& translation = {});
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.
 // Of sections that have been read: says how many records of each are sound.
 void checkSections(FileReadingCL& file, FindingsCL& findings);
 // The sections, every sound record, and what it says to others. folder: where pictures are.
-void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings);
+void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, const TranslationCL& translation,
+    FindingsCL& findings);

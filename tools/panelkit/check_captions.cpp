@@ -17,10 +17,10 @@ public:
         dc_.SelectObject(&font_);
         lineHeight_ = std::max(1L, MeasureM("0", DT_SINGLELINE, 0).cy);
     }
-    SIZE MeasureM(const char* text, UINT format, int width)
+    SIZE MeasureM(const ValueTextCL& text, UINT format, int width)
     {
         RECT rect { 0, 0, width, 0 };
-        ::DrawTextW(dc_.m_hDC, slGbkToShown(text).c_str(), -1, &rect, format | DT_CALCRECT);
+        ::DrawTextW(dc_.m_hDC, text.WideM().c_str(), -1, &rect, format | DT_CALCRECT);
         return { rect.right, rect.bottom };
     }
     int LineHeightM() const { return lineHeight_; }
@@ -53,11 +53,11 @@ int besideCaption(const CheckedControlCL& control, int lineHeight)
     }
 }
 
-void checkCaption(CaptionMeasureCL& measure, const CheckedControlCL& control, FindingsCL& findings)
+void checkCaption(
+    CaptionMeasureCL& measure, const CheckedControlCL& control, const ValueTextCL& text, FindingsCL& findings)
 {
     const int line = measure.LineHeightM();
     const int width = std::max(0, control.w - besideCaption(control, line));
-    const char* const text = control.caption.TextM();
     // Labels alone break lines, at blanks.
     const UINT format = control.kind == LabelCode ? DT_WORDBREAK | DT_EXPANDTABS : DT_SINGLELINE;
     const SIZE size = measure.MeasureM(text, format, width);
@@ -74,7 +74,8 @@ void checkCaption(CaptionMeasureCL& measure, const CheckedControlCL& control, Fi
 
 } // namespace
 
-void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,
+    FindingsCL& findings)
 {
     if (!file.HasDialogM() || file.SectionM(DialogGrammar).soundRecords == 0) {
         return; // Without a font.
@@ -82,7 +83,9 @@ void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, Findi
     CaptionMeasureCL measure(file.DialogM().fontOption);
     for (const CheckedControlCL& control : controls) {
         if (!control.caption.EmptyM() && control.w > 0 && control.h > 0) {
-            checkCaption(measure, control, findings);
+            const ValueTextCL own = control.caption.TextM();
+            const ValueTextCL shown = translation.FindM(own, control.kindName, control.id);
+            checkCaption(measure, control, shown.IsNoneM() ? own : shown, findings);
         }
     }
 }

@@ -46,7 +46,7 @@ std::size_t firstOfUtf8(std::string_view bytes)
 
 bool hasAnyHeader(std::string_view bytes)
 {
-    for (const GrammarCL& grammar : allGrammars()) {
+    for (const GrammarCL& grammar : slGrammars()) {
         if (bytes.find(grammar.header) != std::string_view::npos) {
             return true;
         }

@@ -22,10 +22,10 @@ public:
     {
         findDuplicatesM();
         bool isWhole = true;
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
             isWhole = isWhole && !file_.HasStrayTextM() && !section.isFaulty;
-            if (allGrammars()[i].owner != nullptr) {
+            if (slGrammars()[i].owner != nullptr) {
                 findUnknownM(static_cast<int>(i));
             }
         }
@@ -116,13 +116,13 @@ private:
     void findUnknownM(int grammar)
     {
         const SeenSectionCL& section = file_.SectionM(grammar);
-        const char* const owner = allGrammars()[static_cast<std::size_t>(grammar)].owner;
-        const int ownerGrammar = grammarOf(owner);
+        const char* const owner = slGrammars()[static_cast<std::size_t>(grammar)].owner;
+        const int ownerGrammar = slGrammarOf(owner);
         const SeenSectionCL& main = file_.SectionM(ownerGrammar);
         if (!section.IsThereM() || main.isFaulty) {
             return;
         }
-        const bool isByPlace = allGrammars()[static_cast<std::size_t>(grammar)].row == nullptr;
+        const bool isByPlace = slGrammars()[static_cast<std::size_t>(grammar)].row == nullptr;
         const char* const key = isByPlace ? "button" : "function_id";
         std::map<int, UnknownCL> unknown;
         for (const EntryDroppedCL& entry : section.dropped) {
@@ -144,7 +144,7 @@ private:
                 = seen.count > 1 && !isByPlace ? withoutEntriesM(ownerGrammar, section) : nullptr;
             if (nameless != nullptr) {
                 findings_.AddM(Says::NothingForId, nameless->idAt,
-                    { slGbkToUtf8(allGrammars()[static_cast<std::size_t>(grammar)].header),
+                    { slGbkToUtf8(slGrammars()[static_cast<std::size_t>(grammar)].header),
                         std::to_string(nameless->id), std::to_string(id) });
             } else if (seen.count > 1) {
                 findings_.AddM(Says::UnknownIds, seen.first,

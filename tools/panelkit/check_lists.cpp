@@ -139,7 +139,7 @@ void checkCells(FileReadingCL& file, FindingsCL& findings)
 // A button's status that stands first, but isn't there.
 void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 {
-    file.KeepValuesM(grammarOf(MultiStateButtonHeader));
+    file.KeepValuesM(slGrammarOf(MultiStateButtonHeader));
     const SeenSectionCL& buttons = file.SectionM(MultiStateButtonHeader);
     const SeenSectionCL& states = file.SectionM(MultiStateButtonDataHeader);
     if (!file.IsSoundM(MultiStateButtonDataHeader) || !states.dropped.empty()) {
@@ -163,8 +163,8 @@ void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings)
 {
-    for (std::size_t i = 0; i < allGrammars().size(); ++i) {
-        const GrammarCL& grammar = allGrammars()[i];
+    for (std::size_t i = 0; i < slGrammars().size(); ++i) {
+        const GrammarCL& grammar = slGrammars()[i];
         const SeenSectionCL& section = file.SectionM(static_cast<int>(i));
         if (grammar.owner == nullptr || section.soundRecords == 0) {
             continue;

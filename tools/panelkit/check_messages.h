@@ -45,11 +45,14 @@
     X(InitialTooLong, "bad-range", Error, "the initial text has {0} bytes, but at most {1} are allowed", "初始文本有 {0} 字节, 最多允许 {1}") \
     X(DuplicateId, "duplicate-id", Error, "id {0} belongs to the control of line {1} already", "功能号 {0} 已属于第 {1} 行的控件") \
     X(ReservedId, "duplicate-id", Error, "id {0} means {1} in every dialog", "功能号 {0} 在每个对话框中都表示{1}") \
+    X(BoundTwice, "duplicate-id", Error, "line {1} says how the control {0} follows the dialog already: this entry does nothing", "第 {1} 行已说明控件 {0} 如何随窗口变化: 此条目不起作用") \
     X(UnknownId, "unknown-id", Error, "no control of {0} has the id {1}: the entry is dropped", "{0} 中没有功能号为 {1} 的控件: 该条目被丢弃") \
     X(UnknownIds, "unknown-id", Error, "no control of {0} has the id {1}: this and {2} more entries are dropped", "{0} 中没有功能号为 {1} 的控件: 该条目及另外 {2} 条被丢弃") \
     X(NothingForId, "unknown-id", Error, "no entry of {0} names the id {1}; its entries name {2}, which no control has", "{0} 中没有条目使用功能号 {1}; 其条目使用的 {2} 不属于任何控件") \
     X(UnknownSlot, "unknown-id", Error, "the picture's slot {0} cannot be meant: it is dropped", "图片位置 {0} 不可能正确: 该图片被丢弃") \
     X(UnknownControl, "unknown-id", Error, "no control has the id {0}", "没有功能号为 {0} 的控件") \
+    X(ControlShrinks, "bad-binding", Warning, "the control becomes smaller as the dialog becomes larger: its {0} goes further than its {1}", "对话框变大时该控件反而变小: 其 {0} 边比 {1} 边移动得更远") \
+    X(SizeKept, "bad-binding", Warning, "a control of this kind keeps its {0}: it only moves, to the middle of what it should fill", "这种控件的 {0} 不变: 它只会移到应占区域的中间") \
     X(MissingSecondary, "missing-secondary", Error, "section {0} is missing: without it no control of {1} is built (a count of 0 will do)", "缺少 {0} 节: 没有它 {1} 的控件都不会建立 (数目可以为 0)") \
     X(MissingFile, "missing-file", Error, "there is no file '{0}'", "没有文件 '{0}'") \
     X(BadPicture, "bad-picture", Error, "'{0}' is no .bmp picture that can be shown", "'{0}' 不是可以显示的 .bmp 图片") \

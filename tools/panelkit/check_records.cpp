@@ -17,12 +17,14 @@ std::uint32_t offsetOf(const RecordViewCL& view, const char* name)
 }
 
 // Takes the caption from the record.
-CheckedControlCL controlOf(const RecordViewCL& view, int kind, int grammar, int record, bool isStacked)
+CheckedControlCL controlOf(
+    const RecordViewCL& view, int kind, const char* kindName, int grammar, int record, bool isStacked)
 {
     const FieldCL& position = *view.FindM("position");
     const FieldCL& size = *view.FindM("size");
     CheckedControlCL control;
     control.kind = kind;
+    control.kindName = kindName;
     control.grammar = grammar;
     control.record = record;
     control.isStacked = isStacked;
@@ -98,8 +100,10 @@ StackTP stackOf(const CheckedControlsTP& controls)
 class RecordsCheckerCL
 {
 public:
-    RecordsCheckerCL(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings)
+    RecordsCheckerCL(FileReadingCL& file, const std::filesystem::path& folder,
+        const TranslationCL& translation, FindingsCL& findings)
         : file_(file)
+        , translation_(translation)
         , findings_(findings)
         , pictures_(folder)
     {
@@ -121,10 +125,11 @@ public:
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
+        checkBindings(file_, controls_, findings_);
         const StackTP stack = stackOf(controls_);
         checkPlaces(file_, stack, findings_);
 #ifdef _WIN32
-        checkCaptions(file_, controls_, findings_);
+        checkCaptions(file_, controls_, translation_, findings_);
 #endif
         checkOrder(file_, controls_, stack, findings_);
     }
@@ -183,7 +188,7 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        const int grammar = grammarOf(RecordsTP::Header);
+        const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
             view_.BeginM(section, i);
@@ -192,14 +197,14 @@ private:
             if (isInvisible(RowTP::Code, view_)) {
                 found_.AddM(Says::InvisibleTabStop, offsetOf(view_, "function_id"));
             }
-            recordM(RowTP::Code, grammar, i, RowTP::CanM(Stacked));
+            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
         });
     }
-    void recordM(int kind, int grammar, int record, bool isStacked)
+    void recordM(int kind, const char* kindName, int grammar, int record, bool isStacked)
     {
         checkRanges(kind, view_, found_);
         valuesM(grammar, record);
-        controls_.push_back(controlOf(view_, kind, grammar, record, isStacked));
+        controls_.push_back(controlOf(view_, kind, kindName, grammar, record, isStacked));
     }
     void invisibleStatesM()
     {
@@ -215,7 +220,7 @@ private:
     }
     void newRotateButtonsM()
     {
-        const int grammar = grammarOf(NewRotateBtnHeader);
+        const int grammar = slGrammarOf(NewRotateBtnHeader);
         const SeenSectionCL& section = file_.SectionM(grammar);
         DVrNewRotateBtnArr& records = file_.NewRotateButtonsM();
         for (int i = 0; i < section.soundRecords; ++i) {
@@ -223,7 +228,7 @@ private:
             records.ElementAtM(i).EachCommonFieldM(view_, 1);
             records.ElementAtM(i).EachFieldM(view_, section.FindM(i, "show_condition") != nullptr,
                 section.FindM(i, "description") != nullptr);
-            recordM(0, grammar, i, false);
+            recordM(0, "new_rotate_button", grammar, i, false);
             const FieldCL* const first = view_.FindM("initial_index");
             const int slots = records.ElementAtM(i).SlotCountM();
             if (!file_.IsSoundM(NewRotateBtnBitmapHeader)
@@ -238,6 +243,7 @@ private:
     }
 
     FileReadingCL& file_;
+    [[maybe_unused]] const TranslationCL& translation_; // Where captions are measured.
     FindingsCL& findings_;
     PicturesCL pictures_;
     RecordViewCL view_;
@@ -249,7 +255,8 @@ private:
 
 } // namespace
 
-void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, FindingsCL& findings)
+void checkRecords(FileReadingCL& file, const std::filesystem::path& folder, const TranslationCL& translation,
+    FindingsCL& findings)
 {
-    RecordsCheckerCL(file, folder, findings).CheckM();
+    RecordsCheckerCL(file, folder, translation, findings).CheckM();
 }

@@ -41,7 +41,7 @@ public:
         : file_(file)
         , findings_(findings)
         , bytes_(file.TextM().CutM({ 0, file.TextM().SizeM() }))
-        , isFound_(allGrammars().size())
+        , isFound_(slGrammars().size())
     {
     }
     void CheckM()
@@ -60,7 +60,7 @@ public:
                 repeated_.push_back(place.span.begin);
             }
         }
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             checkSectionM(static_cast<int>(i));
         }
         sayMissingM();
@@ -72,7 +72,7 @@ public:
 private:
     static std::string nameM(int grammar)
     {
-        return slGbkToUtf8(allGrammars()[static_cast<std::size_t>(grammar)].header);
+        return slGbkToUtf8(slGrammars()[static_cast<std::size_t>(grammar)].header);
     }
 
     // Only lines with a bracket matter.
@@ -100,7 +100,7 @@ private:
                 const int grammar = headerAtM(at);
                 if (grammar >= 0) {
                     const std::size_t length
-                        = std::strlen(allGrammars()[static_cast<std::size_t>(grammar)].header);
+                        = std::strlen(slGrammars()[static_cast<std::size_t>(grammar)].header);
                     const auto g = static_cast<std::size_t>(grammar);
                     places_.push_back({ { at, at + length }, grammar, !isFound_[g], at == text });
                     isFound_[g] = true;
@@ -116,7 +116,7 @@ private:
     }
     int headerAtM(std::size_t at) const
     {
-        const std::vector<GrammarCL>& all = allGrammars();
+        const std::vector<GrammarCL>& all = slGrammars();
         for (std::size_t i = 0; i < all.size(); ++i) {
             if (bytes_.compare(at, std::strlen(all[i].header), all[i].header) == 0) {
                 return static_cast<int>(i);
@@ -136,7 +136,7 @@ private:
         }
         setRegionsM(known);
         std::vector<SpanCL> whole;
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
             if (section.IsThereM() && layoutOf(file_, static_cast<int>(i)).isClean
                 && static_cast<int>(i) != VersionGrammar) {
@@ -171,8 +171,8 @@ private:
         const std::u16string wide = slGbkToUtf16(text.data(), text.size());
         int nearest = -1;
         *distance = static_cast<std::size_t>(-1);
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
-            const std::size_t other = editDistance(wide, slGbkToUtf16(allGrammars()[i].header));
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
+            const std::size_t other = editDistance(wide, slGbkToUtf16(slGrammars()[i].header));
             if (other < *distance
                 || (other == *distance && !isFound_[i] && isFound_[static_cast<std::size_t>(nearest)])) {
                 *distance = other;
@@ -187,7 +187,7 @@ private:
         const int nearest = nearestM(place.span, &distance);
         const std::string text = file_.CutM(place.span);
         isAnyUnknown_ = true;
-        if (distance * 2 <= slGbkToUtf16(allGrammars()[static_cast<std::size_t>(nearest)].header).size()) {
+        if (distance * 2 <= slGbkToUtf16(slGrammars()[static_cast<std::size_t>(nearest)].header).size()) {
             findings_.AddM(Says::UnknownSection, place.span.begin, { text, nameM(nearest) });
             isFound_[static_cast<std::size_t>(nearest)] = true; // Not missing, but misspelt.
         } else {
@@ -197,7 +197,7 @@ private:
 
     void setRegionsM(const std::vector<HeaderPlaceCL>& places)
     {
-        for (std::size_t i = 0; i < allGrammars().size(); ++i) {
+        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
             section.regionEnd = bytes_.size();
             for (const HeaderPlaceCL& place : places) {
@@ -264,8 +264,8 @@ private:
                 findings_.AddM(Says::MissingSection, nextText(bytes_, 0, bytes_.size()), { nameM(grammar) });
             }
         }
-        for (std::size_t i = 0; i < allGrammars().size() && !hasStrayText_; ++i) {
-            const char* const owner = allGrammars()[i].owner;
+        for (std::size_t i = 0; i < slGrammars().size() && !hasStrayText_; ++i) {
+            const char* const owner = slGrammars()[i].owner;
             if (owner != nullptr && !isFound_[i]) {
                 const SeenSectionCL& main = file_.SectionM(owner);
                 if (main.IsReadM()) {

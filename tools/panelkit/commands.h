@@ -19,6 +19,8 @@ struct ShowOptionsCL
     bool isChecked { false }; // That program says what check finds.
     std::string language;     // As for check.
     bool isStrict { false };
+    int scale { 0 };          // Percent; 0: none was asked for.
+    std::string textLanguage; // That the dialog is shown in; empty: as in the file.
 };
 // As the user wrote the file of a number.
 const std::string& saidOf(const ShowOptionsCL& options, std::size_t number);
@@ -38,10 +40,13 @@ struct CheckOptionsCL
 {
     std::vector<std::string> files; // "-": standard input.
     std::string format { "text" };  // Or json, sarif.
+    std::vector<std::string> names; // As of ShowOptionsCL.
     std::string language;           // en, zh; else the user's.
+    std::string textLanguage;       // That captions are measured in; empty: as in the file.
     bool isStrict { false };        // Warnings count too.
 };
-int checkCommand(const CheckOptionsCL& options); // 0, 1 with findings, CannotUse.
+int checkCommand(const CheckOptionsCL& options);   // 0, 1 with findings, CannotUse.
+int checkUnderWine(const CheckOptionsCL& options); // Linux only: the same by panelkit.exe.
 // For who shows a file: says on standard error what check finds in it, errors alone unless strict, with the
 // file as `said`. True when the exit code must be 1 for that. Says nothing of a file that can't be read.
 bool sayFindings(const std::string& file, const std::string& said, const ShowOptionsCL& options);
@@ -53,6 +58,8 @@ struct ShotOptionsCL : ShowOptionsCL
     std::string outName;                   // What the user wrote for that, as `names`.
     std::vector<ControlStatusTP> statuses; // Of each file.
     bool showsIds { false };               // As view does.
+    int width { 0 };                       // Of the dialog, frame included; 0: the file's.
+    int height { 0 };                      // The same.
 };
 int shotCommand(const ShotOptionsCL& options);
 
@@ -64,8 +71,15 @@ int newCommand(const std::string& file, bool force);
 int idsCommand(
     const std::string& file, const std::string& out, const std::string* space, const std::string& prefix);
 int formatCommand(const std::string& file, bool checkOnly);
-// A template for translators of the texts of all files; `out` "" is standard output.
-int stringsCommand(const std::vector<std::string>& files, const std::string& out);
+
+struct StringsOptionsCL
+{
+    std::vector<std::string> files;
+    std::string out;            // "": standard output.
+    bool byContext { false };   // The same text in two controls can be translated differently.
+    bool hasMessages { false }; // The library's own too.
+};
+int stringsCommand(const StringsOptionsCL& options); // A template for translators.
 
 // Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
 // standard input ends. Prints "ready" once it is there.

@@ -1,4 +1,5 @@
 #pragma once
+#include "dialog/translation.h"
 #include "file_reading.h"
 #include "findings.h"
 #include "record_view.h"
@@ -8,9 +9,10 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind { 0 };    // Its KindCode; 0 for a new rotate button.
-    int grammar { 0 }; // Its section,
-    int record { 0 };  // and its place there.
+    int kind { 0 };              // Its KindCode; 0 for a new rotate button.
+    const char* kindName { "" }; // As dump has it.
+    int grammar { 0 };           // Its section,
+    int record { 0 };            // and its place there.
     int windowIndex { 0 };
     int id { 0 };
     int x { 0 }, y { 0 }, w { 0 }, h { 0 };
@@ -84,8 +86,10 @@ void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkBindings(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings);
 // Only where a window system is.
-void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,
+    FindingsCL& findings);
 void checkOrder(
     FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings);

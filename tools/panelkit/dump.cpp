@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "controls/buttons/new_rotate_btn_record.h"
 #include "description_file.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "dialog/relation.h"
@@ -77,6 +78,17 @@ JsonTP relationsOf(VrIOCL& io)
     return relations;
 }
 
+// Null when the file has no such section.
+JsonTP bindingsOf(VrIOCL& io)
+{
+    JsonTP bindings = JsonTP::array();
+    const SectionStatus status = slReadBindings(io, [&bindings](BindingCL& binding) {
+        bindings.push_back(fieldsOf(binding));
+        return 1;
+    });
+    return status == SectionStatus::Missing ? JsonTP() : bindings;
+}
+
 JsonTP newRotateButtonsOf(VrIOCL& io)
 {
     DVrNewRotateBtnArr records;
@@ -95,9 +107,13 @@ int dumpCommand(const ShowOptionsCL& options)
         JsonTP sections = JsonTP::array();
         slEachKindAsBuilt(
             [&](auto row) { sections.push_back(sectionOf<typename decltype(row)::Records>(io)); });
-        documents.AddM(file.said,
-            { { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
-                { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } });
+        JsonTP document { { "dialog", dialogOf(io) }, { "sections", std::move(sections) },
+            { "relations", relationsOf(io) }, { "new_rotate_buttons", newRotateButtonsOf(io) } };
+        JsonTP bindings = bindingsOf(io);
+        if (!bindings.is_null()) {
+            document["bindings"] = std::move(bindings);
+        }
+        documents.AddM(file.said, std::move(document));
         return 0;
     });
     documents.PrintM();

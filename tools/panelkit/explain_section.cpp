@@ -12,7 +12,7 @@ class ExplainerCL
 public:
     ExplainerCL(FileReadingCL& file, int grammar, const SectionLayoutCL& layout, FindingsCL& findings)
         : file_(file)
-        , grammar_(allGrammars()[static_cast<std::size_t>(grammar)])
+        , grammar_(slGrammars()[static_cast<std::size_t>(grammar)])
         , number_(grammar)
         , section_(file.SectionM(grammar))
         , layout_(layout)

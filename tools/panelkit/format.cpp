@@ -83,7 +83,7 @@ public:
     }
 
     // What is to change, in the order of the file.
-    std::vector<BlanksCL> ChangesM() const;
+    TextChangesTP ChangesM() const;
     // All values and what became of them: whether two files are read the same.
     const std::string& ReadM() const { return read_; }
 
@@ -167,7 +167,7 @@ void LineFinderCL::textsTogether(RowsTP& rows)
     }
 }
 
-std::vector<BlanksCL> LineFinderCL::ChangesM() const
+TextChangesTP LineFinderCL::ChangesM() const
 {
     // Lines of a section that begin with the same value have the same columns.
     std::map<std::tuple<std::string, std::string, int>, std::vector<std::size_t>> alike;
@@ -177,7 +177,7 @@ std::vector<BlanksCL> LineFinderCL::ChangesM() const
             alike[{ first.section, first.field, first.part }].push_back(i);
         }
     }
-    std::vector<BlanksCL> changes;
+    TextChangesTP changes;
     for (const auto& [key, numbers] : alike) {
         RowsTP rows;
         SpanCL comments;
@@ -201,7 +201,7 @@ std::vector<BlanksCL> LineFinderCL::ChangesM() const
         }
     }
     std::sort(changes.begin(), changes.end(),
-        [](const BlanksCL& one, const BlanksCL& other) { return one.span.begin < other.span.begin; });
+        [](const TextChangeCL& one, const TextChangeCL& other) { return one.span.begin < other.span.begin; });
     return changes;
 }
 
@@ -211,19 +211,6 @@ void readWith(LineFinderCL& finder, const std::shared_ptr<const FileTextCL>& tex
     io.OpenM(text);
     io.SetObserverM(&finder);
     readAllSections(io, [](const char*, auto&) {});
-}
-
-std::string withChanges(const FileTextCL& text, const std::vector<BlanksCL>& changes)
-{
-    std::string result;
-    std::size_t at = 0;
-    for (const BlanksCL& change : changes) {
-        result += text.CutM({ at, change.span.begin });
-        result.append(change.spaces, ' ');
-        at = change.span.end;
-    }
-    result += text.CutM({ at, text.SizeM() });
-    return result;
 }
 
 } // namespace
@@ -237,12 +224,12 @@ int formatCommand(const std::string& file, bool checkOnly)
     const auto text = std::make_shared<FileTextCL>(bytes);
     LineFinderCL finder(*text);
     readWith(finder, text);
-    const std::vector<BlanksCL> changes = finder.ChangesM();
+    const TextChangesTP changes = finder.ChangesM();
     if (changes.empty()) {
         const Encoding encoding = encodingOf(bytes);
         return encoding == Encoding::Gbk ? 0 : complainOfEncoding(file, encoding);
     }
-    const std::string result = withChanges(*text, changes);
+    const std::string result = slWithChanges(bytes, changes);
     const auto formatted = std::make_shared<FileTextCL>(result);
     LineFinderCL again(*formatted);
     readWith(again, formatted);

@@ -83,9 +83,15 @@ JsonTP documentOf(HWND dialog)
 int inspectCommand(const ShowOptionsCL& options)
 {
     DocumentsCL documents(options.files.size());
-    const int result = showEachFile(options, [&documents](const OpenedFileCL& file) {
+    const int result = showEachFile(options, [&](const OpenedFileCL& file) {
         DuBasicDialogCL dialog;
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         dialog.SetConfigFileM(file.name.c_str());
+        if (!options.textLanguage.empty()) {
+            dialog.SetLanguageM(options.textLanguage.c_str());
+        }
         if (dialog.CreateM() != 1) {
             complain("the dialog of '" + file.said + "' can't be created");
             return 1;

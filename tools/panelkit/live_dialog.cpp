@@ -14,11 +14,12 @@ constexpr UINT OverlayMilliseconds = 200;
 } // namespace
 
 LiveDialogCL::LiveDialogCL(const std::string& name, const ViewOptionsCL& options)
-    : PreviewDialogCL(name)
+    : PreviewDialogCL(name, options.textLanguage)
     , options_(options)
     , language_(languageOf(options.language))
     , path_(std::filesystem::current_path() / slGbkToWide(name.c_str()))
 {
+    SetScaleM(options.scale != 0 ? options.scale : AutomaticScale);
 }
 
 LiveDialogCL::~LiveDialogCL() = default;
@@ -33,7 +34,7 @@ BOOL LiveDialogCL::OnInitDialog()
         const HWND window = m_hWnd;
         watched_
             = std::make_unique<WatchedFilesCL>([window] { ::PostMessageW(window, FilesChangedMsg, 0, 0); });
-        watched_->WatchM({ path_ });
+        watched_->WatchM(watchedM());
     }
     const BOOL result = PreviewDialogCL::OnInitDialog();
     isBuilding_ = false;
@@ -48,6 +49,18 @@ BOOL LiveDialogCL::OnInitDialog()
     return result;
 }
 
+// The file itself and where its translations may come from.
+std::vector<std::filesystem::path> LiveDialogCL::watchedM() const
+{
+    TranslationCL translation;
+    translation.SetLanguageM(options_.textLanguage.c_str());
+    std::vector<std::filesystem::path> files { path_ };
+    for (const std::string& catalogue : translation.FilesM(slWideToGbk(path_.wstring()).c_str())) {
+        files.emplace_back(slGbkToWide(catalogue.c_str()));
+    }
+    return files;
+}
+
 // Says what is wrong with the file, and watches the pictures that it names. False: nothing can be built of
 // it; a file that is gone comes back.
 bool LiveDialogCL::checkM()
@@ -57,7 +70,7 @@ bool LiveDialogCL::checkM()
         return false;
     }
     const FindingsCL findings = checkText("", path_.parent_path(), text);
-    std::vector<std::filesystem::path> files { path_ };
+    std::vector<std::filesystem::path> files = watchedM();
     for (const std::string& picture : findings.PicturesM()) {
         files.push_back(path_.parent_path() / slGbkToWide(picture.c_str()));
     }

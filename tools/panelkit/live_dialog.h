@@ -27,6 +27,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
+    std::vector<std::filesystem::path> watchedM() const;
     bool checkM();
     void followFileM();
     bool isBusyM() const;

@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "dialog/translation.h"
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #ifdef _WIN32
@@ -19,6 +20,7 @@ int run(std::vector<std::string> arguments)
     std::string file;
     ShotOptionsCL shown;
     std::vector<int> statuses; // In pairs: a control's id, its status.
+    std::vector<int> size;     // None, or a width and a height.
     int result = 0;
     const auto add = [&](const char* name, const char* what) {
         CLI::App* command = app.add_subcommand(name, what);
@@ -30,12 +32,24 @@ int run(std::vector<std::string> arguments)
         command->add_option("FILE", shown.files, "the dialog description files")->required();
         return command;
     };
+    const auto addLanguage = [](CLI::App* command, std::string& language) {
+        command->add_option("--language", language, "shows the texts of FILE.LANGUAGE.mo beside FILE.dlg")
+            ->type_name("LANGUAGE")
+            ->check([](const std::string& name) {
+                return TranslationCL().SetLanguageM(name.c_str()) && !name.empty()
+                    ? std::string()
+                    : "'" + name + "' names no language";
+            });
+    };
     const auto addShowing = [&](const char* name, const char* what) {
         CLI::App* command = addForMany(name, what);
         command->add_option("--lang", shown.language, "language of what check finds: en or zh")
             ->check(CLI::IsMember({ "en", "zh" }));
         command->add_flag(
             "--strict", shown.isStrict, "tells check's warnings too; exit code 1 when it finds anything");
+        command->add_option("--scale", shown.scale, "shows the dialog at so many percent, 50 to 800")
+            ->check(CLI::Range(50, 800));
+        addLanguage(command, shown.textLanguage);
         command->add_option("--as", shown.names)->allow_extra_args(false)->group("");
         command->add_flag("--checked", shown.isChecked)->group("");
         return command;
@@ -62,6 +76,8 @@ int run(std::vector<std::string> arguments)
     check->add_option("--lang", options.language, "en or zh; without it as the system is set")
         ->check(CLI::IsMember({ "en", "zh" }));
     check->add_flag("--strict", options.isStrict, "warnings count as errors for the exit code");
+    addLanguage(check, options.textLanguage);
+    check->add_option("--as", options.names)->allow_extra_args(false)->group("");
     check->callback([&] { result = checkCommand(options); });
     CLI::App* shot = addShowing("shot",
         "Writes a picture of the dialog of FILE, frame included, to the OUT.png or OUT.bmp behind it; with "
@@ -73,6 +89,11 @@ int run(std::vector<std::string> arguments)
         ->type_name("ID STATUS")
         ->type_size(2)
         ->allow_extra_args(false);
+    shot->add_option("--size", size,
+            "pictures the dialog at another size, frame included, if its file says how its controls follow")
+        ->type_name("WIDTH HEIGHT")
+        ->expected(2)
+        ->check(CLI::Range(1, 32767));
     shot->add_flag("--ids", shown.showsIds, "writes id, place and Tab stop on each control");
     shot->add_option("-o", shown.folder,
             "the folder for the picture of each FILE, named after it: a.dlg is pictured in DIR/a.png")
@@ -89,6 +110,10 @@ int run(std::vector<std::string> arguments)
         }
         for (size_t i = 1; i < statuses.size(); i += 2) {
             shown.statuses.emplace_back(statuses[i - 1], statuses[i]);
+        }
+        if (size.size() == 2) {
+            shown.width = size[0];
+            shown.height = size[1];
         }
         result = shotCommand(shown);
     });
@@ -117,9 +142,12 @@ int run(std::vector<std::string> arguments)
     format->callback([&] { result = formatCommand(file, flag); });
     CLI::App* strings = app.add_subcommand(
         "strings", "Writes a gettext template of the texts that people read in each FILE.");
-    strings->add_option("FILE", shown.files, "the dialog description files")->required();
-    strings->add_option("-o", out, "the file to write (else standard output)")->type_name("OUT");
-    strings->callback([&] { result = stringsCommand(shown.files, out); });
+    StringsOptionsCL texts;
+    strings->add_option("FILE", texts.files, "the dialog description files")->required();
+    strings->add_option("-o", texts.out, "the file to write (else standard output)")->type_name("OUT");
+    strings->add_flag("--contexts", texts.byContext, "gives each control its own entry for a text");
+    strings->add_flag("--messages", texts.hasMessages, "adds the messages of the library itself");
+    strings->callback([&] { result = stringsCommand(texts); });
 #ifdef _WIN32
     app.add_subcommand("keep")->group("")->callback([&] { result = keepCommand(); });
 #endif

@@ -1,6 +1,8 @@
 #include "preview_dialog.h"
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -61,10 +63,13 @@ ON_MESSAGE(ButtonDownMsg, &PreviewDialogCL::onButtonDownM)
 ON_MESSAGE(ButtonActionMsg, &PreviewDialogCL::onButtonM)
 END_MESSAGE_MAP()
 
-PreviewDialogCL::PreviewDialogCL(const std::string& file)
+PreviewDialogCL::PreviewDialogCL(const std::string& file, const std::string& language)
     : file_(file)
 {
     SetConfigFileM(file.c_str());
+    if (!language.empty()) {
+        SetLanguageM(language.c_str());
+    }
 }
 
 BOOL PreviewDialogCL::OnInitDialog()
@@ -92,10 +97,33 @@ void PreviewDialogCL::addNewRotateButtonsM()
     DVrNewRotateBtnArr records;
     if (records.FmReadInterfaceM(&io) == 1) {
         for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-            records.InitNewRotateBtnM(i, &newRotateButtons_.emplace_back());
+            DuNewRotateBtnCL& button = newRotateButtons_.emplace_back();
+            const ScaleCL scale(ScaleM());
+            button.SetPictureScaleM({ scale, records.ElementAtM(i).GetPositionM() });
+            slScaleRecord(records.ElementAtM(i), scale);
+            records.InitNewRotateBtnM(i, &button);
             newRotateButtons_.back().Create(this);
         }
     }
+}
+
+// Those of the application follow when the dialog comes to another monitor.
+LRESULT PreviewDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const int before = ScaleM();
+    const LRESULT result = DuBasicDialogCL::WindowProc(message, wParam, lParam);
+    if (m_hWnd != nullptr && ScaleM() != before && !newRotateButtons_.empty()) {
+        std::vector<int> places;
+        for (const DuNewRotateBtnCL& button : newRotateButtons_) {
+            places.push_back(button.GetCurIndxM());
+        }
+        newRotateButtons_.clear();
+        addNewRotateButtonsM();
+        for (size_t i = 0; i < std::min(places.size(), newRotateButtons_.size()); ++i) {
+            newRotateButtons_[i].SetCurIndxM(places[i]);
+        }
+    }
+    return result;
 }
 
 LRESULT PreviewDialogCL::onPermissionM(WPARAM wParam, LPARAM)

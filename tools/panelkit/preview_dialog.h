@@ -9,7 +9,8 @@
 class PreviewDialogCL : public DuBasicDialogCL
 {
 public:
-    explicit PreviewDialogCL(const std::string& file); // In the current folder, as the library takes it.
+    // file: in the current folder, as the library takes it. language: of its texts; empty: as in the file.
+    explicit PreviewDialogCL(const std::string& file, const std::string& language = {});
 
     void RebuildM(); // All controls anew, from the file as it now is.
     // Until it is on the screen and painted, animations at their first frame; false after ten seconds.
@@ -22,6 +23,7 @@ public:
     BOOL OnInitDialog() override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg LRESULT onPermissionM(WPARAM wParam, LPARAM);
     afx_msg LRESULT onButtonDownM(WPARAM, LPARAM);
     afx_msg LRESULT onButtonM(WPARAM wParam, LPARAM);

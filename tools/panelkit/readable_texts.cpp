@@ -32,7 +32,7 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        const int grammar = grammarOf(RecordsTP::Header);
+        const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         owners_.clear();
         file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
@@ -42,12 +42,16 @@ private:
             const ReadableTextCL control { {}, RecordsTP::KindName, nullptr, view_.IntM("function_id"), 0,
                 view_.IntM("size"), view_.IntM("size", 1) };
             owners_.emplace(control.id, control);
-            if (RowTP::Code != MultiEditCode) { // Its text is what the user may change.
+            // What the user may change is no text to translate.
+            if (RowTP::Code != MultiEditCode || view_.IntM("read_only") == 1) {
                 captionsM(control);
             }
         });
-        for (std::size_t i = 0; i < std::tuple_size_v<decltype(RecordsTP::Secondaries)>; ++i) {
-            entriesM(grammar + 1 + static_cast<int>(i));
+        for (const auto& secondary : RecordsTP::Secondaries) {
+            // Cells are what the application reads and writes.
+            if (std::strcmp(secondary.header, ListCtrlItemHeader) != 0) {
+                entriesM(slGrammarOf(secondary.header));
+            }
         }
     }
     void captionsM(const ReadableTextCL& control)
@@ -61,7 +65,7 @@ private:
     void entriesM(int grammar)
     {
         const SeenSectionCL& section = file_.SectionM(grammar);
-        const RowShapeCL shape(allGrammars()[static_cast<std::size_t>(grammar)]);
+        const RowShapeCL shape(slGrammars()[static_cast<std::size_t>(grammar)]);
         for (int i = 0; i < section.RecordsM(); ++i) {
             const auto owner = owners_.find(file_.NumberM(section, i, "function_id"));
             if (owner == owners_.end()) {

@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/io.h"
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
 #include "dialog/relation.h"
@@ -22,6 +23,7 @@ template <class FunctionTP> void readAllSections(VrIOCL& io, FunctionTP&& see)
         }
     });
     slReadRelations(io, [](RelationCL&) {});
+    slReadBindings(io, nullptr);
     DVrNewRotateBtnArr newRotateButtons;
     newRotateButtons.FmReadInterfaceM(&io);
     for (int i = newRotateButtons.GetFirstIdxM(); i >= 0; i = newRotateButtons.GetNextIdxM(i)) {

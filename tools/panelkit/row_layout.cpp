@@ -103,7 +103,7 @@ std::vector<WordCL> wordsAbove(
 } // namespace
 
 void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
-    std::size_t common, std::vector<BlanksCL>& changes)
+    std::size_t common, TextChangesTP& changes)
 {
     const std::vector<WordCL> words = wordsAbove(text, rows, comments, common);
     std::size_t columns = 0;
@@ -132,7 +132,7 @@ void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, Spa
             const std::size_t from = column == 0 ? rows[i].lineBegin : rows[i].cells[column - 1].span.end;
             const std::string blanks(begin - written[i], ' ');
             if (text.CutM({ from, cell.span.begin }) != blanks) {
-                changes.push_back({ { from, cell.span.begin }, blanks.size() });
+                changes.push_back({ { from, cell.span.begin }, blanks });
             }
             written[i] = end;
         }

@@ -1,6 +1,5 @@
 #pragma once
-#include "baselib/file_text.h"
-#include <string>
+#include "editing/text_changes.h"
 #include <vector>
 
 // A value that stands in a line of a record: a column of that line.
@@ -18,15 +17,8 @@ struct RowCellsCL
     std::vector<CellCL> cells;
 };
 
-// Blanks that are to be written otherwise.
-struct BlanksCL
-{
-    SpanCL span;
-    std::size_t spaces;
-};
-
 // Lines up rows of the same columns: numbers end one above the other, and as far as they have room below the
 // ends of the words of the last comment line that has a word for each. common: how many values at the
-// beginning have a word each whatever fields they are of. Appends what is to change.
+// beginning have a word each whatever fields they are of. Appends the blanks that are to be others.
 void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
-    std::size_t common, std::vector<BlanksCL>& changes);
+    std::size_t common, TextChangesTP& changes);

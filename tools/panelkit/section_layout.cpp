@@ -46,22 +46,6 @@ bool isRowOfNumbers(std::string_view text, int least)
 
 namespace {
 
-// What follows the count of an empty section may be the usual rest of a head.
-std::size_t restOfEmptySection(const SectionSeenCL& head, std::string_view bytes, std::size_t regionEnd)
-{
-    std::size_t at = nextText(bytes, std::min(head.countLine.end, regionEnd), regionEnd);
-    int lines = 0;
-    const char* const begin = bytes.data() + at;
-    if (slReadInt(begin, bytes.data() + regionEnd, &lines) == begin) {
-        return at;
-    }
-    for (; lines >= 0 && at < regionEnd; --lines) {
-        const std::size_t lineEnd = bytes.find('\n', at);
-        at = lineEnd == std::string_view::npos ? regionEnd : std::min(lineEnd + 1, regionEnd);
-    }
-    return nextText(bytes, at, regionEnd);
-}
-
 bool goesOn(SpanCL number, std::string_view bytes)
 {
     return number.end < bytes.size() && !slIsBlank(bytes[number.end]);
@@ -79,7 +63,7 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
         = [&](SpanCL span) { return !span.EmptyM() && span.end <= regionEnd && !goesOn(span, bytes); };
     layout.isHeadSound = !hasCount || isNumber(head.countSpan);
     if (layout.isHeadSound && head.status == SectionStatus::Empty) {
-        layout.leftover = restOfEmptySection(head, bytes, regionEnd);
+        layout.leftover = nextText(bytes, slEndOfEmptyHead(section, bytes), regionEnd);
         layout.isClean = layout.leftover == regionEnd && bytes[head.countSpan.begin] != '-';
         return layout;
     }
@@ -90,9 +74,9 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     bool isJoined = false; // A value begins right behind a number.
     for (const SeenValueCL& value : section.values) {
         const bool isBehind = value.begin >= regionEnd;
-        isJoined = !isAbsent(value.fate) && value.begin == before && value.begin > 0
+        isJoined = !value.IsAbsentM() && value.begin == before && value.begin > 0
             && !slIsBlank(bytes[value.begin - 1]);
-        if (isAbsent(value.fate) || isBehind || isJoined) {
+        if (value.IsAbsentM() || isBehind || isJoined) {
             layout.bad = &value;
             layout.runsOver = isBehind || value.fate == Fate::Missing;
             break;

@@ -17,16 +17,14 @@ TrialCL SectionTrialsCL::TryM(SpanCL replaced, const std::string& by)
     if (left_-- <= 0) {
         return trial;
     }
-    const GrammarCL& grammar = allGrammars()[static_cast<std::size_t>(number_)];
-    std::string text = grammar.before;
-    text.append(bytes_.substr(region_.begin, replaced.begin - region_.begin));
+    std::string text(bytes_.substr(region_.begin, replaced.begin - region_.begin));
     text.append(by).append(bytes_.substr(replaced.end, region_.end - replaced.end));
     const auto shared = std::make_shared<const FileTextCL>(text);
     VrIOCL io;
     io.OpenM(shared);
     SeenSectionsCL seen;
     io.SetObserverM(&seen);
-    grammar.read(io);
+    slReadAlone(io, number_);
     trial.section = std::move(seen.AtM(number_));
     trial.section.regionEnd = text.size();
     trial.layout = layoutOf(trial.section, shared->CutM({ 0, text.size() }), number_ != DialogGrammar);

@@ -20,6 +20,15 @@ public:
         SendMessage(WM_NCACTIVATE, static_cast<WPARAM>(ofTheFirst));
     }
 
+    // Frame included; below the file's size: that. False when the controls would not follow.
+    bool SetSizeM(int width, int height)
+    {
+        CRect client;
+        GetClientRect(&client);
+        return ResizeM(client.Width(), client.Height()) == 1
+            && SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
@@ -41,13 +50,19 @@ int shotCommand(const ShotOptionsCL& options)
         return CannotUse;
     }
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name);
+        ShotDialogCL dialog(file.name, options.textLanguage);
+        if (options.scale != 0) {
+            dialog.SetScaleM(options.scale);
+        }
         const bool built = dialog.CreateM() == 1;
         for (const auto& [id, status] : options.statuses) {
             if (built && !dialog.SetStatusM(id, status)) {
                 return complain("control " + std::to_string(id) + " of '" + file.said + "' has no status "
                     + std::to_string(status));
             }
+        }
+        if (built && options.width > 0 && !dialog.SetSizeM(options.width, options.height)) {
+            return complain("the dialog of '" + file.said + "' can't be resized: no control of it is bound");
         }
         if (built) {
             dialog.ShowWindow(SW_SHOW); // The library would take its time, for each picture.

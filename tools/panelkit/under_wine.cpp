@@ -82,8 +82,14 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
     if (std::none_of(options.files.begin(), options.files.end(), isReadable)) {
         return onEachFile(options, [](const OpenedFileCL&) { return 0; });
     }
+    if (options.scale != 0) {
+        words.push_back("--scale=" + std::to_string(options.scale));
+    }
     for (const std::string& file : options.files) {
         words.push_back("--as=" + file);
+    }
+    if (!options.textLanguage.empty()) {
+        words.push_back("--language=" + options.textLanguage);
     }
     words.insert(words.end(), { "--checked", "--" });
     std::transform(options.files.begin(), options.files.end(), std::back_inserter(words), underWine);
@@ -98,6 +104,23 @@ int startOn(std::vector<std::string> words, const ShowOptionsCL& options, Displa
 }
 
 } // namespace
+
+int checkUnderWine(const CheckOptionsCL& options)
+{
+    std::vector<std::string> words { "check", "--language=" + options.textLanguage,
+        "--format=" + options.format,
+        languageOf(options.language) == Language::Chinese ? "--lang=zh" : "--lang=en" };
+    if (options.isStrict) {
+        words.emplace_back("--strict");
+    }
+    for (const std::string& file : options.files) {
+        words.push_back("--as=" + file);
+    }
+    words.emplace_back("--");
+    std::transform(options.files.begin(), options.files.end(), std::back_inserter(words),
+        [](const std::string& file) { return file == "-" ? file : underWine(file); });
+    return start(std::move(words), Display::OurOwn, [] { return 0; });
+}
 
 int inspectCommand(const ShowOptionsCL& options)
 {
@@ -130,6 +153,10 @@ int shotCommand(const ShotOptionsCL& options)
     std::vector<std::string> words { "shot" };
     for (const auto& [id, status] : options.statuses) {
         words.insert(words.end(), { "--status", std::to_string(id), std::to_string(status) });
+    }
+    if (options.width > 0) {
+        words.insert(
+            words.end(), { "--size", std::to_string(options.width), std::to_string(options.height) });
     }
     if (options.showsIds) {
         words.emplace_back("--ids");

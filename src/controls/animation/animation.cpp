@@ -14,6 +14,12 @@ void AnimationCL::DelItemM()
     deleteFramesM();
 }
 
+void AnimationCL::RescaledM(int, int)
+{
+    frames_.RescaleM(PictureScaleM());
+    invalidateM(true);
+}
+
 int AnimationCL::DeleteBmpM(int index)
 {
     frames_.DelItemM(index);

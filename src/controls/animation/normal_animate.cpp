@@ -60,7 +60,7 @@ int DuNormalAnimateCL::AddBmpM(const char* file)
 
 int DuNormalAnimateCL::SetBmpM(int index, const char* file)
 {
-    return file == nullptr || *file == '\0' ? 0 : frames_.SetBitmapM(index, file);
+    return file == nullptr || *file == '\0' ? 0 : frames_.SetBitmapM(index, file, PictureScaleM());
 }
 
 int DuNormalAnimateCL::SetCtrlModeM(int mode)

@@ -17,6 +17,16 @@ int DVrCommonBoxCL::InitCommonCtrlM(DControlCommonCL* control) const
     return 1;
 }
 
+int DVrCommonBoxCL::GiveLengthsM(DControlCommonCL* control) const
+{
+    if (control == nullptr) {
+        return 0;
+    }
+    control->SetPositionM(position_);
+    control->SetSizeM(size_);
+    return 1;
+}
+
 void DVrCommonBoxCL::GetButtonRgnM(DVrRgnCL* region) const
 {
     if (region == nullptr) {

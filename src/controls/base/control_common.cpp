@@ -31,6 +31,7 @@ DControlCommonCL& DControlCommonCL::operator=(const DControlCommonCL& other)
     SetFunctionIDM(other.functionId_);
     showCondition_ = other.showCondition_;
     descript_ = other.descript_;
+    pictureScale_ = other.pictureScale_;
     return *this;
 }
 

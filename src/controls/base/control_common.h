@@ -3,6 +3,7 @@
 #include "containers/int3d_arr.h"
 #include "controls/base/accessors.h"
 #include "controls/base/id_index.h"
+#include "pictures/picture_scale.h"
 #include "toolkit/toolkit.h"
 #include <algorithm>
 
@@ -53,6 +54,13 @@ public:
     // Copies it: 1; 0 for null.
     int GetPosM(int position[2]) const { return slCopyPair(position, position_); }
     int GetSizeM(int size[2]) const { return slCopyPair(size, size_); }
+
+    // The scale of its pictures, which are loaded after that is set (picture_scale.h).
+    void SetPictureScaleM(const PictureScaleCL& scale) { pictureScale_ = scale; }
+    const PictureScaleCL& PictureScaleM() const { return pictureScale_; }
+    // Called by the host once the control has its place at another scale: what its kind has beside that, such
+    // as pictures, follows. from, to: percent.
+    void RescaledM(int /*from*/, int /*to*/) { }
 
     // A text that goes with pointer reports; what is longer than 127 bytes is cut at a character; null is
     // empty.
@@ -134,6 +142,7 @@ private:
     int functionId_ { 0 };
     int showCondition_ { 0 };
     int legalFlag_ { 0 };
+    PictureScaleCL pictureScale_;
     CharArr descript_;
 };
 

@@ -97,9 +97,9 @@ void PictureStaticCL::drawBehindM(CDC* dc, const CRect& part) const
     ::FillRect(dc->m_hDC, &all, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
-int PictureStaticCL::appendPictureM(DVrBitmapArr* pictures, const char* file)
+int PictureStaticCL::appendPictureM(DVrBitmapArr* pictures, const char* file) const
 {
     const int index = pictures->AddItemM(DVrBitmapCL(AliveTag));
     DVrBitmapCL* const picture = pictures->ElementAtPM(index);
-    return picture != nullptr && picture->LoadSafeBitmapM(file) == 1 ? index : -1;
+    return picture != nullptr && picture->LoadScaledM(file, PictureScaleM()) == 1 ? index : -1;
 }

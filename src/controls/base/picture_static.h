@@ -76,9 +76,9 @@ protected:
     void drawBehindM(CDC* dc, const CRect& part) const;
     void invalidateInParentM(); // The window's rectangle in the parent, with erasing.
 
-    // Appends the picture of a file as named. The slot; -1 when it can't be loaded: its slot then holds a
-    // picture that draws nothing, so that later ones keep their places.
-    static int appendPictureM(DVrBitmapArr* pictures, const char* file);
+    // Appends the picture of a file as named, at the control's scale. The slot; -1 when it can't be loaded:
+    // its slot then holds a picture that draws nothing, so that later ones keep their places.
+    int appendPictureM(DVrBitmapArr* pictures, const char* file) const;
 
     // What the keyboard can do with a kind, and how.
     enum Keys : unsigned

@@ -21,7 +21,23 @@ int DVrBmpButtonCL::InitBmpButtonM(DuBmpButtonCL* control) const
         return 0;
     }
     control->SetBtnBmpM(normal_.TextM(), pressed_.TextM(), released_.TextM(), disabled_.TextM());
-    control->GetBtnRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+    giveRegionM(control);
+    return 1;
+}
+
+void DVrBmpButtonCL::giveRegionM(DuBmpButtonCL* control) const
+{
+    control->GetBtnRgnM()->GenerateRgnFromBitmapM(
+        region_.TextM(), HitRegionKey, HitRegionMode, control->PictureScaleM());
+}
+
+int DVrBmpButtonCL::GiveLengthsM(DuBmpButtonCL* control) const
+{
+    if (RecordCL::GiveLengthsM(control) == 0) {
+        return 0;
+    }
+    control->GetBtnRgnM()->DeleteObject();
+    giveRegionM(control);
     return 1;
 }
 
@@ -31,7 +47,7 @@ int DuBmpButtonCL::SetBtnBmpM(
     const char* const files[StatusCount] = { normal, pressed, released, disabled };
     for (int i = 0; i < StatusCount; ++i) {
         if (files[i] != nullptr && *files[i] != '\0') {
-            pictures_[i].LoadBitmapM(files[i]);
+            pictures_[i].LoadScaledM(files[i], PictureScaleM());
         }
     }
     return 1;
@@ -78,6 +94,21 @@ int DuBmpButtonCL::OnCreate(LPCREATESTRUCT create)
         EnableWindow(FALSE);
     }
     return 0;
+}
+
+void DuBmpButtonCL::RescaledM(int, int)
+{
+    for (DVrBitmapCL& picture : pictures_) {
+        picture.RescaleM(PictureScaleM());
+    }
+    if (m_hWnd != nullptr) {
+        clientRgnM(&drawRgn_);
+        clipWindowM(drawRgn_);
+        if (buttonRgn_.GetSafeHandle() == nullptr) {
+            clientRgnM(&buttonRgn_);
+        }
+        invalidateM(true);
+    }
 }
 
 void DuBmpButtonCL::OnPaint()

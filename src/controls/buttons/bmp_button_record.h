@@ -10,9 +10,12 @@ class PANELKIT_API DVrBmpButtonCL : public RecordCL<DVrBmpButtonCL>
 public:
     using RecordCL::RecordCL;
     int InitBmpButtonM(DuBmpButtonCL* control) const;
+    int GiveLengthsM(DuBmpButtonCL* control) const; // The region too.
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
+    void giveRegionM(DuBmpButtonCL* control) const;
+
     CharArr normal_;
     CharArr pressed_;
     CharArr released_;

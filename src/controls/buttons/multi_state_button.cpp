@@ -20,7 +20,8 @@ int DVrMultiStateButtonCL::InitMultiStateButtonM(DuMultiStateButtonCL* control) 
         return 0;
     }
     if (!region_.EmptyM() && std::strcmp(region_.TextM(), "NULL") != 0) {
-        control->GetButtonRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+        control->GetButtonRgnM()->GenerateRgnFromBitmapM(
+            region_.TextM(), HitRegionKey, HitRegionMode, control->PictureScaleM());
     }
     if (statuses_.GetAvailableNumM() > 0) {
         control->SetInitBmpNumM(statuses_.GetAvailableNumM());
@@ -158,6 +159,16 @@ int DuMultiStateButtonCL::InitRgnM()
         clipWindowM(drawRgn_);
     }
     return 1;
+}
+
+void DuMultiStateButtonCL::RescaledM(int, int)
+{
+    pictures_.RescaleM(PictureScaleM());
+    if (m_hWnd != nullptr) {
+        drawRgn_.DeleteObject();
+        InitRgnM();
+        invalidateM(true);
+    }
 }
 
 int DuMultiStateButtonCL::OnCreate(LPCREATESTRUCT create)

@@ -55,6 +55,12 @@ int DuNewRotateBtnCL::InitialM(const int steps[2], int index, const VrStringArr&
     return 1;
 }
 
+void DuNewRotateBtnCL::RescaledM(int, int)
+{
+    pictures_.RescaleM(PictureScaleM());
+    invalidateM(true);
+}
+
 bool DuNewRotateBtnCL::moveM(int by)
 {
     const int count = pictures_.GetBoundM();

@@ -28,6 +28,7 @@ public:
     void SetTouchWinClickAsMouseKeyM(int multiplier) { multiplier_ = multiplier; }
     // The repetition while a button is held: to be called from a timer of the application.
     void OnTimerM();
+    void RescaledM(int from, int to);
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

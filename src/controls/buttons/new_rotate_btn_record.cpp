@@ -18,23 +18,6 @@ int magnitude(int value)
     return value == INT_MIN ? INT_MAX : std::abs(value);
 }
 
-// One entry of the section of pictures.
-struct PictureEntryCL
-{
-    int number { 0 }; // Of no use.
-    int button { 0 };
-    int slot { 0 };
-    CharArr picture;
-
-    void EachFieldM(FieldVisitorCL& visitor)
-    {
-        visitor.IntM("number", number);
-        visitor.IndexM("button", button);
-        visitor.IndexM("slot", slot);
-        visitor.NameM("picture", picture, NullWord::Kept);
-    }
-};
-
 std::string picturePath(const char* folder, const char* name)
 {
     char extension[PathSize];
@@ -46,6 +29,14 @@ std::string picturePath(const char* folder, const char* name)
 }
 
 } // namespace
+
+void SlotPictureCL::EachFieldM(FieldVisitorCL& visitor)
+{
+    visitor.IntM("number", number);
+    visitor.IndexM("button", button);
+    visitor.IndexM("slot", slot);
+    visitor.NameM("picture", picture, NullWord::Kept);
+}
 
 void DVrNewRotateBtnCL::EachFieldM(FieldVisitorCL& visitor, int withShowCondition, int withDescription)
 {
@@ -159,7 +150,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     int lines = 0;
     section.InputCountM(&count);
     section.InputCommentsM(&lines);
-    PictureEntryCL entry;
+    SlotPictureCL entry;
     FieldCounterCL values;
     entry.EachFieldM(values);
     section.SetCountM(count, values.ValuesM());
@@ -171,7 +162,7 @@ int DVrNewRotateBtnArr::readPicturesM(VrIOCL* io)
     io->GetFilePathM(folder);
     std::size_t slots = 0;
     for (int i = 0; i < count; ++i) {
-        entry = PictureEntryCL();
+        entry = SlotPictureCL();
         entry.EachFieldM(section.RecordM(i));
         if (CheckAvailableM(entry.button) == 0) {
             section.DropM(EntryFault::UnknownId);

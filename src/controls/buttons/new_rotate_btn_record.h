@@ -43,6 +43,18 @@ private:
 
 extern template class PANELKIT_API Arr<DVrNewRotateBtnCL>;
 
+// One entry of the section of pictures.
+struct SlotPictureCL
+{
+    int number { 0 }; // Of no use.
+    int button { 0 }; // The place of its button among the records, from 0.
+    int slot { 0 };   // Which of the button's pictures, from 0.
+    CharArr picture;  // A .bmp file.
+
+    // Shows the visitor those values.
+    PANELKIT_API void EachFieldM(FieldVisitorCL& visitor);
+};
+
 class PANELKIT_API DVrNewRotateBtnArr : public RecordArr<DVrNewRotateBtnCL>
 {
 public:

@@ -28,7 +28,24 @@ int DVrRotateBtnCL::InitRotateBtnM(DuRotateBtnCL* control) const
     control->SetCounterM(initialCounter_);
     control->SetBmpM(background_.TextM(), rotating_.TextM());
     control->SetRotPosM(picturePosition_, centre_);
-    control->GetButtonRgnM()->GenerateRgnFromBitmapM(region_.TextM(), HitRegionKey, HitRegionMode);
+    giveRegionM(control);
+    return 1;
+}
+
+void DVrRotateBtnCL::giveRegionM(DuRotateBtnCL* control) const
+{
+    control->GetButtonRgnM()->GenerateRgnFromBitmapM(
+        region_.TextM(), HitRegionKey, HitRegionMode, control->PictureScaleM());
+}
+
+int DVrRotateBtnCL::GiveLengthsM(DuRotateBtnCL* control) const
+{
+    if (RecordCL::GiveLengthsM(control) == 0) {
+        return 0;
+    }
+    control->SetRotPosM(picturePosition_, centre_);
+    control->GetButtonRgnM()->DeleteObject();
+    giveRegionM(control);
     return 1;
 }
 
@@ -69,8 +86,9 @@ int DuRotateBtnCL::SetBmpM(const char* background, const char* rotating)
     if (background == nullptr || rotating == nullptr) {
         return 0;
     }
-    background_.LoadBitmapM(background);
-    rotating_.LoadBitmapM(rotating);
+    constexpr std::int64_t White = 0xFFFFFF; // Lets the background through.
+    background_.LoadScaledM(background, PictureScaleM());
+    rotating_.LoadScaledM(rotating, PictureScaleM().AnywhereM(), White); // Square pictures stay so.
     forgetPixelsM();
     return 1;
 }
@@ -103,17 +121,34 @@ int DuRotateBtnCL::OnCreate(LPCREATESTRUCT create)
     if (windowRgn_.GetSafeHandle() == nullptr) {
         clientRgnM(&windowRgn_);
     }
+    shapeM();
+    EnableWindow(enabled_ == 1);
+    return 0;
+}
+
+// The window's shape, where clicks count, and how large the picture is that turns.
+void DuRotateBtnCL::shapeM()
+{
     if (hitRgn_.GetSafeHandle() == nullptr) {
         CRect client;
         GetClientRect(&client);
         hitRgn_.CreateEllipticRgnIndirect(&client);
     }
     clipWindowM(windowRgn_);
-    EnableWindow(enabled_ == 1);
     width_ = rotating_.GetWidthM();
     height_ = rotating_.GetHeightM();
     forgetPixelsM();
-    return 0;
+}
+
+void DuRotateBtnCL::RescaledM(int, int)
+{
+    background_.RescaleM(PictureScaleM());
+    rotating_.RescaleM(PictureScaleM().AnywhereM());
+    if (m_hWnd != nullptr) {
+        clientRgnM(&windowRgn_);
+        shapeM();
+        showAngleM();
+    }
 }
 
 BOOL DuRotateBtnCL::OnEraseBkgnd(CDC* dc)

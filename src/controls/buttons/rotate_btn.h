@@ -40,6 +40,7 @@ public:
     bool WriteValueM(const ControlValueCL& value);
 
     void DelItemM();
+    void RescaledM(int from, int to);
 
     void drawBkM(CDC* dc);               // The background from its corner over the client rectangle.
     void drawRotM(CDC* dc, float angle); // The turned picture; composed anew only after a change.
@@ -74,6 +75,7 @@ private:
     bool isInRangeM(float angle) const { return lower_ <= angle && angle <= upper_; }
     bool stepM(Side side);
     void showAngleM();
+    void shapeM();
     CRect neededPartM(CDC* dc) const;
     void composeM(CDC* dc);
     bool prepareM(CDC* dc);

@@ -10,9 +10,13 @@ class PANELKIT_API DVrRotateBtnCL : public RecordCL<DVrRotateBtnCL>
 public:
     using RecordCL::RecordCL;
     int InitRotateBtnM(DuRotateBtnCL* control) const;
+    int GiveLengthsM(
+        DuRotateBtnCL* control) const; // The place and centre of its picture, and the region too.
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
+    void giveRegionM(DuRotateBtnCL* control) const;
+
     int picturePosition_[2] {};
     int centre_[2] {};
     int stepSigns_[2] {};

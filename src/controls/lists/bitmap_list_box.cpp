@@ -101,15 +101,29 @@ int DuBmpListBoxCL::columnWidthM() const
     return std::max(1, client.Width() / std::max(1, columns_));
 }
 
+int DuBmpListBoxCL::lineHeightM() const
+{
+    CRect client;
+    GetClientRect(&client);
+    return std::max(1, client.Height() / std::max(1, rows_));
+}
+
 void DuBmpListBoxCL::MeasureItem(LPMEASUREITEMSTRUCT measure)
 {
     if (measure == nullptr) {
         return;
     }
-    CRect client;
-    GetClientRect(&client);
     measure->itemWidth = static_cast<UINT>(columnWidthM());
-    measure->itemHeight = static_cast<UINT>(std::max(1, client.Height() / std::max(1, rows_)));
+    measure->itemHeight = static_cast<UINT>(lineHeightM());
+}
+
+void DuBmpListBoxCL::RescaledM(int, int)
+{
+    pictures_.RescaleM(PictureScaleM().AnywhereM());
+    if (m_hWnd != nullptr) {
+        SetColumnWidth(columnWidthM());
+        SetItemHeight(0, static_cast<UINT>(lineHeightM()));
+    }
 }
 
 void DuBmpListBoxCL::DrawItem(LPDRAWITEMSTRUCT draw)
@@ -177,7 +191,7 @@ int DuBmpListBoxCL::AddItemM(int data, const char* file)
         return 0;
     }
     SetItemData(line, static_cast<DWORD_PTR>(data));
-    const int slot = pictures_.AddBitmapM(file);
+    const int slot = pictures_.AddBitmapM(file, PictureScaleM().AnywhereM());
     if (slot == -1) {
         DeleteString(static_cast<UINT>(line));
     }
@@ -196,7 +210,7 @@ int DuBmpListBoxCL::InsertItemM(int index, int data, const char* file)
     SetItemData(line, static_cast<DWORD_PTR>(data));
     // Deleted lines have left gaps among the slots.
     const int slot = pictures_.SlotOfLineM(line);
-    pictures_.InsertBitmapM(slot >= 0 ? slot : pictures_.GetBoundM(), file);
+    pictures_.InsertBitmapM(slot >= 0 ? slot : pictures_.GetBoundM(), file, PictureScaleM().AnywhereM());
     return 1;
 }
 

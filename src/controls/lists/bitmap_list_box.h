@@ -42,6 +42,7 @@ public:
     // picture that can't be loaded leaves the line. index -1: at the end.
     int InsertItemM(int index, int data, const char* file);
     void DelItemM();
+    void RescaledM(int from, int to);
     // Deletes a line and its picture; 0 when there is none.
     int DelItemM(int index);
     // Deletes line 0, 1, 2, ... in turn: as later lines move up, every second one stays.
@@ -71,6 +72,7 @@ protected:
 private:
     static void drawFrameM(CDC* dc, const RECT& item, COLORREF colour);
     int columnWidthM() const;
+    int lineHeightM() const;
 
     int rows_ { 0 };
     int columns_ { 0 };

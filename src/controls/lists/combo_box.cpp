@@ -111,7 +111,8 @@ int DuComboBoxCL::GetCurItemM(int* index, int* data, char* text)
     }
     *index = selected;
     *data = itemData;
-    slCopyText(text, TextSize, itemText);
+    const ValueTextCL* const original = originals_.AtM(selected);
+    slCopyText(text, TextSize, original != nullptr ? original->GbkM().c_str() : itemText.GetString());
     return 1;
 }
 
@@ -179,18 +180,24 @@ void DuComboBoxCL::followSelectionM(UINT message, int index, int result)
         break;
     case CB_ADDSTRING:
     case CB_INSERTSTRING:
-        if (result >= 0 && result <= currentSel_) {
-            ++currentSel_;
+        if (result >= 0) {
+            currentSel_ += result <= currentSel_ ? 1 : 0;
+            originals_.InsertedM(result);
         }
         break;
     case CB_DELETESTRING:
-        if (result >= 0 && index <= currentSel_) {
-            currentSel_ = index < currentSel_ ? currentSel_ - 1 : -1;
+        if (result >= 0) {
+            currentSel_ = index > currentSel_ ? currentSel_ : index < currentSel_ ? currentSel_ - 1 : -1;
+            originals_.DeletedM(index);
         }
         break;
     case CB_RESETCONTENT:
     case WM_CREATE:
         currentSel_ = -1;
+        originals_.ClearM();
+        break;
+    case WM_DESTROY:
+        originals_.ClearM();
         break;
     default:
         break;
@@ -222,6 +229,12 @@ void DuComboBoxCL::takeTypedTextM()
     char typed[TextSize];
     GetWindowText(typed, TextSize);
     const int item = currentSel_;
+    if (showsTranslationM(item)) {
+        if (GetCurSel() != item) {
+            SetCurSel(item); // Typing makes the list forget it.
+        }
+        return;
+    }
     if (item >= 0 && item < GetCount()) {
         CString kept;
         GetLBText(item, kept);

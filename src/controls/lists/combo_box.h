@@ -2,6 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
+#include "controls/lists/translated_lines.h"
 #include "records/fields.h"
 
 // A drop-down list, with or without an edit field. Indexes count from 0; texts are GBK.
@@ -39,7 +40,9 @@ public:
 
     // Its lines by id.
     int LineCountM() const { return GetCount(); }
-    std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    // What the line says in the file, also while it shows a translation; none for a line that doesn't exist.
+    std::optional<ValueTextCL> LineTextM(int line) const;
+    void TranslateM(const TranslatorTP& translate); // Has each line show its translation.
     // Change its lines by id; false when the platform refuses.
     bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
     bool DeleteLineM(int line) { return DelItemM(line) == 1; }
@@ -59,6 +62,7 @@ private:
     void followSelectionM(UINT message, int index, int result);
     void takeTypedTextM();
     bool typeM(const ValueTextCL& text);
+    bool showsTranslationM(int line) const;
     int lineWithM(const ValueTextCL& text) const;
     void replaceItemM(int item, const char* text);
 
@@ -66,6 +70,7 @@ private:
     // The item last selected by anybody: the list itself forgets it when something is typed. It goes along
     // when lines before it come and go; -1 once it is cleared or gone.
     int currentSel_ { -1 };
+    LineOriginalsCL originals_;
 };
 
 extern template class PANELKIT_API Arr<DuComboBoxCL>;

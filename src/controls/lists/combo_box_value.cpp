@@ -7,9 +7,32 @@ std::optional<ValueTextCL> DuComboBoxCL::LineTextM(int line) const
     if (line < 0 || line >= GetCount()) {
         return std::nullopt;
     }
+    if (const ValueTextCL* const original = originals_.AtM(line)) {
+        return *original;
+    }
     CString text;
     GetLBText(line, text);
     return ValueTextCL(text.GetString());
+}
+
+void DuComboBoxCL::TranslateM(const TranslatorTP& translate)
+{
+    if (m_hWnd != nullptr) {
+        slTranslateLines(*this, CB_INSERTSTRING, originals_, translate);
+    }
+}
+
+// Whether the field says what the line shows, and that is a translation.
+bool DuComboBoxCL::showsTranslationM(int line) const
+{
+    if (originals_.AtM(line) == nullptr) {
+        return false;
+    }
+    const auto at = static_cast<WPARAM>(line);
+    std::wstring text(static_cast<std::size_t>(::SendMessageW(m_hWnd, CB_GETLBTEXTLEN, at, 0)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        ::SendMessageW(m_hWnd, CB_GETLBTEXT, at, reinterpret_cast<LPARAM>(text.data()))));
+    return slTextOfWindow(m_hWnd) == ValueTextCL(text);
 }
 
 ControlValueCL DuComboBoxCL::ReadValueM() const
@@ -23,7 +46,7 @@ ControlValueCL DuComboBoxCL::ReadValueM() const
     if (selected != CB_ERR) {
         value.lines->push_back(selected);
     }
-    if (editAvailable_ == 1) {
+    if (editAvailable_ == 1 && !showsTranslationM(selected)) {
         value.text = slTextOfWindow(m_hWnd);
     } else {
         value.text = LineTextM(selected);

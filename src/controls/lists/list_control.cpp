@@ -47,6 +47,19 @@ int DVrListCtrlCL::InitListCtrlStrM(DuListCtrlCL* control) const
     return 1;
 }
 
+void DuListCtrlCL::RescaledM(int from, int to)
+{
+    const HWND header = GetHeaderCtrl()->GetSafeHwnd();
+    const int count
+        = header != nullptr ? static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
+    int end = 0; // One column behind the other: edges are rounded, not widths.
+    for (int i = 0; i < count; ++i) {
+        const int begin = end;
+        end += GetColumnWidth(i);
+        SetColumnWidth(i, ::MulDiv(end, to, from) - ::MulDiv(begin, to, from));
+    }
+}
+
 BOOL DuListCtrlCL::PreCreateWindow(CREATESTRUCT& create)
 {
     create.style |= WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS;
@@ -95,6 +108,31 @@ int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
     heading.pszText = const_cast<char*>(text);
     heading.iSubItem = column;
     return CListCtrl::InsertColumn(column, &heading) != -1 ? 1 : 0;
+}
+
+void DuListCtrlCL::TranslateM(const TranslatorTP& translate)
+{
+    if (m_hWnd == nullptr) {
+        return;
+    }
+    char text[TextSize];
+    for (int column = 0;; ++column) {
+        LVCOLUMNA heading {};
+        heading.mask = LVCF_TEXT;
+        heading.pszText = text;
+        heading.cchTextMax = TextSize;
+        if (!GetColumn(column, &heading)) {
+            return;
+        }
+        const ValueTextCL shown = translate(ValueTextCL(text));
+        if (!shown.IsNoneM()) {
+            std::wstring title = shown.WideM();
+            LVCOLUMNW wide {};
+            wide.mask = LVCF_TEXT;
+            wide.pszText = title.data();
+            SetColumn(column, &wide);
+        }
+    }
 }
 
 int DuListCtrlCL::InsertItemM(int row, int data, const char* text)

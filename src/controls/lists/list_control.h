@@ -2,6 +2,7 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
+#include "controls/base/translator.h"
 
 // A table with headings. Rows and columns count from 0; texts are GBK.
 class PANELKIT_API DuListCtrlCL : public ControlCL<CListCtrl>
@@ -18,6 +19,8 @@ public:
     int InsertColumnM(int column, int width, const char* text); // A heading; width in pixels.
     int InsertItemM(int row, int data, const char* text);       // A new row with its column-0 text.
     int SetItemTextM(int row, int column, const char* text);    // 0 for a row that doesn't exist.
+    // Has each heading show its translation. Cells are what the application reads and writes: they stay.
+    void TranslateM(const TranslatorTP& translate);
     // Deletes a row, or all. 0 for a row that doesn't exist.
     int DeleteItemM(int row) { return row >= 0 && DeleteItem(row) ? 1 : 0; }
     int DelAllM() { return DeleteAllItems() ? 1 : 0; }
@@ -47,6 +50,8 @@ public:
     bool InsertLineM(int row, int data, const char* text) { return InsertItemM(row, data, text) == 1; }
     bool DeleteLineM(int row) { return DeleteItemM(row) == 1; }
     void ClearLinesM() { DelAllM(); }
+
+    void RescaledM(int from, int to); // The columns follow as the user has made them.
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;

@@ -23,6 +23,11 @@ int DVrTextListBoxCL::InitTextListBoxM(DuTextListBoxCL* control) const
     return 1;
 }
 
+int DVrTextListBoxCL::GiveLengthsM(DuTextListBoxCL* control) const
+{
+    return RecordCL::GiveLengthsM(control) == 1 ? control->SetItemInitHeightM(itemHeight_) : 0;
+}
+
 int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
 {
     if (control == nullptr) {
@@ -110,9 +115,42 @@ std::optional<ValueTextCL> DuTextListBoxCL::LineTextM(int line) const
     if (line < 0 || line >= GetCount()) {
         return std::nullopt;
     }
+    if (const ValueTextCL* const original = originals_.AtM(line)) {
+        return *original;
+    }
     CString text;
     GetText(line, text);
     return ValueTextCL(text.GetString());
+}
+
+void DuTextListBoxCL::TranslateM(const TranslatorTP& translate)
+{
+    if (m_hWnd != nullptr) {
+        slTranslateLines(*this, LB_INSERTSTRING, originals_, translate);
+    }
+}
+
+LRESULT DuTextListBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    const bool follows = !originals_.EmptyM();
+    const LRESULT result = ListBoxCL::WindowProc(message, wParam, lParam);
+    // The parent may have destroyed this object.
+    if (follows && CWnd::FromHandlePermanent(window) == this) {
+        followLinesM(message, static_cast<int>(wParam), static_cast<int>(result));
+    }
+    return result;
+}
+
+void DuTextListBoxCL::followLinesM(UINT message, int index, int result)
+{
+    if ((message == LB_ADDSTRING || message == LB_INSERTSTRING) && result >= 0) {
+        originals_.InsertedM(result);
+    } else if (message == LB_DELETESTRING && result != LB_ERR) {
+        originals_.DeletedM(index);
+    } else if (message == LB_RESETCONTENT || message == WM_DESTROY) {
+        originals_.ClearM();
+    }
 }
 
 int DuTextListBoxCL::GetItemM(int* index, int* data)

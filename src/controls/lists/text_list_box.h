@@ -1,6 +1,7 @@
 #pragma once
 #include "controls/base/background.h"
 #include "controls/base/control_arr.h"
+#include "controls/lists/translated_lines.h"
 #include "controls/lists/list_box.h"
 
 // A list box of text lines, each with a number of the application. Texts are GBK, heights pixels; lines count
@@ -25,7 +26,9 @@ public:
     int GetItemM(int* index, int* data); // The line selected; 0 without one, nothing is written then.
     // Of a multiple selection: always 0 in single selection mode.
     int SetSelM(int index) { return selectM(index, TRUE); }
-    std::optional<ValueTextCL> LineTextM(int line) const; // None for a line that doesn't exist.
+    // What the line says in the file, also while it shows a translation; none for a line that doesn't exist.
+    std::optional<ValueTextCL> LineTextM(int line) const;
+    void TranslateM(const TranslatorTP& translate); // Has each line show its translation.
     // Inserts a line by id; false when the platform refuses.
     bool InsertLineM(int line, int data, const char* text) { return InsertItemM(line, data, text) == 1; }
     int SetItemHeightM(int height);                 // Of all lines; 0, and no change, below 1.
@@ -36,15 +39,19 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     bool hearsCreationM() const override { return !slIsJust(*this); }
     void catchUpM() override { SetItemHeightM(); }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg HBRUSH CtlColor(CDC* dc, UINT) { return background_.AnswerM(dc); }
     DECLARE_MESSAGE_MAP()
 
 private:
+    void followLinesM(UINT message, int index, int result);
+
     int scroll_ { 0 };
     int edge_ { 1 };
     int itemHeight_ { 12 };
     BackgroundCL background_ { 0xFFFFFF };
+    LineOriginalsCL originals_;
 };
 
 extern template class PANELKIT_API Arr<DuTextListBoxCL>;

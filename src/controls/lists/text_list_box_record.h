@@ -13,6 +13,7 @@ public:
     int AddStringM(const char* text); // Adds a line; 1. 0 for null.
     void destroyM();                  // Drops the lines.
     int InitTextListBoxM(DuTextListBoxCL* control) const;
+    int GiveLengthsM(DuTextListBoxCL* control) const; // The height of the lines too.
     // Adds the lines, numbered from 0, to a control with its window.
     int InitTextListBoxStrM(DuTextListBoxCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);

@@ -27,7 +27,7 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
         return 0;
     }
     const FillingCL filling(tree);
-    TreePicturesCL pictures(tree->ImagesM());
+    TreePicturesCL pictures(tree->ImagesM(), tree->PictureScaleM().AnywhereM(), tree->ImageFilesM());
     lines_.GenerateM(
         parentKey, parentItem, [tree, &pictures](void* parent, const TreeLinesCL::LineCL& line) -> void* {
             return tree->InsertItemM(static_cast<HTREEITEM>(parent), line.data, line.text,
@@ -49,8 +49,10 @@ int DuTreeCL::OnCreate(LPCREATESTRUCT create)
     if (CTreeCtrl::OnCreate(create) == -1) {
         return -1;
     }
+    originals_.ClearM();
     images_.DeleteImageList();
-    TreePicturesCL::CreateListM(images_);
+    images_.files.clear();
+    TreePicturesCL::CreateListM(images_, PictureScaleM().AnywhereM());
     SetImageList(&images_, TVSIL_NORMAL);
     if (looks_.TextColourM()) {
         showTextColourM();
@@ -72,14 +74,50 @@ void DuTreeCL::showTextColourM()
     SetTextColor(looks_.TextColourM().value_or(Platform));
 }
 
+// Items know their images by number: where a file is gone the list stays.
+void DuTreeCL::RescaledM(int, int)
+{
+    const PictureScaleCL scale = PictureScaleM().AnywhereM();
+    CImageList again;
+    if (m_hWnd == nullptr || images_.GetSafeHandle() == nullptr
+        || !TreePicturesCL::CreateListM(again, scale)) {
+        return;
+    }
+    {
+        ImageFilesTP files; // The same again.
+        TreePicturesCL pictures(again, scale, files);
+        for (const auto& file : images_.files) {
+            if (file != nullptr) {
+                pictures.AddM(file->c_str());
+            }
+        }
+    }
+    if (again.GetImageCount() == images_.GetImageCount()) {
+        SetImageList(&again, TVSIL_NORMAL);
+        images_.DeleteImageList();
+        images_.Attach(again.Detach());
+    }
+}
+
+int DuTreeCL::addImagesM(const char* file)
+{
+    const int before = images_.GetImageCount();
+    const int first = TreePicturesCL::AddFileM(images_, file, PictureScaleM().AnywhereM());
+    if (first != -1) {
+        TreePicturesCL::NoteM(
+            images_.files, std::make_shared<const std::string>(file), images_.GetImageCount() - before);
+    }
+    return first;
+}
+
 HTREEITEM DuTreeCL::InsertItemM(
     HTREEITEM parent, int data, const char* text, const char* selectedPicture, const char* normalPicture)
 {
     if (text == nullptr || selectedPicture == nullptr || normalPicture == nullptr) {
         return nullptr;
     }
-    const int selected = TreePicturesCL::AddFileM(images_, selectedPicture);
-    const int normal = selected != -1 ? TreePicturesCL::AddFileM(images_, normalPicture) : -1;
+    const int selected = addImagesM(selectedPicture);
+    const int normal = selected != -1 ? addImagesM(normalPicture) : -1;
     return insertM(parent, data, text, selected, normal);
 }
 

@@ -17,27 +17,22 @@ std::string pathStep(const std::string& text, int ordinal)
     return ordinal > 1 || text.empty() ? step + "\\#" + std::to_string(ordinal) : step;
 }
 
-std::string textOfItem(const CTreeCtrl& tree, HTREEITEM item)
+std::string stepOfItem(const DuTreeCL& tree, HTREEITEM item)
 {
-    return ValueTextCL(tree.GetItemText(item).GetString()).Utf8M();
-}
-
-std::string stepOfItem(const CTreeCtrl& tree, HTREEITEM item)
-{
-    const std::string text = textOfItem(tree, item);
+    const std::string text = tree.ItemTextM(item).Utf8M();
     int ordinal = 1;
     for (HTREEITEM at = tree.GetPrevSiblingItem(item); at != nullptr; at = tree.GetPrevSiblingItem(at)) {
-        ordinal += textOfItem(tree, at) == text ? 1 : 0;
+        ordinal += tree.ItemTextM(at).Utf8M() == text ? 1 : 0;
     }
     return pathStep(text, ordinal);
 }
 
 // The item with that path, null when there is none.
-HTREEITEM itemAt(const CTreeCtrl& tree, std::string_view path)
+HTREEITEM itemAt(const DuTreeCL& tree, std::string_view path)
 {
     std::unordered_map<std::string, int> ordinals;
     for (HTREEITEM item = tree.GetRootItem(); item != nullptr;) {
-        const std::string text = textOfItem(tree, item);
+        const std::string text = tree.ItemTextM(item).Utf8M();
         const std::string step = pathStep(text, ++ordinals[text]);
         if (path == step) {
             return item;

@@ -80,7 +80,9 @@ int DuMultiEditCL::SetTextM(const char* text)
 ControlValueCL DuMultiEditCL::ReadValueM() const
 {
     ControlValueCL value;
-    if (m_hWnd != nullptr) {
+    if (m_hWnd != nullptr && !originals_.EmptyM()) {
+        value.text = *originals_.AtM(0);
+    } else if (m_hWnd != nullptr) {
         value.text = slTextOfWindow(m_hWnd);
     }
     return value;
@@ -116,8 +118,20 @@ LRESULT DuMultiEditCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+void DuMultiEditCL::TranslateM(const TranslatorTP& translate)
+{
+    const ValueTextCL original = text_.TextM();
+    const ValueTextCL shown = m_hWnd != nullptr && readOnly_ == 1 ? translate(original) : nullptr;
+    if (!shown.IsNoneM()) {
+        ::SetWindowTextW(m_hWnd, shown.WideM().c_str());
+        text_.SetM(original.GbkM().c_str());
+        originals_.PutM(0, original);
+    }
+}
+
 void DuMultiEditCL::OnChange()
 {
+    originals_.ClearM();
     CString text;
     GetWindowText(text);
     text_.SetM(text);

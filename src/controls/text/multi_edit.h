@@ -4,6 +4,8 @@
 #include "controls/base/control.h"
 #include "controls/base/control_arr.h"
 #include "controls/base/control_value.h"
+#include "controls/base/line_originals.h"
+#include "controls/base/translator.h"
 
 // A text of many lines, with a copy that follows every change on the screen, whoever makes it. Texts are GBK,
 // lengths count bytes. The limit holds for texts that the program sets, not for typing. Setters without a
@@ -32,6 +34,8 @@ public:
     ControlValueCL ReadValueM() const;
     bool WriteValueM(const ControlValueCL& value);
     int GetTextM(char* text) const; // Copies what is on the screen; the buffer must hold it.
+    // Has a text that can't be edited show its translation. Until it changes it is still read as in the file.
+    void TranslateM(const TranslatorTP& translate);
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -51,6 +55,7 @@ private:
     int edge_ { 1 };
     BackgroundCL background_ { 0xFFFFFF };
     CharArr text_;
+    LineOriginalsCL originals_; // Of the text, as line 0.
 };
 
 extern template class PANELKIT_API Arr<DuMultiEditCL>;

@@ -13,6 +13,18 @@ ON_MESSAGE(SpinClickMsg, &DuSpinEditCL::onSpinClickM)
 ON_MESSAGE(CheckValueMsg, &DuSpinEditCL::onCheckValM)
 END_MESSAGE_MAP()
 
+namespace {
+
+CRect rectInParent(HWND window)
+{
+    CRect rect;
+    ::GetWindowRect(window, &rect);
+    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+} // namespace
+
 int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
 {
     if (InitCommonCtrlM(control) == 0) {
@@ -27,6 +39,11 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
     control->SetWinIdxM(editWindowIndex_);
     control->SpinButtonM().SetFunctionIDM(spinFunctionId_);
     return 1;
+}
+
+int DVrSpinEditCL::GiveLengthsM(DuSpinEditCL* control) const
+{
+    return RecordCL::GiveLengthsM(control) == 1 ? control->SetSpinLenM(spinWidth_) : 0;
 }
 
 int DuSpinEditArr::Create(CWnd* parent)
@@ -52,8 +69,35 @@ int DuSpinEditCL::Create(CWnd* parent)
     const int result = spinButton_.Create(rect, parent);
     if (result == 1) {
         spinButton_.SetBuddy(this);
+        noteJointM(describedRectM());
     }
     return result;
+}
+
+// How the arrows stand at the field, as the platform has joined them; place: what both have together.
+void DuSpinEditCL::noteJointM(const CRect& place)
+{
+    const CRect field = rectInParent(m_hWnd);
+    const CRect arrows = rectInParent(spinButton_.m_hWnd);
+    joint_ = { arrows.left - field.right, arrows.top - field.top, arrows.right - place.right,
+        arrows.bottom - field.bottom };
+    moreWidth_ = arrows.Width() - slWindowLength(spinWidth_);
+}
+
+void DuSpinEditCL::RescaledM(int, int)
+{
+    if (m_hWnd == nullptr || spinButton_.GetSafeHwnd() == nullptr) {
+        return;
+    }
+    CRect field = rectInParent(m_hWnd); // All of the place.
+    const int right = field.right + joint_.right;
+    const CRect arrows(right - slWindowLength(spinWidth_) - moreWidth_, field.top + joint_.top, right,
+        field.bottom + joint_.bottom);
+    field.right = arrows.left - joint_.left;
+    constexpr UINT Flags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW;
+    ::SetWindowPos(m_hWnd, nullptr, field.left, field.top, field.Width(), field.Height(), Flags);
+    ::SetWindowPos(
+        spinButton_.m_hWnd, nullptr, arrows.left, arrows.top, arrows.Width(), arrows.Height(), Flags);
 }
 
 BOOL DuSpinEditCL::PreCreateWindow(CREATESTRUCT& create)

@@ -19,6 +19,7 @@ public:
     // Creates the edit at the described place and the arrows at its right edge; the result for the arrows.
     int Create(CWnd* parent);
     void DelItemM();
+    void RescaledM(int from, int to);
     int SetItemCmdM(int command); // As with every control; the arrows follow.
 
     int SetDataTypeM(int type, int decimals); // IntegerType or RealType; others are inert.
@@ -60,6 +61,7 @@ protected:
 private:
     CheckCode steppedM(int delta, simpleValD* value) const;
     MessageTextId stepMessageM(CheckCode code) const;
+    void noteJointM(const CRect& place);
     bool tellM(MessageTextId message);
     bool tellCheckedM();
 
@@ -68,6 +70,9 @@ private:
     RefusalCL refusal_;
     int alignMode_ { 2 };
     int spinWidth_ { 0 };
+    CRect
+        joint_; // How far the edges of the arrows are from those of the field, the right one from the place.
+    int moreWidth_ { 0 }; // What the arrows have more than the width they were given.
     simpleValD step_;
 };
 

@@ -11,6 +11,7 @@ class PANELKIT_API DVrSpinEditCL : public RecordCL<DVrSpinEditCL>
 public:
     using RecordCL::RecordCL;
     int InitSpinEditM(DuSpinEditCL* control) const;
+    int GiveLengthsM(DuSpinEditCL* control) const; // The width of the arrows too.
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:

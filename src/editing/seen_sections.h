@@ -1,0 +1,100 @@
+#pragma once
+#include "editing/grammars.h"
+#include "records/read_observer.h"
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+// One value as the library's reader met it; see ValueSeenCL.
+struct SeenValueCL
+{
+    const char* field;   // The name of its field.
+    std::uint32_t begin; // Where it stands in the file: the offset of its first byte,
+    std::uint32_t end;   // and the offset behind its last one.
+    std::uint8_t part;   // Its number among the values of a field with several.
+    Fate fate;           // What became of it.
+
+    // Those bytes.
+    SpanCL SpanM() const { return { begin, end }; }
+    // Whether nothing was read: no number stands there, or the file or the record ends before it.
+    bool IsAbsentM() const
+    {
+        return fate == Fate::NotANumber || fate == Fate::Missing || fate == Fate::NotLookedAt;
+    }
+};
+
+// One section of the file: its head, and the values of its records.
+struct SeenSectionCL
+{
+    SectionSeenCL head {};               // All zero while the section isn't there.
+    std::vector<SeenValueCL> values;     // Of all records, in the order of the file.
+    std::vector<std::uint32_t> starts;   // Where each record's values begin in `values`.
+    std::vector<EntryDroppedCL> dropped; // Its entries that belong to no record.
+    std::size_t regionEnd { 0 };         // Where the next header stands, or the file ends.
+    bool isFaulty { false };             // Its layout is: what it lost can't be missed elsewhere.
+    int soundRecords { 0 };              // Records before the first fault of its layout.
+    bool keepsLast { false };            // Only the values of its last record are kept.
+    bool isRegular { true };        // While keepsLast: all values were there, with something between them,
+    std::uint32_t firstBegin { 0 }; // where the first one began,
+    std::uint32_t lastEnd { 0 };    // and where the last one ended.
+
+    // Whether the file has its header, and whether records were read.
+    bool IsThereM() const { return head.headerSpan.end > 0; }
+    bool IsReadM() const
+    {
+        return head.status == SectionStatus::Read || head.status == SectionStatus::Incomplete;
+    }
+    // How many records there are, and the values of one: record counts from 0 and must be below that.
+    int RecordsM() const { return static_cast<int>(starts.size()); }
+    const SeenValueCL* FirstM(int record) const
+    {
+        return values.data() + starts[static_cast<std::size_t>(record)];
+    }
+    const SeenValueCL* EndM(int record) const
+    {
+        return record + 1 < RecordsM() ? FirstM(record + 1) : values.data() + values.size();
+    }
+    // A record's value by the name of its field; null when there is none.
+    PANELKIT_API const SeenValueCL* FindM(int record, const char* field, int part = 0) const;
+    // Whether values that were dropped are not missed: all lie in the section's region as they should.
+    bool IsPlainM() const
+    {
+        return !keepsLast || values.empty()
+            || (isRegular && firstBegin > head.commentCount.end && values.back().begin < regionEnd);
+    }
+};
+
+// Keeps what the reader meets, by the places of the sections in slGrammars.
+class PANELKIT_API SeenSectionsCL : public ReadObserverCL
+{
+public:
+    SeenSectionsCL();
+    // See ReadObserverCL.
+    void ValueM(const ValueSeenCL& value) override;
+    void EntryDroppedM(const EntryDroppedCL& entry) override;
+    void SectionM(const SectionSeenCL& section) override;
+    // From now on only the values of the last record of a section are kept. grammar: as with AtM.
+    void KeepLastM(int grammar) { AtM(grammar).keepsLast = true; }
+    // The section of a grammar: 0 up to the number of grammars - 1.
+    SeenSectionCL& AtM(int grammar) { return sections_[static_cast<std::size_t>(grammar)]; }
+    const SeenSectionCL& AtM(int grammar) const { return sections_[static_cast<std::size_t>(grammar)]; }
+
+private:
+    SeenSectionCL& findM(const char* header);
+    void beginRecordM(const ValueSeenCL& first);
+
+    std::vector<SeenSectionCL> sections_;
+    const char* lastHeader_ { nullptr };
+    SeenSectionCL* last_ { nullptr };
+    int lastRecord_ { -1 };
+};
+
+// Reads every section of a file, each on its own: entries too whose owner is missing, and none is dropped.
+// Each section's region ends at the next header that the reader finds. text: not null.
+PANELKIT_API SeenSectionsCL slReadSections(const std::shared_ptr<const FileTextCL>& text);
+
+// What follows the count of an empty section may be the usual rest of a head, which nobody reads then: where
+// its lines end, or the line of the count if there is none. At most the region's end. hasComments: whether it
+// is there; may be null.
+PANELKIT_API std::size_t slEndOfEmptyHead(
+    const SeenSectionCL& section, std::string_view bytes, bool* hasComments = nullptr);
