@@ -11,12 +11,31 @@ inline void tell(const std::string& name, double value, const char* unit, const 
     std::fflush(stdout);
 }
 
+// The median of the rounds' ratios: what the machine does meanwhile meets both sides of a round.
+inline double ratioOf(const std::vector<double>& mine, const std::vector<double>& other)
+{
+    std::vector<double> ratios;
+    for (std::size_t round = 0; round < mine.size() && round < other.size(); ++round) {
+        ratios.push_back(mine[round] / other[round]);
+    }
+    return median(ratios);
+}
+
 // How many times as long `mine` takes as `other`; both were taken in turn.
 inline void tellRatio(
     const std::string& name, const std::vector<double>& mine, const std::vector<double>& other)
 {
     std::fprintf(stderr, "%s: %.1f ms, %.1f ms\n", name.c_str(), median(mine) * 1000, median(other) * 1000);
-    tell(name, median(mine) / median(other), "x");
+    tell(name, ratioOf(mine, other), "x");
+}
+
+// How many times as fast as the plain version; both were taken in turn.
+inline void tellSpeedup(
+    const std::string& name, const std::vector<double>& plain, const std::vector<double>& mine)
+{
+    std::fprintf(
+        stderr, "%s: plain %.1f ms, %.1f ms\n", name.c_str(), median(plain) * 1000, median(mine) * 1000);
+    tell(name, ratioOf(plain, mine), "x", "higher");
 }
 
 template <class FunctionTP> double secondsOf(FunctionTP&& run)

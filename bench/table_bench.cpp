@@ -1,16 +1,11 @@
 // How long 10,000 cells of one table take, by a description file and cell by cell.
-#include "dialog/basic_dialog.h"
-#include "support/test_dialog.h"
-#include "timing.h"
+#include "filling.h"
 #include <commctrl.h>
-#include <cstdio>
-#include <string>
 
 namespace {
 
 constexpr int Columns = 5;
 constexpr int Rows = 2000;
-constexpr int Rounds = 5;
 
 std::string cellText(int row, int column)
 {
@@ -34,10 +29,9 @@ std::string description()
     return text;
 }
 
-// What a table holds, summed up; equal tables give equal values.
-unsigned long long checksum(HWND table)
+std::string seen(HWND table)
 {
-    unsigned long long sum = static_cast<unsigned long long>(::SendMessageW(table, LVM_GETITEMCOUNT, 0, 0));
+    std::wstring all = std::to_wstring(::SendMessageW(table, LVM_GETITEMCOUNT, 0, 0));
     for (int row = 0; row < Rows; ++row) {
         for (int column = 0; column < Columns; ++column) {
             wchar_t text[64] = L"";
@@ -47,32 +41,15 @@ unsigned long long checksum(HWND table)
             item.cchTextMax = 64;
             ::SendMessageW(
                 table, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-            for (const wchar_t* at = text; *at != L'\0'; ++at) {
-                sum = sum * 31 + *at;
-            }
+            all += L'|' + std::wstring(text);
         }
     }
-    return sum;
+    return std::string(all.begin(), all.end());
 }
 
-// The whole building of the dialog, reading the file included.
-double load(PlainWindowCL& parent, const char* path, unsigned long long* sum)
+// Cell by cell.
+void setCells(HWND table)
 {
-    DuBasicDialogCL dialog;
-    dialog.SetConfigFileM(path);
-    const auto begin = std::chrono::steady_clock::now();
-    dialog.InitDlgM(&parent, 0);
-    const double seconds = secondsSince(begin);
-    *sum = checksum(::GetDlgItem(parent.m_hWnd, 12));
-    return seconds;
-}
-
-// The same table, its cells set one by one in a table made without the library.
-double setRaw(const PlainWindowCL& parent, unsigned long long* sum)
-{
-    const HWND table = ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, nullptr, 0x5081000D, 10, 10, 360,
-        250, parent.m_hWnd, nullptr, nullptr, nullptr);
-    const auto begin = std::chrono::steady_clock::now();
     for (int column = 0; column < Columns; ++column) {
         wchar_t title[] = L"title";
         LVCOLUMNW heading {};
@@ -99,33 +76,18 @@ double setRaw(const PlainWindowCL& parent, unsigned long long* sum)
             }
         }
     }
-    const double seconds = secondsSince(begin);
-    *sum = checksum(table);
-    ::DestroyWindow(table);
-    return seconds;
+}
+
+double fill(HWND parent, HWND* table)
+{
+    *table = ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, nullptr, 0x5081000D, 10, 10, 360, 250, parent,
+        nullptr, nullptr, nullptr);
+    return secondsOf([table] { setCells(*table); });
 }
 
 } // namespace
 
 int main()
 {
-    const DescriptionFileCL file(description());
-    PlainWindowCL parent;
-    parent.ShowWindow(SW_HIDE); // As a dialog is while it is built; a shown table is slower still by hand.
-    std::vector<double> loads;
-    std::vector<double> raws;
-    for (int round = 0; round < Rounds; ++round) {
-        unsigned long long loaded = 0;
-        unsigned long long raw = 1;
-        loads.push_back(load(parent, file.path(), &loaded));
-        raws.push_back(setRaw(parent, &raw));
-        if (loaded != raw) {
-            std::fprintf(stderr, "the tables differ\n");
-            return 1;
-        }
-    }
-    std::fprintf(stderr, "cell by cell %.1f ms, loaded %.1f ms\n", median(raws) * 1000, median(loads) * 1000);
-    std::printf("{\"name\":\"table_10000_over_raw\",\"value\":%.3f,\"unit\":\"x\",\"better\":\"lower\"}\n",
-        median(loads) / median(raws));
-    return 0;
+    return runFillingBench({ "table_10000_over_raw", description(), seen, fill }, 7);
 }

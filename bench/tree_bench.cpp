@@ -1,16 +1,11 @@
 // How long 10,000 tree items that share two picture files take, by a description file and item by item.
-#include "dialog/basic_dialog.h"
+#include "filling.h"
 #include "support/small_picture.h"
-#include "support/test_dialog.h"
-#include "timing.h"
 #include <commctrl.h>
-#include <cstdio>
-#include <string>
 
 namespace {
 
 constexpr int Items = 10000;
-constexpr int Rounds = 3;
 
 // Items 0, 10, 20, ... stand at the top, each with the nine that follow it below it.
 int parentKey(int item)
@@ -35,19 +30,17 @@ HTREEITEM next(HWND tree, UINT which, HTREEITEM item)
         ::SendMessageW(tree, TVM_GETNEXTITEM, which, reinterpret_cast<LPARAM>(item)));
 }
 
-// What a tree of two levels holds, summed up; equal trees give equal values.
-unsigned long long checksum(HWND tree)
+// A tree of two levels.
+std::string seen(HWND tree)
 {
-    unsigned long long sum = 0;
-    const auto add = [tree, &sum](HTREEITEM handle) {
+    std::string all = std::to_string(::SendMessageW(tree, TVM_GETCOUNT, 0, 0));
+    const auto add = [tree, &all](HTREEITEM handle) {
         TVITEMW item {};
         item.mask = TVIF_HANDLE | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
         item.hItem = handle;
         ::SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        sum = ((sum * 31 + static_cast<unsigned long long>(item.lParam)) * 31
-                  + static_cast<unsigned>(item.iImage))
-                * 31
-            + static_cast<unsigned>(item.iSelectedImage);
+        all += '|' + std::to_string(item.lParam) + ' ' + std::to_string(item.iImage) + ' '
+            + std::to_string(item.iSelectedImage);
     };
     for (HTREEITEM top = next(tree, TVGN_ROOT, nullptr); top != nullptr; top = next(tree, TVGN_NEXT, top)) {
         add(top);
@@ -56,19 +49,7 @@ unsigned long long checksum(HWND tree)
             add(child);
         }
     }
-    return sum + static_cast<unsigned long long>(::SendMessageW(tree, TVM_GETCOUNT, 0, 0));
-}
-
-// The whole building of the dialog, reading the file included.
-double load(PlainWindowCL& parent, const char* path, unsigned long long* sum)
-{
-    DuBasicDialogCL dialog;
-    dialog.SetConfigFileM(path);
-    const auto begin = std::chrono::steady_clock::now();
-    dialog.InitDlgM(&parent, 0);
-    const double seconds = secondsSince(begin);
-    *sum = checksum(::GetDlgItem(parent.m_hWnd, 12));
-    return seconds;
+    return all;
 }
 
 int addPicture(HIMAGELIST images, const std::wstring& file)
@@ -80,19 +61,18 @@ int addPicture(HIMAGELIST images, const std::wstring& file)
     return index;
 }
 
-// The same tree by the raw calls: load both files, add both, insert, set the data, item after item.
-double addRaw(const PlainWindowCL& parent, const std::wstring& normal, const std::wstring& selected,
-    unsigned long long* sum)
+const SmallPictureCL* normal = nullptr;
+const SmallPictureCL* selected = nullptr;
+
+// Loads both files, adds both, inserts and sets the data, item after item.
+void addItems(HWND tree, HIMAGELIST images)
 {
-    const HWND tree = ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_TREEVIEWW, nullptr, 0x50810007, 10, 10, 360, 250,
-        parent.m_hWnd, nullptr, nullptr, nullptr);
-    const HIMAGELIST images = ::ImageList_Create(20, 20, ILC_COLOR24, 0, 30);
-    ::SendMessageW(tree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images));
-    const auto begin = std::chrono::steady_clock::now();
+    const std::wstring normalFile = slGbkToWide(normal->path());
+    const std::wstring selectedFile = slGbkToWide(selected->path());
     HTREEITEM top = TVI_ROOT;
     for (int i = 0; i < Items; ++i) {
-        const int selectedImage = addPicture(images, selected);
-        const int normalImage = addPicture(images, normal);
+        const int selectedImage = addPicture(images, selectedFile);
+        const int normalImage = addPicture(images, normalFile);
         wchar_t text[] = L"item";
         TVINSERTSTRUCTW insert {};
         insert.hParent = parentKey(i) == 0 ? TVI_ROOT : top;
@@ -111,36 +91,27 @@ double addRaw(const PlainWindowCL& parent, const std::wstring& normal, const std
             top = data.hItem;
         }
     }
-    const double seconds = secondsSince(begin);
-    *sum = checksum(tree);
-    ::DestroyWindow(tree);
+}
+
+double fill(HWND parent, HWND* tree)
+{
+    *tree = ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_TREEVIEWW, nullptr, 0x50810007, 10, 10, 360, 250, parent,
+        nullptr, nullptr, nullptr);
+    static HIMAGELIST images = nullptr; // Those of the tree that is gone.
     ::ImageList_Destroy(images);
-    return seconds;
+    images = ::ImageList_Create(20, 20, ILC_COLOR24, 0, 30);
+    ::SendMessageW(*tree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images));
+    return secondsOf([tree] { addItems(*tree, images); });
 }
 
 } // namespace
 
 int main()
 {
-    const SmallPictureCL normal(0x4080C0, 20, 20);
-    const SmallPictureCL selected(0xC08040, 20, 20);
-    const DescriptionFileCL file(description(normal.path(), selected.path()));
-    PlainWindowCL parent;
-    parent.ShowWindow(SW_HIDE); // As a dialog is while it is built.
-    std::vector<double> loads;
-    std::vector<double> raws;
-    for (int round = 0; round < Rounds; ++round) {
-        unsigned long long loaded = 0;
-        unsigned long long raw = 1;
-        loads.push_back(load(parent, file.path(), &loaded));
-        raws.push_back(addRaw(parent, slGbkToWide(normal.path()), slGbkToWide(selected.path()), &raw));
-        if (loaded != raw) {
-            std::fprintf(stderr, "the trees differ\n");
-            return 1;
-        }
-    }
-    std::fprintf(stderr, "item by item %.1f ms, loaded %.1f ms\n", median(raws) * 1000, median(loads) * 1000);
-    std::printf("{\"name\":\"tree_10000_over_raw\",\"value\":%.3f,\"unit\":\"x\",\"better\":\"lower\"}\n",
-        median(loads) / median(raws));
-    return 0;
+    const SmallPictureCL normalPicture(0x4080C0, 20, 20);
+    const SmallPictureCL selectedPicture(0xC08040, 20, 20);
+    normal = &normalPicture;
+    selected = &selectedPicture;
+    return runFillingBench(
+        { "tree_10000_over_raw", description(normal->path(), selected->path()), seen, fill }, 7);
 }

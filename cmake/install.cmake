@@ -11,12 +11,13 @@ if(NOT WIN32)
   return() # The native library is for the command and the tests.
 endif()
 
-install(EXPORT panelkitTargets NAMESPACE panelkit:: FILE panelkitConfig.cmake DESTINATION lib/cmake/panelkit)
+install(EXPORT panelkitTargets NAMESPACE panelkit:: DESTINATION lib/cmake/panelkit)
 include(CMakePackageConfigHelpers)
 set(version_file ${PROJECT_BINARY_DIR}/panelkitConfigVersion.cmake)
 write_basic_package_version_file(${version_file} COMPATIBILITY SameMinorVersion)
 configure_file(cmake/panelkit.pc.in ${PROJECT_BINARY_DIR}/panelkit.pc @ONLY)
-install(FILES ${version_file} DESTINATION lib/cmake/panelkit)
+install(FILES ${version_file} cmake/panelkitConfig.cmake cmake/todays_look.cmake cmake/todays_look.manifest
+  DESTINATION lib/cmake/panelkit)
 install(FILES ${PROJECT_BINARY_DIR}/panelkit.pc DESTINATION lib/pkgconfig)
 
 if(CMAKE_OBJCOPY AND CMAKE_STRIP)

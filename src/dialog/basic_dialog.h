@@ -229,6 +229,7 @@ private:
     template <class FunctionTP> void eachControlsM(FunctionTP&& see);
     template <class FunctionTP> bool withControlM(int id, FunctionTP&& see);
     void fillIndexM();
+    void* findM(int id, int* row);
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
     void initM(VrIOCL& io, CWnd* parent, int mode);
     void beginDiagnosticsM();
@@ -249,7 +250,7 @@ private:
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
     void finishM(CWnd* parent, int mode);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
-    void renewItemFontM(CWnd* parent); // Nothing is drawn.
+    void setItemFontM(CWnd* parent, bool isShown);
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;
@@ -340,24 +341,15 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
 // Whether there is one.
 template <class FunctionTP> bool DuBasicDialogCL::withControlM(int id, FunctionTP&& see)
 {
-    if (!index_.IsFilledM(0)) {
-        fillIndexM();
-    }
-    for (const auto& [placeId, place] : index_.PlacesM(id)) {
-        bool found = false;
+    int wanted = 0;
+    void* const found = findM(id, &wanted);
+    if (found != nullptr) {
         int number = 0;
-        const int slot = place.slot;
-        const int wanted = place.row;
-        eachControlsM([&](auto row, auto& controls) {
-            if (number++ == wanted && controls.CheckAvailableM(slot) == 1
-                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
-                found = true;
-                see(row, controls.ControlAtM(slot));
+        slEachKind([&](auto row) {
+            if (number++ == wanted) {
+                see(row, *static_cast<typename decltype(row)::Controls::ControlTP*>(found));
             }
         });
-        if (found) {
-            return true; // What see() did may have changed the index.
-        }
     }
-    return false;
+    return found != nullptr;
 }

@@ -86,6 +86,31 @@ void DuBasicDialogCL::fillIndexM()
     index_.EndM();
 }
 
+// The first control with that id, as an object of the class of its kind, whose row of the table is told;
+// null: none. Once, not for each use: a use then has code only for the kinds that it does something with.
+void* DuBasicDialogCL::findM(int id, int* row)
+{
+    if (!index_.IsFilledM(0)) {
+        fillIndexM();
+    }
+    void* found = nullptr;
+    for (const auto& [placeId, place] : index_.PlacesM(id)) {
+        int number = 0;
+        const int slot = place.slot;
+        *row = place.row;
+        eachControlsM([&found, &number, id, slot, row](auto, auto& controls) {
+            if (number++ == *row && controls.CheckAvailableM(slot) == 1
+                && controls.ControlAtM(slot).GetFunctionIDM() == id) {
+                found = &controls.ControlAtM(slot);
+            }
+        });
+        if (found != nullptr) {
+            break;
+        }
+    }
+    return found;
+}
+
 // Reads the records of one kind, then makes and fills its controls.
 template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent)
 {

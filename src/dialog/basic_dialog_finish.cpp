@@ -131,12 +131,6 @@ void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShow
     }
 }
 
-void DuBasicDialogCL::renewItemFontM(CWnd* parent)
-{
-    int siblings = 0;
-    setItemFontM(stepsM(parent, &siblings), false);
-}
-
 void DuBasicDialogCL::setTxtLstBoxItemHeightM()
 {
     eachControlsM([](auto row, auto& controls) {
@@ -144,4 +138,10 @@ void DuBasicDialogCL::setTxtLstBoxItemHeightM()
             controls.SetItemHeightM();
         }
     });
+}
+
+void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown)
+{
+    int siblings = 0;
+    setItemFontM(stepsM(parent, &siblings), isShown);
 }

@@ -215,7 +215,7 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
         io.OpenM(configFile_, "r");
         slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });
     }
-    renewItemFontM(CWnd::FromHandle(window));
+    setItemFontM(CWnd::FromHandle(window), false);
     setTxtLstBoxItemHeightM();
     if (wasBound) {
         bindAgainM(stretch);

@@ -1,4 +1,5 @@
 #include "editing/editor_state.h"
+#include "baselib/gbk_texts.h"
 #include "baselib/number_text.h"
 #include <algorithm>
 #include <climits>

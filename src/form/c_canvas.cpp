@@ -26,8 +26,7 @@ bool isSize(int width, int height)
 }
 
 // Gives call(canvas), in which the context can be changed at will, if the arguments are good.
-panelkit_status withCanvas(
-    const panelkit_canvas* handle, bool areGood, const std::function<void(CanvasUseCL&)>& call)
+panelkit_status withCanvas(const panelkit_canvas* handle, bool areGood, CallRefCL<void(CanvasUseCL&)> call)
 {
     return slGuarded(nullptr, [handle, areGood, &call]() -> panelkit_status {
         CanvasUseCL* canvas = nullptr;
@@ -43,7 +42,7 @@ panelkit_status withCanvas(
 
 template <class ValueTP>
 panelkit_status giveOfCanvas(
-    const panelkit_canvas* handle, ValueTP* out, const std::function<ValueTP(CanvasUseCL&)>& value)
+    const panelkit_canvas* handle, ValueTP* out, CallRefCL<ValueTP(CanvasUseCL&)> value)
 {
     return withCanvas(handle, out != nullptr, [out, &value](CanvasUseCL& canvas) { *out = value(canvas); });
 }

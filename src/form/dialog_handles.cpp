@@ -52,7 +52,7 @@ panelkit_status slFail(HostedDialogCL& dialog, panelkit_status status, const std
     return status;
 }
 
-panelkit_status slGuarded(std::string* error, const std::function<panelkit_status()>& call)
+panelkit_status slGuarded(std::string* error, CallRefCL<panelkit_status()> call)
 {
     try {
         std::string& text = error != nullptr ? *error : slThreadError();
@@ -74,6 +74,43 @@ panelkit_status slGuarded(std::string* error, const std::function<panelkit_statu
     } catch (...) {
         return PANELKIT_ERROR_MEMORY; // Not even for the text.
     }
+}
+
+panelkit_status slWithDialog(const panelkit_dialog* handle, DialogCallTP call)
+{
+    return slGuarded(nullptr, [handle, &call]() -> panelkit_status {
+        HostedDialogCL* dialog = nullptr;
+        const panelkit_status found = slFindDialog(handle, &dialog);
+        if (found != PANELKIT_OK) {
+            return found;
+        }
+        const HostedDialogCL::UseCL use(*dialog, HostedDialogCL::UseCL::ByCall);
+        const panelkit_status status
+            = slGuarded(&dialog->ErrorM(), [dialog, &call] { return call(*dialog); });
+        slThreadError() = dialog->ErrorM();
+        return status;
+    });
+}
+
+panelkit_status slWithWindow(const panelkit_dialog* handle, DialogCallTP call)
+{
+    return slWithDialog(handle, [&call](HostedDialogCL& dialog) -> panelkit_status {
+        if (!dialog.HasWindowM()) {
+            return slFail(dialog, PANELKIT_ERROR_STATE, "the dialog's window is gone");
+        }
+        return call(dialog);
+    });
+}
+
+panelkit_status slWithControl(const panelkit_dialog* handle, int id, ControlCallTP call)
+{
+    return slWithWindow(handle, [id, &call](HostedDialogCL& dialog) -> panelkit_status {
+        if (!dialog.ValuesM().IsEnabledM(id)) {
+            return slFail(dialog, PANELKIT_ERROR_ID, "there is no control " + std::to_string(id));
+        }
+        const HostedDialogCL::QuietCL quiet(dialog);
+        return call(dialog, dialog.ValuesM());
+    });
 }
 
 panelkit_status slGiveText(const std::string& text, char* buffer, size_t size, size_t* needed)

@@ -3,11 +3,14 @@
 #include <climits>
 #include <cstdint>
 #include <unordered_set>
+#include <vector>
 
 namespace {
 
 constexpr int NoPlace = INT_MIN + 1;
 constexpr int Tries = 8;
+constexpr int Neighbours[8][2]
+    = { { 1, 0 }, { 1, 1 }, { 0, 1 }, { -1, 1 }, { -1, 0 }, { -1, -1 }, { 0, -1 }, { 1, -1 } };
 
 // Null when p lies outside the buffer.
 const unsigned char* pixelAt(const int* p, int w, int h, const unsigned char* pixels)
@@ -19,27 +22,40 @@ const unsigned char* pixelAt(const int* p, int w, int h, const unsigned char* pi
     return number < static_cast<std::int64_t>(w) * h ? pixels + number * 3 : nullptr;
 }
 
-// The steps of a walk: where it stands and where it came from decide all that follows.
+// The steps of a walk: where it stands and where it came from decide all that follows. Of a picture of usual
+// size each step has a bit; the steps of larger ones, and places beyond a row's end, are listed.
 class WalkMemory
 {
 public:
-    explicit WalkMemory(int w)
+    WalkMemory(int w, int h)
         : width_(w)
+        , steps_(static_cast<std::int64_t>(w) * h > MostPixels ? 0 : static_cast<std::size_t>(w) * h * 4)
     {
     }
 
-    // False when this step was made before.
+    // False when this step was made before. dir: along one of the axes.
     bool remember(const int* place, const int* dir)
     {
-        const std::uint64_t number = static_cast<std::uint64_t>(place[1]) * static_cast<std::uint64_t>(width_)
-            + static_cast<std::uint64_t>(place[0]);
-        const auto direction = static_cast<unsigned>(dir[0] + 1 + (dir[1] + 1) * 3);
-        return steps_.insert((static_cast<std::uint64_t>(place[1]) << 36 | number << 4 | direction)).second;
+        const std::size_t direction = dir[0] != 0 ? (dir[0] > 0 ? 0 : 1) : (dir[1] > 0 ? 2 : 3);
+        if (steps_.empty() || place[0] >= width_) {
+            return listed_
+                .insert(static_cast<std::uint64_t>(place[1]) << 34U
+                    | static_cast<std::uint64_t>(place[0]) << 2U | direction)
+                .second;
+        }
+        const std::size_t pixel = static_cast<std::size_t>(place[1]) * static_cast<std::size_t>(width_)
+            + static_cast<std::size_t>(place[0]);
+        const bool isNew = !steps_[pixel * 4 + direction];
+        steps_[pixel * 4 + direction] = true;
+        return isNew;
     }
 
 private:
+    static constexpr std::int64_t MostPixels = 1 << 24;
+
     int width_;
-    std::unordered_set<std::uint64_t> steps_;
+    std::vector<bool> steps_;
+    std::unordered_set<std::uint64_t> listed_;
 };
 
 } // namespace
@@ -69,9 +85,8 @@ int slIsOnBound(const int* p, const unsigned char* /*key*/, const unsigned char*
     if (own == nullptr || slIsSamePixel4D(own, colour) == 0) {
         return 0;
     }
-    int dir[2] = { 1, 0 };
-    for (int i = 0; i < Tries; ++i, slGetNextDirect(dir)) {
-        const int place[2] = { p[0] + dir[0], p[1] + dir[1] };
+    for (const auto& step : Neighbours) {
+        const int place[2] = { p[0] + step[0], p[1] + step[1] };
         const unsigned char* const neighbour
             = slIsAvailPosi(place, w, h) != 0 ? pixelAt(place, w, h, pixels) : nullptr;
         if (neighbour != nullptr && slIsSamePixel4D(neighbour, colour) == 0) {
@@ -117,7 +132,7 @@ int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colou
     // Each pixel is entered at most once from each side; only places beyond a row's end could exceed that.
     const std::int64_t most = static_cast<std::int64_t>(w) * h * 4;
     std::int64_t count = 1;
-    WalkMemory memory(w);
+    WalkMemory memory(w, h);
     bool fresh = true;
     while (fresh && slIsSameInt2D(next, first) == 0
         && slGetNextPntOnBound(colour, w, h, pixels, prev, current, dir, next) != 0) {

@@ -89,7 +89,7 @@ TEST(GbkTexts, HeadersAreBracketed)
     slEachKind([&ofKinds](auto row) {
         ofKinds += 1 + static_cast<int>(decltype(row)::Records::Secondaries.size());
     });
-    EXPECT_EQ(headers, 5 + ofKinds); // Version, dialog, relations and two of the new rotate button.
+    EXPECT_EQ(headers, 6 + ofKinds); // Version, dialog, relations, bindings and two of the new rotate button.
     EXPECT_EQ(texts, 15);
 }
 

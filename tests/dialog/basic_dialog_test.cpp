@@ -4,6 +4,7 @@
 #include "support/pump.h"
 #include "support/small_picture.h"
 #include "support/test_dialog.h"
+#include "support/visual_styles.h"
 #include <gtest/gtest.h>
 
 using namespace testing_support;
@@ -217,6 +218,35 @@ TEST(BasicDialog, ModalDialogClosesByItsCloseButton)
     EXPECT_EQ(dialog.m_hWnd, nullptr);
 }
 
+// Blocks that plain windows like those of the next test leave behind: with visual styles Wine keeps one of 24
+// bytes for each static that was given a font.
+size_t blocksOfPlainWindows(HWND parent, int builds)
+{
+    CFont font;
+    font.CreatePointFont(90, "Tahoma");
+    const auto build = [parent, &font](int times) {
+        for (int i = 0; i < times; ++i) {
+            std::vector<HWND> windows;
+            for (const wchar_t* const name : { L"Static", L"Static", L"Button" }) {
+                const DWORD style = WS_CHILD | WS_VISIBLE | (*name == L'B' ? BS_GROUPBOX : 0);
+                windows.push_back(::CreateWindowExW(
+                    0, name, L"text", style, 0, 0, 50, 50, parent, nullptr, nullptr, nullptr));
+                ::SendMessageW(
+                    windows.back(), WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), FALSE);
+            }
+            ::RedrawWindow(parent, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+            for (const HWND window : windows) {
+                ::DestroyWindow(window);
+            }
+        }
+    };
+    build(20);
+    const size_t before = LiveHeapM().blocks;
+    build(builds);
+    const size_t after = LiveHeapM().blocks;
+    return after > before ? after - before : 0;
+}
+
 TEST(BasicDialog, ManyBuildsLeaveNoWindowGdiObjectOrMemoryBehind)
 {
     TestDialogCL dialog(labels(2, label(1, 11) + "2 12 20 60 100 20 1\ncolour\n0 255 0 0\n")
@@ -241,8 +271,9 @@ TEST(BasicDialog, ManyBuildsLeaveNoWindowGdiObjectOrMemoryBehind)
     EXPECT_EQ(LiveWindowsM(), windows);
     EXPECT_EQ(LiveGdiObjectsM(), objects);
     const HeapUse after = LiveHeapM();
-    EXPECT_LT(after.blocks, heap.blocks + Builds / 10); // A leak in one build of ten is seen.
-    EXPECT_LT(after.bytes, heap.bytes + Builds * 50);
+    const size_t platforms = HasVisualStyles() ? blocksOfPlainWindows(dialog.m_hWnd, Builds) : 0;
+    EXPECT_LT(after.blocks, heap.blocks + platforms + Builds / 10); // A leak in one build of ten is seen.
+    EXPECT_LT(after.bytes, heap.bytes + platforms * 50 + Builds * 50);
 }
 
 TEST(BasicDialog, SecondBuildWithoutDestroyingReplacesTheControlsOfManyAndOfFew)

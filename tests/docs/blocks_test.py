@@ -94,10 +94,12 @@ def main():
     check_messages()
     for block in all_blocks:
         language = block.language
-        if language in ("sh", "cmake", "output"):
+        if language in ("sh", "cmake", "rc", "output"):
             check_scripted(block, all_blocks)
         elif language == "json":
             check_json(block)
+        elif language == "xml":
+            expect(block.text == (ROOT / "cmake/todays_look.manifest").read_text(), block, "another manifest")
         elif language in ("head", "wrong", "right"):
             expect(block.page == "docs/check.md", block, "nobody tests it on this page")
         else:

@@ -15,7 +15,7 @@ export PANELKIT="$folder/moved" CXX CXXFLAGS="-Wall -Wextra -Wpedantic -Werror" 
 docs=$PANELKIT/share/doc/panelkit
 cmake=lib/cmake/panelkit
 for file in bin/panelkit.{dll,dll.debug,exe} lib/{libpanelkit.dll.a,pkgconfig/panelkit.pc} \
-  "$cmake"/{panelkitConfig,panelkitConfigVersion}.cmake include/panelkit/panelkit.h \
+  "$cmake"/{panelkitConfig,panelkitTargets,panelkitConfigVersion,todays_look}.cmake include/panelkit/panelkit.h \
   share/doc/panelkit/{using,description-file,CHANGELOG}.md; do
   [ -f "$PANELKIT/$file" ] || fail "not installed: $file"
 done
@@ -42,6 +42,15 @@ block "$docs/using.md" cmake 1 >CMakeLists.txt
 block "$docs/using.md" sh 1 >commands
 bash -eu commands >log 2>&1 || { cat log; exit 1; }
 application build/app.exe "$PANELKIT/bin/panelkit.exe"
+carries() { python3 -c 'import sys; program, part = (open(name, "rb").read() for name in sys.argv[1:])
+sys.exit(part not in program)' "$@"; }
+manifest=$PANELKIT/$cmake/todays_look.manifest
+! carries build/app.exe "$manifest" || fail "the program has a manifest that it didn't ask for"
+cp CMakeLists.txt plain && block "$docs/todays-look.md" cmake 1 >>CMakeLists.txt
+cmake --build build >log 2>&1 || { cat log; exit 1; }
+application build/app.exe "$PANELKIT/bin/panelkit.exe"
+carries build/app.exe "$manifest" || fail "the program's look is not today's"
+mv plain CMakeLists.txt
 
 # Another version doesn't do.
 for wanted in 99 "${version%%.*}.99" "$version.1"; do
@@ -58,6 +67,12 @@ cp ../cmake/main.cpp .
 block "$docs/using.md" sh 2 >commands
 bash -eu commands
 application app.exe "$PANELKIT/bin/panelkit.exe"
+block "$docs/todays-look.md" xml 1 >app.manifest
+block "$docs/todays-look.md" rc 1 >app.rc
+block "$docs/todays-look.md" sh 1 >>commands
+WINDRES="${tools}windres" bash -eu commands
+application app.exe "$PANELKIT/bin/panelkit.exe"
+carries app.exe app.manifest || fail "the program built by hand: its look is not today's"
 [ "$(PKG_CONFIG_PATH=$PANELKIT/lib/pkgconfig pkg-config --modversion panelkit)" = "$version" ] || fail "pkg-config: version"
 
 cd "$folder/hand"

@@ -12,6 +12,7 @@ cd "$folder"
 
 block "$sources/docs/using.md" cpp 1 >main.cpp
 block "$sources/docs/using.md" cmake 2 >CMakeLists.txt
+block "$sources/docs/todays-look.md" cmake 1 >>CMakeLists.txt
 cat >>CMakeLists.txt <<'EOF'
 file(WRITE bystander.cpp "int main() {}\n")
 add_executable(bystander bystander.cpp)
@@ -25,7 +26,7 @@ foreach(name ${caches})
   endif()
 endforeach()
 EOF
-sed '/FetchContent/d; /add_custom_command/,+1d; s/ panelkit::panelkit//' CMakeLists.txt >alone.txt
+sed '/FetchContent/d; /todays_look/d; /add_custom_command/,+1d; s/ panelkit::panelkit//' CMakeLists.txt >alone.txt
 mkdir alone && mv alone.txt alone/CMakeLists.txt && cp main.cpp alone/
 export CMAKE_TOOLCHAIN_FILE="$toolchain" CMAKE_EXPORT_COMPILE_COMMANDS=1
 ccache=$(command -v ccache || true)

@@ -1,4 +1,5 @@
 #pragma once
+#include "support/plain_walk.h"
 #include "support/random_picture.h"
 #include <windows.h>
 
@@ -27,6 +28,18 @@ inline HRGN plainPixelRegion(const Pixels& picture, const Colour& key)
         }
     }
     return rgn;
+}
+
+// The region that the walk encloses: one polygon of all its points but the last.
+inline HRGN plainTracedRegion(const Pixels& picture)
+{
+    Points walk = PlainWalk(picture, picture.bytes.size(), true).run();
+    std::vector<POINT> points;
+    for (const Point& point : walk) {
+        points.push_back(POINT { point.first, point.second });
+    }
+    points.pop_back();
+    return ::CreatePolygonRgn(points.data(), static_cast<int>(points.size()), ALTERNATE);
 }
 
 // A black square with about that many white specks of one to four pixels height on it.

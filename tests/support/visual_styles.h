@@ -2,8 +2,8 @@
 
 namespace testing_support {
 
-// Whether the program's windows are those of the common controls 6, as for an application whose manifest asks
-// for visual styles: where the environment has PANELKIT_VISUAL_STYLES.
+// Whether the program's windows are those of the common controls 6, as where its manifest asks for visual
+// styles.
 bool HasVisualStyles();
 
 } // namespace testing_support

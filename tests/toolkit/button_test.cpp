@@ -1,5 +1,6 @@
 #include "parent_window.h"
 #include "support/input.h"
+#include "support/visual_styles.h"
 #include "support/window.h"
 #include <gtest/gtest.h>
 
@@ -11,7 +12,12 @@ class DrawnButtonCL : public CButton
 {
 public:
     UINT lastAction = 0;
-    void DrawItem(LPDRAWITEMSTRUCT draw) override { lastAction = draw->itemAction; }
+    bool isPressed = false;
+    void DrawItem(LPDRAWITEMSTRUCT draw) override
+    {
+        lastAction = draw->itemAction;
+        isPressed = (draw->itemState & ODS_SELECTED) != 0;
+    }
 };
 
 } // namespace
@@ -72,7 +78,10 @@ TEST(Button, DrawsItselfWhereItsOwnerIsToDraw)
     ASSERT_TRUE(button.Create("", WS_VISIBLE | BS_OWNERDRAW, Place, &parent, 3));
     button.RedrawWindow();
     EXPECT_EQ(button.lastAction, static_cast<UINT>(ODA_DRAWENTIRE));
+    EXPECT_FALSE(button.isPressed);
     button.SetState(TRUE);
     button.UpdateWindow();
-    EXPECT_EQ(button.lastAction, static_cast<UINT>(ODA_SELECT));
+    // The buttons of the common controls 6 are drawn whole whenever something changes.
+    EXPECT_EQ(button.lastAction, static_cast<UINT>(HasVisualStyles() ? ODA_DRAWENTIRE : ODA_SELECT));
+    EXPECT_TRUE(button.isPressed);
 }

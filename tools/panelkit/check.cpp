@@ -46,13 +46,29 @@ std::shared_ptr<const FileTextCL> readText(const fs::path& path)
     return isRead ? std::make_shared<const FileTextCL>(std::move(bytes), size) : nullptr;
 }
 
+bool readBytes(const fs::path& path, std::string* bytes)
+{
+    const auto text = readText(path);
+    *bytes = text != nullptr ? text->CutM({ 0, text->SizeM() }) : std::string_view();
+    return text != nullptr;
+}
+
 FindingsCL checkText(const std::string& file, const fs::path& folder,
-    const std::shared_ptr<const FileTextCL>& text, const TranslationCL& translation)
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading,
+    const TranslationCL& translation)
 {
     FindingsCL findings(file, text);
-    if (checkEncoding(*text, findings)) {
-        FileReadingCL reading(text);
-        checkRecords(reading, folder, translation, findings);
+    const bool isReadable = checkEncoding(*text, findings);
+    if (isReadable || reading != nullptr) {
+        auto read = std::make_unique<FileReadingCL>(text, reading != nullptr);
+        if (isReadable) {
+            checkRecords(*read, folder, translation, findings);
+        } else {
+            read->ReadKindsM();
+        }
+        if (reading != nullptr) {
+            *reading = std::move(read);
+        }
     }
     findings.SortM();
     return findings;
@@ -128,7 +144,7 @@ int checkCommand(const CheckOptionsCL& options)
             continue;
         }
         all.push_back(checkText(isInput ? "<stdin>" : said,
-            isInput ? fs::path() : fs::u8path(file).parent_path(), text, translation));
+            isInput ? fs::path() : fs::u8path(file).parent_path(), text, nullptr, translation));
         isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {

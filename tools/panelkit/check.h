@@ -5,12 +5,15 @@
 #include <filesystem>
 
 Language languageOf(const std::string& option); // en, zh; else the user's.
-std::shared_ptr<const FileTextCL> readText(
-    const std::filesystem::path& path); // Null when it can't, without a word.
-// All that is wrong with a file. file: as the user named it; folder: where pictures are; translation: the
-// captions that are measured.
+// Null, and false, when the file can't be read; without a word.
+std::shared_ptr<const FileTextCL> readText(const std::filesystem::path& path);
+bool readBytes(const std::filesystem::path& path, std::string* bytes);
+// All that is wrong with a file of this text. file: as the user named it; folder: where pictures are;
+// reading: gets what was read, with all values; null: not wanted; translation: the captions that are
+// measured.
 FindingsCL checkText(const std::string& file, const std::filesystem::path& folder,
-    const std::shared_ptr<const FileTextCL>& text, const TranslationCL& translation = {});
+    const std::shared_ptr<const FileTextCL>& text, std::unique_ptr<FileReadingCL>* reading = nullptr,
+    const TranslationCL& translation = {});
 
 // The groups of checks; each adds what it finds.
 bool checkEncoding(const FileTextCL& text, FindingsCL& findings); // False: nothing else can be said.

@@ -8,6 +8,8 @@
     X(FileIsUtf8, "encoding", Error, "the file is UTF-8, not GBK; panelkit convert makes it GBK", "文件是 UTF-8 编码, 不是 GBK; 请用 panelkit convert 转换") \
     X(FileIsUtf16, "encoding", Error, "the file is UTF-16, not GBK; panelkit convert makes it GBK", "文件是 UTF-16 编码, 不是 GBK; 请用 panelkit convert 转换") \
     X(NoGbkByte, "encoding", Error, "the byte {0} belongs to no GBK character; save the file as GBK (code page 936)", "字节 {0} 不属于任何 GBK 字符; 请将文件存为 GBK (代码页 936)") \
+    X(NoGbkCharacter, "encoding", Error, "GBK has no character '{0}': the file can't hold it", "GBK 中没有字符 '{0}': 文件无法保存它") \
+    X(ShownWrongly, "encoding", Error, "the editor shows this GBK file in another code: open it anew, as GBK", "编辑器以其他编码显示此 GBK 文件: 请以 GBK 编码重新打开") \
     X(EmptyFile, "empty-file", Error, "the file is empty", "文件是空的") \
     X(MissingSection, "missing-section", Error, "section {0} is missing: without it the dialog has no title, size and font", "缺少 {0} 节: 没有它对话框就没有标题、大小和字体") \
     X(UnknownSection, "unknown-section", Error, "section {0} is unknown; nearest is {1}", "未知的节 {0}; 最接近的是 {1}") \

@@ -16,7 +16,7 @@ std::uint32_t offsetOf(const RecordViewCL& view, const char* name)
     return field != nullptr && field->seen != nullptr ? field->seen->begin : 0;
 }
 
-// Takes the caption from the record.
+// May take the caption from the record.
 CheckedControlCL controlOf(
     const RecordViewCL& view, int kind, const char* kindName, int grammar, int record, bool isStacked)
 {
@@ -39,9 +39,12 @@ CheckedControlCL controlOf(
     control.positionAt = offsetOf(view, "position");
     if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
         const char* const name = control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption";
-        control.caption = std::move(*view.FindM(name)->text);
+        CharArr& caption = *view.FindM(name)->text;
         control.captionAt = offsetOf(view, name);
-        control.hasText = kind == LabelCode && !control.caption.EmptyM();
+        control.hasText = kind == LabelCode && !caption.EmptyM();
+#ifdef _WIN32
+        control.caption = std::move(caption); // It is measured there.
+#endif
         control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
     }
     control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
@@ -107,6 +110,8 @@ public:
         , findings_(findings)
         , pictures_(folder)
     {
+        constexpr std::size_t ShortRecord = 32; // Room that isn't used costs nothing, growing does.
+        controls_.reserve(file.TextM().SizeM() / ShortRecord);
     }
     // Each record is looked at when it is read. Only then can be told which of them are sound.
     void CheckM()

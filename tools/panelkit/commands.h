@@ -33,6 +33,7 @@ struct ViewOptionsCL : ShowOptionsCL
     bool watches { false };      // Follows changes of the file and its pictures.
     bool logsMessages { false }; // Prints what the dialog gets from its controls.
     bool showsIds { false };     // Writes on each control what the file calls it.
+    std::string mark;            // A file with the id of a control that is marked; "": none.
 };
 int viewCommand(const ViewOptionsCL& options);
 
@@ -80,6 +81,9 @@ struct StringsOptionsCL
     bool hasMessages { false }; // The library's own too.
 };
 int stringsCommand(const StringsOptionsCL& options); // A template for translators.
+
+// A language server on standard input and output. language: as for check, "" for the client's.
+int lspCommand(const std::string& language);
 
 // Windows only, and not for users: a window that nobody sees keeps Wine's desktop and services running until
 // standard input ends. Prints "ready" once it is there.

@@ -18,7 +18,7 @@ struct CheckedControlCL
     int x { 0 }, y { 0 }, w { 0 }, h { 0 };
     std::uint32_t idAt { 0 }, indexAt { 0 }, positionAt { 0 }; // Offsets in the file.
     std::uint32_t captionAt { 0 };
-    CharArr caption; // Of a kind that shows one; GBK.
+    CharArr caption; // Of a kind that shows one, where captions are measured; GBK.
     int group { 0 };
     int arrowsId { 0 }; // Of a spin edit; 0 for none.
     std::uint32_t arrowsAt { 0 };

@@ -70,7 +70,7 @@ std::string convertedText(const std::string& bytes, Encoding from, Encoding to, 
 
 } // namespace
 
-int convertCommand(const std::string& file, const std::string& out, bool toUtf8)
+int convertFile(const std::string& file, const std::string& out, bool toUtf8, std::string* said)
 {
     std::string bytes;
     if (!readWholeFile(file, &bytes)) {
@@ -89,8 +89,17 @@ int convertCommand(const std::string& file, const std::string& out, bool toUtf8)
     if ((!isThere || !out.empty()) && !writeWholeFile(out.empty() ? file : out, isThere ? bytes : result)) {
         return CannotUse;
     }
-    const std::string said = isThere ? std::string("already ") + encodingName(to)
-                                     : std::string(encodingName(from)) + " to " + encodingName(to);
-    std::printf("%s: %s\n", file.c_str(), said.c_str());
+    *said = isThere ? std::string("already ") + encodingName(to)
+                    : std::string(encodingName(from)) + " to " + encodingName(to);
     return 0;
+}
+
+int convertCommand(const std::string& file, const std::string& out, bool toUtf8)
+{
+    std::string said;
+    const int result = convertFile(file, out, toUtf8, &said);
+    if (result == 0) {
+        std::printf("%s: %s\n", file.c_str(), said.c_str());
+    }
+    return result;
 }

@@ -22,6 +22,9 @@ struct CharacterCL
 };
 constexpr char32_t NoCharacter = 0xFFFFFFFF;
 
+// What convertCommand does, but prints nothing on standard output: `said` gets what was done.
+int convertFile(const std::string& file, const std::string& out, bool toUtf8, std::string* said);
+
 // What a byte order mark says; without one UTF-16 where every other of the first bytes is 0, else what the
 // bytes break the rules of least often, UTF-8 if both are kept: sections' headers in GBK are no UTF-8. Plain
 // ASCII is GBK.

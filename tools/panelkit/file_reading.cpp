@@ -5,8 +5,9 @@
 #include "dialog/relation.h"
 #include <algorithm>
 
-FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
+FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text, bool keepsAll)
     : text_(std::move(text))
+    , keepsAll_(keepsAll)
 {
     io_.OpenM(text_);
     io_.SetObserverM(&seen_);
@@ -17,6 +18,14 @@ FileReadingCL::FileReadingCL(std::shared_ptr<const FileTextCL> text)
         return 1;
     });
     newRotateButtons_.FmReadInterfaceM(&io_);
+}
+
+void FileReadingCL::ReadKindsM()
+{
+    slEachKind([this](auto row) {
+        using RecordsTP = typename decltype(row)::Records;
+        ReadKindM<RecordsTP>([](int, typename RecordsTP::RecordTP&) {});
+    });
 }
 
 void FileReadingCL::KeepValuesM(int grammar)

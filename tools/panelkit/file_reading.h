@@ -15,7 +15,8 @@
 class FileReadingCL
 {
 public:
-    explicit FileReadingCL(std::shared_ptr<const FileTextCL> text);
+    // keepsAll: the values of all controls, not only what tells something of them.
+    explicit FileReadingCL(std::shared_ptr<const FileTextCL> text, bool keepsAll = false);
     const FileTextCL& TextM() const { return *text_; }
     const std::shared_ptr<const FileTextCL>& SharedTextM() const { return text_; }
 
@@ -33,9 +34,12 @@ public:
     // seen, and may take from the record what it likes.
     template <class RecordsTP, class SeeTP> void ReadKindM(SeeTP&& see)
     {
-        seen_.KeepLastM(slGrammarOf(RecordsTP::Header));
+        if (!keepsAll_) {
+            seen_.KeepLastM(slGrammarOf(RecordsTP::Header));
+        }
         slEachRecordRead<RecordsTP>(io_, see);
     }
+    void ReadKindsM();             // All of them, for their values.
     void KeepValuesM(int grammar); // Reads a section again if values of it were dropped.
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
@@ -60,6 +64,7 @@ private:
     DVrNewRotateBtnArr newRotateButtons_;
     std::vector<BindingCL> bindings_;
     DialogHeaderCL dialog_;
+    bool keepsAll_;
     bool hasDialog_ { false };
     bool hasStrayText_ { false };
 };

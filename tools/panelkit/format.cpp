@@ -215,34 +215,50 @@ void readWith(LineFinderCL& finder, const std::shared_ptr<const FileTextCL>& tex
 
 } // namespace
 
+TextChangesTP blanksToChange(const std::shared_ptr<const FileTextCL>& text, std::size_t* refusedLine)
+{
+    LineFinderCL finder(*text);
+    readWith(finder, text);
+    TextChangesTP changes = finder.ChangesM();
+    if (changes.empty()) {
+        return changes;
+    }
+    const auto formatted
+        = std::make_shared<const FileTextCL>(slWithChanges(text->CutM({ 0, text->SizeM() }), changes));
+    LineFinderCL again(*formatted);
+    readWith(again, formatted);
+    if (again.ReadM() != finder.ReadM()) {
+        // How much a file can be meant to hold depends on its size.
+        if (refusedLine != nullptr) {
+            *refusedLine = text->PlaceM(changes[0].span.end).line;
+        }
+        changes.clear();
+    }
+    return changes;
+}
+
 int formatCommand(const std::string& file, bool checkOnly)
 {
     std::string bytes;
     if (!readWholeFile(file, &bytes)) {
         return CannotUse;
     }
-    const auto text = std::make_shared<FileTextCL>(bytes);
-    LineFinderCL finder(*text);
-    readWith(finder, text);
-    const TextChangesTP changes = finder.ChangesM();
+    const auto text = std::make_shared<const FileTextCL>(bytes);
+    std::size_t refusedLine = 0;
+    const TextChangesTP changes = blanksToChange(text, &refusedLine);
+    if (refusedLine > 0) {
+        std::fprintf(stderr, "%s:%zu: left as it is: with other blanks the file would be read otherwise\n",
+            file.c_str(), refusedLine);
+        return 0;
+    }
     if (changes.empty()) {
         const Encoding encoding = encodingOf(bytes);
         return encoding == Encoding::Gbk ? 0 : complainOfEncoding(file, encoding);
     }
-    const std::string result = slWithChanges(bytes, changes);
-    const auto formatted = std::make_shared<FileTextCL>(result);
-    LineFinderCL again(*formatted);
-    readWith(again, formatted);
-    const std::size_t line = text->PlaceM(changes[0].span.end).line;
-    if (again.ReadM() != finder.ReadM()) {
-        // How much a file can be meant to hold depends on its size.
-        std::fprintf(stderr, "%s:%zu: left as it is: with other blanks the file would be read otherwise\n",
-            file.c_str(), line);
-        return 0;
-    }
     if (checkOnly) {
-        std::printf("%s:%zu: numbers are not lined up from here on\n", file.c_str(), line);
+        std::printf("%s:%zu: numbers are not lined up from here on\n", file.c_str(),
+            text->PlaceM(changes[0].span.end).line);
         return 1;
     }
-    return writeWholeFile(file, result) ? 0 : CannotUse;
+    return writeWholeFile(file, slWithChanges(text->CutM({ 0, text->SizeM() }), changes)) ? 0 : CannotUse;
 }

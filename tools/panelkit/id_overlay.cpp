@@ -196,7 +196,7 @@ HRGN regionOf(const std::vector<IdLabelCL>& labels)
 
 } // namespace
 
-std::vector<IdLabelCL> idLabels(HWND dialog)
+std::vector<IdLabelCL> idLabels(HWND dialog, const int* only)
 {
     std::vector<IdLabelCL> labels;
     const std::map<HWND, int> numbers = tabNumbers(dialog);
@@ -205,7 +205,7 @@ std::vector<IdLabelCL> idLabels(HWND dialog)
         const LabelFontCL font(dc);
         for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT)) {
-            if (::IsWindowVisible(child)) {
+            if (::IsWindowVisible(child) && (only == nullptr || ::GetDlgCtrlID(child) == *only)) {
                 const auto number = numbers.find(child);
                 labels.push_back(labelOf(
                     dc, dialog, child, number != numbers.end() ? std::to_wstring(number->second) : L"-"));
@@ -224,7 +224,7 @@ void drawIds(HWND dialog)
     ::ReleaseDC(dialog, dc);
 }
 
-void IdOverlayCL::FollowM(HWND dialog)
+void IdOverlayCL::FollowM(HWND dialog, const int* only)
 {
     if (!::IsWindowVisible(dialog) || ::IsIconic(dialog) || !createM(dialog, 0)) {
         HideM();
@@ -239,7 +239,7 @@ void IdOverlayCL::FollowM(HWND dialog)
         ::SetWindowPos(HandleM(), nullptr, place.left, place.top, place.right - place.left,
             place.bottom - place.top, SWP_NOACTIVATE | SWP_NOZORDER);
     }
-    std::vector<IdLabelCL> labels = idLabels(dialog);
+    std::vector<IdLabelCL> labels = idLabels(dialog, only);
     if (!(labels == labels_)) {
         labels_ = std::move(labels);
         ::SetWindowRgn(HandleM(), regionOf(labels_), TRUE); // The window keeps it.

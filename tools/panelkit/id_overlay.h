@@ -15,15 +15,18 @@ struct IdLabelCL
         return ::EqualRect(&control, &other.control) && ::EqualRect(&box, &other.box) && words == other.words;
     }
 };
-// Of all visible controls of a dialog. No box covers another as long as there is room.
-std::vector<IdLabelCL> idLabels(HWND dialog);
+// Of all visible controls of a dialog, or of the one with an id. No box covers another as long as there is
+// room.
+std::vector<IdLabelCL> idLabels(HWND dialog, const int* only = nullptr);
 void drawIds(HWND dialog); // On the screen, until the dialog is painted there again.
 
 // The labels in a window over the dialog that lets clicks through.
 class IdOverlayCL : public PopupCL
 {
 public:
-    void FollowM(HWND dialog); // Now, and whenever the dialog has moved or changed.
+    // Now, and whenever the dialog has moved or changed. only: the id of the one control to be labelled, or
+    // null.
+    void FollowM(HWND dialog, const int* only = nullptr);
 
 protected:
     void paintM(HDC dc, const RECT& client) override;

@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "check.h"
 #include "controls/base/leaving.h"
+#include <cstdlib>
 
 namespace {
 
@@ -43,7 +44,7 @@ BOOL LiveDialogCL::OnInitDialog()
     if (options_.watches) {
         checkM();
     }
-    if (options_.showsIds) {
+    if (isLabelledM()) {
         SetTimer(OverlayTimer, OverlayMilliseconds);
     }
     return result;
@@ -150,7 +151,7 @@ void LiveDialogCL::rebuildM()
 
 void LiveDialogCL::followControlsM()
 {
-    overlay_.FollowM(m_hWnd);
+    labelM();
     const HWND focus = ::GetFocus();
     if (focus != overlaidFocus_ && IsWindowEnabled() && !isDroppedDownM()) {
         overlaidFocus_ = focus;
@@ -181,8 +182,25 @@ void LiveDialogCL::keepPlaceM(WINDOWPOS& place)
 void LiveDialogCL::dockM()
 {
     bar_.DockM(m_hWnd);
+    if (isLabelledM()) {
+        labelM();
+    }
+}
+
+// Where no control is marked the file names none, or one that isn't there.
+void LiveDialogCL::labelM()
+{
     if (options_.showsIds) {
         overlay_.FollowM(m_hWnd);
+        return;
+    }
+    std::string word;
+    readBytes(std::filesystem::u8path(options_.mark), &word);
+    const int id = std::atoi(word.c_str());
+    if (id != 0) {
+        overlay_.FollowM(m_hWnd, &id);
+    } else {
+        overlay_.HideM();
     }
 }
 

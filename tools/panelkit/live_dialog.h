@@ -35,7 +35,9 @@ private:
     void rebuildM();
     void giveFocusM(HWND control);
     void keepPlaceM(WINDOWPOS& place);
+    bool isLabelledM() const { return options_.showsIds || !options_.mark.empty(); }
     void followControlsM();
+    void labelM();
     void dockM();
 
     ViewOptionsCL options_;

@@ -64,6 +64,8 @@ int run(std::vector<std::string> arguments)
     view->add_flag("--watch", live.watches, "follows each change of FILE and its pictures");
     view->add_flag("--messages", live.logsMessages, "prints what the dialog gets from its controls");
     view->add_flag("--ids", live.showsIds, "writes id, place and Tab stop on each control");
+    view->add_option("--mark", live.mark, "marks the control whose id FILE holds, and follows that file")
+        ->type_name("FILE");
     view->callback([&] {
         static_cast<ShowOptionsCL&>(live) = shown;
         result = viewCommand(live);
@@ -148,6 +150,12 @@ int run(std::vector<std::string> arguments)
     strings->add_flag("--contexts", texts.byContext, "gives each control its own entry for a text");
     strings->add_flag("--messages", texts.hasMessages, "adds the messages of the library itself");
     strings->callback([&] { result = stringsCommand(texts); });
+    CLI::App* lsp
+        = app.add_subcommand("lsp", "Serves editors: the language server protocol on standard input.");
+    lsp->add_option("--lang", options.language, "language of what it says: en or zh; without it the editor's")
+        ->check(CLI::IsMember({ "en", "zh" }));
+    lsp->add_flag("--stdio", flag)->group(""); // What clients pass to every server.
+    lsp->callback([&] { result = lspCommand(options.language); });
 #ifdef _WIN32
     app.add_subcommand("keep")->group("")->callback([&] { result = keepCommand(); });
 #endif

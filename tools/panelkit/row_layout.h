@@ -1,5 +1,6 @@
 #pragma once
 #include "editing/text_changes.h"
+#include <memory>
 #include <vector>
 
 // A value that stands in a line of a record: a column of that line.
@@ -22,3 +23,8 @@ struct RowCellsCL
 // beginning have a word each whatever fields they are of. Appends the blanks that are to be others.
 void lineUpRows(const FileTextCL& text, const std::vector<RowCellsCL>& rows, SpanCL comments,
     std::size_t common, TextChangesTP& changes);
+
+// What is to change in a file, in its order, for all numbers to be lined up; nothing where it would then be
+// read otherwise. refusedLine: then the first line in question, may be null.
+TextChangesTP blanksToChange(
+    const std::shared_ptr<const FileTextCL>& text, std::size_t* refusedLine = nullptr);

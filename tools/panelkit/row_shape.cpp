@@ -6,7 +6,7 @@ RowShapeCL::RowShapeCL(const GrammarCL& grammar)
         SectionEntryCL entry;
         entry.EachFieldM(*this, grammar.row);
     } else if (grammar.owner != nullptr) { // The pictures of new rotate buttons.
-        texts_["picture"] = { TextSize, true };
+        SlotPictureCL().EachFieldM(*this);
     }
 }
 

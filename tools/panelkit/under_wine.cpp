@@ -142,6 +142,9 @@ int viewCommand(const ViewOptionsCL& options)
             words.emplace_back(flag);
         }
     }
+    if (!options.mark.empty()) {
+        words.push_back("--mark=" + underWine(options.mark));
+    }
     return startOn(words, options, Display::Users);
 }
 

@@ -4,8 +4,12 @@
 
 int viewCommand(const ViewOptionsCL& options)
 {
-    return showEachFile(options, [&options](const OpenedFileCL& file) {
-        LiveDialogCL(file.name, options).DoModalM();
+    ViewOptionsCL absolute = options; // Each file's folder becomes the current one.
+    if (!options.mark.empty()) {
+        absolute.mark = std::filesystem::absolute(std::filesystem::u8path(options.mark)).u8string();
+    }
+    return showEachFile(options, [&absolute](const OpenedFileCL& file) {
+        LiveDialogCL(file.name, absolute).DoModalM();
         return 0;
     });
 }

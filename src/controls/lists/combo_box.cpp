@@ -12,6 +12,26 @@ ON_CONTROL_REFLECT(CBN_SELCHANGE, &DuComboBoxCL::OnSelchange)
 ON_CONTROL_REFLECT(CBN_KILLFOCUS, &DuComboBoxCL::OnKillfocus)
 END_MESSAGE_MAP()
 
+namespace {
+
+// Adds texts as AddItemM does, but to the list below the control, which that would hand each of them on to,
+// for half of the time. Of a control of the library's own class nobody waits for the messages.
+void fillList(const DuComboBoxCL& control, const VrStringArr& texts)
+{
+    COMBOBOXINFO info {};
+    control.GetComboBoxInfo(&info);
+    slEachText(texts, [&info](int number, const char* text) {
+        const std::wstring wide = slGbkToShown(text);
+        const LRESULT line
+            = ::SendMessageW(info.hwndList, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide.c_str()));
+        if (line >= 0) {
+            ::SendMessageW(info.hwndList, LB_SETITEMDATA, static_cast<WPARAM>(line), number);
+        }
+    });
+}
+
+} // namespace
+
 int DVrComboBoxCL::InitComboBoxM(DuComboBoxCL* control) const
 {
     if (InitCommonCtrlM(control) == 0) {
@@ -27,7 +47,11 @@ int DVrComboBoxCL::InitComboBoxStrM(DuComboBoxCL* control) const
         return 0;
     }
     const FillingCL filling(control);
-    slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
+    if (slMakeRoom(control, items_.GetAvailableNumM()) && slIsJust(*control)) {
+        fillList(*control, items_);
+    } else {
+        slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
+    }
     return 1;
 }
 

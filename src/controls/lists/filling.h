@@ -33,3 +33,16 @@ public:
 private:
     CWnd* control_;
 };
+
+// Makes room for so many lines in a list box or combo box; true where they are many. Else the platform would
+// copy all of them into more room every few lines.
+template <class ControlTP> bool slMakeRoom(ControlTP* control, int lines)
+{
+    constexpr int manyLines = 100;
+    constexpr int bytesOfOne = 32; // A guess; the platform makes more room where it needs it.
+    if (lines < manyLines) {
+        return false;
+    }
+    control->InitStorage(lines, static_cast<UINT>(lines) * bytesOfOne);
+    return true;
+}

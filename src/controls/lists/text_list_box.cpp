@@ -34,6 +34,7 @@ int DVrTextListBoxCL::InitTextListBoxStrM(DuTextListBoxCL* control) const
         return 0;
     }
     const FillingCL filling(control);
+    slMakeRoom(control, items_.GetAvailableNumM());
     slEachText(items_, [control](int number, const char* text) { control->AddItemM(number, text); });
     return 1;
 }

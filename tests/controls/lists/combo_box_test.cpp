@@ -264,6 +264,51 @@ TEST_F(ComboDialogTest, HasItsInitialItemsNumberedWithoutGaps)
     EXPECT_EQ(slGbkToUtf8(itemsOf(ComboM(13)).c_str()), "甲=0 乙=1 丙=2");
 }
 
+namespace {
+
+// Counts the lines that it is told to add.
+class CountingComboCL : public DuComboBoxCL
+{
+public:
+    inline static int added = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        added += message == CB_ADDSTRING ? 1 : 0;
+        return DuComboBoxCL::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST(ComboBox, ManyInitialItemsAreThoseAddedOneByOne)
+{
+    constexpr int Lines = 300;
+    std::string text = "[下拉列表框]\n2\n0\n1 12 10 10 200 200 0\n2 13 10 50 200 200 1\n[下拉列表框初始值]\n"
+        + std::to_string(2 * Lines) + "\n0\n";
+    ComboCL plain(0);
+    for (int i = 0; i < Lines; ++i) {
+        const std::string line = (i % 3 == 0 ? "行 " : "line ") + std::to_string(i * 7919 % Lines);
+        text += "12 " + line + "\n13 " + line + "\n";
+        plain.combo.AddItemM(i, slUtf8ToGbk(line.c_str()).c_str());
+    }
+    TestDialogCL dialog(HeaderSections + text);
+    for (const int id : { 12, 13 }) {
+        auto* const combo = static_cast<DuComboBoxCL*>(CWnd::FromHandlePermanent(dialog.ItemM(id)));
+        EXPECT_EQ(itemsOf(*combo), itemsOf(plain.combo));
+        EXPECT_EQ(combo->GetCurSel(), -1);
+        EXPECT_EQ(textOf(*combo), "");
+    }
+    CountingComboCL::added = 0;
+    DuBasicDialogCL hosting;
+    hosting.SetFactoryM<DuComboBoxCL>([](int) { return std::make_unique<CountingComboCL>(); });
+    hosting.SetConfigFileM(dialog.PathM());
+    PlainWindowCL parent;
+    hosting.InitDlgM(&parent, 0);
+    EXPECT_EQ(CountingComboCL::added, 2 * Lines); // A class of the application hears of each.
+}
+
 TEST_F(ComboDialogTest, DropsDownAndSelectsByMouse)
 {
     const MessageRecorder messages(dialog.m_hWnd, { 1749 });

@@ -117,3 +117,33 @@ TEST(Ids, LabelsFollowTheDialogAndItsFile)
     EXPECT_EQ(overlay.top, corner.y);
     EXPECT_NE(labelsOf(dialog.m_hWnd).find("901 #-"), std::string::npos);
 }
+
+// Of all controls the one whose id a file holds, and soon another one when the file says so.
+TEST(Ids, OneControlIsMarkedByAFile)
+{
+    const WorkFolderCL folder;
+    writeDescription(Sections);
+    writeBytes("mark", "118\n");
+    ViewOptionsCL options;
+    options.mark = "mark";
+    const LivePreviewCL dialog(options);
+    const auto marks = [&dialog](int id) {
+        RECT control {};
+        ::GetWindowRect(dialog.ItemM(id), &control);
+        const auto region = ::CreateRectRgn(0, 0, 0, 0);
+        RECT marked {};
+        const bool isThere = dialog.OverlayM() != nullptr && ::IsWindowVisible(dialog.OverlayM())
+            && ::GetWindowRgn(dialog.OverlayM(), region) != ERROR
+            && ::GetRgnBox(region, &marked) != NULLREGION;
+        ::DeleteObject(region);
+        POINT corner { 0, 0 };
+        ::ClientToScreen(dialog.m_hWnd, &corner);
+        ::OffsetRect(&marked, corner.x, corner.y);
+        return isThere && marked.top == control.top && marked.bottom == control.bottom;
+    };
+    EXPECT_TRUE(PumpUntil([&] { return marks(118); }));
+    writeBytes("mark", "119\n");
+    EXPECT_TRUE(PumpUntil([&] { return marks(119); }));
+    writeBytes("mark", "\n");
+    EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(dialog.OverlayM()); }));
+}
