@@ -26,30 +26,32 @@ SeenSectionCL& SeenSectionsCL::findM(const char* header)
     return *last_;
 }
 
-void SeenSectionsCL::beginRecordM(const ValueSeenCL& first)
+// Before the first value of a record, and wherever more room is needed.
+void SeenSectionsCL::prepareM(const ValueSeenCL& value)
 {
-    SeenSectionCL& section = findM(first.section);
-    lastRecord_ = first.record;
+    SeenSectionCL& section = findM(value.section);
+    lastRecord_ = value.record;
     if (section.keepsLast && section.starts.empty()) {
-        section.firstBegin = static_cast<std::uint32_t>(first.span.begin);
+        section.firstBegin = static_cast<std::uint32_t>(value.span.begin);
     }
-    if (first.record >= section.RecordsM()) {
+    if (value.record >= section.RecordsM()) {
         if (section.keepsLast) {
             section.values.clear();
         }
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }
+    if (section.values.size() == section.values.capacity()) {
+        section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
+    }
 }
 
 void SeenSectionsCL::ValueM(const ValueSeenCL& value)
 {
-    if (value.record != lastRecord_ || value.section != lastHeader_) {
-        beginRecordM(value);
+    if (value.record != lastRecord_ || value.section != lastHeader_
+        || last_->values.size() == last_->values.capacity()) {
+        prepareM(value);
     }
     SeenSectionCL& section = *last_;
-    if (section.values.size() == section.values.capacity()) {
-        section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
-    }
     SeenValueCL& seen = section.values.emplace_back(); // Filled one by one: a copy would wait for its parts.
     seen.field = value.field;
     seen.begin = static_cast<std::uint32_t>(value.span.begin);

@@ -81,7 +81,7 @@ public:
 
 private:
     SeenSectionCL& findM(const char* header);
-    void beginRecordM(const ValueSeenCL& first);
+    void prepareM(const ValueSeenCL& value);
 
     std::vector<SeenSectionCL> sections_;
     const char* lastHeader_ { nullptr };

@@ -82,5 +82,7 @@ private:
 
 void checkBindings(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
 {
-    BindingsCheckerCL(file, controls, findings).CheckM();
+    if (file.SectionM(BindingHeader).soundRecords > 0) {
+        BindingsCheckerCL(file, controls, findings).CheckM();
+    }
 }

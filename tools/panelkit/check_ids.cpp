@@ -40,7 +40,7 @@ private:
     {
         int id;
         std::uint32_t at;
-        std::size_t control;
+        std::uint32_t control;
         bool operator<(const UseCL& other) const { return id != other.id ? id < other.id : at < other.at; }
     };
 
@@ -72,15 +72,15 @@ private:
         std::vector<UseCL> uses;
         uses.reserve(controls_.size());
         for (std::size_t i = 0; i < controls_.size(); ++i) {
-            uses.push_back({ controls_[i].id, controls_[i].idAt, i });
+            uses.push_back({ controls_[i].id, controls_[i].idAt, static_cast<std::uint32_t>(i) });
         }
         sortRows(uses);
-        std::vector<UseCL> firstOf; // Of each id.
-        firstOf.reserve(uses.size());
-        for (const UseCL& use : uses) {
+        std::size_t ids = 0; // Where in `uses` those end that are the first of their id.
+        for (std::size_t i = 0; i < uses.size(); ++i) {
+            const UseCL use = uses[i];
             const CheckedControlCL& control = controls_[use.control];
-            if (!firstOf.empty() && firstOf.back().id == use.id) {
-                UseCL& first = firstOf.back();
+            if (ids > 0 && uses[ids - 1].id == use.id) {
+                UseCL& first = uses[ids - 1];
                 const bool isFirstOdd = isOddM(first.control) && !isOddM(use.control);
                 const CheckedControlCL& odd = isFirstOdd ? controls_[first.control] : control;
                 const CheckedControlCL& other = isFirstOdd ? control : controls_[first.control];
@@ -88,20 +88,20 @@ private:
                 first.control = isFirstOdd ? use.control : first.control;
                 continue;
             }
-            firstOf.push_back(use);
+            uses[ids++] = use;
             if ((control.id == 1 || control.id == 2)
                 && !control.IsM({ StandardButtonCode, BmpButtonCode, MultiStateButtonCode })) {
                 findings_.AddM(Says::ReservedId, control.idAt,
                     { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
             }
         }
+        uses.resize(ids);
         for (const CheckedControlCL& spin : controls_) { // The arrows of spin edits are controls too.
             if (spin.arrowsId == 0) {
                 continue;
             }
-            const auto other
-                = std::lower_bound(firstOf.begin(), firstOf.end(), UseCL { spin.arrowsId, 0, 0 });
-            if (other != firstOf.end() && other->id == spin.arrowsId) {
+            const auto other = std::lower_bound(uses.begin(), uses.end(), UseCL { spin.arrowsId, 0, 0 });
+            if (other != uses.end() && other->id == spin.arrowsId) {
                 findings_.AddM(Says::DuplicateId, spin.arrowsAt,
                     { std::to_string(spin.arrowsId), lineM(controls_[other->control]) });
             }

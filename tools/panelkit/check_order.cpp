@@ -42,10 +42,11 @@ public:
         : file_(file)
         , controls_(controls)
         , findings_(findings)
-        , order_(stack.begin(), std::find_if(stack.begin(), stack.end(), [](const CheckedControlCL* control) {
-            return !control->isStacked;
-        }))
+        , order_ { stack.data(), stack.data() }
     {
+        while (order_.last < stack.data() + stack.size() && (*order_.last)->isStacked) {
+            ++order_.last;
+        }
     }
     void CheckM()
     {
@@ -153,7 +154,18 @@ private:
     FileReadingCL& file_;
     const CheckedControlsTP& controls_;
     FindingsCL& findings_;
-    StackTP order_; // Without those that have no place in the stack.
+    struct OrderCL // The stack without those that have no place in it.
+    {
+        const CheckedControlCL* const* first;
+        const CheckedControlCL* const* last;
+        const CheckedControlCL* const* begin() const { return first; }
+        const CheckedControlCL* const* end() const { return last; }
+        std::size_t size() const { return static_cast<std::size_t>(last - first); }
+        bool empty() const { return first == last; }
+        const CheckedControlCL* operator[](std::size_t i) const { return first[i]; }
+        const CheckedControlCL* back() const { return last[-1]; }
+    };
+    OrderCL order_;
 };
 
 } // namespace

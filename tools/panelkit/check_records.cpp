@@ -10,51 +10,53 @@
 
 namespace {
 
-std::uint32_t offsetOf(const RecordViewCL& view, const char* name)
+std::uint32_t offsetOf(const FieldCL& field)
 {
-    const FieldCL* const field = view.FindM(name);
-    return field != nullptr && field->seen != nullptr ? field->seen->begin : 0;
+    return field.seen != nullptr ? field.seen->begin : 0;
 }
 
 // May take the caption from the record.
-CheckedControlCL controlOf(
-    const RecordViewCL& view, int kind, const char* kindName, int grammar, int record, bool isStacked)
+CheckedControlCL controlOf(const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName,
+    int grammar, int record, bool isStacked)
 {
+    const FieldCL& index = *view.FindM("window_index");
+    const FieldCL& id = *view.FindM("function_id");
     const FieldCL& position = *view.FindM("position");
     const FieldCL& size = *view.FindM("size");
     CheckedControlCL control;
-    control.kind = kind;
-    control.kindName = kindName;
-    control.grammar = grammar;
+    control.kind = static_cast<std::int16_t>(kind);
+    control.grammar = static_cast<std::int16_t>(grammar);
     control.record = record;
     control.isStacked = isStacked;
-    control.windowIndex = view.IntM("window_index");
-    control.id = view.IntM("function_id");
+    control.windowIndex = index.ints[0];
+    control.id = id.ints[0];
     control.x = position.ints[0];
     control.y = position.ints[1];
     control.w = size.ints[0];
     control.h = size.ints[1];
-    control.idAt = offsetOf(view, "function_id");
-    control.indexAt = offsetOf(view, "window_index");
-    control.positionAt = offsetOf(view, "position");
-    if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
-        const char* const name = control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption";
-        CharArr& caption = *view.FindM(name)->text;
-        control.captionAt = offsetOf(view, name);
-        control.hasText = kind == LabelCode && !caption.EmptyM();
+    control.idAt = offsetOf(id);
+    control.indexAt = offsetOf(index);
+    control.positionAt = offsetOf(position);
 #ifdef _WIN32
-        control.caption = std::move(caption); // It is measured there.
+    control.kindName = kindName;
+    control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
 #endif
-        control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
+    if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
+        const FieldCL& caption = *view.FindM(control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption");
+        control.hasText = kind == LabelCode && !caption.text->EmptyM();
+#ifdef _WIN32
+        control.captionAt = offsetOf(caption);
+        control.caption = std::move(*caption.text);
+#endif
     }
     control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
     control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
     control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
         control.windowIndex = view.IntM("edit_window_index");
-        control.indexAt = offsetOf(view, "edit_window_index");
+        control.indexAt = offsetOf(*view.FindM("edit_window_index"));
         control.arrowsId = view.IntM("spin_function_id");
-        control.arrowsAt = offsetOf(view, "spin_function_id");
+        control.arrowsAt = offsetOf(*view.FindM("spin_function_id"));
     }
     return control;
 }
@@ -88,15 +90,30 @@ std::unordered_map<int, std::size_t> entriesById(FileReadingCL& file, const Seen
 
 StackTP stackOf(const CheckedControlsTP& controls)
 {
-    std::vector<std::pair<std::int64_t, const CheckedControlCL*>> places;
+    struct PlaceCL
+    {
+        int index;
+        std::uint32_t control;
+        bool operator<(const PlaceCL& other) const { return index < other.index; }
+    };
+    std::vector<PlaceCL> places;
     places.reserve(controls.size());
-    for (const CheckedControlCL& control : controls) {
-        places.push_back({ control.isStacked ? std::int64_t { control.windowIndex } : INT64_MAX, &control });
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (controls[i].isStacked) {
+            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
+        }
     }
-    sortRows(places); // Of equal places the first record's is first.
-    StackTP stack(places.size());
-    std::transform(
-        places.begin(), places.end(), stack.begin(), [](const auto& place) { return place.second; });
+    sortRows(places);
+    StackTP stack;
+    stack.reserve(controls.size());
+    for (const PlaceCL& place : places) {
+        stack.push_back(&controls[place.control]);
+    }
+    for (const CheckedControlCL& control : controls) {
+        if (!control.isStacked) {
+            stack.push_back(&control);
+        }
+    }
     return stack;
 }
 
@@ -200,7 +217,7 @@ private:
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
             if (isInvisible(RowTP::Code, view_)) {
-                found_.AddM(Says::InvisibleTabStop, offsetOf(view_, "function_id"));
+                found_.AddM(Says::InvisibleTabStop, offsetOf(*view_.FindM("function_id")));
             }
             recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
         });

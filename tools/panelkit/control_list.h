@@ -9,24 +9,28 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind { 0 };              // Its KindCode; 0 for a new rotate button.
-    const char* kindName { "" }; // As dump has it.
-    int grammar { 0 };           // Its section,
-    int record { 0 };            // and its place there.
+    // Small: there may be very many.
+    std::int16_t kind { 0 };    // Its KindCode; 0 for a new rotate button.
+    std::int16_t grammar { 0 }; // Its section,
+    int record { 0 };           // and its place there.
     int windowIndex { 0 };
     int id { 0 };
     int x { 0 }, y { 0 }, w { 0 }, h { 0 };
     std::uint32_t idAt { 0 }, indexAt { 0 }, positionAt { 0 }; // Offsets in the file.
-    std::uint32_t captionAt { 0 };
-    CharArr caption; // Of a kind that shows one, where captions are measured; GBK.
     int group { 0 };
     int arrowsId { 0 }; // Of a spin edit; 0 for none.
     std::uint32_t arrowsAt { 0 };
     bool isStacked { false }; // Its window index counts.
     bool hasText { false };
-    bool isSunken { false };
     bool isReadOnly { false };
     bool isDefault { false };
+#ifdef _WIN32
+    // Captions are measured there.
+    bool isSunken { false };
+    std::uint32_t captionAt { 0 };
+    CharArr caption;             // Of a kind that shows one; GBK.
+    const char* kindName { "" }; // As dump has it.
+#endif
     bool IsM(std::initializer_list<int> kinds) const
     {
         for (const int other : kinds) {
@@ -37,7 +41,10 @@ struct CheckedControlCL
         return false;
     }
     // Reaches from x to this, and from y to this; of a combo box only what shows while its list is closed.
-    std::int64_t RightM() const { return std::int64_t { x } + w; }
+    std::int64_t RightM() const
+    {
+        return std::int64_t { x } + w;
+    }
     std::int64_t BottomM() const
     {
         constexpr int ComboHeight = 24;
