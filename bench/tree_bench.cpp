@@ -113,5 +113,5 @@ int main()
     normal = &normalPicture;
     selected = &selectedPicture;
     return runFillingBench(
-        { "tree_10000_over_raw", description(normal->path(), selected->path()), seen, fill }, 7);
+        { "tree_10000_over_raw", description(normal->path(), selected->path()), seen, fill }, 3);
 }

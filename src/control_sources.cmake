@@ -29,6 +29,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/lists/bitmap_list_box.cpp
   controls/lists/combo_box.cpp
   controls/lists/combo_box_value.cpp
+  controls/lists/combo_field.cpp
   controls/lists/list_box.cpp
   controls/lists/list_control.cpp
   controls/lists/text_list_box.cpp

@@ -52,6 +52,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   dialog/relation.cpp
   dialog/translation.cpp
   editing/description_editor.cpp
+  editing/description_editor_records.cpp
   editing/edit_plan.cpp
   editing/editor_operations.cpp
   editing/editor_state.cpp

@@ -4,29 +4,46 @@ local M = {}
 local space = vim.api.nvim_create_namespace("panelkit_hints")
 local options = { command = "panelkit" }
 
--- What a line's values are called, behind the line: for a Neovim that can't show hints between the values.
+-- Words in lines of a width.
+local function wrapped(words, width)
+  local lines = {}
+  local line = ""
+  for _, word in ipairs(words) do
+    if #line > 0 and #line + #word + 2 > width then
+      table.insert(lines, { { line, "Comment" } })
+      line = ""
+    end
+    line = line .. "  " .. word
+  end
+  table.insert(lines, { { line, "Comment" } })
+  return lines
+end
+
+-- What the values of the cursor's line are called, below it: for a Neovim that can't show hints between the values.
 local function show_hints(buffer, client_id)
   local client = vim.lsp.get_client_by_id(client_id)
   if not client or vim.api.nvim_get_current_buf() ~= buffer then
     return
   end
-  local line = vim.api.nvim_win_get_cursor(0)[1] - 1
-  local last = vim.str_utfindex(vim.api.nvim_get_current_line())
+  local number = vim.api.nvim_win_get_cursor(0)[1] - 1
+  local line = vim.api.nvim_get_current_line()
+  local _, last = vim.str_utfindex(line)
   client.request("textDocument/inlayHint", {
     textDocument = vim.lsp.util.make_text_document_params(buffer),
-    range = { start = { line = line, character = 0 }, ["end"] = { line = line, character = last } },
+    range = { start = { line = number, character = 0 }, ["end"] = { line = number, character = last } },
   }, function(error, hints)
     if error or not hints or not vim.api.nvim_buf_is_valid(buffer) then
       return
     end
-    local names = {}
+    local words = {}
     for _, hint in ipairs(hints) do
-      table.insert(names, (hint.label:gsub(":$", "")))
+      local at = vim.str_byteindex(line, hint.position.character, true)
+      table.insert(words, hint.label .. " " .. (line:match("%S+", at + 1) or ""))
     end
     vim.api.nvim_buf_clear_namespace(buffer, space, 0, -1)
-    if #names > 0 and line < vim.api.nvim_buf_line_count(buffer) then
-      vim.api.nvim_buf_set_extmark(buffer, space, line, 0, {
-        virt_text = { { "  " .. table.concat(names, " · "), "Comment" } },
+    if #words > 0 and number < vim.api.nvim_buf_line_count(buffer) then
+      vim.api.nvim_buf_set_extmark(buffer, space, number, 0, {
+        virt_lines = wrapped(words, vim.api.nvim_win_get_width(0) - 10),
       })
     end
   end, buffer)

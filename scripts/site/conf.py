@@ -50,7 +50,7 @@ def add_contents(app, page, source):
 
 # Blocks of these languages are text: sections of description files, wrong and right.
 def name_languages(app):
-    for name in ("dlg", "head", "wrong", "right", "output"):
+    for name in ("dlg", "head", "wrong", "right", "output", "rc"):
         app.add_lexer(name, TextLexer)
 
 

@@ -63,7 +63,7 @@ public:
     // read anew by each build.
     int SetScaleM(int percent);
     int ScaleM() const { return scale_.PercentM(); } // The scale of the last build or change; else 100.
-    static constexpr int AutomaticScale = 0;
+    static constexpr int AutomaticScale = 0;         // For SetScaleM: the scale of the monitor.
     static constexpr int LeastScale = 50;
     static constexpr int MostScale = 800;
 

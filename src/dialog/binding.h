@@ -13,7 +13,7 @@ enum EdgeBinding : int
 // How far the edges of a rectangle are from the left and the top, in pixels.
 struct EdgesCL
 {
-    int left { 0 };
+    int left { 0 }; // Of its left edge from the left.
     int top { 0 };
     int right { 0 };
     int bottom { 0 };
@@ -49,7 +49,7 @@ struct GrowthCL
 // A control cannot be stretched in some directions: a picture in none.
 struct KeptSizeCL
 {
-    bool width { false };
+    bool width { false }; // Its width stays.
     bool height { false };
 };
 

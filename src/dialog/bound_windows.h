@@ -38,6 +38,7 @@ struct DialogStretchCL
     bool isZoomed { false };
     RECT zoomed {}; // The window then.
 
+    // Whether it is larger than the file's size.
     bool IsLargerM() const { return size[0] > fileSize[0] || size[1] > fileSize[1]; }
     // A width (i 0) or height (1) at the file's size made larger in proportion.
     int OfM(int i, int length) const { return IsLargerM() ? ::MulDiv(length, size[i], fileSize[i]) : length; }

@@ -1,5 +1,5 @@
 #pragma once
-#include "editing/description_editor.h"
+#include "editing/edit_places.h"
 #include "editing/edit_plan.h"
 #include <functional>
 #include <optional>

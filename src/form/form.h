@@ -19,7 +19,7 @@ struct FormOptions
     std::function<void(const panelkit_diagnostic&)> diagnostics; // Told what the file lacks or says wrongly.
     // Of its texts, as "en" or "pt_BR": FILE.en.mo beside FILE.dlg has them, else those of the file are
     // shown. Empty: the system's; nullopt: those of the file. What names no language: the form has no dialog.
-    std::optional<std::string> language;
+    std::optional<std::string> language = std::nullopt;
 };
 
 // The dialog of a description file. Texts are UTF-8. Getters give nullopt and setters false for an unknown

@@ -7,6 +7,7 @@
 class PANELKIT_API ScalingCL : public FieldVisitorCL
 {
 public:
+    // scale: of the records that it will see.
     explicit ScalingCL(const ScaleCL& scale)
         : scale_(scale)
     {

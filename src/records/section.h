@@ -61,6 +61,7 @@ private:
 class PANELKIT_API IdsOfRecordsCL
 {
 public:
+    // count: how many to make room for; it may be wrong.
     explicit IdsOfRecordsCL(int count) { ids_.reserve(static_cast<std::size_t>(std::max(count, 0))); }
     void AddM(int id, int index) { ids_.push_back({ id, index }); } // In rising order of index.
     void SortM();                                                   // Once all are there.

@@ -1,6 +1,8 @@
 // The tables of the docs tell of each value what the code does: its name, its kind, its default, its choices.
 #include "controls/buttons/new_rotate_btn_record.h"
+#include "dialog/binding.h"
 #include "dialog/dialog_header.h"
+#include "dialog/relation.h"
 #include "support/description_files.h"
 #include "support/kind_types.h"
 #include "support/printed.h"
@@ -127,15 +129,18 @@ void expectTold(const std::vector<FieldToldCL>& fields, const std::vector<RowTP>
     }
 }
 
-template <class RecordTP> void expectPage(const std::string& page, const char* header)
+// sections: the values of the kind's sections, its main one first.
+void expectPage(const std::string& page, const char* header, std::vector<ToTellCL> sections)
 {
     SCOPED_TRACE(page);
-    RecordTP record;
-    ToTellCL told;
-    record.EachFieldM(told);
+    sections.erase(std::remove_if(sections.begin(), sections.end(),
+                       [](const ToTellCL& section) { return section.fields.empty(); }),
+        sections.end());
     const auto tables = tablesOf(page);
-    EXPECT_EQ(tables.size(), told.fields.empty() ? 0U : 1U);
-    expectTold(told.fields, tables.empty() ? std::vector<RowTP>() : tables[0]);
+    ASSERT_EQ(tables.size(), sections.size());
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        expectTold(sections[i].fields, tables[i]);
+    }
     const std::string text = wholeFile(std::string(PANELKIT_DOCS "/") + page);
     EXPECT_NE(text.substr(0, text.find('\n')).find("`" + slGbkToUtf8(header) + "`"), std::string::npos);
     // Its example is in a block of its own, and the picture of that behind it.
@@ -159,13 +164,28 @@ TYPED_TEST_SUITE(DocsTest, EveryRowTP, KindNamesCL);
 TYPED_TEST(DocsTest, TellTheValuesOfTheKind)
 {
     using RecordsTP = typename TypeParam::Records;
-    expectPage<typename RecordsTP::RecordTP>(
-        "kinds/" + std::string(RecordsTP::KindName) + ".md", RecordsTP::Header);
+    std::vector<ToTellCL> sections(1);
+    typename RecordsTP::RecordTP().EachFieldM(sections[0]);
+    for (const auto& secondary : RecordsTP::Secondaries) {
+        SectionEntryCL().EachFieldM(sections.emplace_back(), secondary.fields);
+    }
+    expectPage("kinds/" + std::string(RecordsTP::KindName) + ".md", RecordsTP::Header, sections);
 }
 
 TEST(Docs, TellTheValuesOfTheNewRotateButton)
 {
-    expectPage<DVrNewRotateBtnCL>("kinds/new_rotate_button.md", NewRotateBtnHeader);
+    std::vector<ToTellCL> sections(2);
+    ToTellCL common;
+    DVrNewRotateBtnCL record;
+    record.EachCommonFieldM(common, 1);
+    for (const FieldToldCL& field : common.fields) { // Of these the one that other kinds don't have.
+        if (field.name == "item_index") {
+            sections[0].fields.push_back(field);
+        }
+    }
+    record.EachFieldM(sections[0]);
+    SlotPictureCL().EachFieldM(sections[1]);
+    expectPage("kinds/new_rotate_button.md", NewRotateBtnHeader, sections);
 }
 
 TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
@@ -176,10 +196,28 @@ TEST(Docs, TellTheValuesOfTheHeaderAndWhatAllKindsHave)
     DVrCommonBoxCL common;
     ToTellCL ofAll;
     common.EachCommonFieldM(ofAll);
+    RelationCL relation;
+    ToTellCL ofRelations;
+    relation.EachFieldM(ofRelations);
+    BindingCL binding;
+    ToTellCL ofBindings;
+    binding.EachFieldM(ofBindings);
     const auto tables = tablesOf("description-file.md");
-    ASSERT_EQ(tables.size(), 2U);
+    ASSERT_EQ(tables.size(), 4U);
     expectTold(ofHeader.fields, tables[0]);
     expectTold(ofAll.fields, tables[1]);
+    expectTold(ofRelations.fields, tables[2]);
+    expectTold(ofBindings.fields, tables[3]);
+}
+
+TEST(Docs, TellTheValuesOfABinding)
+{
+    BindingCL binding;
+    ToTellCL told;
+    binding.EachFieldM(told);
+    const auto tables = tablesOf("resizing.md");
+    ASSERT_EQ(tables.size(), 1U);
+    expectTold(told.fields, tables[0]);
 }
 
 TEST(Docs, TellTheTableOfKinds)

@@ -5,7 +5,7 @@ sources=$1 command=$2
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 mkdir -p "$folder/scripts" "$folder/tests"
-cp -r "$sources"/{README.md,docs,examples} "$folder"
+cp -r "$sources"/{README.md,cmake,docs,examples} "$folder"
 cp -r "$sources/scripts/site" "$folder/scripts"
 cp -r "$sources/tests"/{docs,scripts,samples} "$folder/tests"
 cd "$folder"

@@ -312,15 +312,23 @@ public:
     {
         return { { "start", PlaceM(begin) }, { "end", PlaceM(end) } };
     }
-    // Types, in place of what stands there.
-    void TypeM(std::size_t begin, std::size_t end, const std::u16string& typed)
+    // Changes the text; what the server is to be told of it.
+    LspJson ChangeM(std::size_t begin, std::size_t end, const std::u16string& typed)
     {
         const LspJson range = RangeM(begin, end);
         text.replace(begin, end - begin, typed);
+        return { { "range", range }, { "text", slUtf16ToUtf8(typed.data(), typed.size()) } };
+    }
+    void TellM(const LspJson& changes)
+    {
         client_.NotifyM("textDocument/didChange",
             { { "textDocument", { { "uri", uri }, { "version", ++version } } },
-                { "contentChanges",
-                    { { { "range", range }, { "text", slUtf16ToUtf8(typed.data(), typed.size()) } } } } });
+                { "contentChanges", changes } });
+    }
+    // Types, in place of what stands there.
+    void TypeM(std::size_t begin, std::size_t end, const std::u16string& typed)
+    {
+        TellM(LspJson::array({ ChangeM(begin, end, typed) }));
     }
     // Applies what the server wants changed, as an editor does: all ranges mean the text before.
     void ApplyM(LspJson edits)

@@ -44,11 +44,16 @@ public:
         const bool isLong = text_.text.size() > MostText;
         const std::size_t most = isLong ? 40 : 6;
         const std::size_t length = belowM(3) == 0 || isLong ? belowM(most) : 0;
-        text_.TypeM(
-            at, std::min(at + length, text_.text.size()), isLong ? u"" : Typed[belowM(std::size(Typed))]);
+        changes_.push_back(text_.ChangeM(
+            at, std::min(at + length, text_.text.size()), isLong ? u"" : Typed[belowM(std::size(Typed))]));
+        if (belowM(50) == 0) { // Editors too tell of several at once.
+            TellM();
+        }
     }
+    void TellM() { text_.TellM(std::exchange(changes_, LspJson::array())); }
     void AskM()
     {
+        TellM();
         static const char* const Methods[] { "hover", "completion", "definition", "references",
             "prepareRename", "documentSymbol", "foldingRange", "documentColor", "formatting", "inlayHint",
             "codeAction" };
@@ -59,6 +64,7 @@ public:
     // What the server has told, as check tells it of the same bytes.
     void CompareM()
     {
+        TellM();
         std::string told;
         for (const LspJson& finding : text_.FindingsM()) {
             const LspJson& start = finding["range"]["start"];
@@ -80,6 +86,7 @@ private:
     std::size_t belowM(std::size_t limit) { return random_() % limit; }
 
     EditedTextCL& text_;
+    LspJson changes_ = LspJson::array(); // Not told yet.
     std::mt19937 random_ { 20 };
 };
 

@@ -66,8 +66,7 @@ TEST(ProgramLook, IsTodaysInTheCommandAndEveryExample)
         const wchar_t* const space = L"http://schemas.microsoft.com/SMI/";
         EXPECT_EQ(manifest.SettingM((std::wstring(space) + L"2005/WindowsSettings").c_str(), L"dpiAware"),
             L"true/pm");
-        EXPECT_EQ(
-            manifest.SettingM((std::wstring(space) + L"2016/WindowsSettings").c_str(), L"dpiAwareness"),
+        EXPECT_EQ(manifest.SettingM((std::wstring(space) + L"2016/WindowsSettings").c_str(), L"dpiAwareness"),
             L"PerMonitorV2, PerMonitor");
     }
 }

@@ -146,7 +146,7 @@ TEST(Strings, GettextTakesTheTemplateAndItsCatalogueIsRead)
     const TempFile made("", ".pot");
     const TempFile begun("", ".po");
     const std::string catalogue = std::string(file.path(), std::strlen(file.path()) - 4) + ".de.mo";
-    for (const char* const options : { "", " --contexts", " --messages", " --contexts --messages" }) {
+    for (const char* const options : { "", " --contexts --messages" }) {
         const std::string pot = std::string(" \"") + made.path() + "\"";
         const std::string po = std::string(" \"") + begun.path() + "\"";
         ASSERT_EQ(runCommand(std::string("strings \"") + file.path() + "\"" + options + " -o" + pot).code, 0);

@@ -94,7 +94,8 @@ int run(std::vector<std::string> arguments)
     shot->add_option("--size", size,
             "pictures the dialog at another size, frame included, if its file says how its controls follow")
         ->type_name("WIDTH HEIGHT")
-        ->expected(2)
+        ->type_size(2)
+        ->allow_extra_args(false)
         ->check(CLI::Range(1, 32767));
     shot->add_flag("--ids", shown.showsIds, "writes id, place and Tab stop on each control");
     shot->add_option("-o", shown.folder,

@@ -61,6 +61,9 @@ int shotCommand(const ShotOptionsCL& options)
                     + std::to_string(status));
             }
         }
+        if (built && options.scale != 0) { // What lies beyond the screen is in no picture.
+            ::SetWindowPos(dialog.m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
         if (built && options.width > 0 && !dialog.SetSizeM(options.width, options.height)) {
             return complain("the dialog of '" + file.said + "' can't be resized: no control of it is bound");
         }

@@ -7,7 +7,7 @@ class PANELKIT_API AnimationCL : public PictureStaticCL
 public:
     int SetInitBmpNumM(int n); // Room for n frames, n < 1: nothing. 1.
     void DelItemM();
-    void RescaledM(int from, int to);
+    void RescaledM(int from, int to); // Its frames follow.
     // Deletes a frame; nothing outside the list. If it is the current one there is none from then on, and the
     // window shows so. 1.
     int DeleteBmpM(int index);

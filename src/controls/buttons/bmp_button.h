@@ -28,7 +28,7 @@ public:
     DVrRgnCL* GetDrawRgnM() { return &drawRgn_; }  // The window's shape, once there is a window.
     void destroyM();                               // Deletes the regions and pictures.
     void DelItemM();
-    void RescaledM(int from, int to);
+    void RescaledM(int from, int to); // Pictures and regions follow.
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

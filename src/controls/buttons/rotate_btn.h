@@ -40,7 +40,7 @@ public:
     bool WriteValueM(const ControlValueCL& value);
 
     void DelItemM();
-    void RescaledM(int from, int to);
+    void RescaledM(int from, int to); // Pictures, centre and region follow.
 
     void drawBkM(CDC* dc);               // The background from its corner over the client rectangle.
     void drawRotM(CDC* dc, float angle); // The turned picture; composed anew only after a change.

@@ -19,9 +19,11 @@ int DVrDraw2DCL::InitDraw2DM(DuDraw2DCL* control) const
 
 BOOL DuDraw2DCL::OnEraseBkgnd(CDC* dc)
 {
-    CRect client;
-    GetClientRect(&client);
-    drawUnderM(*dc, client.Size());
+    if (dc != nullptr) {
+        CRect client;
+        GetClientRect(&client);
+        drawUnderM(*dc, client.Size());
+    }
     return CStatic::OnEraseBkgnd(dc);
 }
 

@@ -85,7 +85,7 @@ LRESULT DuBmpListBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == LB_RESETCONTENT || message == WM_DESTROY) {
         pictures_.DelAllM();
     }
-    const LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
+    const LRESULT result = ListBoxCL::WindowProc(message, wParam, lParam);
     // The parent may have destroyed this object.
     if (message == LB_DELETESTRING && result != LB_ERR && CWnd::FromHandlePermanent(window) == this) {
         pictures_.DelItemM(pictures_.SlotOfLineM(static_cast<int>(wParam)));
@@ -128,7 +128,8 @@ void DuBmpListBoxCL::RescaledM(int, int)
 
 void DuBmpListBoxCL::DrawItem(LPDRAWITEMSTRUCT draw)
 {
-    if (draw == nullptr) {
+    CDC* const dc = draw != nullptr ? CDC::FromHandle(draw->hDC) : nullptr;
+    if (dc == nullptr) { // The system may be out of contexts.
         return;
     }
     if (pictures_.GetAvailableNumM() == 0 || draw->itemID == static_cast<UINT>(-1)
@@ -137,7 +138,6 @@ void DuBmpListBoxCL::DrawItem(LPDRAWITEMSTRUCT draw)
     }
     constexpr COLORREF Selected = 0xFF0000; // Blue.
     constexpr COLORREF Unselected = 0xFFFFFF;
-    CDC* const dc = CDC::FromHandle(draw->hDC);
     const int slot = pictures_.SlotOfLineM(static_cast<int>(draw->itemID));
     int size[2];
     if (pictures_.GetBmpSizeM(slot, size) == 1) {

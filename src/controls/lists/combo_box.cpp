@@ -1,6 +1,7 @@
 #include "controls/lists/combo_box.h"
 #include "baselib/gbk.h"
 #include "controls/lists/combo_box_record.h"
+#include "controls/lists/combo_field.h"
 #include "controls/lists/filling.h"
 #include <cstring>
 
@@ -172,6 +173,9 @@ int DuComboBoxCL::SetDataSelM(int data)
 LRESULT DuComboBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = m_hWnd;
+    if (message == WM_COMMAND && HIWORD(wParam) == EN_SETFOCUS) {
+        slGuardComboField(reinterpret_cast<HWND>(lParam));
+    }
     const bool colours = looks_.ColoursM(message); // Its field or its list asks.
     LRESULT result = ControlCL::WindowProc(message, wParam, lParam);
     if (colours) {

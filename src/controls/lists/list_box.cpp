@@ -79,3 +79,13 @@ bool ListBoxCL::WriteValueM(const ControlValueCL& value)
     }
     return true;
 }
+
+LRESULT ListBoxCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    // In Wine 8 the key that selects the line in front, or takes that back, ends a program where there is no
+    // line.
+    if (message == WM_KEYDOWN && wParam == VK_SPACE && selectsM(LBS_MULTIPLESEL) && GetCount() == 0) {
+        return 0;
+    }
+    return ControlCL::WindowProc(message, wParam, lParam);
+}

@@ -23,6 +23,7 @@ public:
     void ClearLinesM() { ResetContent(); }
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DWORD selectionStyleM() const; // The window style of the selection mode.
     bool selectsM(DWORD styles) const { return (GetStyle() & styles) != 0; } // One of these.
     int selectM(int line, BOOL select); // In a list that selects several lines; 0 in any other.

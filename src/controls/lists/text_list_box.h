@@ -1,8 +1,8 @@
 #pragma once
 #include "controls/base/background.h"
 #include "controls/base/control_arr.h"
-#include "controls/lists/translated_lines.h"
 #include "controls/lists/list_box.h"
+#include "controls/lists/translated_lines.h"
 
 // A list box of text lines, each with a number of the application. Texts are GBK, heights pixels; lines count
 // from 0.

@@ -49,7 +49,7 @@ public:
     const ValueTextCL* FindM(HTREEITEM item, const std::wstring& shown) const;
     void PutM(HTREEITEM item, const std::wstring& shown, const ValueTextCL& original);
     bool EmptyM() const { return texts_ == nullptr; } // No item shows a translation.
-    void ClearM() { texts_.reset(); }
+    void ClearM() { texts_.reset(); }                 // None does from now on.
 
 private:
     struct TextCL

@@ -70,34 +70,44 @@ int DuSpinEditCL::Create(CWnd* parent)
     if (result == 1) {
         spinButton_.SetBuddy(this);
         noteJointM(describedRectM());
+        if (platformWidth_ != 0 && PictureScaleM().PercentM() != 100) {
+            joinM(describedRectM());
+        }
     }
     return result;
 }
 
-// How the arrows stand at the field, as the platform has joined them; place: what both have together.
+// How the arrows stand at the field, as the platform has joined them; place: what both have together. A
+// platform that gives arrows a width of its own means that of 100 %.
 void DuSpinEditCL::noteJointM(const CRect& place)
 {
     const CRect field = rectInParent(m_hWnd);
     const CRect arrows = rectInParent(spinButton_.m_hWnd);
     joint_ = { arrows.left - field.right, arrows.top - field.top, arrows.right - place.right,
         arrows.bottom - field.bottom };
-    moreWidth_ = arrows.Width() - slWindowLength(spinWidth_);
+    platformWidth_ = arrows.Width() == slWindowLength(spinWidth_) ? 0 : arrows.Width();
 }
 
-void DuSpinEditCL::RescaledM(int, int)
+// Puts both into a place as they were joined.
+void DuSpinEditCL::joinM(const CRect& place)
 {
-    if (m_hWnd == nullptr || spinButton_.GetSafeHwnd() == nullptr) {
-        return;
-    }
-    CRect field = rectInParent(m_hWnd); // All of the place.
-    const int right = field.right + joint_.right;
-    const CRect arrows(right - slWindowLength(spinWidth_) - moreWidth_, field.top + joint_.top, right,
-        field.bottom + joint_.bottom);
+    const ScaleCL scale(PictureScaleM().PercentM());
+    const int width = platformWidth_ != 0 ? scale.SizeM(platformWidth_) : slWindowLength(spinWidth_);
+    const int right = place.right + joint_.right;
+    const CRect arrows(right - width, place.top + joint_.top, right, place.bottom + joint_.bottom);
+    CRect field = place;
     field.right = arrows.left - joint_.left;
     constexpr UINT Flags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW;
     ::SetWindowPos(m_hWnd, nullptr, field.left, field.top, field.Width(), field.Height(), Flags);
     ::SetWindowPos(
         spinButton_.m_hWnd, nullptr, arrows.left, arrows.top, arrows.Width(), arrows.Height(), Flags);
+}
+
+void DuSpinEditCL::RescaledM(int, int)
+{
+    if (m_hWnd != nullptr && spinButton_.GetSafeHwnd() != nullptr) {
+        joinM(rectInParent(m_hWnd)); // The field has all of it now.
+    }
 }
 
 BOOL DuSpinEditCL::PreCreateWindow(CREATESTRUCT& create)

@@ -62,6 +62,7 @@ private:
     CheckCode steppedM(int delta, simpleValD* value) const;
     MessageTextId stepMessageM(CheckCode code) const;
     void noteJointM(const CRect& place);
+    void joinM(const CRect& place);
     bool tellM(MessageTextId message);
     bool tellCheckedM();
 
@@ -70,9 +71,9 @@ private:
     RefusalCL refusal_;
     int alignMode_ { 2 };
     int spinWidth_ { 0 };
-    CRect
-        joint_; // How far the edges of the arrows are from those of the field, the right one from the place.
-    int moreWidth_ { 0 }; // What the arrows have more than the width they were given.
+    // How far the edges of the arrows are from those of the field, the right one from that of both.
+    CRect joint_;
+    int platformWidth_ { 0 }; // Of the arrows, where the platform takes no other; else 0.
     simpleValD step_;
 };
 

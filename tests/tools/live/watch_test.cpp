@@ -1,4 +1,5 @@
 // The preview follows its file.
+#include "support/catalogue_file.h"
 #include "tools/live/live_preview.h"
 
 using namespace testing_support;
@@ -37,6 +38,23 @@ TEST(Watch, ChangeIsShownWithinHalfASecond)
     std::sort(times.begin(), times.end());
     EXPECT_LE(times[3], 500U) << "the fastest: " << times[0] << ", the slowest: " << times[6];
     RecordProperty("milliseconds", static_cast<int>(times[3]));
+}
+
+TEST(Watch, TheCatalogueOfTheLanguageIsFollowedToo)
+{
+    const WorkFolderCL folder;
+    writeDescription(labelOf("first"));
+    ViewOptionsCL options = watching();
+    options.textLanguage = "en_GB";
+    const LivePreviewCL dialog(options);
+    ASSERT_TRUE(dialog.ShowsM(11, "first"));
+    {
+        const CatalogueBesideCL catalogue("a.dlg", "en", TextsTP { { "first", "one" } });
+        EXPECT_TRUE(PumpUntil([&] { return dialog.ShowsM(11, "one"); }));
+        const CatalogueBesideCL narrower("a.dlg", "en_GB", TextsTP { { "first", "another" } });
+        EXPECT_TRUE(PumpUntil([&] { return dialog.ShowsM(11, "another"); }));
+    }
+    EXPECT_TRUE(PumpUntil([&] { return dialog.ShowsM(11, "first"); }));
 }
 
 TEST(Watch, BrokenFileKeepsTheLastGoodDialogAndSaysWhy)

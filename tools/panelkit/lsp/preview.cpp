@@ -43,6 +43,10 @@ long long startView(const fs::path& file, const fs::path& mark, Language languag
     SECURITY_ATTRIBUTES inherited { sizeof inherited, nullptr, TRUE };
     const HANDLE nothing = ::CreateFileW(L"NUL", GENERIC_READ | GENERIC_WRITE,
         FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, OPEN_EXISTING, 0, nullptr);
+    // What it inherited of ours would keep the client waiting for the end of our output.
+    for (const DWORD standard : { STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE }) {
+        ::SetHandleInformation(::GetStdHandle(standard), HANDLE_FLAG_INHERIT, 0);
+    }
     STARTUPINFOW start {};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES; // Ours are the client's.
