@@ -161,19 +161,13 @@ private:
         if (field.name != name) {
             ++shape_;
         }
-        // One by one: a field copied whole would wait for its parts to be written.
-        field.name = name;
-        field.verb = verb;
+        if (field.name != name || field.verb != verb) {
+            field = FieldCL(); // Else the same members are set again.
+            field.name = name;
+            field.verb = verb;
+        }
         field.seen = next_ < end_ ? next_ : nullptr;
         field.parts = parts;
-        field.ints = nullptr;
-        field.text = nullptr;
-        field.value = nullptr;
-        field.reals = nullptr;
-        field.type = IntegerType;
-        field.size = 0;
-        field.firstChoice = nullptr;
-        field.lastChoice = nullptr;
         next_ = std::min(next_ + parts, end_);
         return field;
     }
