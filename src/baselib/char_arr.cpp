@@ -1,10 +1,13 @@
 #include "baselib/char_arr.h"
 #include "baselib/gbk.h"
+#include <algorithm>
 #include <cstring>
 
 CharArr& CharArr::operator=(const CharArr& other)
 {
-    SetM(other.TextM());
+    if (text_ || other.text_) {
+        SetM(other.TextM());
+    }
     return *this;
 }
 
@@ -28,6 +31,20 @@ int CharArr::SetM(const char* bytes, std::size_t length)
     }
     text_ = std::move(made);
     return 1;
+}
+
+void CharArr::SetWithinM(const char* bytes, std::size_t length, std::size_t room)
+{
+    if (!text_) {
+        text_.reset(new char[room]);
+    }
+    const std::size_t most = std::min(length, room - 1);
+    const void* const nul = most > 0 ? std::memchr(bytes, '\0', most) : nullptr;
+    const std::size_t kept = nul != nullptr ? static_cast<const char*>(nul) - bytes : most;
+    if (kept > 0) {
+        std::memmove(text_.get(), bytes, kept);
+    }
+    text_[kept] = '\0';
 }
 
 int CharArr::GetM(char* out, int size) const

@@ -25,6 +25,16 @@ public:
     // Whether it has no byte.
     bool EmptyM() const { return *TextM() == '\0'; }
 
+    // For a text that is set again and again: the same, in a block with room for `room` bytes with the
+    // terminator, which the text held is too; longer ones are cut. ClearM keeps the block.
+    void SetWithinM(const char* bytes, std::size_t length, std::size_t room);
+    void ClearM()
+    {
+        if (text_) {
+            text_[0] = '\0';
+        }
+    }
+
 private:
     std::unique_ptr<char[]> text_;
 };

@@ -1,6 +1,8 @@
 #include "baselib/file_text.h"
+#include "baselib/character_starts.h"
 #include "baselib/gbk.h"
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 FileTextCL::FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size)
@@ -10,7 +12,7 @@ FileTextCL::FileTextCL(std::unique_ptr<char[]> bytes, std::size_t size)
 }
 
 FileTextCL::FileTextCL(std::string_view bytes)
-    : FileTextCL(std::make_unique<char[]>(bytes.size() + 1), bytes.size())
+    : FileTextCL(std::unique_ptr<char[]>(new char[bytes.size() + 1]), bytes.size()) // Not zeroed first.
 {
     std::copy(bytes.begin(), bytes.end(), bytes_.get());
 }
@@ -34,7 +36,18 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
         }
     }
     offset = std::min(offset, size_);
-    const auto next = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
+    // Mostly asked for in rising order: in growing steps from the last one on.
+    auto from = lineStarts_.begin();
+    auto to = lineStarts_.end();
+    if (offset >= lastStart_) {
+        from += static_cast<std::ptrdiff_t>(last_.line) - 1;
+        std::ptrdiff_t step = 1;
+        for (; to - from > step && from[step] <= offset; step *= 2) {
+            from += step;
+        }
+        to = to - from > step ? from + step : to;
+    }
+    const auto next = std::upper_bound(from, to, offset);
     const auto line = static_cast<std::size_t>(next - lineStarts_.begin());
     const std::size_t start = *(next - 1);
     std::size_t end = next != lineStarts_.end() ? *next - 1 : size_;
@@ -57,4 +70,42 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
     }
     lastStart_ = static_cast<std::size_t>(at - bytes);
     return last_;
+}
+
+void FileTextCL::findHeadersM() const
+{
+    hasHeaders_ = true;
+    const char* const end = bytes_.get() + size_;
+    CharacterStartsCL starts(bytes_.get());
+    for (const char* at = bytes_.get();
+         (at = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at)))) != nullptr;
+         ++at) {
+        if (starts.IsStartM(at, end)) {
+            headers_.push_back(static_cast<std::size_t>(at - bytes_.get()));
+        }
+    }
+}
+
+std::size_t FileTextCL::HeaderEndM(std::string_view header) const
+{
+    if (!hasHeaders_) {
+        findHeadersM();
+    }
+    const char* const end = bytes_.get() + size_;
+    for (const std::size_t begin : headers_) {
+        const char* at = bytes_.get() + begin;
+        if (size_ - begin < header.size()) {
+            break;
+        }
+        if (std::memcmp(at, header.data(), header.size()) == 0) {
+            const char* const headerEnd = at + header.size();
+            while (at < headerEnd) {
+                at += slGbkCharLength(at, end);
+            }
+            if (at == headerEnd) {
+                return begin + header.size();
+            }
+        }
+    }
+    return SIZE_MAX;
 }

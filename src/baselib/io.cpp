@@ -51,13 +51,16 @@ void VrIOCL::OpenM(const char* path, const char* mode)
     }
 }
 
-void VrIOCL::OpenM(std::shared_ptr<const FileTextCL> text)
+void VrIOCL::OpenM(std::shared_ptr<const FileTextCL> text, const char* path)
 {
     CloseM();
     text_ = std::move(text);
     if (text_ != nullptr) {
         data_ = text_->BytesM();
         size_ = text_->SizeM();
+        if (path != nullptr) {
+            directory_.SetM(path, directoryLength(path));
+        }
     }
 }
 

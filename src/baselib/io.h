@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 
+class FieldReaderCL;
 class ReadObserverCL;
 
 // Reads and writes files of numbers and GBK texts. Text mode ("r", "w"): numbers in decimal, a text to the
@@ -23,8 +24,9 @@ public:
     // Opens for reading, the file read whole, or for writing, the file emptied. path is GBK on Windows, bytes
     // as they are elsewhere. Anything but a regular file, or an unknown mode, leaves it unopened.
     void OpenM(const char* path, const char* mode);
-    // Opens a text for reading as mode "r" does a file; null closes.
-    void OpenM(std::shared_ptr<const FileTextCL> text);
+    // Opens a text for reading as mode "r" does a file; null closes. path: where it is from, null for
+    // nowhere.
+    void OpenM(std::shared_ptr<const FileTextCL> text, const char* path = nullptr);
     void CloseM(); // Harmless when not open.
     // Whether there is a file, to read or to write; whether its mode is binary.
     bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
@@ -93,6 +95,8 @@ public:
     int EndBegunLineM();
 
 private:
+    friend class FieldReaderCL; // Most of reading a file: it takes numbers straight from the bytes.
+
     template <typename T> int inputAllM(T* const (&values)[9], bool (VrIOCL::*input)(T*));
     bool inputCharM(char* value);
     bool inputBytesM(void* to, std::size_t count);

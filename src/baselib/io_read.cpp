@@ -1,5 +1,6 @@
 #include "baselib/gbk.h"
 #include "baselib/io.h"
+#include "baselib/number_scan.h"
 #include "baselib/number_text.h"
 #include "baselib/path.h"
 #include <algorithm>
@@ -20,9 +21,7 @@ constexpr std::size_t NoLength = SIZE_MAX;
 
 void VrIOCL::skipBlanksM()
 {
-    while (at_ < size_ && slIsBlank(data_[at_])) {
-        ++at_;
-    }
+    at_ = static_cast<std::size_t>(slSkipBlanks(data_ + at_, data_ + size_) - data_);
 }
 
 bool VrIOCL::inputBytesM(void* to, std::size_t count)
@@ -100,7 +99,7 @@ bool VrIOCL::InputOneM(int* value)
     }
     skipBlanksM();
     const char* const begin = data_ + at_;
-    const char* const numberEnd = slReadInt(begin, data_ + size_, value);
+    const char* const numberEnd = slScanInt(begin, data_ + size_, value);
     at_ += numberEnd - begin;
     return numberEnd > begin;
 }

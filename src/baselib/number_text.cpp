@@ -1,4 +1,5 @@
 #include "baselib/number_text.h"
+#include "baselib/number_scan.h"
 #include "baselib/real_text.h"
 #include <algorithm>
 #include <climits>
@@ -58,17 +59,7 @@ const char* realEnd(const char* at, const char* end)
 
 const char* slReadInt(const char* at, const char* end, int* value)
 {
-    if (value == nullptr) {
-        return at;
-    }
-    const char* const digits = at < end && isSign(*at) ? at + 1 : at;
-    const char* const digitsEnd = skipDigits(digits, end);
-    if (digitsEnd == digits) {
-        return at;
-    }
-    const std::int64_t magnitude = digitsValue(digits, digitsEnd, std::int64_t { INT_MAX } + 1);
-    *value = static_cast<int>(*at == '-' ? -magnitude : std::min(magnitude, std::int64_t { INT_MAX }));
-    return digitsEnd;
+    return value != nullptr ? slScanInt(at, end, value) : at;
 }
 
 const char* slReadReal(const char* at, const char* end, float* value)

@@ -14,6 +14,8 @@ template <int N> typename TaggedArr<N>::Store& TaggedArr<N>::storeM()
 {
     if (!store_) {
         store_ = std::make_shared<Store>();
+        store_->values.reserve(std::size_t { FirstRoom } * N); // Most lists are short: no growth by ones.
+        store_->tags.reserve(FirstRoom);
     }
     return *store_;
 }

@@ -43,6 +43,11 @@ public:
     static constexpr int MaxGap = 1 << 22;
 
 private:
+    enum
+    {
+        FirstRoom = 8
+    };
+
     struct Store
     {
         std::vector<int> values;

@@ -26,17 +26,42 @@ SeenSectionCL& SeenSectionsCL::findM(const char* header)
     return *last_;
 }
 
-void SeenSectionsCL::ValueM(const ValueSeenCL& value)
+// Before the first value of a record, and wherever more room is needed.
+void SeenSectionsCL::prepareM(const ValueSeenCL& value)
 {
     SeenSectionCL& section = findM(value.section);
+    lastRecord_ = value.record;
+    if (section.keepsLast && section.starts.empty()) {
+        section.firstBegin = static_cast<std::uint32_t>(value.span.begin);
+    }
+    if (value.record >= section.RecordsM()) {
+        if (section.keepsLast) {
+            section.values.clear();
+        }
+        section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
+    }
     if (section.values.size() == section.values.capacity()) {
         section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
     }
-    if (value.record >= section.RecordsM()) {
-        section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
+}
+
+void SeenSectionsCL::ValueM(const ValueSeenCL& value)
+{
+    if (value.record != lastRecord_ || value.section != lastHeader_
+        || last_->values.size() == last_->values.capacity()) {
+        prepareM(value);
     }
-    section.values.push_back({ value.field, static_cast<std::uint32_t>(value.span.begin),
-        static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate });
+    SeenSectionCL& section = *last_;
+    SeenValueCL& seen = section.values.emplace_back(); // Filled one by one: a copy would wait for its parts.
+    seen.field = value.field;
+    seen.begin = static_cast<std::uint32_t>(value.span.begin);
+    seen.end = static_cast<std::uint32_t>(value.span.end);
+    seen.part = static_cast<std::uint8_t>(value.part);
+    seen.fate = value.fate;
+    if (section.keepsLast) {
+        section.isRegular = section.isRegular && seen.begin > section.lastEnd && !seen.IsAbsentM();
+        section.lastEnd = seen.end;
+    }
 }
 
 void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)

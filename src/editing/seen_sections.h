@@ -33,6 +33,10 @@ struct SeenSectionCL
     std::size_t regionEnd { 0 };         // Where the next header stands, or the file ends.
     bool isFaulty { false };             // Its layout is: what it lost can't be missed elsewhere.
     int soundRecords { 0 };              // Records before the first fault of its layout.
+    bool keepsLast { false };            // Only the values of its last record are kept.
+    bool isRegular { true };        // While keepsLast: all values were there, with something between them,
+    std::uint32_t firstBegin { 0 }; // where the first one began,
+    std::uint32_t lastEnd { 0 };    // and where the last one ended.
 
     // Whether the file has its header, and whether records were read.
     bool IsThereM() const { return head.headerSpan.end > 0; }
@@ -52,6 +56,12 @@ struct SeenSectionCL
     }
     // A record's value by the name of its field; null when there is none.
     PANELKIT_API const SeenValueCL* FindM(int record, const char* field, int part = 0) const;
+    // Whether values that were dropped are not missed: all lie in the section's region as they should.
+    bool IsPlainM() const
+    {
+        return !keepsLast || values.empty()
+            || (isRegular && firstBegin > head.commentCount.end && values.back().begin < regionEnd);
+    }
 };
 
 // Keeps what the reader meets, by the places of the sections in slGrammars.
@@ -63,16 +73,20 @@ public:
     void ValueM(const ValueSeenCL& value) override;
     void EntryDroppedM(const EntryDroppedCL& entry) override;
     void SectionM(const SectionSeenCL& section) override;
+    // From now on only the values of the last record of a section are kept. grammar: as with AtM.
+    void KeepLastM(int grammar) { AtM(grammar).keepsLast = true; }
     // The section of a grammar: 0 up to the number of grammars - 1.
     SeenSectionCL& AtM(int grammar) { return sections_[static_cast<std::size_t>(grammar)]; }
     const SeenSectionCL& AtM(int grammar) const { return sections_[static_cast<std::size_t>(grammar)]; }
 
 private:
     SeenSectionCL& findM(const char* header);
+    void prepareM(const ValueSeenCL& value);
 
     std::vector<SeenSectionCL> sections_;
     const char* lastHeader_ { nullptr };
     SeenSectionCL* last_ { nullptr };
+    int lastRecord_ { -1 };
 };
 
 // Reads every section of a file, each on its own: entries too whose owner is missing, and none is dropped.

@@ -1,6 +1,10 @@
 #include "records/field_reader.h"
 #include "baselib/gbk.h"
+#include "baselib/number_scan.h"
 #include "baselib/number_text.h"
+#include <cfloat>
+#include <climits>
+#include <cmath>
 #include <cstring>
 
 ReadObserverCL::~ReadObserverCL() = default;
@@ -10,14 +14,25 @@ void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
 
-bool numberFits(std::string_view number, int)
+const char* scanNumber(const char* at, const char* end, int& value)
 {
-    return slIntFits(number.data(), number.data() + number.size());
+    return slScanInt(at, end, &value);
 }
 
-bool numberFits(std::string_view number, float)
+const char* scanNumber(const char* at, const char* end, float& value)
 {
-    return slRealFits(number.data(), number.data() + number.size());
+    return slReadReal(at, end, &value);
+}
+
+// Only a limit may stand for more than itself.
+bool numberFits(const char* at, const char* end, int value)
+{
+    return (value != INT_MAX && value != INT_MIN) || slIntFits(at, end);
+}
+
+bool numberFits(const char* at, const char* end, float value)
+{
+    return std::abs(value) != FLT_MAX || slRealFits(at, end);
 }
 
 // Where the word ends, or a text's length of it: many values may be looked for at the same long word.
@@ -31,60 +46,86 @@ std::size_t wordEnd(const FileTextCL& file, std::size_t at)
     return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
-bool standsForNothing(const CharArr& text, NullWord rule)
+bool standsForNothing(const char* text, NullWord rule)
 {
-    return rule == NullWord::UpperEmpty ? std::strcmp(text.TextM(), "NULL") == 0
-                                        : rule != NullWord::Kept && slIsNullWord(text.TextM()) != 0;
+    if ((*text != 'N' && *text != 'n') || rule == NullWord::Kept) {
+        return false; // Most texts.
+    }
+    return rule == NullWord::UpperEmpty ? std::strcmp(text, "NULL") == 0 : slIsNullWord(text) != 0;
 }
 
 } // namespace
 
 std::size_t slNextValue(const VrIOCL& io)
 {
-    std::size_t at = io.PositionM();
-    if (const FileTextCL* const file = io.FileTextM().get()) {
-        while (at < file->SizeM() && slIsBlank(file->BytesM()[at])) {
-            ++at;
-        }
+    const FileTextCL* const file = io.FileTextM().get();
+    if (file == nullptr) {
+        return io.PositionM();
     }
-    return at;
+    const char* const bytes = file->BytesM();
+    const char* const next = slSkipBlanks(bytes + io.PositionM(), bytes + file->SizeM());
+    return static_cast<std::size_t>(next - bytes);
 }
 
-void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
+inline void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
 {
-    observer_->ValueM({ section_, record_, name, part, span, fate, isFileName_ });
+    seen_.field = name;
+    seen_.part = part;
+    seen_.span = span;
+    seen_.fate = fate;
+    observer_->ValueM(seen_);
 }
 
 template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
 {
-    if (observer_ == nullptr && !isStopped_) {
-        return io_->InputOneM(&value);
+    if (isStopped_ || io_->binary_) {
+        return readOtherwiseM(name, part, value);
     }
-    return readObservedM(name, part, value);
+    const char* const end = io_->data_ + io_->size_;
+    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
+    const char* const numberEnd = scanNumber(begin, end, value);
+    const bool isRead = numberEnd > begin;
+    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
+    if (isObservedM()) {
+        const std::size_t at = io_->at_ - static_cast<std::size_t>(numberEnd - begin);
+        if (isRead) {
+            tellM(name, part, { at, io_->at_ },
+                numberFits(begin, numberEnd, value) ? Fate::Read : Fate::Saturated);
+        } else {
+            tellUnreadM(name, part, at);
+        }
+    }
+    return isRead;
 }
 
-template <class T> bool FieldReaderCL::readObservedM(const char* name, int part, T& value)
+// From a binary file, or not at all.
+template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part, T& value)
 {
-    if (observer_ == nullptr || io_->FileTextM() == nullptr) {
-        return !isStopped_ && io_->InputOneM(&value);
-    }
-    const FileTextCL* const file = io_->FileTextM().get();
-    const std::size_t begin = slNextValue(*io_);
+    const std::size_t begin = isObservedM() ? slNextValue(*io_) : 0;
     const bool isRead = !isStopped_ && io_->InputOneM(&value);
-    SpanCL span { begin, isRead ? io_->PositionM() : begin };
-    Fate fate = Fate::Read;
-    if (isStopped_) {
-        fate = Fate::NotLookedAt;
-    } else if (isRead) {
-        fate = numberFits(file->CutM(span), value) ? Fate::Read : Fate::Saturated;
-    } else if (begin == file->SizeM()) {
-        fate = Fate::Missing;
-    } else {
-        fate = Fate::NotANumber;
-        span.end = wordEnd(*file, begin);
+    if (isObservedM()) {
+        const FileTextCL& file = *io_->FileTextM();
+        if (isStopped_) {
+            tellM(name, part, { begin, begin }, Fate::NotLookedAt);
+        } else if (isRead) {
+            const char* const bytes = file.BytesM();
+            const bool fits = numberFits(bytes + begin, bytes + io_->at_, value);
+            tellM(name, part, { begin, io_->at_ }, fits ? Fate::Read : Fate::Saturated);
+        } else {
+            tellUnreadM(name, part, begin);
+        }
     }
-    tellM(name, part, span, fate);
     return isRead;
+}
+
+void FieldReaderCL::tellUnreadM(const char* name, int part, std::size_t begin)
+{
+    const FileTextCL& file = *io_->FileTextM();
+    if (begin == file.SizeM()) {
+        tellM(name, part, { begin, begin }, Fate::Missing);
+    } else {
+        tellM(name, part, { begin, wordEnd(file, begin) }, Fate::NotANumber);
+    }
 }
 
 template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int count)
@@ -97,6 +138,41 @@ template <class T> void FieldReaderCL::readAllM(const char* name, T* values, int
 void FieldReaderCL::IntM(const char* name, int& value)
 {
     readM(name, 0, value);
+}
+
+void FieldReaderCL::IdM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::IndexM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::CountM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::FlagM(const char* name, int& value)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::ChoiceM(const char* name, int& value, const ChoicesCL&)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::LengthM(const char* name, int& value, Along)
+{
+    readM(name, 0, value);
+}
+
+void FieldReaderCL::LengthPairM(const char* name, int (&xy)[2])
+{
+    readAllM(name, xy, 2);
 }
 
 void FieldReaderCL::RealM(const char* name, float& value)
@@ -142,8 +218,13 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
         return;
     }
     const auto most = static_cast<std::size_t>(form.size) - 1;
-    text.SetM(item.data(), slGbkCutLength(item.data(), item.size(), most));
-    const bool isNullWord = standsForNothing(text, form.nullWord);
+    const std::size_t length = slGbkCutLength(item.data(), item.size(), most);
+    if (isReusing_) {
+        text.SetWithinM(item.data(), length, TextSize);
+    } else {
+        text.SetM(item.data(), length);
+    }
+    const bool isNullWord = standsForNothing(text.TextM(), form.nullWord);
     if (observer_ != nullptr) {
         const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
         const bool isWhole = text.LengthM() == item.size();
@@ -162,11 +243,16 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
     }
 }
 
+void FieldReaderCL::CaptionM(const char* name, CharArr& text, const TextFormCL& form)
+{
+    TextM(name, text, form);
+}
+
 void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
 {
-    isFileName_ = true;
+    seen_.isFileName = true;
     TextM(name, file, form);
-    isFileName_ = false;
+    seen_.isFileName = false;
 }
 
 void FieldReaderCL::StopReadingM()

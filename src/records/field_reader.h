@@ -12,17 +12,19 @@ public:
     explicit FieldReaderCL(VrIOCL* io, const char* section = "")
         : io_(io)
         , observer_(io != nullptr ? io->ObserverM() : nullptr)
-        , section_(section)
+        , seen_ { section, 0, "", 0, {}, Fate::Read }
         , isStopped_(io == nullptr)
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
     void BeginRecordM(int number)
     {
-        record_ = number;
+        seen_.record = number;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
     }
+    // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
+    void ReuseTextsM() { isReusing_ = true; }
     bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
     bool IsSkippedM() const { return isSkipped_; } // A text said that the entry doesn't count.
 
@@ -35,19 +37,30 @@ public:
     void NameM(const char* name, CharArr& file, const TextFormCL& form) override;
     void StopReadingM() override;
 
+    // What is read as another verb's value, without the way through that verb.
+    void IdM(const char* name, int& value) override;
+    void IndexM(const char* name, int& value) override;
+    void CountM(const char* name, int& value) override;
+    void FlagM(const char* name, int& value) override;
+    void ChoiceM(const char* name, int& value, const ChoicesCL& choices) override;
+    void LengthM(const char* name, int& value, Along along) override;
+    void LengthPairM(const char* name, int (&xy)[2]) override;
+    void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override;
+
 private:
+    bool isObservedM() const { return observer_ != nullptr && io_->FileTextM() != nullptr; }
     template <class T> bool readM(const char* name, int part, T& value);
-    template <class T> bool readObservedM(const char* name, int part, T& value);
+    template <class T> bool readOtherwiseM(const char* name, int part, T& value);
+    void tellUnreadM(const char* name, int part, std::size_t begin);
     template <class T> void readAllM(const char* name, T* values, int count);
     void tellM(const char* name, int part, SpanCL span, Fate fate);
 
     VrIOCL* io_;
     ReadObserverCL* observer_;
-    const char* section_;
-    int record_ { 0 };
+    ValueSeenCL seen_; // What the observer is told, one value after the other.
     bool isStopped_;
     bool isSkipped_ { false };
-    bool isFileName_ { false };
+    bool isReusing_ { false };
 };
 
 // Where the next value would begin: the offset of the next byte of the open file that is no blank.

@@ -160,6 +160,26 @@ SpanCL SectionReaderCL::lineAtM(std::size_t offset) const
     return line;
 }
 
+void IdsOfRecordsCL::SortM()
+{
+    if (!std::is_sorted(ids_.begin(), ids_.end())) {
+        std::sort(ids_.begin(), ids_.end());
+    }
+}
+
+int IdsOfRecordsCL::FindM(int id)
+{
+    const auto stands = [&](std::size_t at) { return at < ids_.size() && ids_[at].first == id; };
+    const auto isFirst = [&](std::size_t at) { return stands(at) && (at == 0 || ids_[at - 1].first != id); };
+    if (!isFirst(last_)) {
+        last_ = isFirst(last_ + 1)
+            ? last_ + 1
+            : static_cast<std::size_t>(
+                std::lower_bound(ids_.begin(), ids_.end(), std::pair(id, INT_MIN)) - ids_.begin());
+    }
+    return stands(last_) ? ids_[last_].second : -1;
+}
+
 void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
 {
     functionId = 0;
@@ -167,10 +187,9 @@ void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
         number = 0;
     }
     for (CharArr& text : texts) {
-        if (!text.EmptyM()) {
-            text.SetM("");
-        }
+        text.ClearM();
     }
+    reader.ReuseTextsM();
     EachFieldM(reader, fields);
 }
 

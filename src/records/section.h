@@ -2,8 +2,12 @@
 #include "records/field_counter.h"
 #include "records/field_reader.h"
 #include "records/rows.h"
+#include <algorithm>
+#include <climits>
 #include <cstddef>
-#include <unordered_map>
+#include <cstdint>
+#include <utility>
+#include <vector>
 
 // Whether so many bytes can hold `count` records or entries, each of at least `values` numbers and texts. A
 // small count may leave much to the defaults; a large one only serves to make the reader waste memory.
@@ -53,6 +57,21 @@ private:
     bool isEnded_ { false };
 };
 
+// Finds the first record with an id, in little time however many records there are.
+class PANELKIT_API IdsOfRecordsCL
+{
+public:
+    // count: how many to make room for; it may be wrong.
+    explicit IdsOfRecordsCL(int count) { ids_.reserve(static_cast<std::size_t>(std::max(count, 0))); }
+    void AddM(int id, int index) { ids_.push_back({ id, index }); } // In rising order of index.
+    void SortM();                                                   // Once all are there.
+    int FindM(int id);                                              // -1 when no record has it.
+
+private:
+    std::vector<std::pair<int, int>> ids_;
+    std::size_t last_ { 0 }; // Entries of one record mostly stand together, and in the order of the records.
+};
+
 // What the entries of one secondary section of a kind hold, and how a record takes one.
 template <class RecordTP> struct SecondarySectionCL
 {
@@ -76,44 +95,74 @@ struct SectionEntryCL
     PANELKIT_API void ReadM(FieldReaderCL& reader, RowFieldsTP fields); // What can't be read is 0 or "".
 };
 
-// Reads one record of a main section: from its defaults (the delete tag is kept), the common fields, then its
-// own. 0 when it turned out to be unreadable, else 1.
-template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& reader)
+// Reads one record of a main section, which holds its defaults: the common fields, then its own. 0 when it
+// turned out to be unreadable, else 1.
+template <class RecordTP> int slReadFreshRecord(RecordTP& record, FieldReaderCL& reader)
 {
-    record = RecordTP(record.GetDeleteTagM());
     record.EachCommonFieldM(reader);
     record.EachFieldM(reader);
     return reader.IsStoppedM() ? 0 : 1;
 }
 
-// Reads the entries of one secondary section and gives each to the first alive record with its function id.
-// An entry that a text of it rules out, or that no record takes, is passed over.
-template <class RecordArrTP, class RecordTP>
-SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
+// The same, from its defaults on; the delete tag is kept.
+template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& reader)
+{
+    record = RecordTP(record.GetDeleteTagM());
+    return slReadFreshRecord(record, reader);
+}
+
+// Reads the entries of one secondary section. ids() tells the ids of the records, once and only if there are
+// entries to be read; take(number, row) is given each entry of record `number`, the first one with its
+// function id. An entry that a text of it rules out, or that no record takes, is passed over.
+template <class IdsTP, class TakeTP>
+SectionStatus slReadEntries(VrIOCL& io, const char* header, RowFieldsTP fields, IdsTP&& ids, TakeTP&& take)
 {
     SectionEntryCL entry;
     FieldCounterCL values;
-    entry.EachFieldM(values, secondary.fields);
-    SectionReaderCL section(io, secondary.header);
+    entry.EachFieldM(values, fields);
+    SectionReaderCL section(io, header);
     const SectionStatus status = section.OpenM(values.ValuesM());
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
-    std::unordered_map<int, int> firstOfId;
-    for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
-        firstOfId.emplace(records.ElementAtM(i).GetFuncIDM(), i);
-    }
+    auto&& known = ids();
+    known.SortM();
     for (int i = 0; i < section.CountM(); ++i) {
         FieldReaderCL& reader = section.RecordM(i);
-        entry.ReadM(reader, secondary.fields);
-        const auto found = firstOfId.find(entry.functionId);
-        if (reader.IsSkippedM() || found == firstOfId.end()) {
+        entry.ReadM(reader, fields);
+        const int found = known.FindM(entry.functionId);
+        if (reader.IsSkippedM() || found < 0) {
             section.DropM(reader.IsSkippedM() ? EntryFault::NullWord : EntryFault::UnknownId);
         } else {
-            secondary.attach(records.ElementAtM(found->second), entry.RowM());
+            take(found, entry.RowM());
         }
     }
     return SectionStatus::Read;
+}
+
+// The same for the alive records of an array.
+template <class RecordArrTP, class RecordTP>
+SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondarySectionCL<RecordTP>& secondary)
+{
+    const auto ids = [&records] {
+        IdsOfRecordsCL all(records.GetAvailableNumM());
+        for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+            all.AddM(records.ElementAtM(i).GetFuncIDM(), i);
+        }
+        return all;
+    };
+    return slReadEntries(io, secondary.header, secondary.fields, ids,
+        [&](int i, const RowCL& row) { secondary.attach(records.ElementAtM(i), row); });
+}
+
+// Room for so many more, as adding one by one would make it, at once. Without the memory: none.
+template <class ArrTP> void slMakeRoom(ArrTP& items, int count)
+{
+    std::int64_t length = items.GetLengthM();
+    while (length < std::int64_t { items.GetBoundM() } + count) {
+        length *= 2;
+    }
+    items.AddSizeM(static_cast<int>(std::min<std::int64_t>(length, INT_MAX)) - items.GetLengthM());
 }
 
 // Reads the main section of one kind and its secondary sections from an open file, appending to the array.
@@ -127,14 +176,54 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
     if (status != SectionStatus::Read) {
         return status;
     }
-    typename RecordArrTP::RecordTP scratch(AliveTag);
+    const typename RecordArrTP::RecordTP defaults(AliveTag);
+    slMakeRoom(records, *count);
     for (int i = 0; i < *count; ++i) {
-        slReadRecord(scratch, section.RecordM(i));
-        records.AddItemM(scratch);
+        const int index = records.AddItemM(defaults);
+        if (index >= 0) {
+            slReadFreshRecord(records.ElementAtM(index), section.RecordM(i));
+        } else { // No memory is left for it.
+            typename RecordArrTP::RecordTP lost(AliveTag);
+            slReadFreshRecord(lost, section.RecordM(i));
+        }
     }
     section.EndM();
     for (const auto& secondary : RecordArrTP::Secondaries) {
         if (slReadSecondary(io, records, secondary) != SectionStatus::Read) {
+            section.SetStatusM(SectionStatus::Incomplete);
+            break;
+        }
+    }
+    return section.StatusM();
+}
+
+// Reads the same without keeping the records: see(number, record) is shown each when it was read, without
+// what its secondary sections add, and may take from it what it likes.
+template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL& io, SeeTP&& see)
+{
+    using RecordTP = typename RecordArrTP::RecordTP;
+    SectionReaderCL section(io, RecordArrTP::Header);
+    const SectionStatus status = section.OpenM(slFewestValues<RecordTP>());
+    if (status != SectionStatus::Read) {
+        return status;
+    }
+    const RecordTP defaults(AliveTag);
+    RecordTP record(AliveTag);
+    IdsOfRecordsCL ids(RecordArrTP::Secondaries.empty() ? 0 : section.CountM());
+    for (int i = 0; i < section.CountM(); ++i) {
+        record = defaults;
+        slReadFreshRecord(record, section.RecordM(i));
+        if constexpr (!RecordArrTP::Secondaries.empty()) {
+            ids.AddM(record.GetFuncIDM(), i);
+        }
+        see(i, record);
+    }
+    section.EndM();
+    for (const auto& secondary : RecordArrTP::Secondaries) {
+        if (slReadEntries(
+                io, secondary.header, secondary.fields, [&ids]() -> IdsOfRecordsCL& { return ids; },
+                [](int, const RowCL&) {})
+            != SectionStatus::Read) {
             section.SetStatusM(SectionStatus::Incomplete);
             break;
         }

@@ -34,22 +34,23 @@ Language languageOf(const std::string& option)
     return Language::English;
 }
 
-bool readBytes(const fs::path& path, std::string* bytes)
+std::shared_ptr<const FileTextCL> readText(const fs::path& path)
 {
     std::error_code error;
     std::ifstream in(path, std::ios::binary);
-    const auto size = fs::file_size(path, error);
-    bytes->resize(error ? 0 : static_cast<std::size_t>(size));
-    return in.is_open()
-        && (in.read(bytes->data(), static_cast<std::streamsize>(bytes->size())) || bytes->empty());
+    const auto length = fs::file_size(path, error);
+    const auto size = static_cast<std::size_t>(error ? 0 : length);
+    std::unique_ptr<char[]> bytes(new char[size + 1]);
+    const bool isRead
+        = in.is_open() && (in.read(bytes.get(), static_cast<std::streamsize>(size)) || size == 0);
+    return isRead ? std::make_shared<const FileTextCL>(std::move(bytes), size) : nullptr;
 }
 
-FindingsCL checkBytes(
-    const std::string& file, const fs::path& folder, std::string&& bytes, const TranslationCL& translation)
+bool readBytes(const fs::path& path, std::string* bytes)
 {
-    const auto text = std::make_shared<const FileTextCL>(bytes);
-    std::string().swap(bytes);
-    return checkText(file, folder, text, nullptr, translation);
+    const auto text = readText(path);
+    *bytes = text != nullptr ? text->CutM({ 0, text->SizeM() }) : std::string_view();
+    return text != nullptr;
 }
 
 FindingsCL checkText(const std::string& file, const fs::path& folder,
@@ -59,10 +60,11 @@ FindingsCL checkText(const std::string& file, const fs::path& folder,
     FindingsCL findings(file, text);
     const bool isReadable = checkEncoding(*text, findings);
     if (isReadable || reading != nullptr) {
-        auto read = std::make_unique<FileReadingCL>(text);
+        auto read = std::make_unique<FileReadingCL>(text, reading != nullptr);
         if (isReadable) {
-            checkSections(*read, findings);
             checkRecords(*read, folder, translation, findings);
+        } else {
+            read->ReadKindsM();
         }
         if (reading != nullptr) {
             *reading = std::move(read);
@@ -74,28 +76,29 @@ FindingsCL checkText(const std::string& file, const fs::path& folder,
 
 namespace {
 
-bool readStandardInput(std::string* bytes)
+std::shared_ptr<const FileTextCL> readStandardInput()
 {
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
+    std::string bytes;
     char block[65536];
     for (std::size_t read = 0; (read = std::fread(block, 1, sizeof block, stdin)) > 0;) {
-        bytes->append(block, read);
+        bytes.append(block, read);
     }
-    return std::ferror(stdin) == 0;
+    return std::ferror(stdin) == 0 ? std::make_shared<const FileTextCL>(bytes) : nullptr;
 }
 
-bool readNamedFile(const std::string& file, const std::string& said, std::string* bytes)
+std::shared_ptr<const FileTextCL> readNamedFile(const std::string& file, const std::string& said)
 {
     if (!isRegularFile(file, said)) {
-        return false;
+        return nullptr;
     }
-    if (!readBytes(fs::u8path(file), bytes)) {
+    auto text = readText(fs::u8path(file));
+    if (text == nullptr) {
         complain("cannot read '" + said + "'");
-        return false;
     }
-    return true;
+    return text;
 }
 
 // Without a language there is nothing to read.
@@ -134,15 +137,14 @@ int checkCommand(const CheckOptionsCL& options)
     for (std::size_t i = 0; i < options.files.size(); ++i) {
         const std::string& file = options.files[i];
         const std::string& said = i < options.names.size() ? options.names[i] : file;
-        std::string bytes;
         const bool isInput = file == "-";
-        if (!(isInput ? readStandardInput(&bytes) : readNamedFile(file, said, &bytes))
-            || !readTranslation(translation, file, said)) {
+        const auto text = isInput ? readStandardInput() : readNamedFile(file, said);
+        if (text == nullptr || !readTranslation(translation, file, said)) {
             isUnreadable = true;
             continue;
         }
-        all.push_back(checkBytes(isInput ? "<stdin>" : said,
-            isInput ? fs::path() : fs::u8path(file).parent_path(), std::move(bytes), translation));
+        all.push_back(checkText(isInput ? "<stdin>" : said,
+            isInput ? fs::path() : fs::u8path(file).parent_path(), text, nullptr, translation));
         isFaulty = isFaulty || all.back().IsFaultyM(options.isStrict);
     }
     if (options.format == "json") {
@@ -159,11 +161,11 @@ bool sayFindings(const std::string& file, const std::string& said, const ShowOpt
 {
     std::error_code error;
     const fs::path path = fs::u8path(file);
-    std::string bytes;
-    if (!fs::is_regular_file(path, error) || !readBytes(path, &bytes)) {
+    const auto bytes = fs::is_regular_file(path, error) ? readText(path) : nullptr;
+    if (bytes == nullptr) {
         return false;
     }
-    const FindingsCL findings = checkBytes(said, path.parent_path(), std::move(bytes));
+    const FindingsCL findings = checkText(said, path.parent_path(), bytes);
     const std::string text = findings.TextM(languageOf(options.language), options.isStrict);
     std::fwrite(text.data(), 1, text.size(), stderr);
     return options.isStrict && findings.IsFaultyM(true);

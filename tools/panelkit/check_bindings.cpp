@@ -29,9 +29,10 @@ public:
             }
         }
     }
-    void CheckM(PicturesCL& pictures)
+    void CheckM()
     {
         RecordViewCL view;
+        std::vector<SpanCL> pictures; // There are none.
         for (int i = 0; i < section_.soundRecords; ++i) {
             BindingCL& binding = file_.BindingsM()[static_cast<std::size_t>(i)];
             view.BeginM(section_, i);
@@ -79,8 +80,9 @@ private:
 
 } // namespace
 
-void checkBindings(
-    FileReadingCL& file, const CheckedControlsTP& controls, PicturesCL& pictures, FindingsCL& findings)
+void checkBindings(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
 {
-    BindingsCheckerCL(file, controls, findings).CheckM(pictures);
+    if (file.SectionM(BindingHeader).soundRecords > 0) {
+        BindingsCheckerCL(file, controls, findings).CheckM();
+    }
 }

@@ -82,8 +82,8 @@ void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const
     }
     CaptionMeasureCL measure(file.DialogM().fontOption);
     for (const CheckedControlCL& control : controls) {
-        if (control.caption != nullptr && !control.caption->EmptyM() && control.w > 0 && control.h > 0) {
-            const ValueTextCL own = control.caption->TextM();
+        if (!control.caption.EmptyM() && control.w > 0 && control.h > 0) {
+            const ValueTextCL own = control.caption.TextM();
             const ValueTextCL shown = translation.FindM(own, control.kindName, control.id);
             checkCaption(measure, control, shown.IsNoneM() ? own : shown, findings);
         }

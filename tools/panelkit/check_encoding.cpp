@@ -2,7 +2,9 @@
 #include "baselib/gbk_texts.h"
 #include "check.h"
 #include "section_layout.h"
+#include <cstdint>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
@@ -59,10 +61,24 @@ bool isUtf16(std::string_view bytes)
     }
     // Without a mark: every other byte of its ASCII characters is NUL.
     std::size_t nuls = 0;
-    for (const char byte : bytes) {
-        nuls += byte == '\0' ? 1 : 0;
+    for (std::size_t at = bytes.find('\0'); at != std::string_view::npos; at = bytes.find('\0', at + 1)) {
+        ++nuls;
     }
     return bytes.size() % 2 == 0 && nuls * 5 > bytes.size();
+}
+
+// Behind the ASCII characters that stand there, perhaps not all of them.
+std::size_t skipAscii(std::string_view bytes, std::size_t at)
+{
+    constexpr std::uint64_t HighBits = 0x8080808080808080;
+    std::uint64_t word = 0;
+    for (; at + sizeof word <= bytes.size(); at += sizeof word) {
+        std::memcpy(&word, bytes.data() + at, sizeof word);
+        if ((word & HighBits) != 0) {
+            break;
+        }
+    }
+    return at;
 }
 
 } // namespace
@@ -78,7 +94,7 @@ bool checkEncoding(const FileTextCL& text, FindingsCL& findings)
         findings.AddM(Says::FileIsUtf8, 0);
         return false;
     }
-    for (std::size_t at = 0; at < bytes.size();) {
+    for (std::size_t at = skipAscii(bytes, 0); at < bytes.size();) {
         const char* const begin = bytes.data() + at;
         const int length = slGbkCharLength(begin, bytes.data() + bytes.size());
         const auto byte = static_cast<unsigned char>(*begin);
@@ -94,6 +110,7 @@ bool checkEncoding(const FileTextCL& text, FindingsCL& findings)
             return false;
         }
         at += static_cast<std::size_t>(length);
+        at = length == 1 ? skipAscii(bytes, at) : at;
     }
     // Chinese UTF-8 may happen to be bytes of GBK, but then it has no header that the library knows.
     const std::size_t utf8 = hasAnyHeader(bytes) ? std::string_view::npos : firstOfUtf8(bytes);

@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/gbk_texts.h"
 #include "control_list.h"
+#include "sort_rows.h"
 #include <algorithm>
 #include <map>
 #include <unordered_set>
@@ -34,6 +35,15 @@ public:
     }
 
 private:
+    // An id where the file has it.
+    struct UseCL
+    {
+        int id;
+        std::uint32_t at;
+        std::uint32_t control;
+        bool operator<(const UseCL& other) const { return id != other.id ? id < other.id : at < other.at; }
+    };
+
     std::string lineM(const CheckedControlCL& control) const
     {
         return std::to_string(file_.LineM(control.idAt) + 1);
@@ -59,35 +69,41 @@ private:
 
     void findDuplicatesM()
     {
-        std::vector<std::size_t> order(controls_.size());
-        for (std::size_t i = 0; i < order.size(); ++i) {
-            order[i] = i;
+        std::vector<UseCL> uses;
+        uses.reserve(controls_.size());
+        for (std::size_t i = 0; i < controls_.size(); ++i) {
+            uses.push_back({ controls_[i].id, controls_[i].idAt, static_cast<std::uint32_t>(i) });
         }
-        std::sort(order.begin(), order.end(),
-            [this](std::size_t a, std::size_t b) { return controls_[a].idAt < controls_[b].idAt; });
-        std::unordered_map<int, std::size_t> firstOf;
-        for (const std::size_t i : order) {
-            const CheckedControlCL& control = controls_[i];
-            const auto [first, isNew] = firstOf.emplace(control.id, i);
-            if (!isNew) {
-                const bool isFirstOdd = isOddM(first->second) && !isOddM(i);
-                const CheckedControlCL& odd = isFirstOdd ? controls_[first->second] : control;
-                const CheckedControlCL& other = isFirstOdd ? control : controls_[first->second];
+        sortRows(uses);
+        std::size_t ids = 0; // Where in `uses` those end that are the first of their id.
+        for (std::size_t i = 0; i < uses.size(); ++i) {
+            const UseCL use = uses[i];
+            const CheckedControlCL& control = controls_[use.control];
+            if (ids > 0 && uses[ids - 1].id == use.id) {
+                UseCL& first = uses[ids - 1];
+                const bool isFirstOdd = isOddM(first.control) && !isOddM(use.control);
+                const CheckedControlCL& odd = isFirstOdd ? controls_[first.control] : control;
+                const CheckedControlCL& other = isFirstOdd ? control : controls_[first.control];
                 findings_.AddM(Says::DuplicateId, odd.idAt, { std::to_string(odd.id), lineM(other) });
-                if (isFirstOdd) {
-                    first->second = i;
-                }
-            } else if ((control.id == 1 || control.id == 2)
+                first.control = isFirstOdd ? use.control : first.control;
+                continue;
+            }
+            uses[ids++] = use;
+            if ((control.id == 1 || control.id == 2)
                 && !control.IsM({ StandardButtonCode, BmpButtonCode, MultiStateButtonCode })) {
                 findings_.AddM(Says::ReservedId, control.idAt,
                     { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
             }
         }
+        uses.resize(ids);
         for (const CheckedControlCL& spin : controls_) { // The arrows of spin edits are controls too.
-            const auto other = firstOf.find(spin.arrowsId);
-            if (spin.arrowsId != 0 && other != firstOf.end()) {
+            if (spin.arrowsId == 0) {
+                continue;
+            }
+            const auto other = std::lower_bound(uses.begin(), uses.end(), UseCL { spin.arrowsId, 0, 0 });
+            if (other != uses.end() && other->id == spin.arrowsId) {
                 findings_.AddM(Says::DuplicateId, spin.arrowsAt,
-                    { std::to_string(spin.arrowsId), lineM(controls_[other->second]) });
+                    { std::to_string(spin.arrowsId), lineM(controls_[other->control]) });
             }
         }
     }
@@ -164,11 +180,14 @@ private:
 
     void checkRelationsM()
     {
+        const SeenSectionCL& section = file_.SectionM(RelationHeader);
+        if (section.soundRecords == 0) {
+            return;
+        }
         std::unordered_set<int> ids;
         for (const CheckedControlCL& control : controls_) {
             ids.insert(control.id);
         }
-        const SeenSectionCL& section = file_.SectionM(RelationHeader);
         for (int i = 0; i < section.soundRecords; ++i) {
             const int id = file_.NumberM(section, i, "control");
             if (ids.count(id) == 0) {

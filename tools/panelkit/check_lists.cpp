@@ -26,13 +26,13 @@ void checkEntry(FileReadingCL& file, const GrammarCL& grammar, const RowShapeCL&
     if (value.fate == Fate::Saturated) {
         findings.AddM(Says::NumberTooLarge, value.begin, { value.field, file.CutM(value) });
     }
-    const auto text = shape.texts.find(value.field);
-    if (text == shape.texts.end()) {
+    const RowShapeCL::TextCL* const text = shape.FindM(value.field);
+    if (text == nullptr) {
         return;
     }
     if (value.fate == Fate::Cut) {
-        findings.AddM(Says::TextTooLong, value.begin, { value.field, std::to_string(text->second.size - 1) });
-    } else if (value.fate == Fate::Read && text->second.isPicture) {
+        findings.AddM(Says::TextTooLong, value.begin, { value.field, std::to_string(text->size - 1) });
+    } else if (value.fate == Fate::Read && text->isPicture) {
         pictures.CheckM(pictureOf(grammar, file.BytesM(value)), value.begin, findings);
     }
 }
@@ -139,6 +139,7 @@ void checkCells(FileReadingCL& file, FindingsCL& findings)
 // A button's status that stands first, but isn't there.
 void checkStatuses(FileReadingCL& file, FindingsCL& findings)
 {
+    file.KeepValuesM(slGrammarOf(MultiStateButtonHeader));
     const SeenSectionCL& buttons = file.SectionM(MultiStateButtonHeader);
     const SeenSectionCL& states = file.SectionM(MultiStateButtonDataHeader);
     if (!file.IsSoundM(MultiStateButtonDataHeader) || !states.dropped.empty()) {

@@ -37,20 +37,16 @@ bool isName(const CheckedControlCL& label, const CheckedControlCL& control, bool
 class OrderCheckerCL
 {
 public:
-    OrderCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+    OrderCheckerCL(
+        FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings)
         : file_(file)
         , controls_(controls)
         , findings_(findings)
+        , order_ { stack.data(), stack.data() }
     {
-        for (const CheckedControlCL& control : controls_) {
-            if (control.isStacked) {
-                order_.push_back(&control);
-            }
+        while (order_.last < stack.data() + stack.size() && (*order_.last)->isStacked) {
+            ++order_.last;
         }
-        std::stable_sort(
-            order_.begin(), order_.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
-                return a->windowIndex < b->windowIndex;
-            });
     }
     void CheckM()
     {
@@ -126,14 +122,16 @@ private:
     // Neighbouring records with equal numbers are one group; the stack must keep them together.
     void findSplitGroupsM()
     {
-        std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
-        for (std::size_t i = 0; i < order_.size(); ++i) {
-            placeOf[order_[i]] = i;
-        }
         std::vector<const CheckedControlCL*> radios;
         for (const CheckedControlCL& control : controls_) {
             if (control.kind == RadioBoxCode) {
                 radios.push_back(&control);
+            }
+        }
+        std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
+        for (std::size_t i = 0; i < order_.size(); ++i) {
+            if (order_[i]->kind == RadioBoxCode) {
+                placeOf[order_[i]] = i;
             }
         }
         for (std::size_t begin = 0; begin < radios.size();) {
@@ -156,12 +154,24 @@ private:
     FileReadingCL& file_;
     const CheckedControlsTP& controls_;
     FindingsCL& findings_;
-    std::vector<const CheckedControlCL*> order_;
+    struct OrderCL // The stack without those that have no place in it.
+    {
+        const CheckedControlCL* const* first;
+        const CheckedControlCL* const* last;
+        const CheckedControlCL* const* begin() const { return first; }
+        const CheckedControlCL* const* end() const { return last; }
+        std::size_t size() const { return static_cast<std::size_t>(last - first); }
+        bool empty() const { return first == last; }
+        const CheckedControlCL* operator[](std::size_t i) const { return first[i]; }
+        const CheckedControlCL* back() const { return last[-1]; }
+    };
+    OrderCL order_;
 };
 
 } // namespace
 
-void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkOrder(
+    FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings)
 {
-    OrderCheckerCL(file, controls, findings).CheckM();
+    OrderCheckerCL(file, controls, stack, findings).CheckM();
 }

@@ -87,20 +87,21 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
     }
     auto found = states_.find(name);
     if (found == states_.end()) {
-        found = states_.emplace(name, stateM(name)).first;
+        found = states_.emplace(name, PictureCL { stateM(name), slGbkToUtf8(name.c_str()) }).first;
+        if (found->second.state != State::Remote) {
+            findings.AddPictureM(name);
+        }
     }
-    if (found->second != State::Remote) {
-        findings.AddPictureM(name);
-    }
-    switch (found->second) {
+    const PictureCL& picture = found->second;
+    switch (picture.state) {
     case State::Missing:
-        findings.AddM(Says::MissingFile, offset, { slGbkToUtf8(name.c_str()) });
+        findings.AddM(Says::MissingFile, offset, { picture.shown });
         break;
     case State::Bad:
-        findings.AddM(Says::BadPicture, offset, { slGbkToUtf8(name.c_str()) });
+        findings.AddM(Says::BadPicture, offset, { picture.shown });
         break;
     case State::Remote:
-        findings.AddM(Says::RemoteFile, offset, { slGbkToUtf8(name.c_str()) });
+        findings.AddM(Says::RemoteFile, offset, { picture.shown });
         break;
     case State::Good:
         break;

@@ -32,15 +32,17 @@ void checkOutside(FileReadingCL& file, const CheckedControlCL& control, Findings
         return control.RightM() + frame.width <= dialog.size[0]
             && control.BottomM() + frame.height <= dialog.size[1];
     };
-    const auto pixels = [](std::int64_t total, int frame) { return std::to_string(total - frame); };
-    const std::string place = std::to_string(control.x) + " " + std::to_string(control.y) + " "
-        + std::to_string(control.w) + " " + std::to_string(control.h);
+    const auto say = [&](Says says, const FrameCL& frame) {
+        const auto pixels = [](std::int64_t total, int framed) { return std::to_string(total - framed); };
+        const std::string place = std::to_string(control.x) + " " + std::to_string(control.y) + " "
+            + std::to_string(control.w) + " " + std::to_string(control.h);
+        findings.AddM(says, control.positionAt,
+            { place, pixels(dialog.size[0], frame.width), pixels(dialog.size[1], frame.height) });
+    };
     if (control.x < 0 || control.y < 0 || !fits(small)) {
-        findings.AddM(Says::OutsideDialog, control.positionAt,
-            { place, pixels(dialog.size[0], small.width), pixels(dialog.size[1], small.height) });
+        say(Says::OutsideDialog, small);
     } else if (!fits(large)) {
-        findings.AddM(Says::OutsideOtherFrame, control.positionAt,
-            { place, pixels(dialog.size[0], large.width), pixels(dialog.size[1], large.height) });
+        say(Says::OutsideOtherFrame, large);
     }
 }
 
@@ -103,29 +105,22 @@ private:
 
 } // namespace
 
-void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings)
 {
     const bool isPlaced = file.HasDialogM() && file.SectionM(DialogGrammar).soundRecords > 0;
-    std::vector<const CheckedControlCL*> order;
-    for (const CheckedControlCL& control : controls) {
-        if (control.w <= 0 || control.h <= 0) {
-            findings.AddM(Says::NeverShown, control.positionAt,
-                { std::to_string(control.w), std::to_string(control.h) });
+    CoversCL covers;
+    for (const CheckedControlCL* const control : stack) {
+        if (control->w <= 0 || control->h <= 0) {
+            findings.AddM(Says::NeverShown, control->positionAt,
+                { std::to_string(control->w), std::to_string(control->h) });
             continue;
         }
         if (isPlaced) {
-            checkOutside(file, control, findings);
+            checkOutside(file, *control, findings);
         }
-        if (control.kind != 0) {
-            order.push_back(&control);
+        if (control->kind == 0) {
+            continue;
         }
-    }
-    // From the top of the stack down; those without a place in it lie below the others.
-    std::stable_sort(order.begin(), order.end(), [](const CheckedControlCL* a, const CheckedControlCL* b) {
-        return a->isStacked != b->isStacked ? a->isStacked : a->isStacked && a->windowIndex < b->windowIndex;
-    });
-    CoversCL covers;
-    for (const CheckedControlCL* const control : order) {
         const CheckedControlCL* const cover = covers.FindM(*control);
         if (cover != nullptr) {
             findings.AddM(

@@ -3,44 +3,66 @@
 #include "baselib/gbk_texts.h"
 #include "check.h"
 #include "control_list.h"
+#include "sort_rows.h"
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 namespace {
 
-std::size_t offsetOf(const RecordViewCL& view, const char* name)
+std::uint32_t offsetOf(const FieldCL& field)
 {
-    const FieldCL* const field = view.FindM(name);
-    return field != nullptr && field->seen != nullptr ? field->seen->begin : 0;
+    return field.seen != nullptr ? field.seen->begin : 0;
 }
 
-CheckedControlCL controlOf(const RecordViewCL& view, int kind, const char* kindName, int grammar, int record,
-    bool isStacked, int place)
+// May take the caption from the record.
+CheckedControlCL controlOf(const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName,
+    int grammar, int record, bool isStacked)
 {
-    CheckedControlCL control { kind, kindName, grammar, record, isStacked, place, view.IntM("window_index"),
-        view.IntM("function_id"), view.IntM("position"), view.IntM("position", 1), view.IntM("size"),
-        view.IntM("size", 1), offsetOf(view, "function_id"), offsetOf(view, "window_index"),
-        offsetOf(view, "position") };
+    const FieldCL& index = *view.FindM("window_index");
+    const FieldCL& id = *view.FindM("function_id");
+    const FieldCL& position = *view.FindM("position");
+    const FieldCL& size = *view.FindM("size");
+    CheckedControlCL control;
+    control.kind = static_cast<std::int16_t>(kind);
+    control.grammar = static_cast<std::int16_t>(grammar);
+    control.record = record;
+    control.isStacked = isStacked;
+    control.windowIndex = index.ints[0];
+    control.id = id.ints[0];
+    control.x = position.ints[0];
+    control.y = position.ints[1];
+    control.w = size.ints[0];
+    control.h = size.ints[1];
+    control.idAt = offsetOf(id);
+    control.indexAt = offsetOf(index);
+    control.positionAt = offsetOf(position);
+#ifdef _WIN32
+    control.kindName = kindName;
+    control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
+#endif
     if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
-        const char* const name = control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption";
-        control.caption = view.FindM(name)->text;
-        control.captionAt = offsetOf(view, name);
-        control.hasText = kind == LabelCode && !control.caption->EmptyM();
-        control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
+        const FieldCL& caption = *view.FindM(control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption");
+        control.hasText = kind == LabelCode && !caption.text->EmptyM();
+#ifdef _WIN32
+        control.captionAt = offsetOf(caption);
+        control.caption = std::move(*caption.text);
+#endif
     }
     control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
     control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
     control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
         control.windowIndex = view.IntM("edit_window_index");
-        control.indexAt = offsetOf(view, "edit_window_index");
+        control.indexAt = offsetOf(*view.FindM("edit_window_index"));
         control.arrowsId = view.IntM("spin_function_id");
-        control.arrowsAt = offsetOf(view, "spin_function_id");
+        control.arrowsAt = offsetOf(*view.FindM("spin_function_id"));
     }
     return control;
 }
 
 // Where the fields of a kind leave nothing to see although Tab stops there.
-bool isInvisible(int kind, const RecordViewCL& view, std::size_t rows)
+bool isInvisible(int kind, const RecordViewCL& view)
 {
     const auto isEmpty = [&view](const char* name) {
         const FieldCL* const field = view.FindM(name);
@@ -51,8 +73,6 @@ bool isInvisible(int kind, const RecordViewCL& view, std::size_t rows)
         return isEmpty("normal");
     case RotateBtnCode:
         return isEmpty("background") && isEmpty("rotating");
-    case MultiStateButtonCode:
-        return rows == 0;
     default:
         return false;
     }
@@ -68,6 +88,35 @@ std::unordered_map<int, std::size_t> entriesById(FileReadingCL& file, const Seen
     return counts;
 }
 
+StackTP stackOf(const CheckedControlsTP& controls)
+{
+    struct PlaceCL
+    {
+        int index;
+        std::uint32_t control;
+        bool operator<(const PlaceCL& other) const { return index < other.index; }
+    };
+    std::vector<PlaceCL> places;
+    places.reserve(controls.size());
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (controls[i].isStacked) {
+            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
+        }
+    }
+    sortRows(places);
+    StackTP stack;
+    stack.reserve(controls.size());
+    for (const PlaceCL& place : places) {
+        stack.push_back(&controls[place.control]);
+    }
+    for (const CheckedControlCL& control : controls) {
+        if (!control.isStacked) {
+            stack.push_back(&control);
+        }
+    }
+    return stack;
+}
+
 class RecordsCheckerCL
 {
 public:
@@ -78,37 +127,84 @@ public:
         , findings_(findings)
         , pictures_(folder)
     {
+        constexpr std::size_t ShortRecord = 32; // Room that isn't used costs nothing, growing does.
+        controls_.reserve(file.TextM().SizeM() / ShortRecord);
     }
+    // Each record is looked at when it is read. Only then can be told which of them are sound.
     void CheckM()
     {
         dialogM();
-        std::size_t records = 0;
-        for (std::size_t i = 0; i < slGrammars().size(); ++i) {
-            const auto sound = static_cast<std::size_t>(file_.SectionM(static_cast<int>(i)).soundRecords);
-            records += slGrammars()[i].owner == nullptr ? sound : 0;
-        }
-        controls_.reserve(records);
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
+        checkSections(file_, findings_);
+        controls_.erase(std::remove_if(controls_.begin(), controls_.end(),
+                            [this](const CheckedControlCL& control) {
+                                return !isSoundM(control.grammar, control.record);
+                            }),
+            controls_.end());
         newRotateButtonsM();
+        takeFindingsM();
+        invisibleStatesM();
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
         checkIds(file_, controls_, findings_);
-        checkBindings(file_, controls_, pictures_, findings_);
-        checkPlaces(file_, controls_, findings_);
+        checkBindings(file_, controls_, findings_);
+        const StackTP stack = stackOf(controls_);
+        checkPlaces(file_, stack, findings_);
 #ifdef _WIN32
         checkCaptions(file_, controls_, translation_, findings_);
 #endif
-        checkOrder(file_, controls_, findings_);
+        checkOrder(file_, controls_, stack, findings_);
     }
 
 private:
+    // What was found in one record, behind what was found in others.
+    struct FoundCL
+    {
+        int grammar;
+        int record;
+        std::size_t findingsEnd;
+        std::size_t picturesEnd;
+    };
+
+    bool isSoundM(int grammar, int record)
+    {
+        return record < file_.SectionM(grammar).soundRecords;
+    }
+    void valuesM(int grammar, int record)
+    {
+        checkValues(file_, view_, named_, found_);
+        markM(grammar, record);
+    }
+    void markM(int grammar, int record)
+    {
+        const FoundCL now { grammar, record, found_.ListM().size(), named_.size() };
+        const FoundCL none {};
+        const FoundCL& last = marks_.empty() ? none : marks_.back();
+        if (now.findingsEnd > last.findingsEnd || now.picturesEnd > last.picturesEnd) {
+            marks_.push_back(now);
+        }
+    }
+    // What was found in sound records counts.
+    void takeFindingsM()
+    {
+        FoundCL last {};
+        for (const FoundCL& mark : marks_) {
+            if (isSoundM(mark.grammar, mark.record)) {
+                findings_.TakeM(found_, last.findingsEnd, mark.findingsEnd);
+                for (std::size_t i = last.picturesEnd; i < mark.picturesEnd; ++i) {
+                    pictures_.CheckM(std::string(file_.TextM().CutM(named_[i])), named_[i].begin, findings_);
+                }
+            }
+            last = mark;
+        }
+    }
+
     void dialogM()
     {
-        const SeenSectionCL& section = file_.SectionM(DialogGrammar);
-        if (file_.HasDialogM() && section.soundRecords > 0) {
-            view_.BeginM(section, 0);
+        if (file_.HasDialogM() && file_.SectionM(DialogGrammar).RecordsM() > 0) {
+            view_.BeginM(file_.SectionM(DialogGrammar), 0);
             file_.DialogM().EachFieldM(view_);
-            checkValues(file_, view_, pictures_, findings_);
+            valuesM(DialogGrammar, 0);
         }
     }
     template <class RowTP> void kindM()
@@ -116,28 +212,33 @@ private:
         using RecordsTP = typename RowTP::Records;
         const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
-        std::unordered_map<int, std::size_t> entries;
-        if constexpr (RowTP::Code == MultiStateButtonCode) {
-            entries = entriesById(file_, file_.SectionM(grammar + 1));
-        }
-        for (int i = 0; i < section.soundRecords; ++i) {
-            auto& record = file_.RecordsM<RecordsTP>().ElementAtM(i);
+        file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
             view_.BeginM(section, i);
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
-            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
-            if ((RowTP::Code != MultiStateButtonCode || file_.IsSoundM(MultiStateButtonDataHeader))
-                && isInvisible(RowTP::Code, view_, entries[record.GetFuncIDM()])) {
-                findings_.AddM(Says::InvisibleTabStop, controls_.back().idAt);
+            if (isInvisible(RowTP::Code, view_)) {
+                found_.AddM(Says::InvisibleTabStop, offsetOf(*view_.FindM("function_id")));
             }
-        }
+            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
+        });
     }
     void recordM(int kind, const char* kindName, int grammar, int record, bool isStacked)
     {
-        checkValues(file_, view_, pictures_, findings_);
-        checkRanges(file_, kind, view_, findings_);
-        controls_.push_back(
-            controlOf(view_, kind, kindName, grammar, record, isStacked, static_cast<int>(controls_.size())));
+        checkRanges(kind, view_, found_);
+        valuesM(grammar, record);
+        controls_.push_back(controlOf(view_, kind, kindName, grammar, record, isStacked));
+    }
+    void invisibleStatesM()
+    {
+        if (!file_.IsSoundM(MultiStateButtonDataHeader)) {
+            return;
+        }
+        const auto entries = entriesById(file_, file_.SectionM(MultiStateButtonDataHeader));
+        for (const CheckedControlCL& control : controls_) {
+            if (control.kind == MultiStateButtonCode && entries.count(control.id) == 0) {
+                findings_.AddM(Says::InvisibleTabStop, control.idAt);
+            }
+        }
     }
     void newRotateButtonsM()
     {
@@ -169,6 +270,9 @@ private:
     PicturesCL pictures_;
     RecordViewCL view_;
     CheckedControlsTP controls_;
+    FindingsCL found_;           // In records, sound or not,
+    std::vector<SpanCL> named_;  // and the names of pictures that they have.
+    std::vector<FoundCL> marks_; // Which of them were found where.
 };
 
 } // namespace

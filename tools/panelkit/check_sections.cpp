@@ -75,14 +75,16 @@ private:
         return slGbkToUtf8(slGrammars()[static_cast<std::size_t>(grammar)].header);
     }
 
+    // Only lines with a bracket matter.
     void findHeadersM()
     {
-        std::size_t lineBegin = 0;
-        while (lineBegin < bytes_.size()) {
-            const std::size_t feed = bytes_.find('\n', lineBegin);
-            const std::size_t lineEnd = feed == std::string_view::npos ? bytes_.size() : feed;
-            findInLineM(lineBegin, lineEnd);
-            lineBegin = lineEnd + 1;
+        std::size_t open = bytes_.find('[');
+        std::size_t close = bytes_.find(']');
+        for (std::size_t at = 0; (at = std::min(open, close)) != std::string_view::npos;) {
+            const std::size_t lineEnd = std::min(bytes_.find('\n', at), bytes_.size());
+            findInLineM(bytes_.rfind('\n', at) + 1, lineEnd);
+            open = open < lineEnd ? bytes_.find('[', lineEnd) : open;
+            close = close < lineEnd ? bytes_.find(']', lineEnd) : close;
         }
     }
     void findInLineM(std::size_t lineBegin, std::size_t lineEnd)
@@ -136,7 +138,7 @@ private:
         std::vector<SpanCL> whole;
         for (std::size_t i = 0; i < slGrammars().size(); ++i) {
             const SeenSectionCL& section = file_.SectionM(static_cast<int>(i));
-            if (section.IsThereM() && layoutOf(section, bytes_, static_cast<int>(i) != DialogGrammar).isClean
+            if (section.IsThereM() && layoutOf(file_, static_cast<int>(i)).isClean
                 && static_cast<int>(i) != VersionGrammar) {
                 whole.push_back({ section.head.headerSpan.begin, section.head.end });
             }
@@ -219,7 +221,7 @@ private:
             checkVersionM(section);
             return;
         }
-        const SectionLayoutCL layout = layoutOf(section, bytes_, grammar != DialogGrammar);
+        const SectionLayoutCL layout = layoutOf(file_, grammar);
         const bool isRepeated
             = std::find(repeated_.begin(), repeated_.end(), section.regionEnd) != repeated_.end()
             && nextText(bytes_, section.head.headerSpan.end, section.regionEnd) == section.regionEnd;
@@ -241,7 +243,7 @@ private:
     void checkVersionM(const SeenSectionCL& section)
     {
         const std::size_t version = nextText(bytes_, section.head.headerSpan.end, section.regionEnd);
-        const std::size_t next = file_.LineStartM(file_.LineM(version) + 1);
+        const std::size_t next = std::min(bytes_.find('\n', version), bytes_.size() - 1) + 1;
         const std::size_t stray
             = next < section.regionEnd ? nextText(bytes_, next, section.regionEnd) : section.regionEnd;
         if (stray >= section.regionEnd) {

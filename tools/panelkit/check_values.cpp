@@ -2,6 +2,7 @@
 #include "baselib/gbk.h"
 #include "baselib/number_text.h"
 #include "control_list.h"
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -36,15 +37,23 @@ void checkFates(FileReadingCL& file, const FieldCL& field, FindingsCL& findings)
     }
 }
 
+// The light of each value of a colour's component.
+std::array<double, 256> makeLinear()
+{
+    std::array<double, 256> linear {};
+    for (std::size_t i = 0; i < linear.size(); ++i) {
+        const double value = static_cast<double>(i) / 255.0;
+        linear[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    }
+    return linear;
+}
+
 // The contrast of black text on a colour, from 1 to 21.
 double contrastOfBlack(ColourTP colour)
 {
-    const auto linear = [](unsigned byte) {
-        const double value = byte / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const double luminance = 0.2126 * linear(colour & 0xFF) + 0.7152 * linear(colour >> 8 & 0xFF)
-        + 0.0722 * linear(colour >> 16 & 0xFF);
+    static const std::array<double, 256> linear = makeLinear();
+    const double luminance = 0.2126 * linear[colour & 0xFF] + 0.7152 * linear[colour >> 8 & 0xFF]
+        + 0.0722 * linear[colour >> 16 & 0xFF];
     return (luminance + 0.05) / 0.05;
 }
 
@@ -114,7 +123,8 @@ void checkLimits(const FieldCL& range, int low, int high, const FieldCL& initial
 
 } // namespace
 
-void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pictures, FindingsCL& findings)
+void checkValues(
+    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings)
 {
     for (const FieldCL& field : record.FieldsM()) {
         if (field.seen == nullptr) {
@@ -143,8 +153,8 @@ void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pi
             checkColour(file, field, record, findings);
             break;
         case Verb::Name:
-            if (slIsNullWord(field.text->TextM()) == 0) {
-                pictures.CheckM(field.text->TextM(), field.seen->begin, findings);
+            if (!field.text->EmptyM() && slIsNullWord(field.text->TextM()) == 0) {
+                pictures.push_back({ field.seen->begin, field.seen->begin + field.text->LengthM() });
             }
             break;
         default:
@@ -153,9 +163,8 @@ void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pi
     }
 }
 
-void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, FindingsCL& findings)
+void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings)
 {
-    static_cast<void>(file);
     const auto field = [&record](const char* name) { return record.FindM(name); };
     const auto tooLong = [&findings](const FieldCL& text, std::size_t length, int most) {
         if (static_cast<long>(length) > most) {

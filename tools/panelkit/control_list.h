@@ -9,25 +9,28 @@
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
-    int kind;             // Its KindCode; 0 for a new rotate button.
-    const char* kindName; // As dump has it.
-    int grammar;          // Its section,
-    int record;           // and its place there.
-    bool isStacked;       // Its window index counts.
-    int place;            // In the order of collection.
-    int windowIndex;
-    int id;
-    int x, y, w, h;
-    std::size_t idAt, indexAt, positionAt; // Offsets in the file.
-    bool hasText { false };
-    const CharArr* caption { nullptr }; // Of a kind that shows one; GBK,
-    std::size_t captionAt { 0 };        // and where the file has it.
-    bool isSunken { false };
-    bool isReadOnly { false };
-    bool isDefault { false };
+    // Small: there may be very many.
+    std::int16_t kind { 0 };    // Its KindCode; 0 for a new rotate button.
+    std::int16_t grammar { 0 }; // Its section,
+    int record { 0 };           // and its place there.
+    int windowIndex { 0 };
+    int id { 0 };
+    int x { 0 }, y { 0 }, w { 0 }, h { 0 };
+    std::uint32_t idAt { 0 }, indexAt { 0 }, positionAt { 0 }; // Offsets in the file.
     int group { 0 };
     int arrowsId { 0 }; // Of a spin edit; 0 for none.
-    std::size_t arrowsAt { 0 };
+    std::uint32_t arrowsAt { 0 };
+    bool isStacked { false }; // Its window index counts.
+    bool hasText { false };
+    bool isReadOnly { false };
+    bool isDefault { false };
+#ifdef _WIN32
+    // Captions are measured there.
+    bool isSunken { false };
+    std::uint32_t captionAt { 0 };
+    CharArr caption;             // Of a kind that shows one; GBK.
+    const char* kindName { "" }; // As dump has it.
+#endif
     bool IsM(std::initializer_list<int> kinds) const
     {
         for (const int other : kinds) {
@@ -38,7 +41,10 @@ struct CheckedControlCL
         return false;
     }
     // Reaches from x to this, and from y to this; of a combo box only what shows while its list is closed.
-    std::int64_t RightM() const { return std::int64_t { x } + w; }
+    std::int64_t RightM() const
+    {
+        return std::int64_t { x } + w;
+    }
     std::int64_t BottomM() const
     {
         constexpr int ComboHeight = 24;
@@ -64,24 +70,33 @@ private:
         Bad,
         Remote
     };
+    struct PictureCL
+    {
+        State state;
+        std::string shown; // Its name in UTF-8.
+    };
     State stateM(const std::string& name);
     std::filesystem::path findM(const std::string& name) const;
 
     std::filesystem::path folder_;
-    std::unordered_map<std::string, State> states_;
+    std::unordered_map<std::string, PictureCL> states_;
 };
 
 using CheckedControlsTP = std::vector<CheckedControlCL>;
+// From the top of the stack down, those without a place in it behind the others.
+using StackTP = std::vector<const CheckedControlCL*>;
 
-void checkValues(FileReadingCL& file, const RecordViewCL& record, PicturesCL& pictures, FindingsCL& findings);
-void checkRanges(FileReadingCL& file, int kind, const RecordViewCL& record, FindingsCL& findings);
+// Appends the names of pictures.
+void checkValues(
+    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings);
+void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
 void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
-void checkBindings(
-    FileReadingCL& file, const CheckedControlsTP& controls, PicturesCL& pictures, FindingsCL& findings);
-void checkPlaces(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkBindings(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings);
 // Only where a window system is.
 void checkCaptions(FileReadingCL& file, const CheckedControlsTP& controls, const TranslationCL& translation,
     FindingsCL& findings);
-void checkOrder(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkOrder(
+    FileReadingCL& file, const CheckedControlsTP& controls, const StackTP& stack, FindingsCL& findings);

@@ -10,19 +10,13 @@
 #include <string_view>
 #include <vector>
 
-// The tuple of the record arrays of all kinds, in the order of the table of kinds.
-template <class RowsTP> struct RecordsOfTableCL;
-template <class... RowTP> struct RecordsOfTableCL<std::tuple<RowTP...>>
-{
-    using Type = std::tuple<typename RowTP::Records...>;
-};
-using AllRecordsTP = RecordsOfTableCL<KindTable>::Type;
-
-// A whole file, read by the library.
+// A whole file, read by the library: the dialog, its relations, its bindings and the new rotate buttons at
+// once, each kind of control when it is asked for.
 class FileReadingCL
 {
 public:
-    explicit FileReadingCL(std::shared_ptr<const FileTextCL> text);
+    // keepsAll: the values of all controls, not only what tells something of them.
+    explicit FileReadingCL(std::shared_ptr<const FileTextCL> text, bool keepsAll = false);
     const FileTextCL& TextM() const { return *text_; }
     const std::shared_ptr<const FileTextCL>& SharedTextM() const { return text_; }
 
@@ -36,7 +30,17 @@ public:
     DialogHeaderCL& DialogM() { return dialog_; }
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
     std::vector<BindingCL>& BindingsM() { return bindings_; }
-    template <class RecordsTP> RecordsTP& RecordsM() { return std::get<RecordsTP>(records_); }
+    // Reads the sections of one kind; see(number, record) is shown each control when its values have been
+    // seen, and may take from the record what it likes.
+    template <class RecordsTP, class SeeTP> void ReadKindM(SeeTP&& see)
+    {
+        if (!keepsAll_) {
+            seen_.KeepLastM(slGrammarOf(RecordsTP::Header));
+        }
+        slEachRecordRead<RecordsTP>(io_, see);
+    }
+    void ReadKindsM();             // All of them, for their values.
+    void KeepValuesM(int grammar); // Reads a section again if values of it were dropped.
 
     std::string CutM(SpanCL span) const { return utf8M(text_->CutM(span)); } // As UTF-8.
     std::string CutM(const SeenValueCL& value) const { return CutM(SpanCL { value.begin, value.end }); }
@@ -48,18 +52,19 @@ public:
     int NumberM(const SeenSectionCL& section, int record, const char* field) const;
     std::size_t LineM(std::size_t offset) const; // From 0.
     std::size_t LineStartM(std::size_t line) const;
-    std::size_t LineCountM() const { return lines_.size(); }
 
 private:
     static std::string utf8M(std::string_view text);
+    const std::vector<std::size_t>& linesM() const;
 
     std::shared_ptr<const FileTextCL> text_;
-    std::vector<std::size_t> lines_;
+    VrIOCL io_;
+    mutable std::vector<std::size_t> lines_; // Where each begins; made when first asked for.
     SeenSectionsCL seen_;
-    AllRecordsTP records_;
     DVrNewRotateBtnArr newRotateButtons_;
     std::vector<BindingCL> bindings_;
     DialogHeaderCL dialog_;
+    bool keepsAll_;
     bool hasDialog_ { false };
     bool hasStrayText_ { false };
 };

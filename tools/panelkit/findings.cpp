@@ -1,5 +1,6 @@
 #include "findings.h"
 #include "json.h"
+#include "sort_rows.h"
 #include <algorithm>
 #include <cstdio>
 #include <tuple>
@@ -32,17 +33,22 @@ std::string FindingCL::TextM(Language language) const
 
 void FindingsCL::SortM()
 {
-    std::stable_sort(list_.begin(), list_.end(), [](const FindingCL& a, const FindingCL& b) {
-        return std::tie(a.offset, a.says) < std::tie(b.offset, b.says);
-    });
-    list_.erase(std::unique(list_.begin(), list_.end(),
-                    [](const FindingCL& a, const FindingCL& b) {
-                        return a.offset == b.offset && a.says == b.says && a.details == b.details;
-                    }),
-        list_.end());
-    for (FindingCL& finding : list_) {
-        finding.place = text_->PlaceM(finding.offset);
+    std::vector<std::tuple<std::size_t, Says, std::size_t>> order;
+    order.reserve(list_.size());
+    for (std::size_t i = 0; i < list_.size(); ++i) {
+        order.push_back({ list_[i].offset, list_[i].says, i });
     }
+    sortRows(order);
+    std::vector<FindingCL> sorted;
+    sorted.reserve(list_.size());
+    for (const auto& [offset, says, i] : order) {
+        if (sorted.empty() || sorted.back().offset != offset || sorted.back().says != says
+            || sorted.back().details != list_[i].details) {
+            sorted.push_back(std::move(list_[i]));
+            sorted.back().place = text_->PlaceM(offset);
+        }
+    }
+    list_ = std::move(sorted);
 }
 
 std::size_t FindingsCL::CountM(Severity severity) const

@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/file_text.h"
 #include "check_messages.h"
+#include <iterator>
 #include <memory>
 #include <set>
 #include <string>
@@ -56,6 +57,7 @@ struct FindingCL
 class FindingsCL
 {
 public:
+    FindingsCL() = default;
     FindingsCL(std::string file, std::shared_ptr<const FileTextCL> text)
         : file_(std::move(file))
         , text_(std::move(text))
@@ -65,6 +67,12 @@ public:
     void AddM(Says says, std::size_t offset, std::vector<std::string> details = {})
     {
         list_.push_back({ says, offset, std::move(details) });
+    }
+    void TakeM(FindingsCL& other, std::size_t begin, std::size_t end) // Moves some of the list of another.
+    {
+        const auto from = other.list_.begin();
+        list_.insert(list_.end(), std::make_move_iterator(from + static_cast<std::ptrdiff_t>(begin)),
+            std::make_move_iterator(from + static_cast<std::ptrdiff_t>(end)));
     }
     void AddPictureM(const std::string& name) { pictures_.insert(name); }
     const std::set<std::string>& PicturesM() const

@@ -66,11 +66,11 @@ std::vector<std::filesystem::path> LiveDialogCL::watchedM() const
 // it; a file that is gone comes back.
 bool LiveDialogCL::checkM()
 {
-    std::string bytes;
-    if (!readBytes(path_, &bytes)) {
+    const auto text = readText(path_);
+    if (text == nullptr) {
         return false;
     }
-    const FindingsCL findings = checkBytes("", path_.parent_path(), std::move(bytes));
+    const FindingsCL findings = checkText("", path_.parent_path(), text);
     std::vector<std::filesystem::path> files = watchedM();
     for (const std::string& picture : findings.PicturesM()) {
         files.push_back(path_.parent_path() / slGbkToWide(picture.c_str()));

@@ -32,12 +32,10 @@ private:
     template <class RowTP> void kindM()
     {
         using RecordsTP = typename RowTP::Records;
-        auto& records = file_.RecordsM<RecordsTP>();
         const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         owners_.clear();
-        for (int i = 0; i < section.RecordsM(); ++i) {
-            auto& record = records.ElementAtM(i);
+        file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
             view_.BeginM(section, i);
             record.EachCommonFieldM(view_);
             record.EachFieldM(view_);
@@ -48,7 +46,7 @@ private:
             if (RowTP::Code != MultiEditCode || view_.IntM("read_only") == 1) {
                 captionsM(control);
             }
-        }
+        });
         for (const auto& secondary : RecordsTP::Secondaries) {
             // Cells are what the application reads and writes.
             if (std::strcmp(secondary.header, ListCtrlItemHeader) != 0) {
@@ -74,8 +72,8 @@ private:
                 continue;
             }
             for (const SeenValueCL* value = section.FirstM(i); value != section.EndM(i); ++value) {
-                const auto text = shape.texts.find(value->field);
-                if (text == shape.texts.end() || text->second.isPicture || value->fate == Fate::NullWord) {
+                const RowShapeCL::TextCL* const text = shape.FindM(value->field);
+                if (text == nullptr || text->isPicture || value->fate == Fate::NullWord) {
                     continue;
                 }
                 ReadableTextCL control = owner->second;
@@ -83,8 +81,8 @@ private:
                     control.width = file_.NumberM(section, i, "width");
                 }
                 std::string bytes(file_.BytesM(*value));
-                bytes.resize(slGbkCutLength(
-                    bytes.data(), bytes.size(), static_cast<std::size_t>(text->second.size - 1)));
+                bytes.resize(
+                    slGbkCutLength(bytes.data(), bytes.size(), static_cast<std::size_t>(text->size - 1)));
                 addM(control, value->field, bytes.c_str(), value->begin);
             }
         }

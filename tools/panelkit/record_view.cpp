@@ -1,24 +1,12 @@
 #include "record_view.h"
-#include <algorithm>
 #include <cstring>
 
-FieldCL& RecordViewCL::addM(const char* name, Verb verb, int parts)
+const FieldCL* RecordViewCL::searchM(const char* name) const
 {
-    FieldCL& field = fields_.emplace_back();
-    field.name = name;
-    field.verb = verb;
-    field.seen = next_ < end_ ? next_ : nullptr;
-    field.parts = parts;
-    next_ = std::min(next_ + parts, end_);
-    return field;
-}
-
-const FieldCL* RecordViewCL::FindM(const char* name) const
-{
-    for (const FieldCL& field : fields_) {
-        if (field.name == name || std::strcmp(field.name, name) == 0) {
-            return &field;
-        }
+    std::size_t place = 0;
+    while (place < count_ && std::strcmp(fields_[place].name, name) != 0) {
+        ++place;
     }
-    return nullptr;
+    found_[placeM(name)] = { name, shape_, count_, place };
+    return place < count_ ? &fields_[place] : nullptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "file_reading.h"
+#include <algorithm>
 
 enum class Verb
 {
@@ -27,7 +28,7 @@ struct FieldCL
     const SeenValueCL* seen { nullptr }; // Its first part.
     int parts { 1 };
     const int* ints { nullptr };
-    const CharArr* text { nullptr };
+    CharArr* text { nullptr };
     const simpleValD* value { nullptr };
     const float* reals { nullptr };
     int type { IntegerType }; // Of a number or limits.
@@ -52,12 +53,28 @@ class RecordViewCL : public FieldVisitorCL
 public:
     void BeginM(const SeenSectionCL& section, int record)
     {
-        fields_.clear();
+        count_ = 0;
         next_ = section.FirstM(record);
         end_ = section.EndM(record);
     }
-    const std::vector<FieldCL>& FieldsM() const { return fields_; }
-    const FieldCL* FindM(const char* name) const;  // Null when the record has none.
+    struct FieldsCL
+    {
+        const FieldCL* first;
+        const FieldCL* last;
+        const FieldCL* begin() const { return first; }
+        const FieldCL* end() const { return last; }
+    };
+    FieldsCL FieldsM() const { return { fields_.data(), fields_.data() + count_ }; }
+    // Null when the record has none. In little time: records of one kind mostly have the same fields, so that
+    // a name is looked for once.
+    const FieldCL* FindM(const char* name) const
+    {
+        const FoundCL& found = found_[placeM(name)];
+        if (found.name == name && found.shape == shape_ && found.count == count_) {
+            return found.place < count_ ? &fields_[found.place] : nullptr;
+        }
+        return searchM(name);
+    }
     int IntM(const char* name, int part = 0) const // 0 without one.
     {
         const FieldCL* const field = FindM(name);
@@ -120,15 +137,53 @@ public:
     }
 
 private:
-    FieldCL& addM(const char* name, Verb verb, int parts);
-    void textM(const char* name, Verb verb, const CharArr& text, const TextFormCL& form)
+    // Where a name was found among the fields of a record: at `count`, nowhere.
+    struct FoundCL
+    {
+        const char* name { nullptr };
+        unsigned shape { 0 };
+        std::size_t count { 0 };
+        std::size_t place { 0 };
+    };
+
+    static std::size_t placeM(const char* name)
+    {
+        const auto bits = reinterpret_cast<std::uintptr_t>(name);
+        return (bits ^ bits >> 8) % Places;
+    }
+    const FieldCL* searchM(const char* name) const;
+    FieldCL& addM(const char* name, Verb verb, int parts)
+    {
+        if (count_ == fields_.size()) {
+            fields_.emplace_back();
+        }
+        FieldCL& field = fields_[count_++];
+        if (field.name != name) {
+            ++shape_;
+        }
+        if (field.name != name || field.verb != verb) {
+            field = FieldCL(); // Else the same members are set again.
+            field.name = name;
+            field.verb = verb;
+        }
+        field.seen = next_ < end_ ? next_ : nullptr;
+        field.parts = parts;
+        next_ = std::min(next_ + parts, end_);
+        return field;
+    }
+    void textM(const char* name, Verb verb, CharArr& text, const TextFormCL& form)
     {
         FieldCL& field = addM(name, verb, 1);
         field.text = &text;
         field.size = form.size;
     }
 
-    std::vector<FieldCL> fields_;
+    static constexpr std::size_t Places = 256;
+
+    std::vector<FieldCL> fields_; // Those of the record, and behind them what others left.
+    std::size_t count_ { 0 };
+    unsigned shape_ { 0 }; // Another one whenever a name stands where another one stood.
+    mutable FoundCL found_[Places];
     const SeenValueCL* next_ { nullptr };
     const SeenValueCL* end_ { nullptr };
 };

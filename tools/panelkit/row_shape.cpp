@@ -9,3 +9,10 @@ RowShapeCL::RowShapeCL(const GrammarCL& grammar)
         SlotPictureCL().EachFieldM(*this);
     }
 }
+
+const RowShapeCL::TextCL* RowShapeCL::searchM(const char* field) const
+{
+    const auto found = texts_.find(field);
+    asked_.push_back({ field, found != texts_.end() ? &found->second : nullptr });
+    return asked_.back().second;
+}

@@ -1,5 +1,6 @@
 #pragma once
 #include "file_reading.h"
+#include <algorithm>
 #include <map>
 
 // What the texts of a secondary section's entries are, by the names of their fields.
@@ -13,13 +14,26 @@ public:
         int size; // With its terminator.
         bool isPicture;
     };
+    // Null for a field that is no text. In little time for a name that was asked for before: entries repeat
+    // theirs.
+    const TextCL* FindM(const char* field) const
+    {
+        const auto asked = std::find_if(
+            asked_.begin(), asked_.end(), [field](const auto& one) { return one.first == field; });
+        return asked != asked_.end() ? asked->second : searchM(field);
+    }
     void CaptionM(const char* name, CharArr&, const TextFormCL& form) override
     {
-        texts[name] = { form.size, false };
+        texts_[name] = { form.size, false };
     }
     void NameM(const char* name, CharArr&, const TextFormCL& form) override
     {
-        texts[name] = { form.size, true };
+        texts_[name] = { form.size, true };
     }
-    std::map<std::string, TextCL> texts;
+
+private:
+    const TextCL* searchM(const char* field) const;
+
+    std::map<std::string, TextCL> texts_;
+    mutable std::vector<std::pair<const char*, const TextCL*>> asked_;
 };

@@ -46,11 +46,6 @@ bool isRowOfNumbers(std::string_view text, int least)
 
 namespace {
 
-bool isAbsent(const SeenValueCL& value)
-{
-    return value.fate == Fate::NotANumber || value.fate == Fate::Missing || value.fate == Fate::NotLookedAt;
-}
-
 bool goesOn(SpanCL number, std::string_view bytes)
 {
     return number.end < bytes.size() && !slIsBlank(bytes[number.end]);
@@ -79,9 +74,9 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     bool isJoined = false; // A value begins right behind a number.
     for (const SeenValueCL& value : section.values) {
         const bool isBehind = value.begin >= regionEnd;
-        isJoined = !isAbsent(value) && value.begin == before && value.begin > 0
+        isJoined = !value.IsAbsentM() && value.begin == before && value.begin > 0
             && !slIsBlank(bytes[value.begin - 1]);
-        if (isAbsent(value) || isBehind || isJoined) {
+        if (value.IsAbsentM() || isBehind || isJoined) {
             layout.bad = &value;
             layout.runsOver = isBehind || value.fate == Fate::Missing;
             break;
@@ -102,4 +97,18 @@ SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, b
     layout.leftover = nextText(bytes, std::min(layout.goodEnd, regionEnd), regionEnd);
     layout.isClean = layout.isHeadSound && layout.leftover == regionEnd;
     return layout;
+}
+
+SectionLayoutCL layoutOf(FileReadingCL& file, int grammar)
+{
+    const std::string_view bytes = file.TextM().CutM({ 0, file.TextM().SizeM() });
+    const auto layout = [&] { return layoutOf(file.SectionM(grammar), bytes, grammar != DialogGrammar); };
+    if (file.SectionM(grammar).IsPlainM()) {
+        const SectionLayoutCL plain = layout();
+        if (plain.isClean) {
+            return plain;
+        }
+    }
+    file.KeepValuesM(grammar);
+    return layout();
 }

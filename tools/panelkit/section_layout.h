@@ -20,6 +20,8 @@ struct SectionLayoutCL
 };
 
 SectionLayoutCL layoutOf(const SeenSectionCL& section, std::string_view bytes, bool hasCount);
+// Of a section of the file. Where not all is in order, its values are kept from then on.
+SectionLayoutCL layoutOf(FileReadingCL& file, int grammar);
 
 // The offset of the first byte in [begin, end) that is no blank; end when there is none.
 std::size_t nextText(std::string_view bytes, std::size_t begin, std::size_t end);
