@@ -20,6 +20,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/real_write.cpp
   baselib/scale.cpp
   baselib/string.cpp
+  baselib/text_pool.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
