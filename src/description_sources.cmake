@@ -20,6 +20,8 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/real_write.cpp
   baselib/scale.cpp
   baselib/string.cpp
+  containers/any_arr.cpp
+  containers/arr_slots.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
