@@ -1,5 +1,5 @@
 #pragma once
-#include "containers/arr_elements.h"
+#include "containers/element_class.h"
 
 class IntArr;
 

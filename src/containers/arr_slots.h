@@ -1,6 +1,6 @@
 #pragma once
 #include "baselib/call_ref.h"
-#include "containers/arr_elements.h"
+#include "containers/element_class.h"
 
 // The members of an Arr behind its inline store.
 struct ArrCountsCL
