@@ -80,10 +80,16 @@ void readNumbers(const std::string& bytes, int decimals)
     const std::vector<char> block(bytes.begin(), bytes.end());
     const char* const end = block.data() + block.size();
     int number = 0;
-    expect(slReadInt(block.data(), end, &number) <= end);
-    slIntFits(block.data(), end);
+    const char* const numberEnd = slReadInt(block.data(), end, &number);
+    expect(numberEnd <= end);
+    if (numberEnd != block.data()) {
+        slIntFits(block.data(), numberEnd);
+    }
     float real = 0;
-    if (slReadReal(block.data(), end, &real) != block.data()) {
+    const char* const realEnd = slReadReal(block.data(), end, &real);
+    expect(realEnd <= end);
+    if (realEnd != block.data()) {
+        slRealFits(block.data(), realEnd);
         char text[64];
         float again = 0;
         char* const textEnd = slWriteShortest(text, real);
@@ -92,7 +98,6 @@ void readNumbers(const std::string& bytes, int decimals)
         expect(slWriteFixed(fixed.data(), real, decimals) <= fixed.data() + fixed.size());
         slRound(real);
     }
-    slRealFits(block.data(), end);
 }
 
 } // namespace
