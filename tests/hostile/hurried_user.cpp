@@ -12,6 +12,7 @@ namespace {
 
 constexpr UINT_PTR Breath = 1;
 constexpr int StepsABreath = 10; // Timers come only when nobody has anything to paint.
+constexpr DWORD Patience = 30;   // Milliseconds that he holds the mouse where nothing else is taken.
 
 struct BoxSearchCL
 {
@@ -65,17 +66,35 @@ HurriedUserCL::HurriedUserCL(std::mt19937& random, std::function<void(const std:
         type.lpszClassName, L"", WS_POPUP | WS_VISIBLE, GetSystemMetrics(SM_CXSCREEN) - 1,
         GetSystemMetrics(SM_CYSCREEN) - 1, 1, 1, nullptr, nullptr, type.hInstance, nullptr);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    finger_ = std::thread([this] { liftFingerM(); });
 }
 
 HurriedUserCL::~HurriedUserCL()
 {
+    SetEvent(stop_);
+    finger_.join();
+    CloseHandle(stop_);
     DestroyWindow(window_);
+}
+
+// Some loops, such as that of a close button held down, take nothing but the mouse: there no step is made.
+void HurriedUserCL::liftFingerM()
+{
+    for (int last = steps_; WaitForSingleObject(stop_, Patience) == WAIT_TIMEOUT; last = steps_) {
+        if (steps_ == last && isHeld_.exchange(false)) {
+            INPUT input = {};
+            input.type = INPUT_MOUSE;
+            input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+            SendInput(1, &input, sizeof input);
+        }
+    }
 }
 
 void HurriedUserCL::BeginM(int inputs, CallsCL calls)
 {
     calls_ = std::move(calls);
     left_ = inputs;
+    isLeaving_ = false;
 }
 
 void HurriedUserCL::UseM(HWND dialog)
@@ -180,7 +199,10 @@ bool HurriedUserCL::answerBoxM()
 
 void HurriedUserCL::leaveLoopsM()
 {
-    tellM("leaves what is open");
+    if (!isLeaving_) {
+        isLeaving_ = true;
+        tellM("leaves what is open"); // Once: if that goes on for ever, somebody shall see it.
+    }
     if (isHeld_) {
         releaseM();
         return;
@@ -188,12 +210,7 @@ void HurriedUserCL::leaveLoopsM()
     if (const HWND captor = GetCapture()) {
         PostMessageW(captor, WM_CANCELMODE, 0, 0);
     }
-    GUITHREADINFO state {};
-    state.cbSize = sizeof state;
-    GetGUIThreadInfo(GetCurrentThreadId(), &state);
-    if ((state.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0) {
-        KeyM(VK_ESCAPE);
-    }
+    KeyM(VK_ESCAPE); // Menus, and windows that are moved.
     calls_.done();
 }
 
@@ -276,9 +293,8 @@ void HurriedUserCL::mouseM()
 
 void HurriedUserCL::releaseM()
 {
-    if (isHeld_) {
+    if (isHeld_.exchange(false)) {
         ReleaseM();
-        isHeld_ = false;
     }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
+#include <atomic>
 #include <functional>
 #include <random>
 #include <string>
+#include <thread>
 #include <windows.h>
 
 // Somebody who presses keys and clicks by chance, with real input, in whatever loop runs on this thread: that
@@ -41,6 +43,7 @@ private:
     void keyM();
     void mouseM();
     void releaseM();
+    void liftFingerM();
     POINT placeM();
     void tellM(const std::string& what) { onStep_(what); }
     size_t belowM(size_t limit);
@@ -54,9 +57,12 @@ private:
     int patience_ { 0 }; // Inputs that he makes before he answers the box.
     int left_ { 0 };
     int moves_ { 0 }; // Before he lets go of the mouse.
-    int steps_ { 0 };
     int boxes_ { 0 };
-    bool isHeld_ { false };
+    bool isLeaving_ { false };
     bool isRunning_ { false };
     bool isActing_ { false };
+    std::atomic<int> steps_ { 0 };
+    std::atomic<bool> isHeld_ { false };
+    HANDLE stop_ { CreateEventW(nullptr, TRUE, FALSE, nullptr) };
+    std::thread finger_;
 };

@@ -79,6 +79,11 @@ bool isCode(const void* place)
         && (memory.Protect & Executable) != 0;
 }
 
+void writePlace(const char* how, DWORD64 place)
+{
+    std::fprintf(stderr, "  %s %s\n", how, placeName(reinterpret_cast<const void*>(place)).c_str());
+}
+
 } // namespace
 
 FaultsCL::FaultsCL(void (*onFault)(const EXCEPTION_POINTERS&))
@@ -108,21 +113,28 @@ std::vector<std::string> FaultsCL::SeenM() const
 
 void WriteStackM(const CONTEXT& context)
 {
-    constexpr int MostWords = 4000;
-    constexpr int MostNames = 60;
-    std::fprintf(stderr, "  at %s\n", placeName(reinterpret_cast<const void*>(context.Rip)).c_str());
-    MEMORY_BASIC_INFORMATION memory {};
-    const auto* at = reinterpret_cast<const DWORD64*>(context.Rsp);
-    if (VirtualQuery(at, &memory, sizeof memory) == 0) {
-        return;
+    constexpr int MostWords = 700;
+    CONTEXT at = context;
+    while (isCode(reinterpret_cast<const void*>(at.Rip))) {
+        writePlace("in", at.Rip);
+        DWORD64 base = 0;
+        if (PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(at.Rip, &base, nullptr)) {
+            void* data = nullptr;
+            DWORD64 frame = 0;
+            RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, at.Rip, function, &at, &data, &frame, nullptr);
+        } else { // A function that calls none: where it returns to lies on top.
+            at.Rip = *reinterpret_cast<const DWORD64*>(at.Rsp);
+            at.Rsp += sizeof(DWORD64);
+        }
     }
-    const auto* end
-        = reinterpret_cast<const DWORD64*>(static_cast<const BYTE*>(memory.BaseAddress) + memory.RegionSize);
-    for (int words = 0, names = 0; at < end && words < MostWords && names < MostNames; ++at, ++words) {
-        const auto* place = reinterpret_cast<const void*>(*at);
-        if (isCode(place)) {
-            std::fprintf(stderr, "  by %s\n", placeName(place).c_str());
-            ++names;
+    // The system's other half called back: what stands on the stack before that may have been called.
+    MEMORY_BASIC_INFORMATION memory {};
+    VirtualQuery(reinterpret_cast<const void*>(at.Rsp), &memory, sizeof memory);
+    const DWORD64 end = reinterpret_cast<DWORD64>(memory.BaseAddress) + memory.RegionSize;
+    for (int words = 0; at.Rsp < end && words < MostWords; ++words, at.Rsp += sizeof(DWORD64)) {
+        const DWORD64 place = *reinterpret_cast<const DWORD64*>(at.Rsp);
+        if (isCode(reinterpret_cast<const void*>(place))) {
+            writePlace("perhaps", place);
         }
     }
     std::fflush(stderr);

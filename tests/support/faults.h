@@ -19,8 +19,7 @@ public:
     std::vector<std::string> SeenM() const; // "c0000005 at comctl32.dll+1a2b", the first few.
 };
 
-// Writes where a thread stands that is stopped there: its instruction, and what on its stack looks like those
-// that called it.
+// Writes to stderr where a thread stands that is stopped there, and who called.
 void WriteStackM(const CONTEXT& context);
 
 } // namespace testing_support
