@@ -197,6 +197,38 @@ make_private_prefix() { # prefix
   mv "$1.new" "$1"
 }
 
+stop_session() {
+  if [ -d "$prefix" ] && [ -x "$wineserver" ]; then
+    WINEPREFIX="$prefix" timeout 20 "$wineserver" -k 2>/dev/null || true
+  fi
+  [ -z "$keeper_pid" ] || kill -9 "$keeper_pid" 2>/dev/null || true
+  [ -z "$display_pid" ] || kill "$display_pid" 2>/dev/null || true
+  keeper_pid= display_pid=
+}
+
+# Tests press keys and move the mouse, and Wine's focus is one per prefix: a display and a prefix of their own.
+# A fresh prefix each time lets no run inherit anything from another. The caller says where: prefix, and stops it.
+start_session() { # keeper
+  local pipe line=
+  stop_session # A leftover of a run that was killed.
+  make_private_prefix "$prefix" || return 1
+  start_display || return 1
+  wine_environment "$prefix"
+  export PANELKIT_WINEPREFIX="$prefix" PANELKIT_CODEPAGE=1252
+  # A start of Wine beside no other program is slow and may fail: server and one program stay.
+  timeout 60 "$wineserver" -p || { say "the Wine server did not start"; return 1; }
+  pipe="$prefix.pipe"
+  rm -f "$pipe"
+  mkfifo "$pipe"
+  exec 6<>"$pipe"
+  rm -f "$pipe"
+  "$root/scripts/wine" "$1" >&6 6<&- 2>/dev/null </dev/null &
+  keeper_pid=$!
+  read -r -t 90 line <&6 || true
+  exec 6<&-
+  [ "${line%$'\r'}" = ready ] || { say "Wine did not start (no window after 90 s)"; return 1; }
+}
+
 # A copy of another commit's sources with its native command and library built; prints the folder.
 build_other() { # commit
   local commit folder

@@ -12,6 +12,7 @@ class Area:
     folders: tuple
     left_out: tuple  # Tables, and what doesn't read descriptions.
     programs: tuple  # The last ones are asked last.
+    mutates_tests: bool  # The tests too are compiled with the mutants that stand in headers.
 
     @property
     def folder(self):
@@ -33,7 +34,8 @@ AREAS = {
     "reader": Area("reader", "host", ("baselib", "containers", "records"),
                    ("gbk_table.cpp", "gbk_table.h", "gbk_texts.h", "io_write.cpp", "real_write.cpp",
                     "message_catalogue.cpp", "message_catalogue.h", "message_texts.cpp", "message_texts.h"),
-                   ("baselib", "containers", "records", "dialog", "pictures", "editing", *KINDS, "tools")),
+                   ("baselib", "containers", "records", "dialog", "pictures", "editing", *KINDS, "tools"),
+                   True),
     "windows": Area("windows", "windows", ("controls/base", "dialog"), (),
-                    ("controls_base", "dialog", *KINDS, "form")),
+                    ("controls_base", "dialog", *KINDS, "form"), False),
 }

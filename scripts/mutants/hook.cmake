@@ -1,14 +1,21 @@
 # CMAKE_PROJECT_INCLUDE of a build with mutants: PANELKIT_MUTANTS is a folder with mutated copies of sources, src/...,
 # which are compiled in place of those in the checkout. Nothing of the build's own description knows of it.
+# PANELKIT_MUTANT_HEADERS: the tests read mutated headers too, and not the library alone.
 if(NOT PROJECT_NAME STREQUAL "panelkit")
   return()
 endif()
-add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-w>)
+# Other targets are compiled just as without mutants: the compiler cache knows them.
+set(mutated $<IN_LIST:$<TARGET_PROPERTY:NAME>,panelkit$<SEMICOLON>panelkit_description>)
+add_compile_options($<$<AND:$<COMPILE_LANGUAGE:CXX>,$<OR:$<BOOL:${PANELKIT_MUTANT_HEADERS}>,${mutated}>>:-w>)
 cmake_language(DEFER DIRECTORY ${CMAKE_SOURCE_DIR} CALL panelkit_put_mutants)
 
 function(panelkit_put_mutants)
   set(copies ${PANELKIT_MUTANTS}/src)
   set(hook ${CMAKE_SOURCE_DIR}/scripts/mutants)
+  set(scope PRIVATE)
+  if(PANELKIT_MUTANT_HEADERS)
+    set(scope PUBLIC)
+  endif()
   foreach(target panelkit_description panelkit)
     get_target_property(sources ${target} SOURCES)
     set(taken)
@@ -19,7 +26,7 @@ function(panelkit_put_mutants)
       list(APPEND taken ${source})
     endforeach()
     set_target_properties(${target} PROPERTIES SOURCES "${taken}")
-    target_include_directories(${target} BEFORE PUBLIC $<BUILD_INTERFACE:${copies}> $<BUILD_INTERFACE:${hook}>)
+    target_include_directories(${target} BEFORE ${scope} $<BUILD_INTERFACE:${copies}> $<BUILD_INTERFACE:${hook}>)
   endforeach()
   target_sources(panelkit_description PRIVATE ${hook}/mutants.cpp)
   get_property(programs GLOBAL PROPERTY panelkit_gtest_programs)

@@ -26,7 +26,8 @@ enum class SlComparison
     NotEqual
 };
 
-// Stands between the two sides of a comparison, which it makes, or makes the other way when its mutant is awake.
+// Stands between the two sides of a comparison, which it makes, or makes the other way when its mutant is
+// awake.
 template <int number, SlComparison comparison> struct SlFlip
 {
 };

@@ -29,21 +29,33 @@ def say(text):
 
 
 class Sample:
-    """The chosen mutants: numbers are places in the shuffled list of all points."""
+    """The chosen mutants: numbers are places in the shuffled list of all points. The list is kept, so that a source
+    that changes leaves the others their mutants."""
 
     def __init__(self, area, count, seed):
         self.area, self.count = area, count
         self.sources = {file: (ROOT / "src" / file).read_text() for file in area.files()}
-        every = [point for file, source in self.sources.items() for point in finder.points_of(file, source)]
-        self.total = len(every)
-        random.Random(seed).shuffle(every)
-        self.points = dict(enumerate(every, 1))
+        by_key = {}
+        for file, source in self.sources.items():
+            alike = collections.Counter()
+            for point in finder.points_of(file, source):
+                key = point.key(source)
+                alike[key] += 1
+                by_key[f"{key}|{alike[key]}"] = point
+        self.total = len(by_key)
+        order_path = area.folder / f"order-{seed}.json"
+        order = json.loads(order_path.read_text()) if order_path.exists() else []
+        added = sorted(set(by_key) - set(order))
+        random.Random(seed).shuffle(added)
+        order += added
+        order_path.write_text(json.dumps(order, indent=0))
+        self.keys = {number: key for number, key in enumerate(order, 1) if key in by_key}
+        self.points = {number: by_key[key] for number, key in self.keys.items()}
         self.dropped_path = area.folder / "dropped.json"
         self.dropped = set(json.loads(self.dropped_path.read_text())) if self.dropped_path.exists() else set()
 
     def key(self, number):
-        point = self.points[number]
-        return point.key(self.sources[point.file])
+        return self.keys[number]
 
     def chosen(self):
         fit = [number for number in self.points if self.key(number) not in self.dropped]
@@ -96,7 +108,7 @@ class Sample:
         self.write()
         if not (area.binaries / "build.ninja").exists():
             subprocess.run(["cmake", "--preset", area.preset, "-B", area.binaries, f"-DCMAKE_PROJECT_INCLUDE={hook}",
-                            f"-DPANELKIT_MUTANTS={area.folder}"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+                            f"-DPANELKIT_MUTANTS={area.folder}", f"-DPANELKIT_MUTANT_HEADERS={int(area.mutates_tests)}"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
         targets = [f"{program}_test" for program in area.programs]
         if area.preset == "windows":
             targets.append("keeper")
