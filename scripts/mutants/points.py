@@ -142,7 +142,8 @@ def constant_change(token, before, following):
         return {"true": "false", "false": "true"}.get(text)
     if token.kind == "char":
         return "'\\0'" if text[0] == "'" and text != "'\\0'" else "'a'" if text == "'\\0'" else None
-    if token.kind != "number" or (before.text == "<" and not before.blank) or following.text == "'":
+    # A template's argument has no blanks around its brackets.
+    if token.kind != "number" or before.text == "<" and not token.blank or following.text == ">" and not following.blank:
         return None
     if text == "0":
         return "1"
