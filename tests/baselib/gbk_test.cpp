@@ -177,6 +177,7 @@ TEST(Gbk, CharactersBeyondSixteenBitsTakeFourBytesOfUtf8)
         EXPECT_EQ(slUtf16ToUtf8(wide.data(), wide.size()), utf8);
         int lost = 0;
         EXPECT_EQ(slUtf16ToGbk(wide.data(), wide.size(), &lost), "?");
+        EXPECT_EQ(slUtf8ToGbk(utf8, &lost), "?");
         EXPECT_EQ(lost, 1);
     }
 }
