@@ -21,6 +21,9 @@ if(WIN32)
   add_compile_definitions(UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601 __USE_MINGW_ANSI_STDIO=1)
   # No compiler runtime beside the programs: each carries its own.
   add_link_options(-static -static-libgcc -static-libstdc++)
+  # Parts of whole pages: Wine then maps the file, with what debuggers read, where else it reads all of it at each start.
+  # What is installed is packed again.
+  set(mapped_by_wine LINKER:--file-alignment=4096)
 endif()
 
 # What Windows shows as the details of a program or library, and installers compare.
