@@ -113,16 +113,15 @@ template <class T> bool FieldReaderCL::takeNumberM(const char* name, int part, c
 template <class T>
 bool FieldReaderCL::tellNumberM(const char* name, int part, const char* begin, const char* end, T value)
 {
-    const bool isRead = end > begin;
-    if (isObservedM()) {
-        const auto at = static_cast<std::size_t>(begin - io_->data_);
-        if (isRead) {
-            tellM(name, part, { at, io_->at_ }, numberFits(begin, end, value) ? Fate::Read : Fate::Saturated);
-        } else {
-            tellUnreadM(name, part, at);
-        }
+    const auto at = static_cast<std::size_t>(begin - io_->data_);
+    if (end > begin) {
+        tellM(name, part, { at, io_->at_ }, numberFits(begin, end, value) ? Fate::Read : Fate::Saturated);
+        return true;
     }
-    return isRead;
+    if (isObservedM()) {
+        tellUnreadM(name, part, at);
+    }
+    return false;
 }
 
 // From a binary file, or not at all.

@@ -339,9 +339,9 @@ TEST(IoRead, IntsOfAnyLengthBeforeAnyByteWhereverTheFileEnds)
 {
     const std::string digits = "907215364098";
     for (const char* const sign : { "", "-", "+" }) {
-        for (std::size_t length = 0; length <= digits.size(); ++length) {
+        for (std::size_t length = 1; length <= digits.size(); ++length) {
             const std::string number = sign + digits.substr(0, length);
-            const long long whole = length > 0 ? std::stoll(number) : 77;
+            const long long whole = std::stoll(number);
             const int wanted = static_cast<int>(std::clamp<long long>(whole, INT_MIN, INT_MAX));
             for (int byte = -1; byte < 256; ++byte) {
                 if (byte >= '0' && byte <= '9') {
@@ -357,13 +357,11 @@ TEST(IoRead, IntsOfAnyLengthBeforeAnyByteWhereverTheFileEnds)
                     VrIOCL io;
                     io.OpenM(std::make_shared<FileTextCL>(bytes));
                     int read = 77;
-                    const bool isRead = length > 0 ? io.InputOneM(&read) : false;
+                    ASSERT_TRUE(io.InputOneM(&read)) << bytes;
                     ASSERT_EQ(value, wanted) << bytes;
-                    ASSERT_EQ(
-                        end - bytes.data(), static_cast<std::ptrdiff_t>(length > 0 ? number.size() : 0));
+                    ASSERT_EQ(end - bytes.data(), static_cast<std::ptrdiff_t>(number.size())) << bytes;
                     ASSERT_EQ(read, wanted) << bytes;
-                    ASSERT_EQ(isRead, length > 0);
-                    ASSERT_EQ(io.PositionM(), length > 0 ? number.size() : 0) << bytes;
+                    ASSERT_EQ(io.PositionM(), number.size()) << bytes;
                 }
             }
         }
