@@ -1,5 +1,4 @@
 #include "baselib/number_text.h"
-#include "baselib/number_scan.h"
 #include "baselib/real_text.h"
 #include <algorithm>
 #include <climits>
