@@ -63,6 +63,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   editing/record_lines.cpp
   editing/record_text.cpp
   editing/seen_sections.cpp
+  editing/seen_values.cpp
   editing/text_changes.cpp
   editing/value_forms.cpp
   pictures/bmp_header.cpp

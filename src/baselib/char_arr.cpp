@@ -52,13 +52,11 @@ int CharArr::SetM(const char* bytes, std::size_t length)
     return 1;
 }
 
-int CharArr::SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
+void CharArr::SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
 {
-    const std::size_t kept = bytes != nullptr ? lengthToNul(bytes, length) : 0;
-    char* const made = kept > 0 ? fillText(pool.NewM(kept + 1), bytes, kept) : nullptr;
+    char* const made = length > 0 ? fillText(pool.NewM(length + 1), bytes, length) : nullptr;
     slDeleteText(text_);
     text_ = made;
-    return 1;
 }
 
 void CharArr::SetWithinM(const char* bytes, std::size_t length, std::size_t room)
@@ -66,11 +64,7 @@ void CharArr::SetWithinM(const char* bytes, std::size_t length, std::size_t room
     if (text_ == nullptr) {
         text_ = slNewText(room);
     }
-    const std::size_t kept = lengthToNul(bytes, std::min(length, room - 1));
-    if (kept > 0) {
-        std::memmove(text_, bytes, kept);
-    }
-    text_[kept] = '\0';
+    fillText(text_, bytes, std::min(length, room - 1));
 }
 
 int CharArr::GetM(char* out, int size) const

@@ -25,8 +25,8 @@ public:
 
     int SetM(const char* text); // Null counts as empty; may be a part of the text held. 1.
     int SetM(const char* bytes, std::size_t length); // The bytes up to the first NUL among them. 1.
-    // The same, with others in a block of the pool.
-    int SetInM(TextPoolCL& pool, const char* bytes, std::size_t length);
+    // A text without a NUL, which lies with others in a block of the pool.
+    void SetInM(TextPoolCL& pool, const char* bytes, std::size_t length);
     const char* TextM() const { return text_ != nullptr ? text_ : ""; } // Never null; valid until set anew.
     int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1;
                                          // 0 without one.
@@ -34,8 +34,8 @@ public:
     // Whether it has no byte.
     bool EmptyM() const { return *TextM() == '\0'; }
 
-    // For a text that is set again and again: the same, in a block with room for `room` bytes with the
-    // terminator, which the text held is too; longer ones are cut. ClearM keeps the block.
+    // For a text that is set again and again, without a NUL: in a block of its own with room for `room` bytes
+    // with the terminator, which the text held is too; longer ones are cut. ClearM keeps the block.
     void SetWithinM(const char* bytes, std::size_t length, std::size_t room);
     void ClearM()
     {

@@ -220,6 +220,7 @@ template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL&
     }
     const RecordTP defaults(AliveTag);
     RecordTP record(AliveTag);
+    section.PoolTextsM();
     IdsOfRecordsCL ids(RecordArrTP::Secondaries.empty() ? 0 : section.CountM());
     for (int i = 0; i < section.CountM(); ++i) {
         record = defaults;
