@@ -1,7 +1,6 @@
 // What checking takes of memory; instrumented code takes its own.
 #if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
 #include "baselib/gbk_texts.h"
-#include "dialog/dialog_header.h"
 #include "support/small_picture.h"
 #include "support/temp_file.h"
 #include <fcntl.h>
