@@ -5,6 +5,21 @@
 namespace {
 
 constexpr std::size_t MostBytes = std::size_t { 1 } << 28; // More is no message.
+constexpr int MostLevels = 200; // The same: copies and answers go down level by level, each on the stack.
+
+// Discarded for what is no message.
+JsonTP parsed(const std::string& body)
+{
+    bool isTooDeep = false;
+    JsonTP message = JsonTP::parse(
+        body,
+        [&isTooDeep](int level, JsonTP::parse_event_t, JsonTP&) {
+            isTooDeep = isTooDeep || level > MostLevels;
+            return !isTooDeep;
+        },
+        false);
+    return isTooDeep ? JsonTP(JsonTP::value_t::discarded) : message;
+}
 
 // A line of a message's head without its end; false at the end of the input.
 bool readHeadLine(std::FILE* client, std::string* line)
@@ -59,7 +74,7 @@ InboxCL::InboxCL(std::FILE* client)
 void InboxCL::readM()
 {
     for (std::string body; readBody(client_, &body);) {
-        JsonTP message = JsonTP::parse(body, nullptr, false);
+        JsonTP message = parsed(body);
         const bool isLast = message.is_object() && message.value("method", JsonTP()) == "exit";
         const std::lock_guard<std::mutex> lock(mutex_);
         messages_.push_back(std::move(message));

@@ -6,8 +6,7 @@
 #include <mutex>
 #include <thread>
 
-// The client's messages, read on a thread of its own: who answers can see whether more
-// has come already.
+// The client's messages, read on a thread of its own: who answers can see whether more has come already.
 class InboxCL
 {
 public:
