@@ -32,7 +32,8 @@ TEST(ListBoxKeys, SpaceDoesNothingWhereThereIsNoLine)
         SCOPED_TRACE(mode);
         ShownDialogCL dialog(HeaderSections
             + ("[文本列表框]\n1\n0\n1 11 10 10 90 80 14 " + std::string(mode)
-                + " 1 255 255 255 0\n[图片列表框]\n1\n0\n2 12 110 10 60 60 2 1 2 " + mode + "\n"));
+                + " 1 255 255 255 0\n[文本列表框初始值]\n0\n0\n[图片列表框]\n1\n0\n2 12 110 10 60 60 2 1 2 "
+                + mode + "\n[图片列表框位图]\n0\n0\n"));
         for (const int id : { 11, 12 }) {
             dialog.StartAtM(id);
             ClickM(dialog.ItemM(id), 20, 20);
