@@ -104,7 +104,7 @@ TEST(GuardedTexts, LinesOfFiles)
             SCOPED_TRACE(text.size());
             const TempFile file(text + "\n");
             VrIOCL io;
-            const auto open = [&] { EXPECT_EQ(io.OpenM(file.path(), "r"), 1); };
+            const auto open = [&] { io.OpenM(file.path(), "r"); };
             const std::string line = filled(size, [&](char* to) {
                 open();
                 io.InputGetsM(to, size);
@@ -171,7 +171,7 @@ TEST(GuardedTexts, ValuesOfControls)
             const GuardedBufferCL buffer(sizeof(simpleValD), side); // Without a zero anywhere.
             auto& value = *reinterpret_cast<simpleValD*>(buffer.DataM());
             EXPECT_EQ(dialog.SetSingleEditValM(13, value), 1);
-            EXPECT_EQ(dialog.GetSingleEditValM(13, &value), 1);
+            EXPECT_EQ(dialog.GetSingleEditValM(13, &value), ValidValue);
             EXPECT_EQ(std::string(value.text), std::string(259, '#'));
         }
     }
