@@ -58,6 +58,30 @@ TEST(ListBoxKeys, SpaceSelectsALineAndTakesThatBack)
     EXPECT_TRUE(PumpUntil([&] { return ::SendMessageW(dialog.ItemM(11), LB_GETSEL, 0, 0) == 0; }));
 }
 
+namespace {
+
+int questions = 0;
+
+LRESULT CALLBACK countQuestions(int code, WPARAM wParam, LPARAM lParam)
+{
+    questions += reinterpret_cast<const CWPSTRUCT*>(lParam)->message == EM_GETSEL ? 1 : 0;
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+// Once the guard asked whatever message came, its own question too, until the system had enough.
+TEST_F(ComboFieldTest, IsAskedForItsSelectionOnlyWhereThatMatters)
+{
+    const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROC, countQuestions, nullptr, ::GetCurrentThreadId());
+    questions = 0;
+    ::SendMessageW(field, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(questions, 0);
+    ::SendMessageW(field, WM_CHAR, 'x', 1);
+    EXPECT_EQ(questions, 1);
+    ::UnhookWindowsHookEx(hook);
+}
+
 TEST_F(ComboFieldTest, NothingIsInsertedBeforeATextThatIsTooWide)
 {
     TypeM(L"xyz");
