@@ -15,7 +15,7 @@ bool isLarge(int width, int height)
 }
 
 // A part of a bitmap as pixels; white where the bitmap has none.
-std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
+std::vector<std::uint32_t> pixelsOf(const DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
 {
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
     const int pictureWidth = picture.GetWidthM();
@@ -33,7 +33,7 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    const auto bitmap = static_cast<HBITMAP>(picture.GetBitmapM()->GetSafeHandle());
+    const HBITMAP bitmap = picture.ShownBitmapM();
     // The system gives whole rows: a few at a time.
     const int atOnce = static_cast<int>(std::max<std::int64_t>(1, MostAtOnce / pictureWidth));
     std::vector<std::uint32_t> rows;
@@ -55,13 +55,13 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
 }
 
 // Copies the bitmap's part from (x, y) on; where it has none, nothing.
-void copyPart(DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
+void copyPart(const DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
 {
     CDC memory;
     if (!picture.HoldsBitmapM() || !memory.CreateCompatibleDC(to)) {
         return;
     }
-    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.GetBitmapM()->GetSafeHandle());
+    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.ShownBitmapM());
     const auto left = std::max<std::int64_t>(x, 0);
     const auto top = std::max<std::int64_t>(y, 0);
     const auto right = std::min<std::int64_t>(std::int64_t { x } + width, picture.GetWidthM());
