@@ -21,6 +21,10 @@ RandomOperationsCL::RandomOperationsCL(
 RandomOperationsCL::~RandomOperationsCL()
 {
     panelkit_destroy(dialog_);
+    for (int message = 0; message < 14; ++message) { // These are the process's.
+        DuBasicDialogCL::SetMessageTextM(message, nullptr);
+    }
+    DuBasicDialogCL().SetLanguageM(nullptr);
 }
 
 const RandomOperationsCL::OperationCL& RandomOperationsCL::ChooseM()

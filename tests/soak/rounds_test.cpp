@@ -109,7 +109,7 @@ double blocksOfPlainWindows(int rounds)
 
 TEST(Soak, RoundsOfTheLargestExampleLeaveNothing)
 {
-    const int rounds = soakNumber("PANELKIT_SOAK_ROUNDS", 30);
+    const int rounds = soakNumber("PANELKIT_SOAK_ROUNDS", 16);
     const int every = soakNumber("PANELKIT_SOAK_EVERY", rounds);
     const int first = std::min(rounds / 2, 100);
     const double plainEach = blocksOfPlainWindows(first);

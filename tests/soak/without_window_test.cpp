@@ -23,7 +23,7 @@ template <class ControlTP> void callAll(ControlTP& control, const char* state, b
     for (const auto& operation : ControlOperationsCL<ControlTP>::ListM()) {
         PickedArgumentsCL pick(++seed, onlyNull);
         ToldStepCL::NoteM(seed, onlyNull ? 0 : 1, state, operation.name);
-        const std::string before = shownM(control);
+        const std::string before = onlyNull ? shownM(control) : "";
         operation.run(control, pick);
         EXPECT_TRUE(pick.IsRoomKeptM()) << ToldStepCL::TextM();
         const bool stacks = std::string(operation.name) == "SetZOrderM"; // Behind nobody is at the top.
