@@ -1,8 +1,10 @@
-"""run.py COUNT SEED AREA [again]: see scripts/mutate, which starts it where the tests of the area can run.
+"""run.py COUNT SEED AREA [build] [again] [from_behind]: see scripts/mutate, which starts it where the tests of the area
+can run. build: no more than that. from_behind: so that two at work meet in the middle.
 
 Exits with 75 when what it runs in doesn't let the tests pass any more: started anew it goes on."""
 import collections
 import concurrent.futures
+import fcntl
 import json
 import os
 import pathlib
@@ -21,6 +23,7 @@ from schemata import mutated
 
 MOST_MEMORY = 2 << 30  # Bytes; a mutant that takes more is caught.
 FAST_TESTS = 40        # So many are asked first.
+AT_ONCE = 12         # Mutants, before what has caught them is run without them.
 BROKEN = 75
 
 
@@ -222,8 +225,11 @@ class Judge:
     def __init__(self, sample, runner, tests):
         self.sample, self.runner, self.tests = sample, runner, tests
         self.results_path = sample.area.folder / "results.json"
-        self.results = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+        self.results = {}
         self.lock = threading.Lock()
+        self.to_confirm = {}  # By result: what has failed, a program and a test.
+        self.tried_path = sample.area.folder / "tried.json"
+        self.tried = json.loads(self.tried_path.read_text()) if self.tried_path.exists() else []
 
     def batches(self, mutant):
         """(program, tests, seconds) that reach a mutant, the fastest first."""
@@ -245,40 +251,73 @@ class Judge:
             failed = self.runner.run(program, tests, limit, mutant)
             if failed is None:
                 continue
-            # A test that fails without it as well has caught nothing.
             name = failed.split(" ")[0]
-            if self.runner.run(program, [name] if name != "*" else tests, limit) is None:
-                return f"caught by {program}: {failed}"
-            if self.runner.is_windows:
-                return None
-            return f"unclear: {failed} fails alone"
+            caught = f"caught by {program}: {failed}"
+            if name == failed:
+                self.to_confirm[caught] = (program, name)
+                return caught
+            # What ends a program may have left something behind.
+            return caught if self.runner.run(program, [name] if name != "*" else tests, limit) is None else None
         return "survived"
+
+    def keep(self, forget=(), **found):
+        """Brings the results up to date with what others who run beside this have found."""
+        with open(self.results_path.with_suffix(".lock"), "w", encoding="utf-8") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            known = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+            self.results = {**known, **found}
+            for key in forget:
+                self.results.pop(key, None)
+            if self.results != known:
+                written = self.results_path.with_suffix(f".{os.getpid()}")
+                written.write_text(json.dumps(self.results, indent=0))
+                written.replace(self.results_path)
 
     def one(self, mutant):
         key = self.sample.key(mutant)
+        with self.lock:
+            self.keep()
+        if key in self.results:
+            return True
         result = self.judge(mutant)
+        if result is None and key in self.tried:
+            result = "unclear: a test fails without it as well"
         with self.lock:
             if result is None:
+                self.tried_path.write_text(json.dumps([*self.tried, key]))
                 return False
-            self.results[key] = result
-            self.results_path.write_text(json.dumps(self.results, indent=0))
-            if not result.startswith("caught"):
-                point = self.sample.points[mutant]
-                say(f"{result}: src/{point.file}:{point.line}: {point.what}")
+            self.keep(**{key: result})
+        if not result.startswith("caught"):
+            point = self.sample.points[mutant]
+            say(f"{result}: src/{point.file}:{point.line}: {point.what}")
         return True
 
-    def run(self, again):
-        todo = [mutant for mutant in self.sample.chosen()
-                if self.sample.key(mutant) not in self.results
-                or again and not self.results[self.sample.key(mutant)].startswith("caught")]
+    def confirm(self):
+        """A test that fails without a mutant as well has caught nothing. False: some has not."""
+        by_program = collections.defaultdict(set)
+        for program, name in self.to_confirm.values():
+            by_program[program].add(name)
+        for program, names in by_program.items():
+            if self.runner.run(program, sorted(names), 60 + 8 * len(names)) is not None:
+                self.keep([key for key, result in self.results.items() if result in self.to_confirm])
+                return False
+        self.to_confirm.clear()
+        return True
+
+    def run(self, again, from_behind):
+        self.keep()
+        if again:
+            self.keep([key for key, result in self.results.items() if not result.startswith("caught")])
+        todo = [mutant for mutant in self.sample.chosen() if self.sample.key(mutant) not in self.results]
+        if from_behind:
+            todo.reverse()
         jobs = 1 if self.runner.is_windows else len(os.sched_getaffinity(0))
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-            for number, is_fine in enumerate(pool.map(self.one, todo), 1):
-                if not is_fine:
+            for begin in range(0, len(todo), AT_ONCE):
+                if not all(pool.map(self.one, todo[begin:begin + AT_ONCE])) or not self.confirm():
                     say("a test fails without mutants: everything anew")
-                    os._exit(BROKEN)
-                if number % 25 == 0:
-                    say(f"{number} of {len(todo)}")
+                    sys.exit(BROKEN)
+                say(f"{min(begin + AT_ONCE, len(todo))} of {len(todo)}")
 
     def report(self):
         lines, counts = [], collections.Counter()
@@ -311,7 +350,7 @@ def main():
         tests[program] = runner.record(program)
         say(f"{program}: {len(tests[program])} tests")
     judge = Judge(sample, runner, tests)
-    judge.run(again)
+    judge.run(again, "from_behind" in sys.argv[4:])
     judge.report()
 
 

@@ -79,7 +79,7 @@ TEST(SavedValue, ThatIsNoneOfItsKindIsRefused)
     for (const char* text : { "", "x", "1x", " 1", "1 ", "+1", "1.5", "2147483648", "0x10" }) {
         EXPECT_EQ(again(text, NumberPart), "-") << text;
     }
-    for (const char* text : { "", "x", "1,5", "1.5 ", " 1.5", "1e99" }) {
+    for (const char* text : { "", "x", "-", "--1", "-+1", "+1", "1,5", "1.5 ", " 1.5", "1e99" }) {
         EXPECT_EQ(again(text, RealPart), "-") << text;
     }
     for (const char* text : { "1.5", "1.5 ", "1.5 x", " 3", "1.5 3 4" }) {
