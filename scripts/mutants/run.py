@@ -152,7 +152,7 @@ class Runner:
                 process = subprocess.Popen([*command, f"--gtest_flagfile={shown}"], stdout=out, stderr=out,
                                            stdin=subprocess.DEVNULL, cwd=self.area.binaries, env=environment,
                                            start_new_session=True)
-                ended = self.wait(process, limit)
+                ended = self.wait(process, out, limit)
                 out.seek(0)
                 said = out.read().decode("utf-8", "replace")
         failed = re.findall(r"^\[  FAILED  \] ([\w./]+\.[\w./]+)", said, re.MULTILINE)
@@ -164,9 +164,10 @@ class Runner:
         return f"{begun[-1] if begun else '*'} ({ended})"
 
     @staticmethod
-    def wait(process, limit):
+    def wait(process, out, limit):
+        """limit: the seconds that may pass until the next test begins."""
         until = time.monotonic() + limit
-        ended = None
+        ended, told = None, 0
         while ended is None:
             try:
                 return str(process.wait(timeout=0.05))
@@ -176,6 +177,8 @@ class Runner:
                 pages = int(pathlib.Path(f"/proc/{process.pid}/statm").read_text().split()[1])
             except (OSError, IndexError):
                 continue
+            if os.fstat(out.fileno()).st_size != told:
+                told, until = os.fstat(out.fileno()).st_size, time.monotonic() + limit
             if time.monotonic() > until:
                 ended = "no end"
             elif pages * 4096 > MOST_MEMORY:
@@ -197,7 +200,7 @@ class Runner:
         notes.write_text("")
         report.unlink(missing_ok=True)
         drive = "Z:" if self.is_windows else ""
-        bad = self.run(program, [], 1800, -1, PANELKIT_MUTANT_NOTES=f"{drive}{notes}", GTEST_OUTPUT=f"json:{drive}{report}")
+        bad = self.run(program, [], 300, -1, PANELKIT_MUTANT_NOTES=f"{drive}{notes}", GTEST_OUTPUT=f"json:{drive}{report}")
         if not report.exists():
             sys.exit(f"{program} doesn't end without mutants: {bad}")
         reached, of_all, current = collections.defaultdict(set), set(), None
@@ -232,22 +235,22 @@ class Judge:
         self.tried = json.loads(self.tried_path.read_text()) if self.tried_path.exists() else []
 
     def batches(self, mutant):
-        """(program, tests, seconds) that reach a mutant, the fastest first."""
+        """(program, tests, seconds of the longest) that reach a mutant, the fastest first."""
         first, later = [], []
         for program, tests in self.tests.items():
             hit = sorted((test["seconds"], name) for name, test in tests.items() if mutant in test["mutants"])
             for part, into in ((hit[:FAST_TESTS], first), (hit[FAST_TESTS:], later)):
                 if part:
-                    into.append((sum(seconds for seconds, _ in part), program, [name for _, name in part]))
+                    into.append((sum(seconds for seconds, _ in part), program, [name for _, name in part], part[-1][0]))
         in_order = [part for batches in (first, later) for part in sorted(batches)]
-        return [(program, tests, seconds) for seconds, program, tests in in_order]
+        return [(program, tests, longest) for _, program, tests, longest in in_order]
 
     def judge(self, mutant):
         batches = self.batches(mutant)
         if not batches:
             return "not covered"
         for program, tests, seconds in batches:
-            limit = 15 + 8 * seconds
+            limit = 20 + 8 * seconds
             failed = self.runner.run(program, tests, limit, mutant)
             if failed is None:
                 continue
@@ -298,7 +301,7 @@ class Judge:
         for program, name in self.to_confirm.values():
             by_program[program].add(name)
         for program, names in by_program.items():
-            if self.runner.run(program, sorted(names), 60 + 8 * len(names)) is not None:
+            if self.runner.run(program, sorted(names), 60) is not None:
                 self.keep([key for key, result in self.results.items() if result in self.to_confirm])
                 return False
         self.to_confirm.clear()

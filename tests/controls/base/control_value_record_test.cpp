@@ -193,6 +193,21 @@ TEST(ValueText, IsCutBetweenCharacters)
     }
 }
 
+#ifdef _WIN32
+TEST(ValueText, OfSixteenBitsIsCutBetweenCharactersToo)
+{
+    wchar_t buffer[4] = L"";
+    EXPECT_EQ(ValueTextCL(L"a\xD83D\xDE00").WideM(buffer, 3), 4); // One character of two units.
+    EXPECT_STREQ(buffer, L"a");
+    EXPECT_EQ(ValueTextCL(L"a\xE000z").WideM(buffer, 2), 4);
+    EXPECT_STREQ(buffer, L"a");
+    EXPECT_EQ(ValueTextCL(L"ab\xE000").WideM(buffer, 3), 4);
+    EXPECT_STREQ(buffer, L"ab");
+    EXPECT_EQ(ValueTextCL(L"ab\xDBFF\xDFFF").WideM(buffer, 4), 5);
+    EXPECT_STREQ(buffer, L"ab");
+}
+#endif
+
 TEST(ValueText, OfANullPointerIsNone)
 {
     EXPECT_TRUE(ValueTextCL(static_cast<const char*>(nullptr)).IsNoneM());
