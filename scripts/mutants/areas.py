@@ -37,5 +37,5 @@ AREAS = {
                    ("baselib", "containers", "records", "dialog", "pictures", "editing", *KINDS, "tools"),
                    True),
     "windows": Area("windows", "windows", ("controls/base", "dialog"), (),
-                    ("controls_base", "dialog", *KINDS, "form"), False),
+                    ("controls_base", "dialog", *KINDS), False),
 }

@@ -1,8 +1,10 @@
-"""run.py COUNT SEED AREA [again]: see scripts/mutate, which starts it where the tests of the area can run.
+"""run.py COUNT SEED AREA [build] [again] [from_behind]: see scripts/mutate, which starts it where the tests of the area
+can run. build: no more than that. from_behind: so that two at work meet in the middle.
 
 Exits with 75 when what it runs in doesn't let the tests pass any more: started anew it goes on."""
 import collections
 import concurrent.futures
+import fcntl
 import json
 import os
 import pathlib
@@ -21,6 +23,7 @@ from schemata import mutated
 
 MOST_MEMORY = 2 << 30  # Bytes; a mutant that takes more is caught.
 FAST_TESTS = 40        # So many are asked first.
+AT_ONCE = 12         # Mutants, before what has caught them is run without them.
 BROKEN = 75
 
 
@@ -149,7 +152,7 @@ class Runner:
                 process = subprocess.Popen([*command, f"--gtest_flagfile={shown}"], stdout=out, stderr=out,
                                            stdin=subprocess.DEVNULL, cwd=self.area.binaries, env=environment,
                                            start_new_session=True)
-                ended = self.wait(process, limit)
+                ended = self.wait(process, out, limit)
                 out.seek(0)
                 said = out.read().decode("utf-8", "replace")
         failed = re.findall(r"^\[  FAILED  \] ([\w./]+\.[\w./]+)", said, re.MULTILINE)
@@ -161,9 +164,10 @@ class Runner:
         return f"{begun[-1] if begun else '*'} ({ended})"
 
     @staticmethod
-    def wait(process, limit):
+    def wait(process, out, limit):
+        """limit: the seconds that may pass until the next test begins."""
         until = time.monotonic() + limit
-        ended = None
+        ended, told = None, 0
         while ended is None:
             try:
                 return str(process.wait(timeout=0.05))
@@ -173,6 +177,8 @@ class Runner:
                 pages = int(pathlib.Path(f"/proc/{process.pid}/statm").read_text().split()[1])
             except (OSError, IndexError):
                 continue
+            if os.fstat(out.fileno()).st_size != told:
+                told, until = os.fstat(out.fileno()).st_size, time.monotonic() + limit
             if time.monotonic() > until:
                 ended = "no end"
             elif pages * 4096 > MOST_MEMORY:
@@ -194,7 +200,7 @@ class Runner:
         notes.write_text("")
         report.unlink(missing_ok=True)
         drive = "Z:" if self.is_windows else ""
-        bad = self.run(program, [], 1800, -1, PANELKIT_MUTANT_NOTES=f"{drive}{notes}", GTEST_OUTPUT=f"json:{drive}{report}")
+        bad = self.run(program, [], 300, -1, PANELKIT_MUTANT_NOTES=f"{drive}{notes}", GTEST_OUTPUT=f"json:{drive}{report}")
         if not report.exists():
             sys.exit(f"{program} doesn't end without mutants: {bad}")
         reached, of_all, current = collections.defaultdict(set), set(), None
@@ -222,63 +228,99 @@ class Judge:
     def __init__(self, sample, runner, tests):
         self.sample, self.runner, self.tests = sample, runner, tests
         self.results_path = sample.area.folder / "results.json"
-        self.results = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+        self.results = {}
         self.lock = threading.Lock()
+        self.to_confirm = {}  # By result: what has failed, a program and a test.
+        self.tried_path = sample.area.folder / "tried.json"
+        self.tried = json.loads(self.tried_path.read_text()) if self.tried_path.exists() else []
 
     def batches(self, mutant):
-        """(program, tests, seconds) that reach a mutant, the fastest first."""
+        """(program, tests, seconds of the longest) that reach a mutant, the fastest first."""
         first, later = [], []
         for program, tests in self.tests.items():
             hit = sorted((test["seconds"], name) for name, test in tests.items() if mutant in test["mutants"])
             for part, into in ((hit[:FAST_TESTS], first), (hit[FAST_TESTS:], later)):
                 if part:
-                    into.append((sum(seconds for seconds, _ in part), program, [name for _, name in part]))
+                    into.append((sum(seconds for seconds, _ in part), program, [name for _, name in part], part[-1][0]))
         in_order = [part for batches in (first, later) for part in sorted(batches)]
-        return [(program, tests, seconds) for seconds, program, tests in in_order]
+        return [(program, tests, longest) for _, program, tests, longest in in_order]
 
     def judge(self, mutant):
         batches = self.batches(mutant)
         if not batches:
             return "not covered"
         for program, tests, seconds in batches:
-            limit = 15 + 8 * seconds
+            limit = 20 + 8 * seconds
             failed = self.runner.run(program, tests, limit, mutant)
             if failed is None:
                 continue
-            # A test that fails without it as well has caught nothing.
             name = failed.split(" ")[0]
-            if self.runner.run(program, [name] if name != "*" else tests, limit) is None:
-                return f"caught by {program}: {failed}"
-            if self.runner.is_windows:
-                return None
-            return f"unclear: {failed} fails alone"
+            caught = f"caught by {program}: {failed}"
+            if name == failed:
+                self.to_confirm[caught] = (program, name)
+                return caught
+            # What ends a program may have left something behind.
+            return caught if self.runner.run(program, [name] if name != "*" else tests, limit) is None else None
         return "survived"
+
+    def keep(self, forget=(), **found):
+        """Brings the results up to date with what others who run beside this have found."""
+        with open(self.results_path.with_suffix(".lock"), "w", encoding="utf-8") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            known = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+            self.results = {**known, **found}
+            for key in forget:
+                self.results.pop(key, None)
+            if self.results != known:
+                written = self.results_path.with_suffix(f".{os.getpid()}")
+                written.write_text(json.dumps(self.results, indent=0))
+                written.replace(self.results_path)
 
     def one(self, mutant):
         key = self.sample.key(mutant)
+        with self.lock:
+            self.keep()
+        if key in self.results:
+            return True
         result = self.judge(mutant)
+        if result is None and key in self.tried:
+            result = "unclear: a test fails without it as well"
         with self.lock:
             if result is None:
+                self.tried_path.write_text(json.dumps([*self.tried, key]))
                 return False
-            self.results[key] = result
-            self.results_path.write_text(json.dumps(self.results, indent=0))
-            if not result.startswith("caught"):
-                point = self.sample.points[mutant]
-                say(f"{result}: src/{point.file}:{point.line}: {point.what}")
+            self.keep(**{key: result})
+        if not result.startswith("caught"):
+            point = self.sample.points[mutant]
+            say(f"{result}: src/{point.file}:{point.line}: {point.what}")
         return True
 
-    def run(self, again):
-        todo = [mutant for mutant in self.sample.chosen()
-                if self.sample.key(mutant) not in self.results
-                or again and not self.results[self.sample.key(mutant)].startswith("caught")]
+    def confirm(self):
+        """A test that fails without a mutant as well has caught nothing. False: some has not."""
+        by_program = collections.defaultdict(set)
+        for program, name in self.to_confirm.values():
+            by_program[program].add(name)
+        for program, names in by_program.items():
+            if self.runner.run(program, sorted(names), 60) is not None:
+                self.keep([key for key, result in self.results.items() if result in self.to_confirm])
+                return False
+        self.to_confirm.clear()
+        return True
+
+    def run(self, again, from_behind):
+        self.keep()
+        if again:
+            self.keep([key for key, result in self.results.items() if not result.startswith("caught")])
+        todo = [mutant for mutant in self.sample.chosen() if self.sample.key(mutant) not in self.results]
+        if from_behind:
+            todo.reverse()
         jobs = 1 if self.runner.is_windows else len(os.sched_getaffinity(0))
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-            for number, is_fine in enumerate(pool.map(self.one, todo), 1):
-                if not is_fine:
+            for begin in range(0, len(todo), AT_ONCE):
+                if not all(pool.map(self.one, todo[begin:begin + AT_ONCE])) or not self.confirm():
                     say("a test fails without mutants: everything anew")
-                    os._exit(BROKEN)
-                if number % 25 == 0:
-                    say(f"{number} of {len(todo)}")
+                    sys.exit(BROKEN)
+                say(f"{min(begin + AT_ONCE, len(todo))} of {len(todo)}")
 
     def report(self):
         lines, counts = [], collections.Counter()
@@ -311,7 +353,7 @@ def main():
         tests[program] = runner.record(program)
         say(f"{program}: {len(tests[program])} tests")
     judge = Judge(sample, runner, tests)
-    judge.run(again)
+    judge.run(again, "from_behind" in sys.argv[4:])
     judge.report()
 
 
