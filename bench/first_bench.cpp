@@ -95,7 +95,7 @@ void write(const std::vector<WindowCL>& windows, const char* path)
         text(window.text);
         file << window.style << ' ' << window.exStyle << ' ' << window.rect.left << ' ' << window.rect.top
              << ' ' << window.rect.right << ' ' << window.rect.bottom << ' ' << window.id << ' '
-             << window.lines.size() << '\n';
+             << window.buddy << ' ' << window.lines.size() << '\n';
         for (const std::wstring& line : window.lines) {
             text(line);
         }
