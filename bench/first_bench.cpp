@@ -144,7 +144,7 @@ void giveRoomOfArrows(std::vector<WindowCL>& windows)
     for (const WindowCL& arrows : windows) {
         for (WindowCL& edit : windows) {
             if (arrows.buddy != 0 && edit.id == arrows.buddy) {
-                edit.rect.right = arrows.rect.left + arrows.rect.right - edit.rect.left;
+                edit.rect.right += arrows.rect.right; // Widths.
             }
         }
     }
