@@ -221,6 +221,8 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
     const std::size_t length = slGbkCutLength(item.data(), item.size(), most);
     if (isReusing_) {
         text.SetWithinM(item.data(), length, TextSize);
+    } else if (pool_ != nullptr) {
+        text.SetInM(*pool_, item.data(), length);
     } else {
         text.SetM(item.data(), length);
     }

@@ -25,6 +25,8 @@ public:
     }
     // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
     void ReuseTextsM() { isReusing_ = true; }
+    // All texts that it sees from now on are kept together, in the blocks of a pool that lives as long.
+    void PoolTextsM(TextPoolCL& pool) { pool_ = &pool; }
     bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
     bool IsSkippedM() const { return isSkipped_; } // A text said that the entry doesn't count.
 
@@ -61,6 +63,7 @@ private:
     bool isStopped_;
     bool isSkipped_ { false };
     bool isReusing_ { false };
+    TextPoolCL* pool_ { nullptr };
 };
 
 // Where the next value would begin: the offset of the next byte of the open file that is no blank.

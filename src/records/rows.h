@@ -30,11 +30,7 @@ inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
 // Appends an alive text. Its index; -1, and nothing is appended, for null or when there is no memory.
 inline int slAppendText(VrStringArr& texts, const char* text)
 {
-    const int index = text != nullptr ? texts.AddItemM(VrStringCL(AliveTag)) : -1;
-    if (index >= 0) {
-        texts.ElementAtM(index).AddStringM(text);
-    }
-    return index;
+    return text != nullptr ? texts.AppendM(CharArr(text)) : -1;
 }
 
 // The same. 0, and nothing is appended, for null; else 1.

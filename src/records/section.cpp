@@ -189,7 +189,6 @@ void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
     for (CharArr& text : texts) {
         text.ClearM();
     }
-    reader.ReuseTextsM();
     EachFieldM(reader, fields);
 }
 

@@ -13,7 +13,12 @@ void DVrMultiStateButtonCL::EachFieldM(FieldVisitorCL& visitor)
 
 int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 {
-    const int index = slAppendText(files_, file);
+    return file != nullptr ? addM(status, CharArr(file)) : -1;
+}
+
+int DVrMultiStateButtonCL::addM(int status, CharArr&& file)
+{
+    const int index = files_.AppendM(std::move(file));
     if (index >= 0) {
         statuses_.AddItemM(status);
     }

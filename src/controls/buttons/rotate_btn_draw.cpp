@@ -15,7 +15,7 @@ bool isLarge(int width, int height)
 }
 
 // A part of a bitmap as pixels; white where the bitmap has none.
-std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
+std::vector<std::uint32_t> pixelsOf(const DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
 {
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
     const int pictureWidth = picture.GetWidthM();
@@ -31,7 +31,7 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    const auto bitmap = static_cast<HBITMAP>(picture.GetBitmapM()->GetSafeHandle());
+    const HBITMAP bitmap = picture.ShownBitmapM();
     if (part.left == 0 && part.top == 0 && part.width == pictureWidth && part.height == pictureHeight) {
         info.bmiHeader.biHeight = -pictureHeight; // The top row first.
         ::GetDIBits(dc, bitmap, 0, static_cast<UINT>(pictureHeight), pixels.data(), &info, DIB_RGB_COLORS);
@@ -60,13 +60,13 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
 }
 
 // Copies the bitmap's part from (x, y) on; where it has none, nothing.
-void copyPart(DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
+void copyPart(const DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
 {
     CDC memory;
     if (!picture.HoldsBitmapM() || !memory.CreateCompatibleDC(to)) {
         return;
     }
-    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.GetBitmapM()->GetSafeHandle());
+    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.ShownBitmapM());
     const auto left = std::max<std::int64_t>(x, 0);
     const auto top = std::max<std::int64_t>(y, 0);
     const auto right = std::min<std::int64_t>(std::int64_t { x } + width, picture.GetWidthM());

@@ -12,6 +12,12 @@ int PairedTextsCL::AddM(const int pair[2], const char* text)
     return result;
 }
 
+void PairedTextsCL::TakeM(const RowCL& row)
+{
+    texts.AppendM(std::move(*row.texts[0]));
+    pairs.AddItemM(row.numbers);
+}
+
 void PairedTextsCL::DelAllM()
 {
     pairs.DelAllM();

@@ -16,6 +16,14 @@ void TreeLinesCL::AddM(
     add(selectedPictures_, selectedPicture);
 }
 
+void TreeLinesCL::TakeM(const RowCL& row)
+{
+    keys_.AddItemM(row.numbers);
+    texts_.AppendM(std::move(*row.texts[0]));
+    normalPictures_.AppendM(std::move(*row.texts[1]));
+    selectedPictures_.AppendM(std::move(*row.texts[2]));
+}
+
 void TreeLinesCL::DelItemM(int index)
 {
     keys_.DelItemM(index);
