@@ -95,7 +95,7 @@ void write(const std::vector<WindowCL>& windows, const char* path)
         text(window.text);
         file << window.style << ' ' << window.exStyle << ' ' << window.rect.left << ' ' << window.rect.top
              << ' ' << window.rect.right << ' ' << window.rect.bottom << ' ' << window.id << ' '
-             << window.lines.size() << '\n';
+             << window.buddy << ' ' << window.lines.size() << '\n';
         for (const std::wstring& line : window.lines) {
             text(line);
         }
@@ -144,7 +144,7 @@ void giveRoomOfArrows(std::vector<WindowCL>& windows)
     for (const WindowCL& arrows : windows) {
         for (WindowCL& edit : windows) {
             if (arrows.buddy != 0 && edit.id == arrows.buddy) {
-                edit.rect.right = arrows.rect.left + arrows.rect.right - edit.rect.left;
+                edit.rect.right += arrows.rect.right; // Widths.
             }
         }
     }
