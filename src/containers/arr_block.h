@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <new>
+#include <utility>
 
 // The heap block of an Arr: raw room for elements behind the number of arrays that use it. Copy-constructed
 // arrays share a block; counting its owners lets the last one free it.
@@ -34,6 +36,45 @@ public:
 
     // The elements are not destroyed here.
     static void FreeM(T* elements) { slFree(headM(elements)); }
+
+    // A block whose elements are being made, from one of them on. Unless it is taken, it is freed with those
+    // made so far.
+    class FreshCL
+    {
+    public:
+        explicit FreshCL(T* elements, int first = 0)
+            : elements_(elements)
+            , first_(first)
+            , end_(first)
+        {
+        }
+        FreshCL(const FreshCL&) = delete;
+        FreshCL& operator=(const FreshCL&) = delete;
+        ~FreshCL()
+        {
+            if (elements_ != nullptr) {
+                while (end_ > first_) {
+                    elements_[--end_].~T();
+                }
+                FreeM(elements_);
+            }
+        }
+
+        bool IsThereM() const { return elements_ != nullptr; }
+        T* ElementsM() const { return elements_; }
+        void MakeM(int n) // So many more.
+        {
+            for (; n > 0; --n, ++end_) {
+                ::new (static_cast<void*>(elements_ + end_)) T();
+            }
+        }
+        T* TakeM() { return std::exchange(elements_, nullptr); }
+
+    private:
+        T* elements_;
+        int first_;
+        int end_;
+    };
 
 private:
     static constexpr int HeadSize = alignof(std::max_align_t);

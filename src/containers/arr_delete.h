@@ -4,6 +4,7 @@
 #include "containers/arr_block.h"
 #include "containers/int_arr.h"
 #include <algorithm>
+#include <utility>
 
 // Deleting and purging of Arr.
 
@@ -101,6 +102,17 @@ template <class T> int Arr<T>::SwapM(int i, int j)
     slots[i] = slots[j];
     slots[j] = temporary;
     return 1;
+}
+
+template <class T> void Arr<T>::SwapListM(Arr& other) noexcept
+{
+    using std::swap;
+    swap(heapStore_, other.heapStore_);
+    swap(inlineStore_, other.inlineStore_);
+    swap(length_, other.length_);
+    swap(bound_, other.bound_);
+    swap(available_, other.available_);
+    swap(increment_, other.increment_);
 }
 
 // Lets go of the heap block; its last owner destroys the elements. The other members stay.

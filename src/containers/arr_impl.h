@@ -1,11 +1,14 @@
 #pragma once
 #include "baselib/moved_bytes.h"
+#include "baselib/take_back.h"
 #include "containers/arr.h"
 #include "containers/arr_block.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <new>
+#include <type_traits>
+#include <utility>
 
 // Construction, growth and storing of Arr.
 
@@ -22,9 +25,10 @@ Arr<T>::Arr(int n)
     if (n <= InlineLength) {
         return;
     }
-    if (T* block = ArrBlock<T>::AllocateM(n)) {
-        constructM(block, n);
-        heapStore_ = block;
+    typename ArrBlock<T>::FreshCL block(ArrBlock<T>::AllocateM(n));
+    if (block.IsThereM()) {
+        block.MakeM(n);
+        heapStore_ = block.TakeM();
         length_ = n;
     }
 }
@@ -49,24 +53,36 @@ template <class T> Arr<T>& Arr<T>::operator=(const Arr& other)
     if (this == &other) {
         return *this;
     }
-    T* block = nullptr;
-    if (other.length_ > InlineLength) {
-        block = ArrBlock<T>::AllocateM(std::int64_t { InlineLength } + other.length_);
-        if (block == nullptr) {
-            return *this;
-        }
+    // Copied before anything is deleted where a copy may find no memory.
+    constexpr bool CopiesFirst
+        = !std::is_nothrow_copy_assignable_v<T> && std::is_nothrow_move_assignable_v<T>;
+    const bool isLong = other.length_ > InlineLength;
+    typename ArrBlock<T>::FreshCL block(
+        isLong ? ArrBlock<T>::AllocateM(std::int64_t { InlineLength } + other.length_) : nullptr);
+    if (isLong && !block.IsThereM()) {
+        return *this;
+    }
+    if (isLong) {
+        block.MakeM(InlineLength + other.length_);
+    }
+    std::conditional_t<CopiesFirst, T[InlineLength], char> few {};
+    if constexpr (CopiesFirst) {
+        std::copy_n(other.getCurrentItemPrtM(), other.bound_, isLong ? block.ElementsM() : few);
     }
     if (heapStore_ != nullptr && heapStore_ == other.heapStore_) {
         letGoM(inlineStore_, InlineLength); // Deleting the items would delete those about to be copied.
         returnToInlineM();
     }
     DelAllM();
-    if (block != nullptr) {
-        constructM(block, InlineLength + other.length_);
-        heapStore_ = block;
+    if (isLong) {
+        heapStore_ = block.TakeM();
         length_ = InlineLength + other.length_;
     }
-    std::copy_n(other.getCurrentItemPrtM(), other.bound_, getCurrentItemPrtM());
+    if constexpr (!CopiesFirst) {
+        std::copy_n(other.getCurrentItemPrtM(), other.bound_, getCurrentItemPrtM());
+    } else if (!isLong) {
+        std::move(few, few + other.bound_, inlineStore_);
+    }
     available_ = other.available_;
     bound_ = other.bound_;
     increment_ = other.increment_;
@@ -96,23 +112,25 @@ template <class T> int Arr<T>::AddSizeM(int n)
     if (n < 1) {
         return 1;
     }
-    T* block = ArrBlock<T>::AllocateM(std::int64_t { length_ } + n);
-    if (block == nullptr) {
+    const bool isMoving = heapStore_ != nullptr && !ArrBlock<T>::IsSharedM(heapStore_);
+    typename ArrBlock<T>::FreshCL fresh(
+        ArrBlock<T>::AllocateM(std::int64_t { length_ } + n), isMoving ? length_ : 0);
+    if (!fresh.IsThereM()) {
         return 0;
     }
-    if (heapStore_ != nullptr && !ArrBlock<T>::IsSharedM(heapStore_)) {
+    T* const block = fresh.ElementsM();
+    fresh.MakeM(isMoving ? n : length_ + n);
+    if (isMoving) {
         std::memcpy(static_cast<void*>(block), static_cast<const void*>(heapStore_), length_ * sizeof(T));
         slTellMovedBytes(heapStore_, length_ * sizeof(T), block);
         ArrBlock<T>::FreeM(heapStore_);
     } else {
         // Inline elements live on until the array dies, those of a shared block until its other owners go.
-        constructM(block, length_);
         std::copy_n(getCurrentItemPrtM(), length_, block);
         dropHeapStoreM();
     }
-    constructM(block + length_, n);
     length_ += n;
-    heapStore_ = block;
+    heapStore_ = fresh.TakeM();
     return 1;
 }
 
@@ -131,12 +149,21 @@ template <class T> int Arr<T>::SetItemM(const T& item, int i)
             source = getCurrentItemPrtM() + own;
         }
     }
-    bound_ = std::max(bound_, i + 1);
     T& slot = getCurrentItemPrtM()[i];
-    if (!slot.IsAliveM() && source->IsAliveM()) {
+    const char before = slot.GetDeleteTagM();
+    if (!std::is_nothrow_copy_assignable_v<T> && std::is_nothrow_move_assignable_v<T> && i < bound_) {
+        T copy; // An element that finds no memory may have taken half of another.
+        copy = *source;
+        slot = std::move(copy);
+    } else {
+        TakeBackCL half([&slot, before] { slot.SetDeleteTagM(before); });
+        slot = *source;
+        half.KeepM();
+    }
+    bound_ = std::max(bound_, i + 1);
+    if (before != AliveTag && slot.IsAliveM()) {
         ++available_;
     }
-    slot = *source;
     return 1;
 }
 
@@ -172,27 +199,20 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
     if (i >= bound_) {
         return SetItemM(item, i);
     }
-    const int own = slotOfM(&item); // Growth and moving change where an item of this very array lies.
+    T copy; // First: growth and moving change where an item of this very array lies.
+    copy = item;
     if (bound_ == length_ && AddSizeM(increment_) == 0) {
         return 0;
     }
     T* slots = getCurrentItemPrtM();
-    T overwritten; // For an item that lies in the slot at the bound.
-    const T* source = &item;
-    if (own == bound_) {
-        overwritten = slots[own];
-        source = &overwritten;
-    } else if (own >= 0) {
-        source = slots + (own < i || own > bound_ ? own : own + 1);
-    }
     letGoM(slots + bound_, 1);
     slots[bound_].~T(); // The moved bytes overwrite it.
     std::memmove(
         static_cast<void*>(slots + i + 1), static_cast<const void*>(slots + i), (bound_ - i) * sizeof(T));
     slTellMovedBytes(slots + i, (bound_ - i) * sizeof(T), slots + i + 1);
-    constructM(slots + i, 1);
-    slots[i] = *source;
-    letGoM(&overwritten, 1);
+    ::new (static_cast<void*>(slots + i)) T();
+    slots[i] = std::move(copy);
+    letGoM(&copy, 1);
     ++bound_;
     if (slots[i].IsAliveM()) {
         ++available_;
@@ -203,6 +223,12 @@ template <class T> int Arr<T>::InsertItemM(const T& item, int i)
 template <class T> int Arr<T>::MergeM(const Arr& other)
 {
     const int otherBound = other.bound_; // Merging an array with itself moves its bound.
+    TakeBackCL half([this, bound = bound_, available = available_] {
+        for (int k = bound; k < std::min(bound_ + 1, length_); ++k) {
+            ElementAtM(k).SetDeleteTagM(DeletedTag);
+        }
+        setCountsM(bound, available);
+    });
     if (AddSizeM(other.available_ - length_ + bound_) == 0) {
         return 0;
     }
@@ -217,14 +243,8 @@ template <class T> int Arr<T>::MergeM(const Arr& other)
         ++bound_;
         ++available_;
     }
+    half.KeepM();
     return 1;
-}
-
-template <class T> void Arr<T>::constructM(T* slots, int n)
-{
-    for (int k = 0; k < n; ++k) {
-        ::new (static_cast<void*>(slots + k)) T();
-    }
 }
 
 // Empties slots before they are destroyed or marked deleted, as storing over them would: what they share with

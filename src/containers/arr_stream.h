@@ -1,6 +1,7 @@
 #pragma once
 #include "baselib/helpers.h"
 #include "baselib/io.h"
+#include "baselib/take_back.h"
 #include "containers/arr.h"
 #include <cstddef>
 #include <cstdio>
@@ -66,11 +67,12 @@ template <class T> void Arr<T>::inputElementsM(VrIOCL* io, int n)
         slots[k].SetDeleteTagM(DeletedTag);
     }
     bound_ = n;
+    TakeBackCL half([this] { DelAllVirtualM(); });
     for (int read = 0; read < n; ++read) {
         int k = read;
         if (!io->IsBinaryM()) {
             if (io->InputDM(&k) == 0) {
-                return;
+                break;
             }
             io->SkipLineM();
         }
@@ -80,6 +82,7 @@ template <class T> void Arr<T>::inputElementsM(VrIOCL* io, int n)
             ++available_;
         }
     }
+    half.KeepM();
 }
 
 // A line of a number and what it stands for.

@@ -2,6 +2,18 @@
 #include <algorithm>
 #include <climits>
 
+namespace {
+
+// Both parts of a list grow before either changes.
+template <class TP> void makeRoom(std::vector<TP>& part, std::size_t size)
+{
+    if (size > part.capacity()) {
+        part.reserve(std::max(size, 2 * part.capacity()));
+    }
+}
+
+} // namespace
+
 template <int N> TaggedArr<N>& TaggedArr<N>::operator=(const TaggedArr& other)
 {
     if (this != &other) {
@@ -13,9 +25,10 @@ template <int N> TaggedArr<N>& TaggedArr<N>::operator=(const TaggedArr& other)
 template <int N> typename TaggedArr<N>::Store& TaggedArr<N>::storeM()
 {
     if (!store_) {
-        store_ = std::make_shared<Store>();
-        store_->values.reserve(std::size_t { FirstRoom } * N); // Most lists are short: no growth by ones.
-        store_->tags.reserve(FirstRoom);
+        auto made = std::make_shared<Store>();
+        made->values.reserve(std::size_t { FirstRoom } * N); // Most lists are short: no growth by ones.
+        made->tags.reserve(FirstRoom);
+        store_ = std::move(made);
     }
     return *store_;
 }
@@ -54,6 +67,8 @@ template <int N> int TaggedArr<N>::SetItemM(const int* values, int index)
     std::copy_n(values, N, copy);
     Store& store = storeM();
     if (index >= bound) {
+        makeRoom(store.values, (static_cast<std::size_t>(index) + 1) * N);
+        makeRoom(store.tags, static_cast<std::size_t>(index) + 1);
         store.values.resize((static_cast<std::size_t>(index) + 1) * N, 0);
         store.tags.resize(static_cast<std::size_t>(index) + 1, DeletedTag);
     }
@@ -79,6 +94,8 @@ template <int N> int TaggedArr<N>::InsertItemM(const int* values, int index)
     int copy[N];
     std::copy_n(values, N, copy);
     Store& store = *store_;
+    makeRoom(store.values, store.values.size() + N);
+    makeRoom(store.tags, store.tags.size() + 1);
     store.values.insert(store.values.begin() + static_cast<std::ptrdiff_t>(index) * N, copy, copy + N);
     store.tags.insert(store.tags.begin() + index, AliveTag);
     ++store.available;

@@ -1,7 +1,9 @@
 #pragma once
 #include "baselib/char_arr.h"
+#include "baselib/take_back.h"
 #include "containers/own_list.h"
 #include "records/fields.h"
+#include <new>
 
 // The values of one entry of a secondary section, wherever they are kept.
 struct RowCL
@@ -27,20 +29,25 @@ inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
     visitor.NameM("bitmap", *row.texts[0], NullWord::SkipsEntry);
 }
 
-// Appends an alive text. Its index; -1, and nothing is appended, for null or when there is no memory.
+// Appends an alive text. Its index; -1, and nothing is appended, for null or when the list can't grow. What
+// finds no memory for the text throws and appends nothing.
 inline int slAppendText(VrStringArr& texts, const char* text)
 {
     const int index = text != nullptr ? texts.AddItemM(VrStringCL(AliveTag)) : -1;
     if (index >= 0) {
+        TakeBackCL appended([&texts, index] { texts.DelItemM(index); });
         texts.ElementAtM(index).AddStringM(text);
+        appended.KeepM();
     }
     return index;
 }
 
-// The same. 0, and nothing is appended, for null; else 1.
+// The same; a list that can't grow throws too. 0, and nothing is appended, for null; else 1.
 inline int slAddText(VrStringArr& texts, const char* text)
 {
-    slAppendText(texts, text);
+    if (slAppendText(texts, text) < 0 && text != nullptr) {
+        throw std::bad_alloc();
+    }
     return text != nullptr ? 1 : 0;
 }
 

@@ -15,7 +15,9 @@ int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 {
     const int index = slAppendText(files_, file);
     if (index >= 0) {
+        TakeBackCL half([this, index] { files_.DelItemM(index); });
         statuses_.AddItemM(status);
+        half.KeepM();
     }
     return index;
 }

@@ -5,11 +5,14 @@ template class PANELKIT_API Arr<DVrListCtrlCL>;
 
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
-    const int result = pair != nullptr ? slAddText(texts, text) : 0;
-    if (result != 0) {
-        pairs.AddItemM(pair);
+    if (pair == nullptr || text == nullptr) {
+        return 0;
     }
-    return result;
+    const int added = pairs.AddItemM(pair);
+    TakeBackCL half([this, added] { pairs.DelItemM(added); });
+    slAddText(texts, text);
+    half.KeepM();
+    return 1;
 }
 
 void PairedTextsCL::DelAllM()

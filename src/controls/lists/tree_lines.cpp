@@ -10,10 +10,12 @@ void TreeLinesCL::AddM(
     }
     const auto add
         = [](VrStringArr& list, const char* what) { slAddText(list, what != nullptr ? what : ""); };
-    keys_.AddItemM(triple);
+    const int index = keys_.AddItemM(triple);
+    TakeBackCL half([this, index] { DelItemM(index); }); // What no list has by then is deleted in none.
     add(texts_, text);
     add(normalPictures_, normalPicture);
     add(selectedPictures_, selectedPicture);
+    half.KeepM();
 }
 
 void TreeLinesCL::DelItemM(int index)
