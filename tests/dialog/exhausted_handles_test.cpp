@@ -9,6 +9,8 @@ using namespace testing_support;
 namespace {
 
 constexpr int Tables[] = { 20, 24 }; // A press on these waits for what the mouse does next.
+constexpr int KnobId = 34;
+constexpr int AnimationId = 36;
 
 // One control of every kind.
 class EveryKindCL : private SmallPictureCL, public ShownDialogCL
@@ -18,6 +20,10 @@ public:
         : SmallPictureCL(0x0000FF, 20, 20)
         , ShownDialogCL(sectionsOfEveryKind(path(), "text"))
     {
+        for (const int id : { 37, 38 }) {
+            SetPainterM(
+                id, [](CDC& dc, const CSize& size) { dc.FillSolidRect(2, 2, size.cx - 4, 6, 0x0080FF); });
+        }
     }
 
     std::vector<HWND> ChildrenM() const
@@ -38,70 +44,102 @@ public:
         for (const HWND child : ChildrenM()) {
             if (std::find(std::begin(Tables), std::end(Tables), ::GetDlgCtrlID(child)) == std::end(Tables)) {
                 ::SendMessageW(child, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+                ::UpdateWindow(child);
                 ::SendMessageW(child, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
             }
         }
         PaintM();
     }
+    // The file says that the dialog is not shown: a build hides it.
     void RebuildM()
     {
         DestroyM();
         InitDlgM(this, 1);
+        ShowWindow(SW_SHOW);
     }
-    // A build, and presses on what stands there.
+    // All that is painted of what stands there: at first, in other states, turned, larger.
     void LiveM()
     {
-        RebuildM();
         PaintM();
         PressM();
         SetTextColourM(11, RGB(200, 0, 0));
+        ValuesM().SetRealM(KnobId, 45.0);
+        ShowFrameM(AnimationId, 0);
+        RepaintM(37);
+        RepaintM(38);
+        EnableAllCtrlM(0);
         PaintM();
+        EnableAllCtrlM(1);
+        for (const int width : { 26, 20 }) {
+            for (const int id : { 32, 33, KnobId, 36, 37, 38 }) {
+                ::SetWindowPos(
+                    ItemM(id), nullptr, 0, 0, width, width, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+            }
+            PaintM();
+        }
     }
 };
+
+// Each request of what the action does may fail; what then fails no more looks as it did at first. How many
+// there are.
+int eachFails(EveryKindCL& dialog, const std::function<void()>& action)
+{
+    action();
+    dialog.RebuildM();
+    action();
+    const std::string stack = dialog.StackM();
+    dialog.PaintM();
+    const Pixels wanted(dialog.m_hWnd);
+    const int objects = LiveGdiObjectsM();
+    int requests = 1;
+    for (int number = 1; number <= requests && !testing::Test::HasFailure(); ++number) {
+        SCOPED_TRACE(number);
+        {
+            const FailingGdiCL failing(number > 0 ? FailingGdiCL::One : FailingGdiCL::None, number);
+            action();
+            requests = std::max(requests, failing.CountM());
+        }
+        action();
+        dialog.PaintM();
+        EXPECT_EQ(Pixels(dialog.m_hWnd).DifferencesM(wanted), 0);
+        EXPECT_EQ(dialog.StackM(), stack);
+        EXPECT_EQ(LiveGdiObjectsM(), objects);
+    }
+    return requests;
+}
 
 } // namespace
 
 TEST(ExhaustedHandles, EveryRequestOfABuildMayFailOnce)
 {
     EveryKindCL dialog;
-    dialog.LiveM();
-    dialog.LiveM();
-    const std::string stack = dialog.StackM();
-    const int objects = LiveGdiObjectsM();
-    int requests = 0;
-    {
-        const FailingGdiCL counting(FailingGdiCL::None);
-        dialog.LiveM();
-        requests = counting.CountM();
-    }
-    EXPECT_GT(requests, 10);
-    for (int number = 1; number <= requests; ++number) {
-        SCOPED_TRACE(number);
-        {
-            const FailingGdiCL failing(FailingGdiCL::One, number);
-            dialog.LiveM();
-            EXPECT_GE(failing.CountM(), number);
-        }
-        dialog.PaintM();
-    }
-    dialog.LiveM();
-    EXPECT_EQ(dialog.StackM(), stack);
-    EXPECT_EQ(LiveGdiObjectsM(), objects);
+    EXPECT_GT(eachFails(dialog, [&dialog] { dialog.RebuildM(); }), 12);
 }
 
+TEST(ExhaustedHandles, EveryRequestOfPaintingMayFailOnce)
+{
+    EveryKindCL dialog;
+    EXPECT_GT(eachFails(dialog, [&dialog] { dialog.LiveM(); }), 60);
+}
+
+// Steps that grow: at the end of a build, few requests follow.
 TEST(ExhaustedHandles, FromAnyRequestOnAllMayFail)
 {
     EveryKindCL dialog;
-    dialog.LiveM();
-    dialog.LiveM();
+    const auto all = [&dialog] {
+        dialog.RebuildM();
+        dialog.LiveM();
+    };
+    all();
+    all();
     const std::string stack = dialog.StackM();
     const int objects = LiveGdiObjectsM();
-    for (int number = 1; number <= 60; ++number) {
+    for (const int number : { 1, 2, 3, 5, 8, 13, 21, 34, 55, 89 }) {
         SCOPED_TRACE(number);
         const FailingGdiCL failing(FailingGdiCL::AllSince, number);
-        dialog.LiveM();
+        all();
     }
-    dialog.LiveM();
+    all();
     EXPECT_EQ(dialog.StackM(), stack);
     EXPECT_EQ(LiveGdiObjectsM(), objects);
 }

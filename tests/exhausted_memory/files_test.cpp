@@ -83,9 +83,11 @@ TEST(FilesWithoutMemory, AnEditIsMadeOrTheFileIsAsItWas)
 
 TEST(FilesWithoutMemory, CheckFindsTheSameAfterwards)
 {
+    // The standard library's listing of a folder ends the program where it finds no memory.
+    const char* const Nowhere = "/nowhere";
     const std::string bytes = wholeFile(PANELKIT_SAMPLES "/mistakes.dlg");
-    const auto find = [&bytes] {
-        return checkText("mistakes.dlg", PANELKIT_SAMPLES, std::make_shared<const FileTextCL>(bytes))
+    const auto find = [&] {
+        return checkText("mistakes.dlg", Nowhere, std::make_shared<const FileTextCL>(bytes))
             .TextM(Language::English, true);
     };
     const std::string all = find();
@@ -97,7 +99,7 @@ TEST(FilesWithoutMemory, CheckFindsTheSameAfterwards)
             EXPECT_EQ(found ? *found : find(), all);
             return hasFailed;
         },
-        19);
+        9);
     EXPECT_GT(failed, 50U);
 }
 
@@ -135,8 +137,8 @@ TEST(FilesWithoutMemory, AFileIsFormattedOrAsItWas)
                 EXPECT_TRUE(!isConverted || file.bytes() == twoKinds());
                 return hasFailed;
             },
-            7);
-        EXPECT_GT(failed, 10U);
+            2);
+        EXPECT_GT(failed, 8U);
     }
 }
 
