@@ -119,6 +119,8 @@ public:
     {
         dialog.RebuildM();
         dialog.UseM();
+        dialog.SetScaleM(150); // What a scale needs stays.
+        dialog.SetScaleM(100);
         dialog.RebuildM();
         dialog.PaintM();
         stack_ = dialog.StackM();
