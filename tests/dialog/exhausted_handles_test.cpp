@@ -147,14 +147,6 @@ TEST(ExhaustedHandles, EveryRequestOfABuildMayFailOnce)
         12);
 }
 
-TEST(ExhaustedHandles, EveryRequestOfPaintingMayFailOnce)
-{
-    EveryKindCL dialog;
-    EXPECT_GT(eachFails(
-                  dialog, [&dialog] { dialog.LiveM(); }, false),
-        60);
-}
-
 // Steps that grow: at the end of a build, few requests follow.
 TEST(ExhaustedHandles, FromAnyRequestOnAllMayFail)
 {
