@@ -3,6 +3,7 @@
 #include "measures.h"
 #include "raw_dialog.h"
 #include "support/test_dialog.h"
+#include <commctrl.h>
 #include <cstring>
 #include <fstream>
 
@@ -10,7 +11,7 @@ using namespace mixed;
 
 namespace {
 
-constexpr int Rounds = 9;
+constexpr int Rounds = 12;
 
 struct WindowCL
 {
@@ -20,7 +21,15 @@ struct WindowCL
     DWORD exStyle;
     RECT rect; // Left, top, width, height.
     int id;
+    int buddy; // The id of the edit that the arrows of a spin control belong to; 0: none.
     std::vector<std::wstring> lines;
+
+    bool IsLikeM(const WindowCL& other) const
+    {
+        return name == other.name && text == other.text && style == other.style && exStyle == other.exStyle
+            && ::EqualRect(&rect, &other.rect) && id == other.id && buddy == other.buddy
+            && lines == other.lines;
+    }
 };
 
 std::wstring textFrom(HWND window, UINT message, WPARAM wParam)
@@ -46,6 +55,9 @@ WindowCL look(HWND window)
     seen.rect.right -= seen.rect.left;
     seen.rect.bottom -= seen.rect.top;
     seen.id = ::GetDlgCtrlID(window);
+    seen.buddy = seen.name == UPDOWN_CLASSW
+        ? ::GetDlgCtrlID(reinterpret_cast<HWND>(::SendMessageW(window, UDM_GETBUDDY, 0, 0)))
+        : 0;
     const bool isList = seen.name == L"ListBox";
     const LRESULT count = isList   ? ::SendMessageW(window, LB_GETCOUNT, 0, 0)
         : seen.name == L"ComboBox" ? ::SendMessageW(window, CB_GETCOUNT, 0, 0)
@@ -83,7 +95,7 @@ void write(const std::vector<WindowCL>& windows, const char* path)
         text(window.text);
         file << window.style << ' ' << window.exStyle << ' ' << window.rect.left << ' ' << window.rect.top
              << ' ' << window.rect.right << ' ' << window.rect.bottom << ' ' << window.id << ' '
-             << window.lines.size() << '\n';
+             << window.buddy << ' ' << window.lines.size() << '\n';
         for (const std::wstring& line : window.lines) {
             text(line);
         }
@@ -112,7 +124,7 @@ std::vector<WindowCL> read(const char* path)
         window.text = text();
         size_t lines = 0;
         file >> window.style >> window.exStyle >> window.rect.left >> window.rect.top >> window.rect.right
-            >> window.rect.bottom >> window.id >> lines;
+            >> window.rect.bottom >> window.id >> window.buddy >> lines;
         for (size_t i = 0; i < lines; ++i) {
             window.lines.push_back(text());
         }
@@ -126,12 +138,27 @@ double buildByLibrary(const char* file)
     return secondsOf([&host] { host.BuildM(); });
 }
 
+// An edit with arrows is created with the room of both: joining them takes the arrows' room from it.
+void giveRoomOfArrows(std::vector<WindowCL>& windows)
+{
+    for (const WindowCL& arrows : windows) {
+        for (WindowCL& edit : windows) {
+            if (arrows.buddy != 0 && edit.id == arrows.buddy) {
+                edit.rect.right += arrows.rect.right; // Widths.
+            }
+        }
+    }
+}
+
+// Negative when what it makes isn't what the file says.
 double buildRaw(const char* file)
 {
-    const std::vector<WindowCL> windows = read(file);
+    const std::vector<WindowCL> wanted = read(file);
+    std::vector<WindowCL> windows = wanted;
+    giveRoomOfArrows(windows);
     const RawDialogCL dialog(0);
     const HWND parent = dialog.HandleM();
-    return secondsOf([&windows, parent] {
+    const double seconds = secondsOf([&windows, parent] {
         const auto picture = static_cast<HBITMAP>(::LoadImageW(
             nullptr, L"plotter_background.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
         ::SetWindowLongW(
@@ -149,6 +176,12 @@ double buildRaw(const char* file)
                     reinterpret_cast<LPARAM>(line.c_str()));
             }
         }
+        for (size_t i = 0; i < made.size(); ++i) {
+            if (windows[i].buddy != 0) {
+                ::SendMessageW(made[i], UDM_SETBUDDY,
+                    reinterpret_cast<WPARAM>(::GetDlgItem(parent, windows[i].buddy)), 0);
+            }
+        }
         LOGFONTW look {};
         look.lfHeight = -FontOption;
         look.lfWeight = FW_NORMAL;
@@ -161,6 +194,14 @@ double buildRaw(const char* file)
         }
         ::DeleteObject(picture);
     });
+    const std::vector<WindowCL> made = lookAtAll(parent);
+    for (size_t i = 0; i < wanted.size(); ++i) {
+        if (made.size() != wanted.size() || !made[i].IsLikeM(wanted[i])) {
+            std::fprintf(stderr, "window %u differs\n", static_cast<unsigned>(i));
+            return -1;
+        }
+    }
+    return seconds;
 }
 
 // What a process of this program that does just that measures; below 0 when it fails.
@@ -191,7 +232,7 @@ int main(int argc, char** argv)
 {
     if (argc == 3) {
         const double seconds = std::strcmp(argv[1], "raw") == 0 ? buildRaw(argv[2]) : buildByLibrary(argv[2]);
-        return static_cast<int>(seconds * 1e6);
+        return seconds < 0 ? 0 : static_cast<int>(seconds * 1e6);
     }
     ::SetCurrentDirectoryA(argc == 2 ? argv[1] : PANELKIT_PLOTTER);
     std::vector<WindowCL> windows;
@@ -205,8 +246,12 @@ int main(int argc, char** argv)
     std::vector<double> mine;
     std::vector<double> raw;
     for (int round = 0; round <= Rounds; ++round) {
-        const double first = secondsIn(L"library", "plotter.dlg");
-        const double second = secondsIn(L"raw", list.path());
+        double first = 0;
+        double second = 0;
+        for (const int which : { round % 2, 1 - round % 2 }) {
+            (which == 0 ? first : second)
+                = which == 0 ? secondsIn(L"library", "plotter.dlg") : secondsIn(L"raw", list.path());
+        }
         if (windows.size() < 20 || first < 0 || second < 0) {
             std::fprintf(stderr, "the dialog is not there\n");
             return 1;

@@ -11,12 +11,13 @@ inline void tell(const std::string& name, double value, const char* unit, const 
     std::fflush(stdout);
 }
 
-// The median of the rounds' ratios: what the machine does meanwhile meets both sides of a round.
+// The median of the ratios of two rounds each: what the machine does meanwhile meets both sides, and of two
+// rounds each side was first in one.
 inline double ratioOf(const std::vector<double>& mine, const std::vector<double>& other)
 {
     std::vector<double> ratios;
-    for (std::size_t round = 0; round < mine.size() && round < other.size(); ++round) {
-        ratios.push_back(mine[round] / other[round]);
+    for (std::size_t round = 1; round < mine.size() && round < other.size(); round += 2) {
+        ratios.push_back((mine[round - 1] + mine[round]) / (other[round - 1] + other[round]));
     }
     return median(ratios);
 }

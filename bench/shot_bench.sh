@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# shot_bench.sh: what a picture of an example costs while Wine is warm, over starting a program that does nothing.
+# shot_bench.sh: what a picture of an example costs while Wine is warm, over starting a program that does nothing and
+# over one that pictures an empty window, which tells how much of the first the window system takes.
 # In the session of scripts/bench: PANELKIT_WINEPREFIX and DISPLAY are set.
 source "$(dirname "${BASH_SOURCE[0]}")/../scripts/common.sh"
-rounds=7
-picture="$root/build/shot_bench.png"
+rounds=9
+picture="$root/build/shot_bench.png" raw="$root/build/shot_bench.bmp"
 
 milliseconds() { # command...
   local begin=${EPOCHREALTIME/[.,]/}
@@ -12,18 +13,27 @@ milliseconds() { # command...
 }
 shot() { milliseconds "$root/scripts/panelkit" shot "$root/examples/plotter/plotter.dlg" "$picture"; }
 start() { milliseconds "$root/scripts/wine" "$root/build/windows/bin/trivial.exe"; }
+raw_shot() { milliseconds "$root/scripts/wine" "$root/build/windows/bin/raw_shot.exe" "$raw"; }
+ratio() { # name time time
+  awk -v name="$1" -v taken="$2" -v other="$3" 'BEGIN {
+    printf "{\"name\":\"%s\",\"value\":%.3f,\"unit\":\"x\",\"better\":\"lower\"}\n", name, taken / other }'
+}
 median() { sort -n | sed -n "$(((rounds + 1) / 2))p"; }
 
-rm -f "$picture"
+rm -f "$picture" "$raw"
 shot >/dev/null # The first is to make all others warm.
-[ -s "$picture" ] || { say "shot wrote no picture"; exit 1; }
-shots=() starts=()
+raw_shot >/dev/null
+[ -s "$picture" ] && [ -s "$raw" ] || { say "shot wrote no picture"; exit 1; }
+shots=() starts=() raws=()
 for ((round = 0; round < rounds; ++round)); do
   shots+=("$(shot)")
   starts+=("$(start)")
+  raws+=("$(raw_shot)")
 done
 taken=$(printf '%s\n' "${shots[@]}" | median)
 started=$(printf '%s\n' "${starts[@]}" | median)
-say "a shot $taken ms, a start $started ms"
-awk -v taken="$taken" -v started="$started" 'BEGIN {
-  printf "{\"name\":\"shot_second_over_warm_exe\",\"value\":%.3f,\"unit\":\"x\",\"better\":\"lower\"}\n", taken / started }'
+plain=$(printf '%s\n' "${raws[@]}" | median)
+say "a shot $taken ms, a start $started ms, a picture of an empty window $plain ms"
+ratio shot_second_over_warm_exe "$taken" "$started"
+ratio shot_second_over_raw_shot "$taken" "$plain"
+ratio raw_shot_over_warm_exe "$plain" "$started"

@@ -11,5 +11,6 @@ inline double secondsSince(std::chrono::steady_clock::time_point begin)
 inline double median(std::vector<double> times)
 {
     std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+    const std::size_t half = times.size() / 2;
+    return times.size() % 2 == 1 ? times[half] : (times[half - 1] + times[half]) / 2;
 }

@@ -2,21 +2,28 @@
 # resources understands none of them.
 add_library(panelkit_options INTERFACE)
 target_compile_options(panelkit_options INTERFACE
-  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wshadow=local;-Wnon-virtual-dtor;-Woverloaded-virtual>
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;$<IF:$<CXX_COMPILER_ID:Clang>,-Wshadow,-Wshadow=local>>
+  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Woverloaded-virtual>
   # Whose project we are part of has a compiler of his own, which may know other warnings.
   $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<BOOL:${PROJECT_IS_TOP_LEVEL}>>:-Werror>
   # Seeing through the calls between the files of a unity build, it takes every cast to a base for a null one.
-  $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>>:-Wnull-dereference>
+  $<$<AND:$<COMPILE_LANG_AND_ID:CXX,GNU>,$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>>:-Wnull-dereference>
   $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type;-Wno-attributes>)
 if(PANELKIT_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+if(PANELKIT_LIBFUZZER)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 if(WIN32)
   add_compile_definitions(UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601 __USE_MINGW_ANSI_STDIO=1)
   # No compiler runtime beside the programs: each carries its own.
   add_link_options(-static -static-libgcc -static-libstdc++)
+  # Parts of whole pages: Wine then maps the file, with what debuggers read, where else it reads all of it at each start.
+  # What is installed is packed again.
+  set(mapped_by_wine LINKER:--file-alignment=4096)
 endif()
 
 # What Windows shows as the details of a program or library, and installers compare.

@@ -1,8 +1,9 @@
-// Feeds broken description files to the parts of the command that need no window: check, format, convert,
-// ids, strings. Run by scripts/fuzz with the corpus in fuzz/corpus/command. The first byte of an input says
-// which.
+// Feeds broken description files to the parts of the command that need no window: check, dump, format,
+// convert, ids, strings. Run by scripts/fuzz with the corpus in fuzz/corpus/command. The first byte of an
+// input says which.
 #include "check.h"
 #include "commands.h"
+#include "support/bmp_file.h"
 #include "text_file.h"
 #include <cstdint>
 #include <cstdio>
@@ -23,6 +24,11 @@ public:
         // What commands say is not looked at; the sanitizers write past both.
         std::freopen("/dev/null", "w", stdout);
         stderr = std::fopen("/dev/null", "w");
+        BmpFile picture;
+        picture.addRow({ 0x123456 });
+        const std::vector<unsigned char> pictureBytes = picture.bytes();
+        WriteM("a.bmp", { pictureBytes.begin(), pictureBytes.end() });
+        WriteM("b.bmp", "BM is no picture");
     }
     FolderCL(const FolderCL&) = delete;
     FolderCL& operator=(const FolderCL&) = delete;
@@ -32,6 +38,14 @@ public:
         std::filesystem::remove_all(path_, error);
     }
     std::string PathM(const char* name) const { return path_ + "/" + name; }
+    void WriteM(const char* name, const std::string& bytes) const
+    {
+        const int out = ::open(PathM(name).c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        if (out < 0 || ::write(out, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
+            std::abort();
+        }
+        ::close(out);
+    }
 
 private:
     std::string path_;
@@ -50,14 +64,26 @@ void expect(bool holds)
     }
 }
 
-void check(const std::string& bytes)
+void check(const FolderCL& folder, const std::string& bytes, bool isPrinted)
 {
-    const FindingsCL findings = checkBytes("fuzz.dlg", "/nowhere", std::string(bytes));
+    const FindingsCL findings
+        = checkText("fuzz.dlg", folder.PathM(""), std::make_shared<const FileTextCL>(bytes));
     findings.TextM(Language::English, true);
     findings.TextM(Language::Chinese, true);
     for (const FindingCL& finding : findings.ListM()) {
         expect(finding.offset <= bytes.size());
     }
+    if (isPrinted) {
+        printFindingsAsJson({ findings }, Language::Chinese);
+        printFindingsAsSarif({ findings, findings }, Language::English);
+    }
+}
+
+void dump(const std::string& file)
+{
+    ShowOptionsCL options;
+    options.files = { file };
+    dumpCommand(options);
 }
 
 // What is formatted is formatted: once more changes nothing.
@@ -92,14 +118,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string file = folder.PathM("fuzz.dlg");
     const std::string other = folder.PathM("other");
     const int which = data[0] % 8;
-    if (which < 4) {
-        check(bytes);
+    if (which < 3) {
+        check(folder, bytes, which == 2);
         return 0;
     }
-    const int out = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    expect(out >= 0 && ::write(out, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
-    ::close(out);
+    folder.WriteM("fuzz.dlg", bytes);
     switch (which) {
+    case 3:
+        dump(file);
+        break;
     case 4:
         format(file);
         break;

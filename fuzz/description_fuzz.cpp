@@ -1,10 +1,13 @@
 // Feeds broken description files to all that reads them: every record, sections with their entries,
-// relations, with and without somebody who is told what is found. Run by scripts/fuzz with the corpus in
+// relations and bindings, with and without somebody who is told what is found; then brings the records to
+// another scale and the controls to other places. Run by scripts/fuzz with the corpus in
 // fuzz/corpus/description.
 #include "baselib/number_text.h"
 #include "controls/lists/tree_lines.h"
+#include "dialog/binding.h"
 #include "dialog/reading_diagnostics.h"
 #include "editing/seen_sections.h"
+#include "records/scaling.h"
 #include "support/read_model.h"
 #include <cstdint>
 #include <cstdlib>
@@ -71,6 +74,56 @@ void growTree(const SeenSectionsCL& seen, const FileTextCL& text)
     }
 }
 
+// A control as large as the dialog may be, at that size and at others.
+void bind(const BindingCL& binding, const int (&size)[2])
+{
+    const EdgesCL described { size[0] / 4, size[1] / 4, size[0] / 2, size[1] / 2 };
+    const EdgesCL same = slBoundEdges(described, binding, GrowthCL(size, size[0], size[1]));
+    if (same.left != described.left || same.top != described.top
+        || (size[0] >= 0 && same.right != described.right)
+        || (size[1] >= 0 && same.bottom != described.bottom)) {
+        std::abort();
+    }
+    for (const int width : { size[0] / 2 + 1000, 2147483647 }) {
+        for (const bool keepsSize : { false, true }) {
+            const EdgesCL grown
+                = slBoundEdges(described, binding, GrowthCL(size, width, width), { keepsSize, keepsSize });
+            if (grown.right < grown.left || grown.bottom < grown.top) {
+                std::abort();
+            }
+        }
+    }
+}
+
+void scaleAndBind(VrIOCL& io, int percent)
+{
+    const ScaleCL scale(percent);
+    DialogHeaderCL header;
+    slReadDialogHeader(io, header);
+    ScalingCL scaling(scale);
+    header.EachFieldM(scaling);
+    slEachKind([&](auto row) {
+        slEachRecordRead<typename decltype(row)::Records>(
+            io, [&scale](int, auto& record) { slScaleRecord(record, scale); });
+    });
+    class SizeCL : public FieldVisitorCL
+    {
+    public:
+        void LengthPairM(const char* name, int (&xy)[2]) override
+        {
+            if (name == std::string_view("size")) {
+                std::copy(xy, xy + 2, size);
+            }
+        }
+        int size[2] {};
+    } size;
+    header.EachFieldM(size);
+    slReadBindings(io, [&size](BindingCL& binding) {
+        bind(binding, size.size);
+        return binding.control % 5 != 0;
+    });
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -90,5 +143,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadingDiagnosticsCL diagnostics([](const DiagnosticCL&, void*) {}, nullptr, true);
     diagnostics.WatchM("fuzz.dlg", io);
     allOf(text, &diagnostics);
+    io.SetObserverM(nullptr);
+    scaleAndBind(io, 50 + static_cast<int>(size % 300));
     return 0;
 }

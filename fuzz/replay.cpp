@@ -1,22 +1,57 @@
-// replay FOLDER COUNT: runs a fuzzer over its corpus, and over so many inputs made of those by chance, always
-// the same ones; for compilers without libFuzzer.
+// replay FOLDER SECONDS FAILED: runs a fuzzer over its corpus, and for so long over inputs made of those by
+// chance, always the same ones in the same order; for compilers without libFuzzer. What breaks the fuzzer, or
+// keeps it busy for too long, is written to the file FAILED.
 #include <algorithm>
+#include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+#include <unistd.h>
 #include <vector>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/common_interface_defs.h>
+#endif
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 
+constexpr unsigned MostSeconds = 20; // That one input may take.
+
+const std::string* current = nullptr; // The input that runs.
+const char* failedFile = nullptr;
+
+// Called where nothing can be relied on.
+void keepInput()
+{
+    const int out = ::open(failedFile, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (current != nullptr && out >= 0
+        && ::write(out, current->data(), current->size()) == static_cast<ssize_t>(current->size())) {
+        constexpr char Said[] = "\nthe input that failed is in ";
+        static_cast<void>(!::write(2, Said, sizeof Said - 1));
+        static_cast<void>(!::write(2, failedFile, std::char_traits<char>::length(failedFile)));
+        static_cast<void>(!::write(2, "\n", 1));
+    }
+}
+
+void onSignal(int number)
+{
+    keepInput();
+    std::signal(number, SIG_DFL);
+    std::raise(number);
+}
+
 void run(const std::string& input)
 {
+    current = &input;
+    ::alarm(MostSeconds);
     // A block of just that size: a step outside is seen.
     const std::vector<std::uint8_t> bytes(input.begin(), input.end());
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
@@ -64,9 +99,17 @@ std::string mutated(std::mt19937& random, const std::vector<std::string>& corpus
 
 int main(int count, char** arguments)
 {
-    if (count != 3) {
+    if (count != 4) {
         return 2;
     }
+    failedFile = arguments[3];
+    std::signal(SIGABRT, &onSignal);
+    std::signal(SIGALRM, &onSignal);
+#ifdef __SANITIZE_ADDRESS__
+    __sanitizer_set_death_callback(&keepInput);
+#else
+    std::signal(SIGSEGV, &onSignal);
+#endif
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(arguments[1])) {
         files.push_back(entry.path());
@@ -79,9 +122,11 @@ int main(int count, char** arguments)
         run(corpus.back());
     }
     std::mt19937 random(1); // What it gives is laid down.
-    const int wanted = std::atoi(arguments[2]);
-    for (int i = 0; i < wanted && !corpus.empty(); ++i) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(std::atoi(arguments[2]));
+    std::size_t inputs = 0;
+    for (; !corpus.empty() && std::chrono::steady_clock::now() < end; ++inputs) {
         run(mutated(random, corpus));
     }
+    std::fprintf(stderr, "%zu inputs of the corpus, %zu made of them\n", corpus.size(), inputs);
     return corpus.empty() ? 1 : 0;
 }

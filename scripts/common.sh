@@ -12,8 +12,8 @@ packages=(
   # What Wine loads for its windows if it is there: with it, they look and behave the same everywhere.
   libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
 )
-# The sources of examples/idiom are compiled by clang too, and for 32 bit.
-test_packages=(g++ googletest clang-format ccache pkgconf clang g++-mingw-w64-i686-posix python3 valgrind gettext neovim)
+# The library, the command and the sources of examples/idiom are compiled by clang too, the last ones for 32 bit.
+test_packages=(g++ googletest clang-format ccache pkgconf clang lld g++-mingw-w64-i686-posix python3 valgrind gettext neovim)
 docs_packages=(python3-sphinx python3-myst-parser furo) # For the site of the docs.
 reference_packages=(doxygen) # For the reference of the public headers.
 packages32=(g++-mingw-w64-i686-posix) # For the 32-bit build alone.

@@ -77,9 +77,11 @@ set(PANELKIT_CONTROL_SOURCES
   pictures/brush_record.cpp
   pictures/image_cache.cpp
   pictures/picture_loader.cpp
+  pictures/picture_sharing.cpp
   pictures/region_functions.cpp
   pictures/region_pixels.cpp
   pictures/rgn_record.cpp
+  pictures/shared_bitmap.cpp
   toolkit/animate_ctrl.cpp
   toolkit/app.cpp
   toolkit/button.cpp

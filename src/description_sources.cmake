@@ -20,6 +20,9 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/real_write.cpp
   baselib/scale.cpp
   baselib/string.cpp
+  baselib/text_pool.cpp
+  containers/any_arr.cpp
+  containers/arr_slots.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
@@ -60,6 +63,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   editing/record_lines.cpp
   editing/record_text.cpp
   editing/seen_sections.cpp
+  editing/seen_values.cpp
   editing/text_changes.cpp
   editing/value_forms.cpp
   pictures/bmp_header.cpp

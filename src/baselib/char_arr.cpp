@@ -3,11 +3,38 @@
 #include <algorithm>
 #include <cstring>
 
+namespace {
+
+// How many bytes of a text stand in front of the first NUL.
+std::size_t lengthToNul(const char* bytes, std::size_t length)
+{
+    const void* const nul = length > 0 ? std::memchr(bytes, '\0', length) : nullptr;
+    return nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - bytes) : length;
+}
+
+char* fillText(char* to, const char* bytes, std::size_t length)
+{
+    std::memcpy(to, bytes, length);
+    to[length] = '\0';
+    return to;
+}
+
+} // namespace
+
 CharArr& CharArr::operator=(const CharArr& other)
 {
-    if (text_ || other.text_) {
+    if (text_ != nullptr || other.text_ != nullptr) {
         SetM(other.TextM());
     }
+    return *this;
+}
+
+CharArr& CharArr::operator=(CharArr&& other) noexcept
+{
+    char* const taken = other.text_;
+    other.text_ = nullptr;
+    slDeleteText(text_);
+    text_ = taken;
     return *this;
 }
 
@@ -18,33 +45,26 @@ int CharArr::SetM(const char* text)
 
 int CharArr::SetM(const char* bytes, std::size_t length)
 {
-    if (bytes == nullptr) {
-        length = 0;
-    }
-    const void* const nul = length > 0 ? std::memchr(bytes, '\0', length) : nullptr;
-    const std::size_t kept = nul != nullptr ? static_cast<const char*>(nul) - bytes : length;
-    std::unique_ptr<char[]> made;
-    if (kept > 0) {
-        made.reset(new char[kept + 1]);
-        std::memcpy(made.get(), bytes, kept);
-        made[kept] = '\0';
-    }
-    text_ = std::move(made);
+    const std::size_t kept = bytes != nullptr ? lengthToNul(bytes, length) : 0;
+    char* const made = kept > 0 ? fillText(slNewText(kept + 1), bytes, kept) : nullptr;
+    slDeleteText(text_); // Not before: the bytes may lie in it.
+    text_ = made;
     return 1;
+}
+
+void CharArr::SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
+{
+    char* const made = length > 0 ? fillText(pool.NewM(length + 1), bytes, length) : nullptr;
+    slDeleteText(text_);
+    text_ = made;
 }
 
 void CharArr::SetWithinM(const char* bytes, std::size_t length, std::size_t room)
 {
-    if (!text_) {
-        text_.reset(new char[room]);
+    if (text_ == nullptr) {
+        text_ = slNewText(room);
     }
-    const std::size_t most = std::min(length, room - 1);
-    const void* const nul = most > 0 ? std::memchr(bytes, '\0', most) : nullptr;
-    const std::size_t kept = nul != nullptr ? static_cast<const char*>(nul) - bytes : most;
-    if (kept > 0) {
-        std::memmove(text_.get(), bytes, kept);
-    }
-    text_[kept] = '\0';
+    fillText(text_, bytes, std::min(length, room - 1));
 }
 
 int CharArr::GetM(char* out, int size) const

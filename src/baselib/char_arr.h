@@ -1,7 +1,5 @@
 #pragma once
-#include "baselib/api.h"
-#include <cstddef>
-#include <memory>
+#include "baselib/text_pool.h"
 
 // A text on the heap, copied deeply. The object is one pointer and may be moved by bytes.
 class PANELKIT_API CharArr
@@ -11,30 +9,41 @@ public:
     // A copy of the text; null counts as empty.
     explicit CharArr(const char* text) { SetM(text); }
     CharArr(const CharArr& other) { SetM(other.TextM()); }
-    CharArr(CharArr&&) = default;
+    CharArr(CharArr&& other) noexcept
+        : text_(other.text_)
+    {
+        other.text_ = nullptr;
+    }
     CharArr& operator=(const CharArr& other);
-    CharArr& operator=(CharArr&&) = default;
-    ~CharArr() = default;
+    CharArr& operator=(CharArr&& other) noexcept;
+    ~CharArr()
+    {
+        if (text_ != nullptr) {
+            slDeleteText(text_);
+        }
+    }
 
     int SetM(const char* text); // Null counts as empty; may be a part of the text held. 1.
     int SetM(const char* bytes, std::size_t length); // The bytes up to the first NUL among them. 1.
-    const char* TextM() const { return text_ ? text_.get() : ""; } // Never null; valid until set anew.
+    // A text without a NUL, which lies with others in a block of the pool.
+    void SetInM(TextPoolCL& pool, const char* bytes, std::size_t length);
+    const char* TextM() const { return text_ != nullptr ? text_ : ""; } // Never null; valid until set anew.
     int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1;
                                          // 0 without one.
     std::size_t LengthM() const;         // Bytes without the terminator.
     // Whether it has no byte.
     bool EmptyM() const { return *TextM() == '\0'; }
 
-    // For a text that is set again and again: the same, in a block with room for `room` bytes with the
-    // terminator, which the text held is too; longer ones are cut. ClearM keeps the block.
+    // For a text that is set again and again, without a NUL: in a block of its own with room for `room` bytes
+    // with the terminator, which the text held is too; longer ones are cut. ClearM keeps the block.
     void SetWithinM(const char* bytes, std::size_t length, std::size_t room);
     void ClearM()
     {
-        if (text_) {
+        if (text_ != nullptr) {
             text_[0] = '\0';
         }
     }
 
 private:
-    std::unique_ptr<char[]> text_;
+    char* text_ { nullptr }; // Its own; see text_pool.h.
 };

@@ -159,13 +159,14 @@ bool VrIOCL::InputItemM(std::string_view* item)
         at_ += length;
         return true;
     }
-    skipBlanksM();
-    if (at_ == size_) {
+    const char* const end = data_ + size_;
+    const char* const begin = slSkipBlanks(data_ + at_, end);
+    at_ = static_cast<std::size_t>(begin - data_);
+    if (begin == end) {
         return false;
     }
-    const char* const begin = data_ + at_;
-    const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
-    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : data_ + size_;
+    const void* const lineFeed = std::memchr(begin, '\n', static_cast<std::size_t>(end - begin));
+    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : end;
     const char* itemEnd = lineEnd;
     while (slIsBlank(itemEnd[-1])) {
         --itemEnd;

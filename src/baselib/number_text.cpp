@@ -1,5 +1,4 @@
 #include "baselib/number_text.h"
-#include "baselib/number_scan.h"
 #include "baselib/real_text.h"
 #include <algorithm>
 #include <climits>
@@ -59,7 +58,22 @@ const char* realEnd(const char* at, const char* end)
 
 const char* slReadInt(const char* at, const char* end, int* value)
 {
-    return value != nullptr ? slScanInt(at, end, value) : at;
+    if (value == nullptr) {
+        return at;
+    }
+    constexpr std::int64_t Most = INT_MAX;
+    const bool isNegative = at < end && *at == '-';
+    const char* const digits = at < end && isSign(*at) ? at + 1 : at;
+    const char* digit = digits;
+    std::int64_t whole = 0;
+    for (; digit < end && isDigit(*digit); ++digit) {
+        whole = std::min<std::int64_t>(whole * 10 + (*digit - '0'), Most + 1);
+    }
+    if (digit == digits) {
+        return at;
+    }
+    *value = static_cast<int>(isNegative ? -whole : std::min(whole, Most));
+    return digit;
 }
 
 const char* slReadReal(const char* at, const char* end, float* value)
@@ -68,12 +82,15 @@ const char* slReadReal(const char* at, const char* end, float* value)
         return at;
     }
     const char* const digits = at < end && isSign(*at) ? at + 1 : at;
-    const char* const numberEnd = realEnd(digits, end);
-    if (numberEnd == digits) {
-        return at;
-    }
     float magnitude = 0;
-    slNearestReal(digits, numberEnd, &magnitude);
+    const char* numberEnd = slReadShortReal(digits, end, &magnitude);
+    if (numberEnd == nullptr) {
+        numberEnd = realEnd(digits, end);
+        if (numberEnd == digits) {
+            return at;
+        }
+        slNearestReal(digits, numberEnd, &magnitude);
+    }
     *value = *at == '-' ? -magnitude : magnitude;
     return numberEnd;
 }

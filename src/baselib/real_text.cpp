@@ -109,41 +109,44 @@ bool nearestExactly(const char* at, const char* end, float* value)
     return found.mantissa > 0;
 }
 
-// The few digits that nearly all texts have, by one division. False: not certain.
-bool nearestOfFewDigits(const char* at, const char* end, float* value)
+} // namespace
+
+const char* slReadShortReal(const char* at, const char* end, float* value)
 {
     static constexpr double Powers[]
         = { 1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15 };
-    if (end - at > 16) {
-        return false;
-    }
+    constexpr int MostBytes = 16;
+    const char* const sure = end - at > MostBytes ? at + MostBytes : end;
+    const char* const begin = at;
     std::uint64_t digits = 0;
-    const char* point = nullptr;
-    for (; at < end; ++at) {
-        if (isDecimalDigit(*at)) {
+    for (; at < sure && isDecimalDigit(*at); ++at) {
+        digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+    }
+    std::ptrdiff_t behindPoint = 0;
+    std::ptrdiff_t count = at - begin;
+    if (at < sure && *at == '.') {
+        const char* const point = ++at;
+        for (; at < sure && isDecimalDigit(*at); ++at) {
             digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
-        } else if (*at == '.') {
-            point = at + 1;
-        } else {
-            return false;
         }
+        behindPoint = at - point;
+        count += behindPoint;
     }
-    if (digits >= std::uint64_t { 1 } << 53) {
-        return false;
+    const bool mayGoOn = at < end && (at == sure || *at == 'e' || *at == 'E');
+    if (count == 0 || mayGoOn || digits >= std::uint64_t { 1 } << 53) {
+        return nullptr;
     }
-    const double quotient = static_cast<double>(digits) / Powers[point != nullptr ? end - point : 0];
+    const double quotient = static_cast<double>(digits) / Powers[behindPoint];
     // As a double it is off by less than two of its last bits. Where that may decide, this doesn't know.
     std::uint64_t bits = 0;
     std::memcpy(&bits, &quotient, sizeof bits);
     constexpr std::uint64_t Half = std::uint64_t { 1 } << 28;
     const std::uint64_t below = bits & (Half * 2 - 1);
     *value = static_cast<float>(quotient);
-    return below < Half - 2 || below > Half + 2;
+    return below < Half - 2 || below > Half + 2 ? at : nullptr;
 }
-
-} // namespace
 
 bool slNearestReal(const char* at, const char* end, float* value)
 {
-    return nearestOfFewDigits(at, end, value) || nearestExactly(at, end, value);
+    return slReadShortReal(at, end, value) == end || nearestExactly(at, end, value);
 }

@@ -8,6 +8,10 @@
 // is 0.
 bool slNearestReal(const char* at, const char* end, float* value);
 
+// The same for up to 16 digits and a point without an exponent, as nearly all are, by one division: where
+// they end, null for all else and where it isn't certain of the value.
+const char* slReadShortReal(const char* at, const char* end, float* value);
+
 // Each writes to room for at least 64 characters, those of slWriteFixed besides the decimals, and gives the
 // end. The fewest digits that read back as the value, in the shorter of both notations. Finite values alone.
 char* slWriteShortest(char* to, float value);

@@ -1,8 +1,10 @@
 #pragma once
 #include "baselib/base.h"
+#include "baselib/helpers.h" // Who writes a class of elements needs these too.
+#include "baselib/io.h"
+#include "baselib/moved_bytes.h"
 
 class IntArr;
-class VrIOCL;
 
 // The one container of the library: a growable array of elements with a VrBaseCL part. Four elements are
 // stored inside the object, more in a heap block. Deleting only marks an element by its tag, so indices stay
@@ -106,31 +108,24 @@ protected:
     }
 
 private:
-    // Enumerators and inline functions: nothing private is exported.
     enum
     {
-        InlineLength = 4,
-        DefaultIncrement = 10,
-        LabelSize = 260 // What the texts around a list's elements need.
+        InlineLength = 4, // AnyArrCL knows of it, and of the order of what follows.
+        DefaultIncrement = 10
+    };
+    struct InlineStoreCL // Initialized and copied as one, an array is so in a loop.
+    {
+        T slots[InlineLength];
     };
 
-    static inline void letGoM(T* slots, int n);
-    static inline T& spareM();
-    inline int slotOfM(const T* item) const;
-    inline void dropHeapStoreM();
-    inline void returnToInlineM();
-    inline void inputElementsM(VrIOCL* io, int n);
-    static inline void outputLabelledM(VrIOCL* io, int number, const char* label);
+    static inline T& spareM(); // Inline: nothing private is exported.
 
-    T* heapStore_ { nullptr }; // Null while the inline store is in use.
-    T inlineStore_[InlineLength];
+    void* heapStore_ { nullptr }; // Null while the inline store is in use.
+    InlineStoreCL inlineStore_;
     int length_ { InlineLength }; // Slots of the store in use; InlineLength means the inline store.
     int bound_ { 0 };             // One past the highest slot in use.
     int available_ { 0 };         // Alive items.
     int increment_ { DefaultIncrement };
 };
 
-#include "containers/arr_delete.h"
 #include "containers/arr_impl.h"
-#include "containers/arr_read.h"
-#include "containers/arr_stream.h"

@@ -1,16 +1,8 @@
 #pragma once
-#include "baselib/moved_bytes.h"
-#include "baselib/take_back.h"
+#include "containers/any_arr.h"
 #include "containers/arr.h"
-#include "containers/arr_block.h"
-#include <algorithm>
-#include <cstdint>
-#include <cstring>
-#include <new>
-#include <type_traits>
-#include <utility>
 
-// Construction, growth and storing of Arr.
+// The members of Arr: nearly all hand on to what is the same for elements of any class.
 
 template <class T>
 Arr<T>::Arr()
@@ -22,78 +14,45 @@ template <class T>
 Arr<T>::Arr(int n)
     : Arr()
 {
-    if (n <= InlineLength) {
-        return;
-    }
-    typename ArrBlock<T>::FreshCL block(ArrBlock<T>::AllocateM(n));
-    if (block.IsThereM()) {
-        block.MakeM(n);
-        heapStore_ = block.TakeM();
-        length_ = n;
-    }
+    AnyArrCL::BeginM(this, n, ArrElementsOf<T>);
 }
 
 template <class T>
 Arr<T>::Arr(const Arr& other)
     : heapStore_(other.heapStore_)
-    , inlineStore_ { other.inlineStore_[0], other.inlineStore_[1], other.inlineStore_[2],
-        other.inlineStore_[3] }
+    , inlineStore_(other.inlineStore_)
     , length_(other.length_)
     , bound_(other.bound_)
     , available_(other.available_)
     , increment_(other.increment_)
 {
-    if (heapStore_ != nullptr) {
-        ArrBlock<T>::ShareM(heapStore_);
-    }
+    AnyArrCL::ShareM(heapStore_);
 }
 
 template <class T> Arr<T>& Arr<T>::operator=(const Arr& other)
 {
-    if (this == &other) {
-        return *this;
-    }
-    // Copied before anything is deleted where a copy may find no memory.
-    constexpr bool CopiesFirst
-        = !std::is_nothrow_copy_assignable_v<T> && std::is_nothrow_move_assignable_v<T>;
-    const bool isLong = other.length_ > InlineLength;
-    typename ArrBlock<T>::FreshCL block(
-        isLong ? ArrBlock<T>::AllocateM(std::int64_t { InlineLength } + other.length_) : nullptr);
-    if (isLong && !block.IsThereM()) {
-        return *this;
-    }
-    if (isLong) {
-        block.MakeM(InlineLength + other.length_);
-    }
-    std::conditional_t<CopiesFirst, T[InlineLength], char> few {};
-    if constexpr (CopiesFirst) {
-        std::copy_n(other.getCurrentItemPrtM(), other.bound_, isLong ? block.ElementsM() : few);
-    }
-    if (heapStore_ != nullptr && heapStore_ == other.heapStore_) {
-        letGoM(inlineStore_, InlineLength); // Deleting the items would delete those about to be copied.
-        returnToInlineM();
-    }
-    DelAllM();
-    if (isLong) {
-        heapStore_ = block.TakeM();
-        length_ = InlineLength + other.length_;
-    }
-    if constexpr (!CopiesFirst) {
-        std::copy_n(other.getCurrentItemPrtM(), other.bound_, getCurrentItemPrtM());
-    } else if (!isLong) {
-        std::move(few, few + other.bound_, inlineStore_);
-    }
-    available_ = other.available_;
-    bound_ = other.bound_;
-    increment_ = other.increment_;
+    AnyArrCL::AssignM(this, &other, ArrElementsOf<T>);
     return *this;
 }
 
 template <class T> Arr<T>::~Arr()
 {
-    dropHeapStoreM();
+    static_assert(sizeof(Arr) >= ArrStoreAt(alignof(T)) + InlineLength * sizeof(T) + 4 * sizeof(int),
+        "AnyArrCL knows where the parts of an array are");
+    AnyArrCL::DropHeapStoreM(this, ArrElementsOf<T>);
 }
 
+template <class T> void Arr<T>::FmInputEvrLstM(VrIOCL* io)
+{
+    AnyArrCL::FmInputEvrLstM(this, io, ArrElementsOf<T>);
+}
+
+template <class T> void Arr<T>::FmOutputEvrLstM(VrIOCL* io, const char* name) const
+{
+    AnyArrCL::FmOutputEvrLstM(this, io, name, ArrElementsOf<T>);
+}
+
+// None of these is inline in the class: an importing program without optimization calls the exported one.
 template <class T> int Arr<T>::InitialSizeM(int n)
 {
     return n > length_ ? AddSizeM(n - length_) : 1;
@@ -109,158 +68,166 @@ template <class T> int Arr<T>::SetIncrementM(int n)
 
 template <class T> int Arr<T>::AddSizeM(int n)
 {
-    if (n < 1) {
-        return 1;
-    }
-    const bool isMoving = heapStore_ != nullptr && !ArrBlock<T>::IsSharedM(heapStore_);
-    typename ArrBlock<T>::FreshCL fresh(
-        ArrBlock<T>::AllocateM(std::int64_t { length_ } + n), isMoving ? length_ : 0);
-    if (!fresh.IsThereM()) {
-        return 0;
-    }
-    T* const block = fresh.ElementsM();
-    fresh.MakeM(isMoving ? n : length_ + n);
-    if (isMoving) {
-        std::memcpy(static_cast<void*>(block), static_cast<const void*>(heapStore_), length_ * sizeof(T));
-        slTellMovedBytes(heapStore_, length_ * sizeof(T), block);
-        ArrBlock<T>::FreeM(heapStore_);
-    } else {
-        // Inline elements live on until the array dies, those of a shared block until its other owners go.
-        std::copy_n(getCurrentItemPrtM(), length_, block);
-        dropHeapStoreM();
-    }
-    length_ += n;
-    heapStore_ = fresh.TakeM();
-    return 1;
+    return AnyArrCL::AddSizeM(this, n, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::GetLengthM() const
+{
+    return length_;
+}
+
+template <class T> int Arr<T>::GetBoundM() const
+{
+    return bound_;
+}
+
+template <class T> int Arr<T>::GetAvailableNumM() const
+{
+    return available_;
+}
+
+template <class T> int Arr<T>::GetAvailableNumM(int i)
+{
+    return AnyArrCL::GetAvailableNumM(this, i, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::CheckAvailableM(int i) const
+{
+    const T* slot = GetItemPM(i);
+    return slot != nullptr && slot->IsAliveM() ? 1 : 0;
 }
 
 template <class T> int Arr<T>::SetItemM(const T& item, int i)
 {
-    if (i < 0) {
-        return 1;
-    }
-    const T* source = &item;
-    if (i >= length_) {
-        const int own = slotOfM(&item); // Growth moves an item that lies in this very array.
-        if (AddSizeM(std::max(length_, i - length_ + 1)) == 0) {
-            return 0;
-        }
-        if (own >= 0) {
-            source = getCurrentItemPrtM() + own;
-        }
-    }
-    T& slot = getCurrentItemPrtM()[i];
-    const char before = slot.GetDeleteTagM();
-    if (!std::is_nothrow_copy_assignable_v<T> && std::is_nothrow_move_assignable_v<T> && i < bound_) {
-        T copy; // An element that finds no memory may have taken half of another.
-        copy = *source;
-        slot = std::move(copy);
-    } else {
-        TakeBackCL half([&slot, before] { slot.SetDeleteTagM(before); });
-        slot = *source;
-        half.KeepM();
-    }
-    bound_ = std::max(bound_, i + 1);
-    if (before != AliveTag && slot.IsAliveM()) {
-        ++available_;
-    }
-    return 1;
+    return AnyArrCL::SetItemM(this, &item, i, ArrElementsOf<T>);
 }
 
 template <class T> int Arr<T>::AddItemM(const T& item)
 {
-    const int index = bound_;
-    return SetItemM(item, index) != 0 ? index : -1;
+    return AnyArrCL::AddItemM(this, &item, ArrElementsOf<T>);
 }
 
 template <class T> int Arr<T>::AddItemM(int i, int* newIndex)
 {
-    int index = -1;
-    if (i >= 0 && i < length_) {
-        if (ElementAtM(i).GetDeleteTagM() == DeletedTag) {
-            ElementAtM(i).SetDeleteTagM(AliveTag);
-            ++available_;
-            index = i;
-        } else if (bound_ < length_ || AddSizeM(increment_) != 0) {
-            index = AddItemM(ElementAtM(i));
-        }
-    }
-    if (newIndex != nullptr) {
-        *newIndex = index;
-    }
-    return index;
+    return AnyArrCL::AddItemM(this, i, newIndex, ArrElementsOf<T>);
 }
 
 template <class T> int Arr<T>::InsertItemM(const T& item, int i)
 {
-    if (i < 0) {
-        return 0;
-    }
-    if (i >= bound_) {
-        return SetItemM(item, i);
-    }
-    T copy; // First: growth and moving change where an item of this very array lies.
-    copy = item;
-    if (bound_ == length_ && AddSizeM(increment_) == 0) {
-        return 0;
-    }
-    T* slots = getCurrentItemPrtM();
-    letGoM(slots + bound_, 1);
-    slots[bound_].~T(); // The moved bytes overwrite it.
-    std::memmove(
-        static_cast<void*>(slots + i + 1), static_cast<const void*>(slots + i), (bound_ - i) * sizeof(T));
-    slTellMovedBytes(slots + i, (bound_ - i) * sizeof(T), slots + i + 1);
-    ::new (static_cast<void*>(slots + i)) T();
-    slots[i] = std::move(copy);
-    letGoM(&copy, 1);
-    ++bound_;
-    if (slots[i].IsAliveM()) {
-        ++available_;
-    }
-    return 1;
+    return AnyArrCL::InsertItemM(this, &item, i, ArrElementsOf<T>);
 }
 
 template <class T> int Arr<T>::MergeM(const Arr& other)
 {
-    const int otherBound = other.bound_; // Merging an array with itself moves its bound.
-    TakeBackCL half([this, bound = bound_, available = available_] {
-        for (int k = bound; k < std::min(bound_ + 1, length_); ++k) {
-            ElementAtM(k).SetDeleteTagM(DeletedTag);
-        }
-        setCountsM(bound, available);
-    });
-    if (AddSizeM(other.available_ - length_ + bound_) == 0) {
-        return 0;
-    }
-    for (int k = 0; k < otherBound; ++k) {
-        if (other.CheckAvailableM(k) == 0) {
-            continue;
-        }
-        if (bound_ == length_ && AddSizeM(increment_) == 0) { // More alive than other has counted.
-            return 0;
-        }
-        getCurrentItemPrtM()[bound_].SetByMergeM(other.getCurrentItemPrtM()[k], bound_);
-        ++bound_;
-        ++available_;
-    }
-    half.KeepM();
-    return 1;
+    return AnyArrCL::MergeM(this, &other, ArrElementsOf<T>);
 }
 
-// Empties slots before they are destroyed or marked deleted, as storing over them would: what they share with
-// an alive item, such as a bitmap, must not be deleted with them.
-template <class T> void Arr<T>::letGoM(T* slots, int n)
+template <class T> int Arr<T>::DelItemM(int i)
 {
-    std::fill_n(slots, n, T());
+    return AnyArrCL::DelItemM(this, i, ArrElementsOf<T>);
 }
 
-// The slot in which an item lies, -1 for an item from elsewhere.
-template <class T> int Arr<T>::slotOfM(const T* item) const
+template <class T> int Arr<T>::DelAllVirtualM()
 {
-    const auto at = reinterpret_cast<std::uintptr_t>(item);
-    const auto begin = reinterpret_cast<std::uintptr_t>(getCurrentItemPrtM());
-    if (at < begin || at - begin >= length_ * sizeof(T)) {
-        return -1;
-    }
-    return static_cast<int>((at - begin) / sizeof(T));
+    return AnyArrCL::DelAllVirtualM(this, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::DelAllM()
+{
+    return AnyArrCL::DelAllM(this, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::PurgeDeletedItemM()
+{
+    return AnyArrCL::PurgeDeletedItemM(this, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::PurgeAllM(IntArr* remap)
+{
+    return AnyArrCL::PurgeAllM(this, remap, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::SwapM(int i, int j)
+{
+    return AnyArrCL::SwapM(this, i, j, ArrElementsOf<T>);
+}
+
+template <class T> void Arr<T>::SwapListM(Arr& other) noexcept
+{
+    AnyArrCL::SwapListM(this, &other, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::GetItemM(T* out, int i) const
+{
+    return AnyArrCL::GetItemM(this, out, i, ArrElementsOf<T>);
+}
+
+template <class T> const T* Arr<T>::GetItemPM(int i) const
+{
+    return i >= 0 && i < bound_ ? getCurrentItemPrtM() + i : nullptr;
+}
+
+template <class T> T* Arr<T>::ElementAtPM(int i)
+{
+    return i >= 0 && i < bound_ ? getCurrentItemPrtM() + i : nullptr;
+}
+
+template <class T> T& Arr<T>::ElementAtM(int i)
+{
+    return i >= 0 && i < length_ ? getCurrentItemPrtM()[i] : spareM();
+}
+
+template <class T> T& Arr<T>::operator[](int i)
+{
+    return ElementAtM(i);
+}
+
+template <class T> int Arr<T>::GetNextM(T* out, int* idx, int from) const
+{
+    return AnyArrCL::GetNextM(this, out, idx, from, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::GetFirstM(T* out, int* idx) const
+{
+    return GetNextM(out, idx, -1);
+}
+
+template <class T> const T* Arr<T>::GetNextPM(int* idx, int from) const
+{
+    return static_cast<const T*>(AnyArrCL::GetNextPM(this, idx, from, ArrElementsOf<T>));
+}
+
+template <class T> const T* Arr<T>::GetFirstPM(int* idx) const
+{
+    return GetNextPM(idx, -1);
+}
+
+template <class T> const T* Arr<T>::GetLastPM(int* idx) const
+{
+    return static_cast<const T*>(AnyArrCL::GetLastPM(this, idx, ArrElementsOf<T>));
+}
+
+template <class T> int Arr<T>::GetNextIdxM(int from) const
+{
+    return AnyArrCL::GetNextIdxM(this, from, ArrElementsOf<T>);
+}
+
+template <class T> int Arr<T>::GetFirstIdxM() const
+{
+    return GetNextIdxM(-1);
+}
+
+template <class T> T* Arr<T>::getCurrentItemPrtM()
+{
+    return heapStore_ != nullptr ? static_cast<T*>(heapStore_) : inlineStore_.slots;
+}
+
+template <class T> const T* Arr<T>::getCurrentItemPrtM() const
+{
+    return heapStore_ != nullptr ? static_cast<const T*>(heapStore_) : inlineStore_.slots;
+}
+
+template <class T> T& Arr<T>::spareM()
+{
+    return *static_cast<T*>(ArrElementsOf<T>.spare());
 }

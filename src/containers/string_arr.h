@@ -9,4 +9,6 @@ class PANELKIT_API VrStringArr : public Arr<VrStringCL>
 {
 public:
     using Arr<VrStringCL>::Arr;
+    // Appends an alive text, taking it over. Its index; -1 when there is no memory.
+    int AppendM(CharArr&& text);
 };

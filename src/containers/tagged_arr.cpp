@@ -2,18 +2,6 @@
 #include <algorithm>
 #include <climits>
 
-namespace {
-
-// Both parts of a list grow before either changes.
-template <class TP> void makeRoom(std::vector<TP>& part, std::size_t size)
-{
-    if (size > part.capacity()) {
-        part.reserve(std::max(size, 2 * part.capacity()));
-    }
-}
-
-} // namespace
-
 template <int N> TaggedArr<N>& TaggedArr<N>::operator=(const TaggedArr& other)
 {
     if (this != &other) {
@@ -22,20 +10,47 @@ template <int N> TaggedArr<N>& TaggedArr<N>::operator=(const TaggedArr& other)
     return *this;
 }
 
+template <int N>
+TaggedArr<N>::Store::Store(const Store& other)
+    : available(other.available)
+{
+    SetBoundM(other.bound_);
+    std::copy_n(other.values_, static_cast<std::size_t>(bound_) * N, values_);
+    std::copy_n(other.tags_, bound_, tags_);
+}
+
+template <int N> void TaggedArr<N>::Store::SetBoundM(int slots)
+{
+    if (slots > room_) {
+        const auto room = std::max(static_cast<std::size_t>(slots), static_cast<std::size_t>(room_) * 2);
+        std::unique_ptr<int[]> values(new int[room * N]); // Not zeroed first.
+        std::unique_ptr<char[]> tags(new char[room]);
+        std::copy_n(values_, static_cast<std::size_t>(bound_) * N, values.get());
+        std::copy_n(tags_, bound_, tags.get());
+        moreValues_ = std::move(values);
+        moreTags_ = std::move(tags);
+        values_ = moreValues_.get();
+        tags_ = moreTags_.get();
+        room_ = static_cast<int>(std::min<std::size_t>(room, INT_MAX));
+    }
+    if (slots > bound_) {
+        std::fill(ValuesM(bound_), ValuesM(slots), 0);
+        std::fill(tags_ + bound_, tags_ + slots, DeletedTag);
+    }
+    bound_ = slots;
+}
+
 template <int N> typename TaggedArr<N>::Store& TaggedArr<N>::storeM()
 {
     if (!store_) {
-        auto made = std::make_shared<Store>();
-        made->values.reserve(std::size_t { FirstRoom } * N); // Most lists are short: no growth by ones.
-        made->tags.reserve(FirstRoom);
-        store_ = std::move(made);
+        store_ = std::make_shared<Store>();
     }
     return *store_;
 }
 
 template <int N> int TaggedArr<N>::GetBoundM() const
 {
-    return store_ ? static_cast<int>(store_->tags.size()) : 0;
+    return store_ ? store_->BoundM() : 0;
 }
 
 template <int N> int TaggedArr<N>::GetAvailableNumM() const
@@ -49,12 +64,12 @@ template <int N> int TaggedArr<N>::GetAvailableNumM(int after) const
     if (first >= GetBoundM()) {
         return 0;
     }
-    return static_cast<int>(std::count(store_->tags.begin() + first, store_->tags.end(), AliveTag));
+    return static_cast<int>(std::count(store_->TagsM() + first, store_->TagsM() + GetBoundM(), AliveTag));
 }
 
 template <int N> int TaggedArr<N>::CheckAvailableM(int index) const
 {
-    return insideM(index) && store_->tags[index] == AliveTag ? 1 : 0;
+    return insideM(index) && store_->TagsM()[index] == AliveTag ? 1 : 0;
 }
 
 template <int N> int TaggedArr<N>::SetItemM(const int* values, int index)
@@ -67,16 +82,13 @@ template <int N> int TaggedArr<N>::SetItemM(const int* values, int index)
     std::copy_n(values, N, copy);
     Store& store = storeM();
     if (index >= bound) {
-        makeRoom(store.values, (static_cast<std::size_t>(index) + 1) * N);
-        makeRoom(store.tags, static_cast<std::size_t>(index) + 1);
-        store.values.resize((static_cast<std::size_t>(index) + 1) * N, 0);
-        store.tags.resize(static_cast<std::size_t>(index) + 1, DeletedTag);
+        store.SetBoundM(index + 1);
     }
-    if (store.tags[index] != AliveTag) {
-        store.tags[index] = AliveTag;
+    if (store.TagsM()[index] != AliveTag) {
+        store.TagsM()[index] = AliveTag;
         ++store.available;
     }
-    std::copy_n(copy, N, store.values.begin() + static_cast<std::ptrdiff_t>(index) * N);
+    std::copy_n(copy, N, store.ValuesM(index));
     return 1;
 }
 
@@ -94,10 +106,12 @@ template <int N> int TaggedArr<N>::InsertItemM(const int* values, int index)
     int copy[N];
     std::copy_n(values, N, copy);
     Store& store = *store_;
-    makeRoom(store.values, store.values.size() + N);
-    makeRoom(store.tags, store.tags.size() + 1);
-    store.values.insert(store.values.begin() + static_cast<std::ptrdiff_t>(index) * N, copy, copy + N);
-    store.tags.insert(store.tags.begin() + index, AliveTag);
+    const int bound = store.BoundM();
+    store.SetBoundM(bound + 1);
+    std::copy_backward(store.ValuesM(index), store.ValuesM(bound), store.ValuesM(bound + 1));
+    std::copy_backward(store.TagsM() + index, store.TagsM() + bound, store.TagsM() + bound + 1);
+    std::copy_n(copy, N, store.ValuesM(index));
+    store.TagsM()[index] = AliveTag;
     ++store.available;
     return 1;
 }
@@ -113,12 +127,12 @@ template <int N> int TaggedArr<N>::GetItemM(int* out, int index) const
 
 template <int N> const int* TaggedArr<N>::GetItemPM(int index) const
 {
-    return insideM(index) ? store_->values.data() + static_cast<std::ptrdiff_t>(index) * N : nullptr;
+    return insideM(index) ? store_->ValuesM(index) : nullptr;
 }
 
 template <int N> int* TaggedArr<N>::ElementAtPM(int index)
 {
-    return insideM(index) ? store_->values.data() + static_cast<std::ptrdiff_t>(index) * N : nullptr;
+    return insideM(index) ? store_->ValuesM(index) : nullptr;
 }
 
 template <int N> int TaggedArr<N>::GetFirstIdxM() const
@@ -130,7 +144,7 @@ template <int N> int TaggedArr<N>::GetNextIdxM(int from) const
 {
     const int bound = GetBoundM();
     for (int index = from < 0 ? 0 : (from < bound ? from + 1 : bound); index < bound; ++index) {
-        if (store_->tags[index] == AliveTag) {
+        if (store_->TagsM()[index] == AliveTag) {
             return index;
         }
     }
@@ -140,7 +154,7 @@ template <int N> int TaggedArr<N>::GetNextIdxM(int from) const
 template <int N> int TaggedArr<N>::GetLastIdxM() const
 {
     int index = GetBoundM() - 1;
-    while (index >= 0 && store_->tags[index] != AliveTag) {
+    while (index >= 0 && store_->TagsM()[index] != AliveTag) {
         --index;
     }
     return index;
@@ -152,13 +166,12 @@ template <int N> int TaggedArr<N>::DelItemM(int index)
         return 1;
     }
     Store& store = *store_;
-    if (store.tags[index] == AliveTag) {
-        store.tags[index] = DeletedTag;
+    if (store.TagsM()[index] == AliveTag) {
+        store.TagsM()[index] = DeletedTag;
         --store.available;
     }
     if (index == GetBoundM() - 1) {
-        store.tags.pop_back();
-        store.values.resize(store.values.size() - N);
+        store.SetBoundM(index);
     }
     return 1;
 }

@@ -1,7 +1,7 @@
 #pragma once
 #include "baselib/base.h"
+#include <cstddef>
 #include <memory>
-#include <vector>
 
 // A growing list of slots of N ints each, alive or deleted, that keep their index for life.
 // Copy construction shares the storage: both see every change, the last to let go frees it (a list
@@ -50,11 +50,28 @@ private:
         FirstRoom = 8
     };
 
-    struct Store
+    // The first slots lie in it: most lists are short, and a list takes one block then.
+    class Store
     {
-        std::vector<int> values;
-        std::vector<char> tags;
+    public:
+        Store() = default;
+        Store(const Store& other);
+        Store& operator=(const Store&) = delete;
+        void SetBoundM(int slots); // New slots are deleted ones holding 0.
+        int BoundM() const { return bound_; }
+        int* ValuesM(int index) { return values_ + static_cast<std::ptrdiff_t>(index) * N; }
+        char* TagsM() { return tags_; }
         int available { 0 };
+
+    private:
+        int* values_ { firstValues_ };
+        char* tags_ { firstTags_ };
+        int bound_ { 0 };
+        int room_ { FirstRoom };
+        std::unique_ptr<int[]> moreValues_; // All of them when there are more.
+        std::unique_ptr<char[]> moreTags_;
+        int firstValues_[FirstRoom * N];
+        char firstTags_[FirstRoom];
     };
 
     bool insideM(int index) const { return index >= 0 && index < GetBoundM(); }

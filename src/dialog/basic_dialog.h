@@ -328,13 +328,19 @@ template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<Co
     });
 }
 
-// Calls see(row, controls) with the runtime array of every kind, in member order.
+// Calls see(row, controls) with the runtime array of every kind, in member order. What it does may have the
+// application delete the host: then there are no more.
 template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see)
 {
     if (isParted_) {
         return;
     }
-    slEachKind([this, &see](auto row) { see(row, std::get<KindMembersCL<decltype(row)>>(kinds_).controls); });
+    bool isThere = true;
+    slEachKind([this, &see, &isThere](auto row) {
+        isThere = isThere && slOutlives(this, [this, &see] {
+            see(decltype(row)(), std::get<KindMembersCL<decltype(row)>>(kinds_).controls);
+        });
+    });
 }
 
 // Calls see(row, control) for the first control with that id: the first array in member order that holds one.

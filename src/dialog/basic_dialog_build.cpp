@@ -1,6 +1,7 @@
 // Building: the header and the pass of each kind.
 #include "baselib/message_texts.h"
 #include "dialog/basic_dialog.h"
+#include "pictures/picture_sharing.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
 {
@@ -19,6 +20,7 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         slSetMessageLanguage(translation_.LanguageM(), &translation_.CatalogueM());
     }
     {
+        const PictureSharingCL sharing;
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
         initM(io, parent, mode);

@@ -1,5 +1,6 @@
 // Values by function id, typed and checked.
 #include "dialog/basic_dialog.h"
+#include "toolkit/life.h"
 #include <set>
 
 namespace {
@@ -208,8 +209,9 @@ DialogValuesCL::SavedTP DialogValuesCL::AllM() const
 std::vector<int> DialogValuesCL::SetAllM(const SavedTP& saved)
 {
     std::vector<int> refused;
+    const LifeCL life(&dialog_);
     for (const auto& [id, text] : saved) {
-        if (!RestoreM(id, text)) {
+        if (!life.IsAliveM() || !RestoreM(id, text)) {
             refused.push_back(id);
         }
     }

@@ -4,6 +4,7 @@
 #include "dialog/dialog_font.h"
 #include "dialog/fitting_font.h"
 #include "dialog/monitor_scale.h"
+#include "pictures/picture_sharing.h"
 #include <algorithm>
 #include <vector>
 
@@ -209,8 +210,9 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
             noteSizeM(window);
         }
     }
-    background_.RescaleM(PictureScaleCL(scale_, { 0, 0 }));
     {
+        const PictureSharingCL sharing;
+        background_.RescaleM(PictureScaleCL(scale_, { 0, 0 }));
         VrIOCL io;
         io.OpenM(configFile_, "r");
         slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });

@@ -1,6 +1,7 @@
 // Typed values by function id, and the check of what the user typed.
 #include "dialog/basic_dialog.h"
 #include "dialog/monitor_scale.h"
+#include "toolkit/life.h"
 
 // Gives see(edit) for the control with that id, if it is a single-line edit; otherwise 0.
 template <class FunctionTP> int DuBasicDialogCL::withSingleEditM(int id, FunctionTP&& see)
@@ -88,8 +89,9 @@ int DuBasicDialogCL::CheckValueLegalM()
         });
         return valueStatus_;
     }
+    const LifeCL life(this);
     ::SetFocus(window);
-    return ::IsWindow(window) ? valueStatus_ : 0; // The application may have destroyed this object.
+    return life.IsAliveM() && ::IsWindow(window) ? valueStatus_ : 0; // The application may have deleted it.
 }
 
 LRESULT DuBasicDialogCL::onCtrlLostFocusM(WPARAM wParam, LPARAM lParam)

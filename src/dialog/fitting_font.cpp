@@ -59,7 +59,8 @@ int slFittingFontOption(int fontOption, const ScaleCL& scale, const std::vector<
     }
     const TextRuler plain(fontOption);
     // 0 is the height that the system takes when nothing is said.
-    const int option = scale.SizeM(fontOption != 0 ? fontOption : plain.characterHeight());
+    const int option = std::clamp(
+        scale.SizeM(fontOption != 0 ? fontOption : plain.characterHeight()), -MostFontHeight, MostFontHeight);
     if (scale.PercentM() < 100) {
         return option;
     }

@@ -40,19 +40,18 @@ void SeenSectionsCL::prepareM(const ValueSeenCL& value)
         }
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }
-    if (section.values.size() == section.values.capacity()) {
-        section.values.reserve(std::max<std::size_t>(64, section.values.size() * 4));
+    if (section.values.IsFullM()) {
+        blocks_.MakeRoomM(section.values);
     }
 }
 
 void SeenSectionsCL::ValueM(const ValueSeenCL& value)
 {
-    if (value.record != lastRecord_ || value.section != lastHeader_
-        || last_->values.size() == last_->values.capacity()) {
+    if (value.record != lastRecord_ || value.section != lastHeader_ || last_->values.IsFullM()) {
         prepareM(value);
     }
     SeenSectionCL& section = *last_;
-    SeenValueCL& seen = section.values.emplace_back(); // Filled one by one: a copy would wait for its parts.
+    SeenValueCL& seen = section.values.AddM(); // Filled one by one: a copy would wait for its parts.
     seen.field = value.field;
     seen.begin = static_cast<std::uint32_t>(value.span.begin);
     seen.end = static_cast<std::uint32_t>(value.span.end);

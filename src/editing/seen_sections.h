@@ -1,33 +1,14 @@
 #pragma once
 #include "editing/grammars.h"
-#include "records/read_observer.h"
-#include <cstdint>
+#include "editing/seen_values.h"
 #include <memory>
 #include <vector>
-
-// One value as the library's reader met it; see ValueSeenCL.
-struct SeenValueCL
-{
-    const char* field;   // The name of its field.
-    std::uint32_t begin; // Where it stands in the file: the offset of its first byte,
-    std::uint32_t end;   // and the offset behind its last one.
-    std::uint8_t part;   // Its number among the values of a field with several.
-    Fate fate;           // What became of it.
-
-    // Those bytes.
-    SpanCL SpanM() const { return { begin, end }; }
-    // Whether nothing was read: no number stands there, or the file or the record ends before it.
-    bool IsAbsentM() const
-    {
-        return fate == Fate::NotANumber || fate == Fate::Missing || fate == Fate::NotLookedAt;
-    }
-};
 
 // One section of the file: its head, and the values of its records.
 struct SeenSectionCL
 {
     SectionSeenCL head {};               // All zero while the section isn't there.
-    std::vector<SeenValueCL> values;     // Of all records, in the order of the file.
+    SeenValuesCL values;                 // Of all records, in the order of the file.
     std::vector<std::uint32_t> starts;   // Where each record's values begin in `values`.
     std::vector<EntryDroppedCL> dropped; // Its entries that belong to no record.
     std::size_t regionEnd { 0 };         // Where the next header stands, or the file ends.
@@ -84,6 +65,7 @@ private:
     void prepareM(const ValueSeenCL& value);
 
     std::vector<SeenSectionCL> sections_;
+    SeenBlocksCL blocks_;
     const char* lastHeader_ { nullptr };
     SeenSectionCL* last_ { nullptr };
     int lastRecord_ { -1 };

@@ -1,7 +1,6 @@
 #include "pictures/bitmap_record.h"
 #include "baselib/path.h"
-#include "pictures/picture_loader.h"
-#include "pictures/region_functions.h"
+#include "pictures/picture_sharing.h"
 #include <algorithm>
 #include <string>
 
@@ -15,10 +14,10 @@ constexpr COLORREF Blue = 0xFF0000;
 class BitmapContext
 {
 public:
-    BitmapContext(CDC* like, CBitmap* bitmap)
+    BitmapContext(CDC* like, HGDIOBJ bitmap)
     {
         if (like != nullptr && context_.CreateCompatibleDC(like)) {
-            previous_ = ::SelectObject(context_.m_hDC, bitmap->m_hObject);
+            previous_ = ::SelectObject(context_.m_hDC, bitmap);
         }
     }
     BitmapContext(const BitmapContext&) = delete;
@@ -46,47 +45,14 @@ std::string completeName(const char* file)
     return extension[0] == '\0' ? name + ".bmp" : name;
 }
 
-BITMAP measure(const CBitmap& bitmap)
+BITMAP measure(HGDIOBJ bitmap)
 {
     BITMAP measures {};
-    ::GetObjectW(bitmap.m_hObject, sizeof(measures), &measures);
+    ::GetObjectW(bitmap, sizeof(measures), &measures);
     return measures;
 }
 
 } // namespace
-
-void DVrBitmapCL::SharedCL::OwnM(HGDIOBJ bitmap)
-{
-    ForgetM();
-    if (bitmap != nullptr) {
-        Attach(bitmap);
-        deleted_ = std::make_shared<bool>(false);
-    }
-}
-
-void DVrBitmapCL::SharedCL::ShareM(const SharedCL& other)
-{
-    ForgetM();
-    if (other.IsAliveM()) {
-        Attach(other.m_hObject);
-        deleted_ = other.deleted_;
-    }
-}
-
-void DVrBitmapCL::SharedCL::ForgetM()
-{
-    Detach();
-    deleted_.reset();
-}
-
-void DVrBitmapCL::SharedCL::DeleteM()
-{
-    if (IsAliveM()) {
-        DeleteObject();
-        *deleted_ = true;
-    }
-    ForgetM();
-}
 
 DVrBitmapCL::DVrBitmapCL(const DVrBitmapCL& other)
     : VrBaseCL(other)
@@ -131,7 +97,12 @@ CBitmap* DVrBitmapCL::GetBitmapM()
         bitmap_.ForgetM();
         return nullptr;
     }
-    return &bitmap_;
+    return bitmap_.MakeOwnM() ? &bitmap_ : nullptr;
+}
+
+HBITMAP DVrBitmapCL::ShownBitmapM() const
+{
+    return static_cast<HBITMAP>(bitmap_.HandleM());
 }
 
 void DVrBitmapCL::LoadBitmapM(const char* file)
@@ -140,9 +111,7 @@ void DVrBitmapCL::LoadBitmapM(const char* file)
     if (!file_.EmptyM()) {
         file_ = CharArr();
     }
-    CBitmap loaded;
-    slLoadPicture(&loaded, file);
-    bitmap_.OwnM(loaded.Detach());
+    bitmap_.ShowM(slFileBitmap(file, {}, NoKey));
 }
 
 int DVrBitmapCL::LoadSafeBitmapM(const char* file)
@@ -157,7 +126,7 @@ int DVrBitmapCL::LoadScaledM(const char* file, const PictureScaleCL& scale, std:
         return LoadSafeBitmapM(file);
     }
     bitmap_.DeleteM();
-    bitmap_.OwnM(slMakeBitmap(file, scale, key));
+    bitmap_.ShowM(slFileBitmap(file, scale, key));
     file_.SetM(file);
     key_ = key;
     return HoldsBitmapM() ? 1 : 0;
@@ -165,10 +134,10 @@ int DVrBitmapCL::LoadScaledM(const char* file, const PictureScaleCL& scale, std:
 
 void DVrBitmapCL::RescaleM(const PictureScaleCL& scale)
 {
-    const HBITMAP again = file_.EmptyM() ? nullptr : slMakeBitmap(file_.TextM(), scale, key_);
+    std::shared_ptr<FileBitmapCL> again = file_.EmptyM() ? nullptr : slFileBitmap(file_.TextM(), scale, key_);
     if (again != nullptr) {
         bitmap_.DeleteM();
-        bitmap_.OwnM(again);
+        bitmap_.ShowM(std::move(again));
     }
 }
 
@@ -208,12 +177,12 @@ void DVrBitmapCL::SetExtraM(int first, int second)
 
 int DVrBitmapCL::GetWidthM() const
 {
-    return HoldsBitmapM() ? static_cast<int>(measure(bitmap_).bmWidth) : 0;
+    return HoldsBitmapM() ? static_cast<int>(measure(ShownBitmapM()).bmWidth) : 0;
 }
 
 int DVrBitmapCL::GetHeightM() const
 {
-    return HoldsBitmapM() ? static_cast<int>(measure(bitmap_).bmHeight) : 0;
+    return HoldsBitmapM() ? static_cast<int>(measure(ShownBitmapM()).bmHeight) : 0;
 }
 
 int DVrBitmapCL::DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2])
@@ -221,7 +190,7 @@ int DVrBitmapCL::DrawBitmapM(CDC* dc, int x, int y, const int (*size)[2])
     if (!HoldsBitmapM() || dc == nullptr) {
         return 0;
     }
-    BitmapContext source(dc, &bitmap_);
+    BitmapContext source(dc, ShownBitmapM());
     if (!source.isSelected()) {
         return 0;
     }
@@ -240,7 +209,7 @@ int DVrBitmapCL::DrawStretchBitmapM(CDC* dc, int x, int y, int w, int h)
     if (!HoldsBitmapM() || dc == nullptr) {
         return 0;
     }
-    BitmapContext source(dc, &bitmap_);
+    BitmapContext source(dc, ShownBitmapM());
     if (!source.isSelected()) {
         return 0;
     }
@@ -250,13 +219,13 @@ int DVrBitmapCL::DrawStretchBitmapM(CDC* dc, int x, int y, int w, int h)
 
 int DVrBitmapCL::BlendBitmapM(CDC* dc)
 {
-    if (!HoldsBitmapM() || dc == nullptr) {
+    if (dc == nullptr || !bitmap_.MakeOwnM()) {
         return 0;
     }
     const int saved = dc->SaveDC();
     int result = 0;
     {
-        BitmapContext target(dc, &bitmap_);
+        BitmapContext target(dc, ShownBitmapM());
         if (target.isSelected()) {
             // x runs over the height and y over the width; what lies outside the bitmap has no pixel.
             const int shorter = std::min(GetWidthM(), GetHeightM());

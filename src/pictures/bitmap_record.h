@@ -6,9 +6,12 @@
 #include "toolkit/toolkit.h"
 #include <memory>
 
+class FileBitmapCL;
+
 // A loaded picture. Assigned records share one GDI bitmap: the one that is destroyed, reloaded or deleted
 // first deletes it. The others then hold no bitmap: they draw nothing and report 0. Files are .bmp files by
-// GBK path, loaded as device-independent sections.
+// GBK path, loaded as device-independent sections. The records of a dialog that load the same file take
+// memory for one of them, until one is to be written to.
 class PANELKIT_API DVrBitmapCL : public VrBaseCL
 {
 public:
@@ -37,7 +40,11 @@ public:
     void DropM();    // Lets the bitmap go; deletes it unless another record shares it.
 
     bool HoldsBitmapM() const; // Whether there is one, not deleted by another record either.
-    CBitmap* GetBitmapM();     // Null when there is none; the record keeps it.
+    // Its own to write to; null when there is none, or no memory for that. The record keeps it.
+    CBitmap* GetBitmapM();
+    // To read from and no more: it may be what other records show too. Null when there is none; valid until
+    // the record is changed or GetBitmapM called.
+    HBITMAP ShownBitmapM() const;
     // In pixels; 0 without a bitmap.
     int GetWidthM() const;
     int GetHeightM() const;
@@ -56,20 +63,24 @@ public:
     void SetExtraM(int first, int second);
 
 private:
-    // A handle and whether it is deleted, known to all that share it: the system may give a deleted handle's
-    // value to another object.
+    struct HoldCL; // What all that share a bitmap know of it.
+
     class PANELKIT_API SharedCL : public CBitmap
     {
     public:
-        bool IsAliveM() const { return deleted_ != nullptr && !*deleted_ && m_hObject != nullptr; }
-        bool IsSharedM() const { return deleted_.use_count() > 1; }
-        void OwnM(HGDIOBJ bitmap); // As its first holder; null: none.
+        bool IsAliveM() const;
+        bool IsSharedM() const;
+        HGDIOBJ HandleM() const; // Null: none.
+        // The object may be used: what it holds is no other file's record's.
+        bool MakeOwnM();
+        void OwnM(HGDIOBJ bitmap);                      // As its first holder; null: none.
+        void ShowM(std::shared_ptr<FileBitmapCL> file); // The same.
         void ShareM(const SharedCL& other);
         void ForgetM();
         void DeleteM();
 
     private:
-        std::shared_ptr<bool> deleted_;
+        std::shared_ptr<HoldCL> hold_;
     };
 
     void copyFileM(const DVrBitmapCL& other);

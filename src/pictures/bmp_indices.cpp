@@ -42,6 +42,9 @@ bool slDecodeBmpIndices(const BmpBytes& file, const BmpHeader& header, std::vect
     if (announcesTooMuch(file, header)) {
         return false;
     }
+    if (indices == nullptr) {
+        return !header.isRunCoded() || slDecodeBmpRuns(file, header, nullptr);
+    }
     std::vector<unsigned char> found(
         static_cast<std::size_t>(header.width) * static_cast<std::size_t>(header.height));
     if (!header.isRunCoded()) {

@@ -4,4 +4,5 @@
 
 // The palette indices of a picture of up to 8 bits a pixel: a byte each, width*height of them, the lowest row
 // first. False, and the vector unchanged, when the file is cut short or announces far more than it can hold.
+// Without a vector the result alone.
 bool slDecodeBmpIndices(const BmpBytes& file, const BmpHeader& header, std::vector<unsigned char>* indices);

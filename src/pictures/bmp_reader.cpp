@@ -42,3 +42,15 @@ int slLoadBmpPicture3D(const char* file, int* w, int* h, unsigned char** pixels)
 {
     return slLoadBmpTexture(file, w, h, pixels);
 }
+
+int slIsBmp(const void* data, std::size_t held, std::size_t size)
+{
+    static_assert(BmpBeginning == BmpHeadersSize, "more is not looked at");
+    if (data == nullptr) {
+        return 0;
+    }
+    if (held < size && held < BmpBeginning) {
+        return -1;
+    }
+    return slJudgeBmp({ static_cast<const unsigned char*>(data), size }, held);
+}

@@ -21,3 +21,9 @@ PANELKIT_API int slLoadBmpPicture3D(const char* file, int* w, int* h, unsigned c
 
 // The same from the size bytes of a file in memory.
 PANELKIT_API int slDecodeBmp(const void* data, std::size_t size, int* w, int* h, unsigned char** pixels);
+
+// Whether slDecodeBmp delivers the picture of a file of size bytes: 1 or 0. Of most files their first held
+// bytes tell, BmpBeginning of them, or all if there are fewer; -1: the rest is needed too. Takes no memory
+// for pixels.
+constexpr std::size_t BmpBeginning = 1178;
+PANELKIT_API int slIsBmp(const void* data, std::size_t held, std::size_t size);

@@ -40,7 +40,9 @@ public:
         if (done_) {
             return true;
         }
-        std::fill(row() + marked_, row() + x_, static_cast<unsigned char>(0));
+        if (indices_ != nullptr) {
+            std::fill(row() + marked_, row() + x_, static_cast<unsigned char>(0));
+        }
         return header_.codesSize <= file_.size - header_.pixelsAt;
     }
 
@@ -50,7 +52,9 @@ private:
     void put(int index)
     {
         if (x_ < header_.width) {
-            row()[x_] = static_cast<unsigned char>(index);
+            if (indices_ != nullptr) {
+                row()[x_] = static_cast<unsigned char>(index);
+            }
             ++x_;
         }
     }

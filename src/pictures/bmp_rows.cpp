@@ -41,6 +41,21 @@ std::unique_ptr<char[]> slReadBmpFile(const char* file, std::size_t* size)
     return slReadFile(file, size);
 }
 
+int slJudgeBmp(const BmpBytes& file, std::size_t held)
+{
+    BmpHeader header;
+    if (!slReadBmpHeader(file, &header) || hasTooManyPixels(header)) {
+        return 0;
+    }
+    if (!header.isRunCoded()) {
+        return header.holdsRows(file) ? 1 : 0;
+    }
+    if (held < file.size) {
+        return -1;
+    }
+    return slDecodeBmpIndices(file, header, nullptr) ? 1 : 0;
+}
+
 BmpRowsCL::BmpRowsCL(const BmpBytes& file)
     : file_(file)
 {

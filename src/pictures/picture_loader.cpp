@@ -4,6 +4,7 @@
 #include "baselib/helpers.h"
 #include "pictures/bmp_indices.h"
 #include "pictures/bmp_reader.h"
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -114,6 +115,58 @@ HBITMAP makeColoured(const BmpBytes& file, const BmpHeader& header)
     return bitmap;
 }
 
+// The rows of a bitmap as pixels of 32 bits, from the top: a few at a time.
+class BitmapRowsCL
+{
+public:
+    BitmapRowsCL(HBITMAP bitmap, int width, int height)
+        : height_(height)
+        , atOnce_(std::clamp(MostPixels / std::max(width, 1), 1, std::max(height, 1)))
+        , source_(::CreateCompatibleDC(nullptr))
+        , target_(::CreateCompatibleDC(nullptr))
+        , rows_(makeBlock(width, atOnce_, &block_))
+        , sourceBefore_(::SelectObject(source_, bitmap))
+        , targetBefore_(::SelectObject(target_, rows_))
+    {
+    }
+    BitmapRowsCL(const BitmapRowsCL&) = delete;
+    BitmapRowsCL& operator=(const BitmapRowsCL&) = delete;
+    ~BitmapRowsCL()
+    {
+        ::SelectObject(source_, sourceBefore_);
+        ::SelectObject(target_, targetBefore_);
+        ::DeleteDC(source_);
+        ::DeleteDC(target_);
+        ::DeleteObject(rows_);
+    }
+
+    bool IsGoodM() const { return sourceBefore_ != nullptr && targetBefore_ != nullptr; }
+    const std::uint32_t* RowM(int y) // Valid until another is asked for.
+    {
+        if (y < first_ || y >= end_) {
+            first_ = y;
+            end_ = std::min(y + atOnce_, height_);
+            ::BitBlt(target_, 0, 0, block_.width, end_ - first_, source_, 0, first_, SRCCOPY);
+            ::GdiFlush();
+        }
+        return block_.pixels + static_cast<std::size_t>(y - first_) * static_cast<std::size_t>(block_.width);
+    }
+
+private:
+    static constexpr int MostPixels = 1 << 20;
+
+    int height_;
+    int atOnce_;
+    PixelBlockCL block_ {};
+    HDC source_;
+    HDC target_;
+    HBITMAP rows_;
+    HGDIOBJ sourceBefore_;
+    HGDIOBJ targetBefore_;
+    int first_ { 0 };
+    int end_ { 0 };
+};
+
 } // namespace
 
 HBITMAP slMakeBitmap(const char* file)
@@ -140,6 +193,22 @@ HBITMAP slMakeBitmap(const char* file)
     return header.bits <= 8 ? makeIndexed(bytes, header) : makeColoured(bytes, header);
 }
 
+HBITMAP slResampleBitmap(HBITMAP bitmap, int width, int height, std::int64_t key)
+{
+    BITMAP measures {};
+    PixelBlockCL onto {};
+    if (bitmap == nullptr || ::GetObjectW(bitmap, sizeof measures, &measures) == 0) {
+        return nullptr;
+    }
+    BitmapRowsCL rows(bitmap, measures.bmWidth, measures.bmHeight);
+    const HBITMAP result = rows.IsGoodM() ? makeBlock(width, height, &onto) : nullptr;
+    if (result != nullptr) {
+        slResampleRows(
+            measures.bmWidth, measures.bmHeight, [&rows](int y) { return rows.RowM(y); }, onto, key);
+    }
+    return result;
+}
+
 HBITMAP slResizeBitmap(HBITMAP bitmap, int width, int height, std::int64_t key)
 {
     BITMAP measures {};
@@ -147,40 +216,10 @@ HBITMAP slResizeBitmap(HBITMAP bitmap, int width, int height, std::int64_t key)
         || (measures.bmWidth == width && measures.bmHeight == height)) {
         return bitmap;
     }
-    PixelBlockCL from {};
-    PixelBlockCL onto {};
-    const HBITMAP plain = makeBlock(measures.bmWidth, measures.bmHeight, &from);
-    HBITMAP result = plain != nullptr ? makeBlock(width, height, &onto) : nullptr;
-    if (result != nullptr) {
-        const HDC source = ::CreateCompatibleDC(nullptr);
-        const HDC target = ::CreateCompatibleDC(nullptr);
-        const HGDIOBJ sourceBefore = ::SelectObject(source, bitmap);
-        const HGDIOBJ targetBefore = ::SelectObject(target, plain);
-        ::BitBlt(target, 0, 0, measures.bmWidth, measures.bmHeight, source, 0, 0, SRCCOPY);
-        ::SelectObject(source, sourceBefore);
-        ::SelectObject(target, targetBefore);
-        ::DeleteDC(source);
-        ::DeleteDC(target);
-        ::GdiFlush();
-        slResample(from, onto, key);
-        ::DeleteObject(bitmap);
+    const HBITMAP result = slResampleBitmap(bitmap, width, height, key);
+    if (result == nullptr) {
+        return bitmap;
     }
-    ::DeleteObject(plain);
-    return result != nullptr ? result : bitmap;
-}
-
-HBITMAP slMakeBitmap(const char* file, const PictureScaleCL& scale, std::int64_t key)
-{
-    if (scale.PercentM() == 100 || file == nullptr) {
-        return slMakeBitmap(file);
-    }
-    if (const HBITMAP drawn = slMakeBitmap(slNameAtScale(file, scale.PercentM()).c_str())) {
-        return drawn;
-    }
-    const HBITMAP loaded = slMakeBitmap(file);
-    BITMAP measures {};
-    if (loaded == nullptr || ::GetObjectW(loaded, sizeof measures, &measures) == 0) {
-        return loaded;
-    }
-    return slResizeBitmap(loaded, scale.WidthM(measures.bmWidth), scale.HeightM(measures.bmHeight), key);
+    ::DeleteObject(bitmap);
+    return result;
 }

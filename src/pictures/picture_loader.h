@@ -1,5 +1,4 @@
 #pragma once
-#include "pictures/picture_scale.h"
 #include "pictures/resampling.h"
 #include "toolkit/toolkit.h"
 
@@ -7,10 +6,8 @@
 // which belongs to the caller. What the platform's loader shows wrongly or could read behind its end is shown
 // as pictures/bmp_reader.h reads it. Null when the file is missing, cut short or no picture.
 HBITMAP slMakeBitmap(const char* file);
-// The same at a scale: the file drawn for that very scale (slNameAtScale) as it is, else this one, resampled
-// to a section of 32 bits. Where there is no memory for that it stays as large as it is. key: as for
-// slResample.
-HBITMAP slMakeBitmap(const char* file, const PictureScaleCL& scale, std::int64_t key = NoKey);
-// A bitmap of that size instead of this one, resampled; it takes this one, and gives it back where there is
-// no memory.
+// Another bitmap of that size, resampled to a section of 32 bits, the top row first; key: as for slResample.
+// Null where there is no memory.
+HBITMAP slResampleBitmap(HBITMAP bitmap, int width, int height, std::int64_t key = NoKey);
+// The same instead of this one, which it takes, and gives back where there is no memory.
 HBITMAP slResizeBitmap(HBITMAP bitmap, int width, int height, std::int64_t key = NoKey);

@@ -100,31 +100,42 @@ void addTo(CoveredPixelTP& sum, const CoveredPixelTP& pixel, float weight)
 
 void slResample(const PixelBlockCL& picture, const PixelBlockCL& onto, std::int64_t key)
 {
+    const bool isEmpty = picture.pixels == nullptr;
+    slResampleRows(
+        isEmpty ? 0 : picture.width, picture.height,
+        [&picture](int y) {
+            return picture.pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width);
+        },
+        onto, key);
+}
+
+void slResampleRows(int fromWidth, int fromHeight, CallRefCL<const std::uint32_t*(int y)> rowAt,
+    const PixelBlockCL& onto, std::int64_t key)
+{
     if (onto.pixels == nullptr || onto.width <= 0 || onto.height <= 0) {
         return;
     }
     const auto width = static_cast<std::size_t>(onto.width);
-    if (picture.pixels == nullptr || picture.width <= 0 || picture.height <= 0) {
+    if (fromWidth <= 0 || fromHeight <= 0) {
         std::fill_n(onto.pixels, width * static_cast<std::size_t>(onto.height),
             key == NoKey ? 0 : static_cast<std::uint32_t>(key));
         return;
     }
-    const TapsCL across(picture.width, onto.width);
-    const TapsCL down(picture.height, onto.height);
+    const TapsCL across(fromWidth, onto.width);
+    const TapsCL down(fromHeight, onto.height);
     // A row of the picture at the width of the block serves all rows of the block that it takes part in: at
     // most as many as a pixel has taps are kept.
-    std::vector<std::vector<CoveredPixelTP>> rows(static_cast<std::size_t>(picture.height));
+    std::vector<std::vector<CoveredPixelTP>> rows(static_cast<std::size_t>(fromHeight));
     int kept = 0;
     std::vector<CoveredPixelTP> sums(width);
     for (int y = 0; y < onto.height; ++y) {
         std::fill(sums.begin(), sums.end(), CoveredPixelTP {});
-        int first = picture.height;
+        int first = fromHeight;
         for (const TapCL* tap = down.FirstM(y); tap != down.EndM(y); ++tap) {
             std::vector<CoveredPixelTP>& row = rows[static_cast<std::size_t>(tap->at)];
             first = std::min(first, tap->at);
             if (row.empty()) {
-                const std::uint32_t* const pixels = picture.pixels
-                    + static_cast<std::size_t>(tap->at) * static_cast<std::size_t>(picture.width);
+                const std::uint32_t* const pixels = rowAt(tap->at);
                 row.resize(width);
                 for (int x = 0; x < onto.width; ++x) {
                     for (const TapCL* of = across.FirstM(x); of != across.EndM(x); ++of) {

@@ -1,6 +1,5 @@
 #include "pictures/rgn_record.h"
-#include "baselib/helpers.h"
-#include "pictures/bmp_reader.h"
+#include "pictures/bmp_rows.h"
 #include "pictures/region_functions.h"
 #include "pictures/resampling.h"
 #include <cstddef>
@@ -8,16 +7,12 @@
 
 namespace {
 
-// Three bytes a pixel, as slLoadBmpTexture delivers them, and one number a pixel.
-std::vector<std::uint32_t> packed(const unsigned char* pixels, std::size_t count)
+std::uint32_t packed(const unsigned char* pixel)
 {
-    std::vector<std::uint32_t> block(count);
-    for (std::size_t i = 0; i < count; ++i, pixels += 3) {
-        block[i] = static_cast<std::uint32_t>(pixels[0] << 16 | pixels[1] << 8 | pixels[2]);
-    }
-    return block;
+    return static_cast<std::uint32_t>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
 }
 
+// Three bytes a pixel, as slLoadBmpTexture delivers them, of one number a pixel.
 std::vector<unsigned char> unpacked(const std::vector<std::uint32_t>& block)
 {
     std::vector<unsigned char> pixels;
@@ -28,6 +23,39 @@ std::vector<unsigned char> unpacked(const std::vector<std::uint32_t>& block)
         }
     }
     return pixels;
+}
+
+// A .bmp file, read, and its rows.
+struct FileRowsCL
+{
+    explicit FileRowsCL(const char* file)
+        : bytes(slReadBmpFile(file, &size))
+        , rows({ reinterpret_cast<const unsigned char*>(bytes.get()), size })
+    {
+    }
+
+    std::size_t size { 0 };
+    std::unique_ptr<char[]> bytes;
+    BmpRowsCL rows;
+};
+
+// The picture at another size, the lowest row first.
+std::vector<std::uint32_t> resampled(const BmpRowsCL& rows, int width, int height, std::uint32_t key)
+{
+    std::vector<std::uint32_t> onto(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    std::vector<unsigned char> read(static_cast<std::size_t>(rows.WidthM()) * 3);
+    std::vector<std::uint32_t> row(static_cast<std::size_t>(rows.WidthM()));
+    slResampleRows(
+        rows.WidthM(), rows.HeightM(),
+        [&](int y) {
+            rows.ReadRowM(y, read.data());
+            for (std::size_t x = 0; x < row.size(); ++x) {
+                row[x] = packed(&read[x * 3]);
+            }
+            return row.data();
+        },
+        { onto.data(), width, height }, key);
+    return onto;
 }
 
 } // namespace
@@ -43,23 +71,17 @@ int DVrRgnCL::GenerateRgnFromBitmapM(
     if (scale.PercentM() == 100 || key == nullptr) {
         return GenerateRgnFromBitmapM(file, key, mode);
     }
-    int w = 0;
-    int h = 0;
-    unsigned char* pixels = nullptr;
     const std::string drawn = slNameAtScale(file, scale.PercentM());
-    if (slLoadBmpTexture(drawn.c_str(), &w, &h, &pixels) == 1) {
-        slFree(pixels);
+    if (FileRowsCL(drawn.c_str()).rows.IsGoodM()) {
         return GenerateRgnFromBitmapM(drawn.c_str(), key, mode);
     }
-    if (slLoadBmpTexture(file, &w, &h, &pixels) == 0) {
+    const FileRowsCL picture(file);
+    if (!picture.rows.IsGoodM()) {
         return GenerateRgnFromBitmapM(file, key, mode);
     }
-    std::vector<std::uint32_t> from = packed(pixels, static_cast<std::size_t>(w) * h);
-    slFree(pixels);
-    const int width = scale.WidthM(w);
-    const int height = scale.HeightM(h);
-    std::vector<std::uint32_t> onto(static_cast<std::size_t>(width) * height);
-    slResample({ from.data(), w, h }, { onto.data(), width, height }, packed(key, 1)[0]);
+    const int width = scale.WidthM(picture.rows.WidthM());
+    const int height = scale.HeightM(picture.rows.HeightM());
+    const std::vector<std::uint32_t> onto = resampled(picture.rows, width, height, packed(key));
     return slGenerateRgnFromBitmapM(width, height, unpacked(onto).data(), key, mode, this);
 }
 

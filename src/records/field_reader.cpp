@@ -46,12 +46,12 @@ std::size_t wordEnd(const FileTextCL& file, std::size_t at)
     return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
-bool standsForNothing(const char* text, NullWord rule)
+bool standsForNothing(std::string_view text, NullWord rule)
 {
-    if ((*text != 'N' && *text != 'n') || rule == NullWord::Kept) {
+    if (text.size() != 4 || rule == NullWord::Kept) {
         return false; // Most texts.
     }
-    return rule == NullWord::UpperEmpty ? std::strcmp(text, "NULL") == 0 : slIsNullWord(text) != 0;
+    return text == "NULL" || (text == "null" && rule != NullWord::UpperEmpty);
 }
 
 } // namespace
@@ -76,26 +76,52 @@ inline void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate f
     observer_->ValueM(seen_);
 }
 
-template <class T> bool FieldReaderCL::readM(const char* name, int part, T& value)
+// Nearly all numbers are read by this alone: what is rare is left to others, so that it stays short.
+inline bool FieldReaderCL::readM(const char* name, int part, int& value)
 {
     if (isStopped_ || io_->binary_) {
         return readOtherwiseM(name, part, value);
     }
     const char* const end = io_->data_ + io_->size_;
     const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
-    const char* const numberEnd = scanNumber(begin, end, value);
-    const bool isRead = numberEnd > begin;
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    if (isObservedM()) {
-        const std::size_t at = io_->at_ - static_cast<std::size_t>(numberEnd - begin);
-        if (isRead) {
-            tellM(name, part, { at, io_->at_ },
-                numberFits(begin, numberEnd, value) ? Fate::Read : Fate::Saturated);
-        } else {
-            tellUnreadM(name, part, at);
-        }
+    const char* const numberEnd = slScanShortInt(begin, end, &value);
+    if (numberEnd == nullptr) {
+        return takeNumberM(name, part, begin, value);
     }
-    return isRead;
+    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
+    return observer_ == nullptr || tellNumberM(name, part, begin, numberEnd, value);
+}
+
+inline bool FieldReaderCL::readM(const char* name, int part, float& value)
+{
+    if (isStopped_ || io_->binary_) {
+        return readOtherwiseM(name, part, value);
+    }
+    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, io_->data_ + io_->size_);
+    return takeNumberM(name, part, begin, value);
+}
+
+// The same from the first byte that is no blank on.
+template <class T> bool FieldReaderCL::takeNumberM(const char* name, int part, const char* begin, T& value)
+{
+    const char* const numberEnd = scanNumber(begin, io_->data_ + io_->size_, value);
+    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
+    return observer_ != nullptr ? tellNumberM(name, part, begin, numberEnd, value) : numberEnd > begin;
+}
+
+// Whether it was read: it ends where it begins otherwise.
+template <class T>
+bool FieldReaderCL::tellNumberM(const char* name, int part, const char* begin, const char* end, T value)
+{
+    const auto at = static_cast<std::size_t>(begin - io_->data_);
+    if (end > begin) {
+        tellM(name, part, { at, io_->at_ }, numberFits(begin, end, value) ? Fate::Read : Fate::Saturated);
+        return true;
+    }
+    if (isObservedM()) {
+        tellUnreadM(name, part, at);
+    }
+    return false;
 }
 
 // From a binary file, or not at all.
@@ -211,35 +237,42 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
 {
     std::string_view item;
     if (isStopped_ || !io_->InputItemM(&item)) {
-        if (observer_ != nullptr) {
-            const std::size_t at = slNextValue(*io_);
-            tellM(name, 0, { at, at }, isStopped_ ? Fate::NotLookedAt : Fate::Missing);
-        }
+        tellNoTextM(name);
         return;
     }
-    const auto most = static_cast<std::size_t>(form.size) - 1;
-    const std::size_t length = slGbkCutLength(item.data(), item.size(), most);
-    if (isReusing_) {
-        text.SetWithinM(item.data(), length, TextSize);
-    } else {
-        text.SetM(item.data(), length);
-    }
-    const bool isNullWord = standsForNothing(text.TextM(), form.nullWord);
-    if (observer_ != nullptr) {
-        const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
-        const bool isWhole = text.LengthM() == item.size();
-        tellM(name, 0, { begin, begin + item.size() },
-            isNullWord    ? Fate::NullWord
-                : isWhole ? Fate::Read
-                          : Fate::Cut);
-    }
-    if (!isNullWord) {
-        return;
-    }
-    if (form.nullWord == NullWord::SkipsEntry) {
-        isSkipped_ = true;
-    } else {
+    std::string_view kept
+        = item.substr(0, slGbkCutLength(item.data(), item.size(), static_cast<std::size_t>(form.size) - 1));
+    kept = kept.substr(0, kept.find('\0'));
+    const bool isNullWord = standsForNothing(kept, form.nullWord);
+    if (isNullWord && form.nullWord != NullWord::SkipsEntry) {
         text.SetM("");
+    } else if (isReusing_) {
+        text.SetWithinM(kept.data(), kept.size(), TextSize);
+    } else if (pool_ != nullptr) {
+        text.SetInM(*pool_, kept.data(), kept.size());
+    } else {
+        text.SetM(kept.data(), kept.size());
+    }
+    isSkipped_ = isSkipped_ || (isNullWord && form.nullWord == NullWord::SkipsEntry);
+    if (observer_ != nullptr) {
+        tellTextM(name, item, kept.size(), isNullWord);
+    }
+}
+
+void FieldReaderCL::tellTextM(const char* name, std::string_view item, std::size_t kept, bool isNullWord)
+{
+    const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
+    tellM(name, 0, { begin, begin + item.size() },
+        isNullWord                ? Fate::NullWord
+            : kept == item.size() ? Fate::Read
+                                  : Fate::Cut);
+}
+
+void FieldReaderCL::tellNoTextM(const char* name)
+{
+    if (observer_ != nullptr) {
+        const std::size_t at = slNextValue(*io_);
+        tellM(name, 0, { at, at }, isStopped_ ? Fate::NotLookedAt : Fate::Missing);
     }
 }
 

@@ -25,6 +25,8 @@ public:
     }
     // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
     void ReuseTextsM() { isReusing_ = true; }
+    // All texts that it sees from now on are kept together, in the blocks of a pool that lives as long.
+    void PoolTextsM(TextPoolCL& pool) { pool_ = &pool; }
     bool IsStoppedM() const { return isStopped_; } // The record turned out to be unreadable.
     bool IsSkippedM() const { return isSkipped_; } // A text said that the entry doesn't count.
 
@@ -49,11 +51,21 @@ public:
 
 private:
     bool isObservedM() const { return observer_ != nullptr && io_->FileTextM() != nullptr; }
-    template <class T> bool readM(const char* name, int part, T& value);
-    template <class T> bool readOtherwiseM(const char* name, int part, T& value);
-    void tellUnreadM(const char* name, int part, std::size_t begin);
+    bool readM(const char* name, int part, int& value);
+    bool readM(const char* name, int part, float& value);
+    // What is rare, or only for an observer: readM is short without, and needs no registers saved.
+    template <class T> [[gnu::noinline]] bool readOtherwiseM(const char* name, int part, T& value);
+    template <class T>
+    [[gnu::noinline]] bool takeNumberM(const char* name, int part, const char* begin, T& value);
+    template <class T>
+    [[gnu::noinline]] bool tellNumberM(
+        const char* name, int part, const char* begin, const char* end, T value);
+    [[gnu::noinline]] void tellUnreadM(const char* name, int part, std::size_t begin);
     template <class T> void readAllM(const char* name, T* values, int count);
     void tellM(const char* name, int part, SpanCL span, Fate fate);
+    [[gnu::noinline]] void tellTextM(
+        const char* name, std::string_view item, std::size_t kept, bool isNullWord);
+    void tellNoTextM(const char* name);
 
     VrIOCL* io_;
     ReadObserverCL* observer_;
@@ -61,6 +73,7 @@ private:
     bool isStopped_;
     bool isSkipped_ { false };
     bool isReusing_ { false };
+    TextPoolCL* pool_ { nullptr };
 };
 
 // Where the next value would begin: the offset of the next byte of the open file that is no blank.

@@ -12,6 +12,19 @@ public:
     using RecordTP = RecordParamTP; // The record's class.
     static constexpr std::array<SecondarySectionCL<RecordTP>, 0> Secondaries {};
 
+    // Appends a record that holds its defaults: its index, -1 when there is no memory. From slot firstNew on
+    // nothing was ever put into the store: a new slot holds the defaults, all but the tag.
+    int AddDefaultsM(int firstNew)
+    {
+        const int index = this->GetBoundM();
+        if (index < firstNew || index >= this->GetLengthM()) {
+            return this->AddItemM(RecordTP(AliveTag));
+        }
+        this->getCurrentItemPrtM()[index].SetDeleteTagM(AliveTag);
+        this->setCountsM(index + 1, this->GetAvailableNumM() + 1);
+        return index;
+    }
+
 protected:
     // Lets the record at index fill a control: the record's result, 1 if it is not alive.
     template <class OperationTP, class ControlTP>

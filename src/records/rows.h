@@ -1,9 +1,9 @@
 #pragma once
 #include "baselib/char_arr.h"
-#include "baselib/take_back.h"
 #include "containers/own_list.h"
 #include "records/fields.h"
 #include <new>
+#include <utility>
 
 // The values of one entry of a secondary section, wherever they are kept.
 struct RowCL
@@ -33,13 +33,7 @@ inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
 // finds no memory for the text throws and appends nothing.
 inline int slAppendText(VrStringArr& texts, const char* text)
 {
-    const int index = text != nullptr ? texts.AddItemM(VrStringCL(AliveTag)) : -1;
-    if (index >= 0) {
-        TakeBackCL appended([&texts, index] { texts.DelItemM(index); });
-        texts.ElementAtM(index).AddStringM(text);
-        appended.KeepM();
-    }
-    return index;
+    return text != nullptr ? texts.AppendM(CharArr(text)) : -1;
 }
 
 // The same; a list that can't grow throws too. 0, and nothing is appended, for null; else 1.
@@ -49,6 +43,14 @@ inline int slAddText(VrStringArr& texts, const char* text)
         throw std::bad_alloc();
     }
     return text != nullptr ? 1 : 0;
+}
+
+// Appends an alive text, taking it over. Where the list can't grow std::bad_alloc is thrown.
+inline void slTakeText(VrStringArr& texts, CharArr& text)
+{
+    if (texts.AppendM(std::move(text)) < 0) {
+        throw std::bad_alloc();
+    }
 }
 
 // The text of slot `index`, "" outside the list.

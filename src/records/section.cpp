@@ -140,8 +140,8 @@ void SectionReaderCL::EndM()
     isEnded_ = true;
     seen_.end = io_.PositionM();
     if (StatusM() != SectionStatus::Missing) {
-        seen_.follows = { slNextValue(io_), 0 };
-        seen_.follows.end = lineAtM(seen_.follows.begin).end;
+        const std::size_t next = slNextValue(io_);
+        seen_.follows = { next, lineAtM(next).end };
     }
 }
 
@@ -192,7 +192,6 @@ void SectionEntryCL::ReadM(FieldReaderCL& reader, RowFieldsTP fields)
     for (CharArr& text : texts) {
         text.ClearM();
     }
-    reader.ReuseTextsM();
     EachFieldM(reader, fields);
 }
 

@@ -43,6 +43,10 @@ public:
     // How many records or entries it has; 0 unless the status is Read.
     int CountM() const { return seen_.count; }
 
+    // How texts are held that are read from now on: together, for records that are kept; or in those of one
+    // entry, again and again.
+    void PoolTextsM() { reader_.PoolTextsM(texts_); }
+    void ReuseTextsM() { reader_.ReuseTextsM(); }
     FieldReaderCL& RecordM(int number); // The reader, before record or entry `number`.
     void DropM(EntryFault fault);       // The entry just read belongs to no record.
     void EndM();                        // Its last record has been read; others of the file may follow.
@@ -52,6 +56,7 @@ private:
     SpanCL lineAtM(std::size_t offset) const;
 
     VrIOCL& io_;
+    TextPoolCL texts_;
     FieldReaderCL reader_;
     SectionSeenCL seen_ {};
     int exceptions_; // Under way when it was made.
@@ -80,7 +85,7 @@ template <class RecordTP> struct SecondarySectionCL
 {
     const char* header; // GBK.
     RowFieldsTP fields; // Names the values of an entry.
-    // Gives an entry to its record, which copies it.
+    // Gives an entry to its record, which may take its texts.
     void (*attach)(RecordTP& record, const RowCL& row);
 };
 
@@ -116,9 +121,11 @@ template <class RecordTP> int slReadRecord(RecordTP& record, FieldReaderCL& read
 
 // Reads the entries of one secondary section. ids() tells the ids of the records, once and only if there are
 // entries to be read; take(number, row) is given each entry of record `number`, the first one with its
-// function id. An entry that a text of it rules out, or that no record takes, is passed over.
+// function id. An entry that a text of it rules out, or that no record takes, is passed over. areKept: take
+// keeps texts of the rows.
 template <class IdsTP, class TakeTP>
-SectionStatus slReadEntries(VrIOCL& io, const char* header, RowFieldsTP fields, IdsTP&& ids, TakeTP&& take)
+SectionStatus slReadEntries(
+    VrIOCL& io, const char* header, RowFieldsTP fields, bool areKept, IdsTP&& ids, TakeTP&& take)
 {
     SectionEntryCL entry;
     FieldCounterCL values;
@@ -128,6 +135,7 @@ SectionStatus slReadEntries(VrIOCL& io, const char* header, RowFieldsTP fields, 
     if (status == SectionStatus::Missing || status == SectionStatus::Broken) {
         return status;
     }
+    areKept ? section.PoolTextsM() : section.ReuseTextsM();
     auto&& known = ids();
     known.SortM();
     for (int i = 0; i < section.CountM(); ++i) {
@@ -154,18 +162,21 @@ SectionStatus slReadSecondary(VrIOCL& io, RecordArrTP& records, const SecondaryS
         }
         return all;
     };
-    return slReadEntries(io, secondary.header, secondary.fields, ids,
+    return slReadEntries(io, secondary.header, secondary.fields, true, ids,
         [&](int i, const RowCL& row) { secondary.attach(records.ElementAtM(i), row); });
 }
 
-// Room for so many more, as adding one by one would make it, at once. Without the memory: none.
-template <class ArrTP> void slMakeRoom(ArrTP& items, int count)
+// Room for so many more, as adding one by one would make it, at once. Without the memory: none. The first
+// slot of the store that is new.
+template <class ArrTP> int slMakeRoom(ArrTP& items, int count)
 {
     std::int64_t length = items.GetLengthM();
     while (length < std::int64_t { items.GetBoundM() } + count) {
         length *= 2;
     }
-    items.AddSizeM(static_cast<int>(std::min<std::int64_t>(length, INT_MAX)) - items.GetLengthM());
+    const int first = items.GetLengthM();
+    items.AddSizeM(static_cast<int>(std::min<std::int64_t>(length, INT_MAX)) - first);
+    return first;
 }
 
 // Reads the main section of one kind and its secondary sections from an open file, appending to the array.
@@ -188,10 +199,10 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
         *count = 0;
         records.SwapListM(before);
     });
-    const typename RecordArrTP::RecordTP defaults(AliveTag);
-    slMakeRoom(records, *count);
+    const int firstNew = slMakeRoom(records, *count);
+    section.PoolTextsM();
     for (int i = 0; i < *count; ++i) {
-        const int index = records.AddItemM(defaults);
+        const int index = records.AddDefaultsM(firstNew);
         if (index < 0) {
             throw std::bad_alloc();
         }
@@ -220,6 +231,7 @@ template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL&
     }
     const RecordTP defaults(AliveTag);
     RecordTP record(AliveTag);
+    section.PoolTextsM();
     IdsOfRecordsCL ids(RecordArrTP::Secondaries.empty() ? 0 : section.CountM());
     for (int i = 0; i < section.CountM(); ++i) {
         record = defaults;
@@ -232,7 +244,7 @@ template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL&
     section.EndM();
     for (const auto& secondary : RecordArrTP::Secondaries) {
         if (slReadEntries(
-                io, secondary.header, secondary.fields, [&ids]() -> IdsOfRecordsCL& { return ids; },
+                io, secondary.header, secondary.fields, false, [&ids]() -> IdsOfRecordsCL& { return ids; },
                 [](int, const RowCL&) {})
             != SectionStatus::Read) {
             section.SetStatusM(SectionStatus::Incomplete);

@@ -169,6 +169,19 @@ TEST(Gbk, WhatHasNoFormBecomesAQuestionMarkAndIsCounted)
     EXPECT_EQ(lost, 0);
 }
 
+TEST(Gbk, CharactersBeyondSixteenBitsTakeFourBytesOfUtf8)
+{
+    for (const std::string utf8 : { "\xF0\x90\x80\x80", "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF" }) {
+        const std::u16string wide = slUtf8ToUtf16(utf8);
+        EXPECT_EQ(wide.size(), 2u);
+        EXPECT_EQ(slUtf16ToUtf8(wide.data(), wide.size()), utf8);
+        int lost = 0;
+        EXPECT_EQ(slUtf16ToGbk(wide.data(), wide.size(), &lost), "?");
+        EXPECT_EQ(slUtf8ToGbk(utf8, &lost), "?");
+        EXPECT_EQ(lost, 1);
+    }
+}
+
 TEST(Gbk, BrokenUtf8IsReplacedByteByByte)
 {
     int lost = 0;

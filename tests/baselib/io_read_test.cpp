@@ -1,5 +1,7 @@
 #include "baselib/io.h"
+#include "baselib/number_text.h"
 #include "support/temp_file.h"
+#include <algorithm>
 #include <cfloat>
 #include <climits>
 #include <cmath>
@@ -329,4 +331,39 @@ TEST(IoBinary, TextWithALengthBeyondTheFileIsNotRead)
     int value = 6;
     EXPECT_EQ(reader.io.InputDM(&value), 0);
     EXPECT_EQ(value, 6);
+}
+
+// Each number of up to twelve digits, signed or not, before each byte there is and at each distance from the
+// end.
+TEST(IoRead, IntsOfAnyLengthBeforeAnyByteWhereverTheFileEnds)
+{
+    const std::string digits = "907215364098";
+    for (const char* const sign : { "", "-", "+" }) {
+        for (std::size_t length = 1; length <= digits.size(); ++length) {
+            const std::string number = sign + digits.substr(0, length);
+            const long long whole = std::stoll(number);
+            const int wanted = static_cast<int>(std::clamp<long long>(whole, INT_MIN, INT_MAX));
+            for (int byte = -1; byte < 256; ++byte) {
+                if (byte >= '0' && byte <= '9') {
+                    continue;
+                }
+                for (int more = 0; more < (byte < 0 ? 1 : 9); ++more) {
+                    std::string bytes = number;
+                    bytes += byte >= 0 ? std::string(1, static_cast<char>(byte)) : "";
+                    bytes += std::string(static_cast<std::size_t>(more), '5');
+                    int value = 77;
+                    const char* const end = slReadInt(
+                        bytes.data(), bytes.data() + number.size() + (byte >= 0 ? 1 : 0) + more, &value);
+                    VrIOCL io;
+                    io.OpenM(std::make_shared<FileTextCL>(bytes));
+                    int read = 77;
+                    ASSERT_TRUE(io.InputOneM(&read)) << bytes;
+                    ASSERT_EQ(value, wanted) << bytes;
+                    ASSERT_EQ(end - bytes.data(), static_cast<std::ptrdiff_t>(number.size())) << bytes;
+                    ASSERT_EQ(read, wanted) << bytes;
+                    ASSERT_EQ(io.PositionM(), number.size()) << bytes;
+                }
+            }
+        }
+    }
 }

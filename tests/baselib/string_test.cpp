@@ -3,6 +3,7 @@
 #include "support/temp_file.h"
 #include <cstring>
 #include <gtest/gtest.h>
+#include <vector>
 
 TEST(CharArr, HoldsItsOwnCopy)
 {
@@ -64,6 +65,36 @@ TEST(CharArr, MayBeMovedByBytes)
     CharArr* const moved = reinterpret_cast<CharArr*>(to);
     EXPECT_STREQ(moved->TextM(), "moved");
     moved->~CharArr();
+}
+
+TEST(CharArr, TextsOfAPoolOutliveItInAnyOrder)
+{
+    std::vector<CharArr> texts(3000);
+    const auto wanted = [](std::size_t i) { return std::string(i % 700, static_cast<char>('a' + i % 26)); };
+    {
+        TextPoolCL pool;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            texts[i].SetInM(pool, wanted(i).data(), wanted(i).size());
+        }
+        texts[7].SetInM(pool, "anew", 4);
+    }
+    TextPoolCL unused;
+    EXPECT_STREQ(texts[7].TextM(), "anew");
+    texts[8].SetM(texts[8].TextM() + 1); // A part of itself.
+    EXPECT_EQ(texts[8].TextM(), wanted(8).substr(1));
+    CharArr moved(std::move(texts[9]));
+    EXPECT_STREQ(texts[9].TextM(), "");
+    texts[10] = std::move(moved);
+    EXPECT_EQ(texts[10].TextM(), wanted(9));
+    const CharArr copied(texts[11]);
+    for (std::size_t i = 1; i < texts.size(); i += 2) {
+        texts[i] = CharArr("other");
+    }
+    for (std::size_t i = 12; i < texts.size(); i += 2) {
+        ASSERT_EQ(texts[i].TextM(), wanted(i));
+    }
+    texts.clear();
+    EXPECT_EQ(copied.TextM(), wanted(11));
 }
 
 TEST(String, AddStringSetsTheTextAndKeepsTheTag)

@@ -87,6 +87,29 @@ private:
     std::unique_ptr<int> held_;
 };
 
+// An element whose copies share what the destructor gives back: an array must empty a slot before it destroys
+// it.
+class SharingCL : public VrBaseCL
+{
+public:
+    SharingCL() = default;
+    explicit SharingCL(int n)
+        : VrBaseCL(AliveTag)
+        , number(n)
+    {
+    }
+    SharingCL(const SharingCL&) = default;
+    SharingCL& operator=(const SharingCL&) = default;
+    ~SharingCL() override { givenBack += number != 0 ? std::to_string(number) : ""; }
+
+    int number { 0 };
+    inline static std::string givenBack;
+};
+
+inline int numberOf(const SharingCL& element)
+{
+    return element.number;
+}
 inline int numberOf(const CountedCL& element)
 {
     return element.number;

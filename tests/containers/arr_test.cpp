@@ -203,6 +203,23 @@ TEST(Arr, ItemOfTheSameArrayCanBeStoredAndInserted)
     EXPECT_EQ(shown(arr), "783.132342...3");
 }
 
+TEST(Arr, InsertingGivesNothingBackThatAnAliveItemShares)
+{
+    Arr<SharingCL> arr;
+    fill(&arr, { 1, 2, 3 });
+    arr.DelItemM(0);
+    arr.PurgeDeletedItemM(); // The slot behind still shares the last one's.
+    SharingCL::givenBack.clear();
+    arr.InsertItemM(SharingCL(), 0);
+    EXPECT_EQ(SharingCL::givenBack, "");
+    arr.PurgeDeletedItemM();
+    EXPECT_EQ(shown(arr), "23");
+    ASSERT_EQ(arr[2].number, 3);
+    arr.InsertItemM(arr[2], 0);
+    EXPECT_EQ(SharingCL::givenBack, "");
+    EXPECT_EQ(shown(arr), "323");
+}
+
 TEST(Arr, AddingByIndexRevivesADeletedSlotInPlace)
 {
     Arr<CountedCL> arr;

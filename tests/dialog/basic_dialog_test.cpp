@@ -149,6 +149,18 @@ TEST(BasicDialog, FontOptionIsTheHeightOfTheDialogFont)
     EXPECT_EQ(fontOf(unset.ItemM(11)).lfHeight, 0);
 }
 
+TEST(BasicDialog, NoFontIsTallerThanAScreen)
+{
+    const std::pair<const char*, int> heights[] = { { "4000", -4000 }, { "32767", -4096 },
+        { "2147483647", -4096 }, { "-32767", 4096 }, { "-2147483648", 4096 } };
+    for (const auto& [option, height] : heights) {
+        SCOPED_TRACE(option);
+        TestDialogCL dialog("[版本号]\n1.0\n[对话框]\n0\n100 80\n420 260\n1\nt\n" + std::string(option)
+            + " 2 4\nNULL\n[标题]\n1\n0\n1 11 10 10 90 20 1\ntext\n0 -1 0 0\n");
+        EXPECT_EQ(fontOf(dialog.ItemM(11)).lfHeight, height);
+    }
+}
+
 TEST(BasicDialog, FirstTimerTickShowsTheDialogAndStopsTheTimer)
 {
     TestDialogCL dialog(HeaderSections);

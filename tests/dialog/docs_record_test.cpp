@@ -224,11 +224,11 @@ TEST(Docs, TellTheTableOfKinds)
 {
     std::string table = "| kind | code | built | Tab order | value by id |\n|---|---|---|---|---|\n";
     slEachKind([&](auto row) {
-        using RowTP = decltype(row);
-        const std::string name = RowTP::Records::KindName;
-        table += "| [" + name + "](kinds/" + name + ".md) | " + std::to_string(RowTP::Code) + " | "
-            + std::to_string(RowTP::BuildPlace) + (RowTP::CanM(Stacked) ? " | by window index" : " | last")
-            + (RowTP::CanM(HasValue) ? " | yes |\n" : " | |\n");
+        using KindTP = decltype(row);
+        const std::string name = KindTP::Records::KindName;
+        table += "| [" + name + "](kinds/" + name + ".md) | " + std::to_string(KindTP::Code) + " | "
+            + std::to_string(KindTP::BuildPlace) + (KindTP::CanM(Stacked) ? " | by window index" : " | last")
+            + (KindTP::CanM(HasValue) ? " | yes |\n" : " | |\n");
     });
     const std::string page = wholeFile(PANELKIT_DOCS "/inside.md");
     EXPECT_NE(page.find("\n\n" + table + "\n"), std::string::npos) << "The table is:\n" << table;

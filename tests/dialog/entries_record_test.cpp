@@ -56,7 +56,7 @@ using ArraysTP = testing::Types<DVrNormalAnimateArr, DVrSpecAnimateArr, DVrMulti
 
 } // namespace
 
-TYPED_TEST_SUITE(EntriesTest, ArraysTP);
+TYPED_TEST_SUITE(EntriesTest, ArraysTP, ); // Without the comma clang misses an argument.
 
 TYPED_TEST(EntriesTest, GoToAliveRecordsOnly)
 {

@@ -136,11 +136,11 @@ public:
     }
     // Of an edit, whose type decides which value it is.
     void ChoiceM(const char*, int&, const ChoicesCL&) override { }
-    void ListM(const char*, int rows, const std::function<void(FieldVisitorCL&, int)>& see) override
+    void ListM(const char*, int count, const std::function<void(FieldVisitorCL&, int)>& see) override
     {
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < count; ++row) {
             see(*this, row);
-            ++this->rows;
+            ++rows;
         }
     }
     std::vector<std::string> values;

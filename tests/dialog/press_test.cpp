@@ -308,7 +308,7 @@ TEST_P(PressTest, IsOverWhenTheApplicationHadAFieldCheckedMeanwhile)
             ::SendMessageW(story.ItemM(11), 1626, 0, 0);
         });
         PressM();
-        EXPECT_TRUE(PumpUntil([&trigger] { return trigger.DoneM() && !Script::RunningM(); }));
+        EXPECT_TRUE(PumpUntil([&trigger] { return trigger.DoneM() && !InsideLoopCL::LivesM(); }));
     };
     run(true);
     expectOverM();

@@ -330,6 +330,27 @@ TEST(Resizing, WhatPaintsItselfIsNotErasedBefore)
     }
 }
 
+TEST(Resizing, OnAnotherContextEverythingIsErased)
+{
+    ResizedDialogCL dialog(everyKind("") + bindings());
+    dialog.ShowM();
+    CRect client;
+    dialog.GetClientRect(&client);
+    CClientDC like(&dialog);
+    CDC dc;
+    CBitmap bitmap;
+    ASSERT_TRUE(dc.CreateCompatibleDC(&like));
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&like, client.Width(), client.Height()));
+    CBitmap* const before = dc.SelectObject(&bitmap);
+    dc.FillSolidRect(&client, RGB(1, 2, 3));
+    dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
+    RECT field {};
+    ::GetWindowRect(dialog.ItemM(13), &field);
+    ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&field), 2);
+    EXPECT_NE(dc.GetPixel(field.left + 3, field.top + 3), RGB(1, 2, 3));
+    dc.SelectObject(before);
+}
+
 TEST(Resizing, TheApplicationHearsOfTheSizeWhenTheControlsHaveMoved)
 {
     const SmallPictureCL picture(0x0000FF, 20, 20);

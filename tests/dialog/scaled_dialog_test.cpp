@@ -204,6 +204,27 @@ TEST(ScaledDialog, EdgesAndTheClientAreaAreScaledAndCaptionsStayWhole)
     }
 }
 
+TEST(ScaledDialog, AFontWithoutAHeightIsThatOfTheSystemScaled)
+{
+    std::string text = std::string(HeaderSections) + "[标准按钮]\n1\n0\n4 14 20 100 101 25\nok\n0\n";
+    text.replace(text.find("\n14 "), 4, "\n0 ");
+    const DescriptionFileCL file(text);
+    const auto heightOfLetters = [](HWND window) {
+        const HDC dc = ::GetDC(window);
+        const HGDIOBJ before
+            = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+        TEXTMETRICW metrics {};
+        ::GetTextMetricsW(dc, &metrics);
+        ::SelectObject(dc, before);
+        ::ReleaseDC(window, dc);
+        return static_cast<int>(metrics.tmHeight - metrics.tmInternalLeading);
+    };
+    ScaledDialogCL plain(file.path());
+    ScaledDialogCL scaled(file.path(), 200);
+    EXPECT_EQ(fontHeight(plain.GetDlgItem(14)->m_hWnd), 0);
+    EXPECT_EQ(fontHeight(scaled.GetDlgItem(14)->m_hWnd), -2 * heightOfLetters(plain.GetDlgItem(14)->m_hWnd));
+}
+
 TEST(ScaledDialog, OneThatChangesIsLikeOneBuiltAtThatScale)
 {
     for (const std::string& file : files()) {

@@ -1,6 +1,7 @@
 #include "baselib/helpers.h"
 #include "pictures/bmp_reader.h"
 #include "support/bmp_file.h"
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +26,16 @@ struct Picture
     }
 };
 
+// The judgement without pixels, by all the bytes and by the first of them.
+void expectJudgement(int result, const std::vector<unsigned char>& bytes)
+{
+    EXPECT_EQ(slIsBmp(bytes.data(), bytes.size(), bytes.size()), result);
+    const std::vector<unsigned char> beginning(
+        bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(std::min(bytes.size(), BmpBeginning)));
+    const int early = slIsBmp(beginning.data(), beginning.size(), bytes.size());
+    EXPECT_TRUE(early == result || (early == -1 && beginning.size() < bytes.size())) << early;
+}
+
 Picture decode(const std::vector<unsigned char>& bytes)
 {
     Picture picture;
@@ -34,6 +45,7 @@ Picture decode(const std::vector<unsigned char>& bytes)
     unsigned char* pixels = block;
     picture.result = slDecodeBmp(block, bytes.size(), &picture.width, &picture.height, &pixels);
     std::free(block);
+    expectJudgement(picture.result, bytes);
     picture.hasBuffer = pixels != nullptr;
     if (picture.hasBuffer) {
         picture.pixels.assign(
@@ -474,4 +486,40 @@ TEST(BmpReader, LoadsFilesAndGivesNothingForAMissingOne)
         EXPECT_EQ(0, load(nullptr, &w, &h, &pixels));
     }
     std::remove(path.c_str());
+}
+
+TEST(BmpReader, JudgesPlainPicturesByTheirBeginning)
+{
+    BmpFile file;
+    file.width = 50;
+    file.height = 40;
+    for (int y = 0; y < file.height; ++y) {
+        file.addRow(std::vector<std::uint32_t>(50, 0x123456));
+    }
+    std::vector<unsigned char> bytes = file.bytes();
+    ASSERT_GT(bytes.size(), BmpBeginning);
+    EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning, bytes.size()), 1);
+    EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning, bytes.size() - 1), 0); // Cut short.
+    EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning - 1, bytes.size()), -1);
+    EXPECT_EQ(slIsBmp(nullptr, BmpBeginning, bytes.size()), 0);
+    bytes[0] = 'X';
+    EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning, bytes.size()), 0);
+}
+
+TEST(BmpReader, NeedsAllOfARunCodedPictureToJudge)
+{
+    BmpFile file;
+    file.width = 4000;
+    file.height = 1;
+    file.bits = 8;
+    file.coding = 1;
+    file.palette.assign(256, 0x123456);
+    for (int i = 0; i < 2000; ++i) {
+        file.pixels.insert(file.pixels.end(), { 2, static_cast<unsigned char>(i) });
+    }
+    file.pixels.insert(file.pixels.end(), { 0, 1 });
+    const std::vector<unsigned char> bytes = file.bytes();
+    ASSERT_GT(bytes.size(), BmpBeginning);
+    EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning, bytes.size()), -1);
+    EXPECT_EQ(slIsBmp(bytes.data(), bytes.size(), bytes.size()), 1);
 }

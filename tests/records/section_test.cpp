@@ -1,7 +1,9 @@
 #include "baselib/gbk_texts.h"
 #include "controls/labels/label_record.h"
+#include "controls/lists/tree_record.h"
+#include "editing/seen_sections.h"
 #include "records/section.h"
-#include "support/description.h"
+#include "support/printed.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -88,6 +90,97 @@ TEST(Section, SectionBeforeTheDialogHeaderIsFound)
 {
     LabelsCL labels("[标题]\n1\n0\n1 11 2 3 4 5 1\ntext\n0 -1 0 0\n[版本号]\n1\n[对话框]\n0\n");
     EXPECT_EQ(labels.records.GetAvailableNumM(), 1);
+}
+
+namespace {
+
+// Two plain records, and text behind them that belongs to nobody.
+const std::string Labels = "[标题]\n2\n0\n1 11 2 3 4 5 1\nfirst\n0 1 2 3\n2 12 6 -7 8 9 3\nNULL\n1 -1 0 0\n";
+const std::string StrayText = "stray 5 6\n7 text\n";
+
+// What is read of the section and of a tree behind the stray text, as an application has it.
+std::string fieldsRead(const std::string& utf8, ReadObserverCL* observer)
+{
+    const DescriptionFileCL file(utf8);
+    VrIOCL io;
+    io.OpenM(file.path(), "r");
+    io.SetObserverM(observer);
+    std::string all;
+    const auto add = [&](auto&& records) {
+        int count = 0;
+        all += std::to_string(static_cast<int>(slReadSection(io, records, &count))) + "\n";
+        for (int i = records.GetFirstIdxM(); i >= 0; i = records.GetNextIdxM(i)) {
+            all += printedFields(records.ElementAtM(i)) + "\n";
+        }
+    };
+    add(DVrLabelArr());
+    add(DVrTreeArr());
+    return all;
+}
+
+} // namespace
+
+TEST(Section, PlainOneBeforeStrayTextReadsTheSameWithAnObserverAndWithout)
+{
+    const std::string tree = std::string(slGbkToUtf8(TreeHeader)) + "\n1\n0\n3 13 1 1 9 9\n"
+        + slGbkToUtf8(TreeDataHeader)
+        + "\n2\n0\n13 0 7 1234567 item\na.bmp\nb.bmp\n13 7 8 12345678 other\nc\nd\n";
+    for (const std::string& text : { Labels + StrayText + tree, Labels + "5" + StrayText + tree }) {
+        const std::string alone = fieldsRead(text, nullptr);
+        EXPECT_NE(alone.find("12345678"), std::string::npos);
+        ReadObserverCL nobody;
+        EXPECT_EQ(fieldsRead(text, &nobody), alone);
+        SeenSectionsCL seen;
+        EXPECT_EQ(fieldsRead(text, &seen), alone);
+        const SeenSectionCL& labels = seen.AtM(slGrammarOf(LabelHeader));
+        EXPECT_EQ(labels.RecordsM(), 2);
+        EXPECT_EQ(labels.values.size(), 24U);
+        const std::string bytes = slUtf8ToGbk(text);
+        EXPECT_EQ(bytes.substr(labels.head.follows.begin, 5),
+            text == Labels + StrayText + tree ? "stray" : "5stra");
+    }
+}
+
+TEST(Section, PlainOneBeforeStrayTextIsKnownAsPlainByItsLastRecordAlone)
+{
+    const std::string bytes = slUtf8ToGbk(Labels + StrayText);
+    const int grammar = slGrammarOf(LabelHeader);
+    SeenSectionsCL all;
+    SeenSectionsCL last;
+    last.KeepLastM(grammar);
+    for (SeenSectionsCL* const seen : { &all, &last }) {
+        VrIOCL io;
+        io.OpenM(std::make_shared<FileTextCL>(bytes));
+        io.SetObserverM(seen);
+        int number = 0;
+        slEachRecordRead<DVrLabelArr>(io, [&number](int i, DVrLabelCL& label) {
+            EXPECT_EQ(i, number++);
+            EXPECT_EQ(label.GetFuncIDM(), 11 + i);
+        });
+        EXPECT_EQ(number, 2);
+        seen->AtM(grammar).regionEnd = bytes.size();
+    }
+    const SeenSectionCL& section = last.AtM(grammar);
+    EXPECT_TRUE(section.IsPlainM());
+    EXPECT_EQ(section.head.end, all.AtM(grammar).head.end);
+    const SeenValueCL* whole = all.AtM(grammar).FirstM(1);
+    ASSERT_EQ(section.values.size(), 12U);
+    for (const SeenValueCL& value : section.values) {
+        EXPECT_STREQ(value.field, whole->field);
+        EXPECT_EQ(value.part, whole->part);
+        EXPECT_EQ(value.begin, whole->begin);
+        EXPECT_EQ(value.end, whole->end);
+        EXPECT_EQ(value.fate, whole++->fate);
+    }
+    // Without its last number the stray text is taken for it: no longer plain.
+    SeenSectionsCL lacking;
+    lacking.KeepLastM(grammar);
+    VrIOCL io;
+    io.OpenM(std::make_shared<FileTextCL>(slUtf8ToGbk(Labels.substr(0, Labels.size() - 2) + StrayText)));
+    io.SetObserverM(&lacking);
+    slEachRecordRead<DVrLabelArr>(io, [](int, DVrLabelCL&) {});
+    lacking.AtM(grammar).regionEnd = bytes.size();
+    EXPECT_FALSE(lacking.AtM(grammar).IsPlainM());
 }
 
 namespace {

@@ -18,7 +18,7 @@ void inject(INPUT input)
 {
     (input.type == INPUT_MOUSE ? input.mi.time : input.ki.time) = GetTickCount() + ahead;
     SendInput(1, &input, sizeof input);
-    if (!Script::RunningM()) {
+    if (!InsideLoopCL::LivesM()) {
         PumpPending();
     }
 }
@@ -127,7 +127,7 @@ bool MoveMouseToM(HWND window, int x, int y)
     // The middle of the pixel on the 65536 scale, so that no rounding leaves it.
     place = POINT { MulDiv(2 * wanted.x + 1, 65536, 2 * width), MulDiv(2 * wanted.y + 1, 65536, 2 * height) };
     mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, place->x, place->y);
-    if (!Script::RunningM()) {
+    if (!InsideLoopCL::LivesM()) {
         SettleM(); // The pointer enters and leaves windows.
     }
     POINT now = {};

@@ -99,6 +99,19 @@ UINT iconKind(HWND icon)
     return shown ? ~0u : 0;
 }
 
+// A box that goes before the display told its owner that it lost the focus looks like another program that
+// takes the focus away. So first the display answers us, having handled what the box asked of it, then the
+// box's thread.
+void awaitFocus(HWND box)
+{
+    ask(box, WM_NULL);
+    const HDC screen = GetDC(nullptr);
+    GetPixel(screen, 0, 0);
+    ReleaseDC(nullptr, screen);
+    ask(box, WM_NULL);
+    ask(box, WM_NULL);
+}
+
 } // namespace
 
 MessageBoxWatcher::MessageBoxWatcher(int answer)
@@ -155,6 +168,7 @@ void MessageBoxWatcher::answerM(HWND box)
         const std::lock_guard<std::mutex> lock(mutex_);
         seen_.push_back(std::move(seen));
     }
+    awaitFocus(box);
     PostMessageW(
         box, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED), reinterpret_cast<LPARAM>(button));
     // Not to be noted twice: wait until it is gone.

@@ -7,6 +7,21 @@ namespace {
 int depth = 0;
 }
 
+InsideLoopCL::InsideLoopCL()
+{
+    ++depth;
+}
+
+InsideLoopCL::~InsideLoopCL()
+{
+    --depth;
+}
+
+bool InsideLoopCL::LivesM()
+{
+    return depth > 0;
+}
+
 Script::Script(std::function<void()> onFailure)
     : onFailure_(std::move(onFailure))
 {
@@ -42,11 +57,6 @@ Script& Script::WaitM(std::function<bool()> condition, const char* what, DWORD d
     return *this;
 }
 
-bool Script::RunningM()
-{
-    return depth > 0;
-}
-
 LRESULT CALLBACK Script::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     auto* script = reinterpret_cast<Script*>(GetWindowLongPtrW(window, GWLP_USERDATA));
@@ -80,9 +90,8 @@ void Script::runM()
     since_ = 0;
     if (step.action) {
         running_ = true;
-        ++depth;
+        const InsideLoopCL inside;
         step.action(); // May run a loop of its own; the next step waits until it returns.
-        --depth;
         running_ = false;
     }
 }

@@ -6,6 +6,18 @@
 
 namespace testing_support {
 
+// While it lives, input.h leaves its input to the loop that runs.
+class InsideLoopCL
+{
+public:
+    InsideLoopCL();
+    InsideLoopCL(const InsideLoopCL&) = delete;
+    InsideLoopCL& operator=(const InsideLoopCL&) = delete;
+    ~InsideLoopCL();
+
+    static bool LivesM();
+};
+
 // Steps that run one after another inside whatever message loop runs on this thread, such as that of a modal
 // dialog: a step runs only when the loop has processed all input before it, so it may use input.h and look at
 // the outcome. A step that waits too long is reported as a failure of the test, and the end action then frees
@@ -21,7 +33,6 @@ public:
     Script& DoM(std::function<void()> action);
     Script& WaitM(std::function<bool()> condition, const char* what, DWORD deadlineMs = 5000);
     bool DoneM() const { return steps_.empty(); }
-    static bool RunningM(); // Whether a step is running now.
 
 private:
     struct Step

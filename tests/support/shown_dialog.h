@@ -21,6 +21,7 @@ public:
     // Gives the focus to the child with that id, then forgets the messages so far.
     void StartAtM(int id)
     {
+        EXPECT_NE(ItemM(id), nullptr);
         EXPECT_TRUE(testing_support::FocusM(ItemM(id)));
         testing_support::PumpPending();
         recorder_.ClearM();

@@ -286,6 +286,12 @@ TEST(LspProtocol, WhatIsWrongIsRefusedAndTheSessionGoesOn)
     EXPECT_EQ(client.ReceiveM()["error"]["code"], -32602);
     EXPECT_EQ(
         client.AnswerM("initialize", { { "capabilities", LspJson::object() } })["error"]["code"], -32600);
+    constexpr int Levels = 200000;
+    client.SendBytesM(
+        "{\"method\":\"x\",\"id\":" + std::string(Levels, '[') + std::string(Levels, ']') + "}");
+    EXPECT_EQ(client.ReceiveM()["error"]["code"], -32700);
+    client.NotifyM("textDocument/didOpen", // Its name is no UTF-8.
+        { { "textDocument", { { "uri", "file:///c:/%B1%EA.dlg" }, { "version", 1 }, { "text", "" } } } });
     EditedTextCL text(client, Path, slUtf8ToGbk(Combo));
     EXPECT_FALSE(text.AskAtM("hover", placeOf(text, "1001")).is_null());
 }

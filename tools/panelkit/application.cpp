@@ -36,15 +36,3 @@ std::string printedOf(const std::wstring& text)
     }
     return utf8Of(printed);
 }
-
-std::vector<std::string> wideArguments()
-{
-    int count = 0;
-    LPWSTR* arguments = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    std::vector<std::string> result;
-    for (int i = 1; i < count; ++i) {
-        result.push_back(utf8Of(arguments[i]));
-    }
-    ::LocalFree(arguments);
-    return result;
-}

@@ -1,6 +1,5 @@
 // The pictures that a file names.
 #include "baselib/gbk.h"
-#include "baselib/helpers.h"
 #include "control_list.h"
 #include "pictures/bmp_reader.h"
 #include <algorithm>
@@ -35,17 +34,29 @@ bool isRemote(const std::string& name)
         && stem[3] >= '1' && stem[3] <= '9';
 }
 
-// Whether the bytes are a picture that can be shown.
+// Whether the file is a picture that can be shown. Of large ones only the beginning is read.
 bool isPicture(const std::filesystem::path& path)
 {
+    std::error_code error;
+    const auto size = static_cast<std::size_t>(std::filesystem::file_size(path, error));
+    if (error) {
+        return false;
+    }
     std::ifstream in(path, std::ios::binary);
-    const std::string bytes { std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>() };
-    int w = 0;
-    int h = 0;
-    unsigned char* pixels = nullptr;
-    const int result = slDecodeBmp(bytes.data(), bytes.size(), &w, &h, &pixels);
-    slFree(pixels);
-    return result != 0;
+    std::string bytes(std::min(size, BmpBeginning), '\0');
+    const auto read = [&](std::size_t from) {
+        in.read(&bytes[from], static_cast<std::streamsize>(bytes.size() - from));
+        return in.good();
+    };
+    if (!read(0)) {
+        return false;
+    }
+    int result = slIsBmp(bytes.data(), bytes.size(), size);
+    if (result < 0) {
+        bytes.resize(size);
+        result = read(BmpBeginning) ? slIsBmp(bytes.data(), size, size) : 0;
+    }
+    return result == 1;
 }
 
 } // namespace

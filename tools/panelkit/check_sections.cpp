@@ -157,11 +157,11 @@ private:
     }
     bool looksLikeHeaderM(const HeaderPlaceCL& place) const
     {
-        constexpr std::size_t Near = 2;
+        constexpr std::size_t MostTypos = 2;
         const bool isBracketed = bytes_[place.span.begin] == '[' && bytes_[place.span.end - 1] == ']';
         std::size_t distance = 0;
         nearestM(place.span, &distance);
-        return isBracketed || distance <= Near;
+        return isBracketed || distance <= MostTypos;
     }
     // Of equally near headers, one that the file doesn't have.
     int nearestM(SpanCL span, std::size_t* distance) const

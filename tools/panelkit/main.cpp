@@ -179,15 +179,20 @@ int run(std::vector<std::string> arguments)
 
 } // namespace
 
+#ifdef _WIN32
+// Arguments come as UTF-16 whatever the system's code page.
+int wmain(int argc, wchar_t** argv)
+{
+    _setmode(_fileno(stdout), _O_BINARY); // JSON goes out byte for byte.
+    std::vector<std::string> arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.push_back(utf8Of(argv[i]));
+    }
+    return run(arguments);
+}
+#else
 int main(int argc, char** argv)
 {
-#ifdef _WIN32
-    // JSON goes out byte for byte; arguments come as UTF-16 whatever the system's code page.
-    _setmode(_fileno(stdout), _O_BINARY);
-    static_cast<void>(argc);
-    static_cast<void>(argv);
-    return run(wideArguments());
-#else
     return run(std::vector<std::string>(argv + 1, argv + argc));
-#endif
 }
+#endif

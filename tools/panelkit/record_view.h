@@ -178,7 +178,7 @@ private:
         field.size = form.size;
     }
 
-    static constexpr std::size_t Places = 256;
+    static constexpr std::size_t Places = 1024; // So many that hardly two names of a kind share one.
 
     std::vector<FieldCL> fields_; // Those of the record, and behind them what others left.
     std::size_t count_ { 0 };

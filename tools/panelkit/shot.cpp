@@ -5,6 +5,8 @@
 #include "preview_dialog.h"
 #include "window_picture.h"
 #include <filesystem>
+#include <imm.h>
+#include <memory>
 
 namespace {
 
@@ -49,8 +51,10 @@ int shotCommand(const ShotOptionsCL& options)
     if (pictures.empty()) {
         return CannotUse;
     }
+    ::ImmDisableIME(0); // Nobody types here: what helps with that need not start.
     return showEachFile(options, [&](const OpenedFileCL& file) {
-        ShotDialogCL dialog(file.name, options.textLanguage);
+        auto shown = std::make_unique<ShotDialogCL>(file.name, options.textLanguage);
+        ShotDialogCL& dialog = *shown;
         if (options.scale != 0) {
             dialog.SetScaleM(options.scale);
         }
@@ -81,7 +85,11 @@ int shotCommand(const ShotOptionsCL& options)
         const PictureToWriteCL& picture = pictures[file.number];
         const std::wstring out = std::filesystem::u8path(picture.path).wstring();
         const bool saved = saveWindow(dialog.m_hWnd, out, isBmpName(picture.said));
-        dialog.DestroyWindow();
+        if (file.number + 1 == options.files.size()) {
+            static_cast<void>(shown.release()); // It goes with the program, much faster than by itself.
+        } else {
+            dialog.DestroyWindow();
+        }
         return saved ? 0 : complain("cannot write '" + picture.said + "'");
     });
 }

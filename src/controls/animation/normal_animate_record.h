@@ -10,6 +10,7 @@ class PANELKIT_API DVrNormalAnimateCL : public RecordCL<DVrNormalAnimateCL>
 public:
     using RecordCL::RecordCL;
     int AddBmpNameM(const char* file) { return slAppendText(frames_, file); } // The index of the new frame.
+    void TakeRowM(const RowCL& row) { slTakeText(frames_, *row.texts[0]); }   // The same, of the file.
     int InitNormalAnimateM(DuNormalAnimateCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
@@ -29,8 +30,7 @@ public:
     static constexpr const char* KindName = "normal_animation";
     static constexpr const char* Header = NormalAnimateHeader;
     static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { NormalAnimateBitmapHeader,
-        &slPictureRow,
-        [](RecordTP& record, const RowCL& row) { record.AddBmpNameM(row.texts[0]->TextM()); } } } };
+        &slPictureRow, [](RecordTP& record, const RowCL& row) { record.TakeRowM(row); } } } };
 
     int AddBmpNameM(int index, const char* file) { return addM(index, &RecordTP::AddBmpNameM, file); }
     int InitNormalAnimateM(int index, DuNormalAnimateCL* control) const

@@ -1,5 +1,6 @@
 #pragma once
 #include "containers/arr.h"
+#include "controls/base/control_common.h"
 #include "controls/base/id_index.h"
 #include "controls/base/stand_ins.h"
 #include <functional>
@@ -79,16 +80,20 @@ public:
     // Gives the command to the first control with that id, to every control for -1. 0 for an empty array.
     int SetItemCmdM(int id, int command)
     {
+        const int result = this->GetAvailableNumM() > 0 ? 1 : 0;
         if (id != -1) {
             if (ControlTP* const control = GetControlPtrM(id)) {
                 control->SetItemCmdM(command);
             }
-        } else {
-            for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
-                ControlAtM(i).SetItemCmdM(command);
+            return result;
+        }
+        for (int i = this->GetFirstIdxM(); i >= 0; i = this->GetNextIdxM(i)) {
+            ControlTP& control = ControlAtM(i);
+            if (!slOutlives(&control, [&control, command] { control.SetItemCmdM(command); })) {
+                break; // With the array.
             }
         }
-        return this->GetAvailableNumM() > 0 ? 1 : 0;
+        return result;
     }
 
 protected:

@@ -1,6 +1,7 @@
 #include "controls/base/control_common.h"
 #include "baselib/gbk.h"
 #include "controls/base/messages.h"
+#include "toolkit/life.h"
 #include <atomic>
 
 namespace {
@@ -17,6 +18,13 @@ void IdChangesCL::AddM()
 unsigned IdChangesCL::CountM()
 {
     return idChanges.load(std::memory_order_relaxed);
+}
+
+bool slOutlives(CWnd* control, const std::function<void()>& act)
+{
+    const LifeCL life(control);
+    act();
+    return life.IsAliveM();
 }
 
 DControlCommonCL::~DControlCommonCL() = default;

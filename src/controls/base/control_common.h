@@ -6,6 +6,7 @@
 #include "pictures/picture_scale.h"
 #include "toolkit/toolkit.h"
 #include <algorithm>
+#include <functional>
 
 // A position or size, in pixels, as a window can have it: beyond this the window system wraps it around.
 inline int slWindowLength(int length)
@@ -13,6 +14,10 @@ inline int slWindowLength(int length)
     constexpr int Most = 32767;
     return std::clamp(length, -Most, Most);
 }
+
+// Does something with a control of which the application hears. False: the control has been deleted
+// meanwhile.
+PANELKIT_API bool slOutlives(CWnd* control, const std::function<void()>& act);
 
 // What the host and the application know of any control: ids, described place, window, relations.
 // Lengths are pixels. Without a live window the geometry getters give 0 and the setters do nothing.

@@ -2,8 +2,8 @@
 #include "controls/base/control_arr.h"
 #include "controls/base/picture_static.h"
 
-// The statuses of a bitmap button.
-enum BUTTON_STATUS
+// The statuses of a bitmap button. Any other number shows no picture.
+enum BUTTON_STATUS : int
 {
     ButtonNormal = 0,
     ButtonPressed = 1,

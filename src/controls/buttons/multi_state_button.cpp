@@ -153,7 +153,7 @@ void DuMultiStateButtonCL::DelItemM()
 int DuMultiStateButtonCL::InitRgnM()
 {
     // A region that was traced before there was a window gives way as well: the whole button takes clicks.
-    if (drawRgn_.GetSafeHandle() == nullptr) {
+    if (m_hWnd != nullptr && drawRgn_.GetSafeHandle() == nullptr) {
         clientRgnM(&drawRgn_);
         clientRgnM(&buttonRgn_);
         clipWindowM(drawRgn_);

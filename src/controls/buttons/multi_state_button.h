@@ -25,8 +25,8 @@ public:
     int DelStatusM(int status); // Removes a status with its picture; 0 when there is none.
     int DelAllM();              // There is no current status then.
     void DelItemM();
-    void RescaledM(int from, int to);                 // Pictures and region follow.
-    int InitRgnM();                                   // Both regions become the client rectangle, once.
+    void RescaledM(int from, int to); // Pictures and region follow.
+    int InitRgnM(); // Both regions become the client rectangle, once; nothing without a window.
     DVrRgnCL* GetButtonRgnM() { return &buttonRgn_; } // Where clicks count; the control keeps it.
 
 protected:

@@ -1,4 +1,5 @@
 #include "controls/buttons/multi_state_button_record.h"
+#include "baselib/take_back.h"
 
 template class PANELKIT_API Arr<DVrMultiStateButtonCL>;
 
@@ -13,7 +14,12 @@ void DVrMultiStateButtonCL::EachFieldM(FieldVisitorCL& visitor)
 
 int DVrMultiStateButtonCL::AddStringM(int status, const char* file)
 {
-    const int index = slAppendText(files_, file);
+    return file != nullptr ? addM(status, CharArr(file)) : -1;
+}
+
+int DVrMultiStateButtonCL::addM(int status, CharArr&& file)
+{
+    const int index = files_.AppendM(std::move(file));
     if (index >= 0) {
         TakeBackCL half([this, index] { files_.DelItemM(index); });
         statuses_.AddItemM(status);

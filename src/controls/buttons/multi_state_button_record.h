@@ -21,10 +21,18 @@ public:
     // Appends a status value and its picture. The index of the name; -1, and no status, when there is no
     // memory.
     int AddStringM(int status, const char* file);
+    void TakeRowM(const RowCL& row)
+    {
+        if (addM(row.numbers[0], std::move(*row.texts[0])) < 0) {
+            throw std::bad_alloc();
+        }
+    } // The same, of the file.
     int InitMultiStateButtonM(DuMultiStateButtonCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 
 private:
+    int addM(int status, CharArr&& file);
+
     int initialStatus_ { 0 };
     CharArr region_;
     OwnListCL<IntArr> statuses_; // In step with files_.
@@ -39,9 +47,7 @@ public:
     static constexpr const char* KindName = "multi_state_button";
     static constexpr const char* Header = MultiStateButtonHeader;
     static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { MultiStateButtonDataHeader,
-        &slStateRow, [](RecordTP& record, const RowCL& row) {
-            record.AddStringM(row.numbers[0], row.texts[0]->TextM());
-        } } } };
+        &slStateRow, [](RecordTP& record, const RowCL& row) { record.TakeRowM(row); } } } };
 
     int AddStringM(int index, int status, const char* file)
     {

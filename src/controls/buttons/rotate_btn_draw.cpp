@@ -15,7 +15,7 @@ bool isLarge(int width, int height)
 }
 
 // A part of a bitmap as pixels; white where the bitmap has none.
-std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
+std::vector<std::uint32_t> pixelsOf(const DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
 {
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
     const int pictureWidth = picture.GetWidthM();
@@ -28,12 +28,17 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
     BITMAPINFO info {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = pictureWidth;
-    info.bmiHeader.biHeight
-        = pictureHeight; // The lowest row first: its number is that of the first line asked for.
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    const auto bitmap = static_cast<HBITMAP>(picture.GetBitmapM()->GetSafeHandle());
+    const HBITMAP bitmap = picture.ShownBitmapM();
+    if (part.left == 0 && part.top == 0 && part.width == pictureWidth && part.height == pictureHeight) {
+        info.bmiHeader.biHeight = -pictureHeight; // The top row first.
+        ::GetDIBits(dc, bitmap, 0, static_cast<UINT>(pictureHeight), pixels.data(), &info, DIB_RGB_COLORS);
+        return pixels;
+    }
+    info.bmiHeader.biHeight
+        = pictureHeight; // The lowest row first: its number is that of the first line asked for.
     // The system gives whole rows: a few at a time.
     const int atOnce = static_cast<int>(std::max<std::int64_t>(1, MostAtOnce / pictureWidth));
     std::vector<std::uint32_t> rows;
@@ -55,13 +60,13 @@ std::vector<std::uint32_t> pixelsOf(DVrBitmapCL& picture, HDC dc, const PixelPar
 }
 
 // Copies the bitmap's part from (x, y) on; where it has none, nothing.
-void copyPart(DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
+void copyPart(const DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
 {
     CDC memory;
     if (!picture.HoldsBitmapM() || !memory.CreateCompatibleDC(to)) {
         return;
     }
-    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.GetBitmapM()->GetSafeHandle());
+    const HGDIOBJ previous = ::SelectObject(memory.m_hDC, picture.ShownBitmapM());
     const auto left = std::max<std::int64_t>(x, 0);
     const auto top = std::max<std::int64_t>(y, 0);
     const auto right = std::min<std::int64_t>(std::int64_t { x } + width, picture.GetWidthM());
@@ -133,12 +138,15 @@ CRect DuRotateBtnCL::neededPartM(CDC* dc) const
 void DuRotateBtnCL::composeM(CDC* dc)
 {
     // A copy of a knob has the pixels, but its cache starts empty.
-    const bool isPrepared = !base_.empty() && cache_.GetDcM()->m_hDC != nullptr;
-    if (!(isPrepared && isWithin(neededPartM(dc), part_)) && !prepareM(dc)) {
+    const bool isPrepared
+        = !base_.empty() && cache_.GetDcM()->m_hDC != nullptr && isWithin(neededPartM(dc), part_);
+    if (!isPrepared && !prepareM(dc)) {
         return;
     }
     const PixelBlockCL block = cache_.PixelsM();
-    std::copy(base_.begin(), base_.end(), block.pixels);
+    if (isPrepared) { // Else they have just been drawn.
+        std::copy(base_.begin(), base_.end(), block.pixels);
+    }
     const PixelPartCL onto { block.pixels, part_.left, part_.top, block.width, block.height };
     PixelPartCL from { picture_.data(), 0, 0, width_, height_ };
     std::vector<std::uint32_t> pixels;

@@ -10,8 +10,9 @@ class PANELKIT_API DVrComboBoxCL : public RecordCL<DVrComboBoxCL>
 {
 public:
     using RecordCL::RecordCL;
-    int AddStringM(const char* text);     // Appends an item; 0 for null, else 1.
-    void destroyM() { items_.DelAllM(); } // Empties the items.
+    int AddStringM(const char* text); // Appends an item; 0 for null, else 1.
+    void TakeRowM(const RowCL& row) { slTakeText(items_, *row.texts[0]); } // The same, of the file.
+    void destroyM() { items_.DelAllM(); }                                  // Empties the items.
     int InitComboBoxM(DuComboBoxCL* control) const;
     int InitComboBoxStrM(DuComboBoxCL* control) const; // Adds the items to a live control.
     void EachFieldM(FieldVisitorCL& visitor);
@@ -30,8 +31,7 @@ public:
     static constexpr const char* Header = ComboBoxHeader;
     static constexpr int ItemSize = 255; // Bytes of an item with its terminator.
     static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { ComboBoxItemHeader,
-        &slTextRow<ItemSize>,
-        [](RecordTP& record, const RowCL& row) { record.AddStringM(row.texts[0]->TextM()); } } } };
+        &slTextRow<ItemSize>, [](RecordTP& record, const RowCL& row) { record.TakeRowM(row); } } } };
 
     int InitComboBoxM(int index, DuComboBoxCL* control) const
     {

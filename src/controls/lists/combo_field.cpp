@@ -18,9 +18,30 @@ bool isDown(int key)
     return ::GetKeyState(key) < 0;
 }
 
+bool mayReplace(UINT message)
+{
+    switch (message) {
+    case WM_CHAR:
+    case WM_IME_CHAR:
+    case WM_KEYDOWN:
+    case WM_CLEAR:
+    case WM_CUT:
+    case WM_PASTE:
+    case WM_UNDO:
+    case EM_UNDO:
+    case EM_REPLACESEL:
+        return true;
+    default:
+        return false;
+    }
+}
+
 // Which characters of the field the message is to replace or delete; false: it is about none.
 bool replacedBy(HWND field, UINT message, WPARAM wParam, ReplacedCL* replaced)
 {
+    if (!mayReplace(message)) {
+        return false; // What is asked below comes here too.
+    }
     ::SendMessageW(field, EM_GETSEL, reinterpret_cast<WPARAM>(&replaced->begin),
         reinterpret_cast<LPARAM>(&replaced->end));
     const bool isSelected = replaced->begin < replaced->end;
@@ -44,7 +65,7 @@ bool replacedBy(HWND field, UINT message, WPARAM wParam, ReplacedCL* replaced)
         replaced->begin = replaced->end = 0;
         return true;
     default:
-        return message == WM_PASTE || message == EM_REPLACESEL || message == WM_IME_CHAR;
+        return true;
     }
 }
 

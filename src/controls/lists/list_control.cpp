@@ -98,7 +98,7 @@ void DuListCtrlCL::showTextColourM()
 
 int DuListCtrlCL::InsertColumnM(int column, int width, const char* text)
 {
-    if (text == nullptr) {
+    if (m_hWnd == nullptr || text == nullptr) {
         return 0;
     }
     LVCOLUMNA heading {};
@@ -137,7 +137,7 @@ void DuListCtrlCL::TranslateM(const TranslatorTP& translate)
 
 int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
 {
-    if (text == nullptr) {
+    if (m_hWnd == nullptr || text == nullptr) {
         return 0;
     }
     const int inserted = CListCtrl::InsertItem(row, text);
@@ -150,7 +150,7 @@ int DuListCtrlCL::InsertItemM(int row, int data, const char* text)
 
 int DuListCtrlCL::SetItemTextM(int row, int column, const char* text)
 {
-    if (text == nullptr) {
+    if (m_hWnd == nullptr || text == nullptr) {
         return 0;
     }
     return SetItemText(row, column, text) ? 1 : 0;
@@ -176,7 +176,7 @@ int DuListCtrlCL::GetSelNumM(int* count) const
 
 int DuListCtrlCL::GetFirstSelM(int* row, int* data) const
 {
-    if (row == nullptr || data == nullptr) {
+    if (m_hWnd == nullptr || row == nullptr || data == nullptr) {
         return 0;
     }
     const int first = GetNextItem(-1, LVNI_SELECTED);
@@ -190,7 +190,7 @@ int DuListCtrlCL::GetFirstSelM(int* row, int* data) const
 
 int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
 {
-    if (row == nullptr || data == nullptr) {
+    if (m_hWnd == nullptr || row == nullptr || data == nullptr) {
         return 0;
     }
     *row = GetNextItem(from, LVNI_SELECTED);
@@ -203,7 +203,7 @@ int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
 
 int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 {
-    if (row == nullptr || data == nullptr) {
+    if (m_hWnd == nullptr || row == nullptr || data == nullptr) {
         return 0;
     }
     if (GetSelectedCount() > 0) {
@@ -215,6 +215,9 @@ int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 
 int DuListCtrlCL::SetSelM(int row)
 {
+    if (m_hWnd == nullptr) {
+        return 0;
+    }
     for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
         deselectM(at);
     }

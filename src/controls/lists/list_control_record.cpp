@@ -1,4 +1,5 @@
 #include "controls/lists/list_control_record.h"
+#include "baselib/take_back.h"
 #include <algorithm>
 
 template class PANELKIT_API Arr<DVrListCtrlCL>;
@@ -8,11 +9,18 @@ int PairedTextsCL::AddM(const int pair[2], const char* text)
     if (pair == nullptr || text == nullptr) {
         return 0;
     }
-    const int added = pairs.AddItemM(pair);
-    TakeBackCL half([this, added] { pairs.DelItemM(added); });
-    slAddText(texts, text);
-    half.KeepM();
+    int numbers[2] = { pair[0], pair[1] };
+    CharArr own(text);
+    TakeM({ numbers, { &own } });
     return 1;
+}
+
+void PairedTextsCL::TakeM(const RowCL& row)
+{
+    const int added = pairs.AddItemM(row.numbers);
+    TakeBackCL half([this, added] { pairs.DelItemM(added); });
+    slTakeText(texts, *row.texts[0]);
+    half.KeepM();
 }
 
 void PairedTextsCL::DelAllM()

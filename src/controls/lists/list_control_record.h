@@ -26,6 +26,7 @@ inline void slCellRow(FieldVisitorCL& visitor, const RowCL& row)
 struct PANELKIT_API PairedTextsCL
 {
     int AddM(const int pair[2], const char* text); // 0, and nothing is appended, for null; else 1.
+    void TakeM(const RowCL& row);                  // The same, of the file: takes its text.
     void DelAllM();                                // Empties both lists.
     int CountM() const;                            // Of the shorter list's alive entries.
     void VisitM(FieldVisitorCL& visitor, const char* name, RowFieldsTP fields); // Shows those as rows.
@@ -67,13 +68,9 @@ public:
     static constexpr const char* Header = ListCtrlHeader;
     static constexpr std::array<SecondarySectionCL<RecordTP>, 2> Secondaries { {
         { ListCtrlTitleHeader, &slTitleRow,
-            [](RecordTP& record, const RowCL& row) {
-                record.AddTitleStringM(row.numbers, row.texts[0]->TextM());
-            } },
+            [](RecordTP& record, const RowCL& row) { record.TitlesM().TakeM(row); } },
         { ListCtrlItemHeader, &slCellRow,
-            [](RecordTP& record, const RowCL& row) {
-                record.AddItemStringM(row.numbers, row.texts[0]->TextM());
-            } },
+            [](RecordTP& record, const RowCL& row) { record.CellsM().TakeM(row); } },
     } };
 
     int InitListCtrlM(int index, DuListCtrlCL* control) const

@@ -10,8 +10,9 @@ class PANELKIT_API DVrTextListBoxCL : public RecordCL<DVrTextListBoxCL>
 {
 public:
     using RecordCL::RecordCL;
-    int AddStringM(const char* text); // Adds a line; 1. 0 for null.
-    void destroyM();                  // Drops the lines.
+    int AddStringM(const char* text);                                      // Adds a line; 1. 0 for null.
+    void TakeRowM(const RowCL& row) { slTakeText(items_, *row.texts[0]); } // The same, of the file.
+    void destroyM();                                                       // Drops the lines.
     int InitTextListBoxM(DuTextListBoxCL* control) const;
     int GiveLengthsM(DuTextListBoxCL* control) const; // The height of the lines too.
     // Adds the lines, numbered from 0, to a control with its window.
@@ -35,8 +36,7 @@ public:
     static constexpr const char* KindName = "text_list_box";
     static constexpr const char* Header = TextListBoxHeader;
     static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { TextListBoxItemHeader,
-        &slTextRow<>,
-        [](RecordTP& record, const RowCL& row) { record.AddStringM(row.texts[0]->TextM()); } } } };
+        &slTextRow<>, [](RecordTP& record, const RowCL& row) { record.TakeRowM(row); } } } };
 
     int InitTextListBoxM(int index, DuTextListBoxCL* control) const
     {

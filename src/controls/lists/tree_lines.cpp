@@ -1,4 +1,5 @@
 #include "controls/lists/tree_lines.h"
+#include "baselib/take_back.h"
 #include <unordered_map>
 #include <vector>
 
@@ -8,13 +9,18 @@ void TreeLinesCL::AddM(
     if (triple == nullptr) {
         return;
     }
-    const auto add
-        = [](VrStringArr& list, const char* what) { slAddText(list, what != nullptr ? what : ""); };
-    const int index = keys_.AddItemM(triple);
+    int numbers[3] = { triple[0], triple[1], triple[2] };
+    CharArr own[] = { CharArr(text), CharArr(normalPicture), CharArr(selectedPicture) };
+    TakeM({ numbers, { &own[0], &own[1], &own[2] } });
+}
+
+void TreeLinesCL::TakeM(const RowCL& row)
+{
+    const int index = keys_.AddItemM(row.numbers);
     TakeBackCL half([this, index] { DelItemM(index); }); // What no list has by then is deleted in none.
-    add(texts_, text);
-    add(normalPictures_, normalPicture);
-    add(selectedPictures_, selectedPicture);
+    slTakeText(texts_, *row.texts[0]);
+    slTakeText(normalPictures_, *row.texts[1]);
+    slTakeText(selectedPictures_, *row.texts[2]);
     half.KeepM();
 }
 

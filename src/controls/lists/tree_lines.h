@@ -31,8 +31,9 @@ public:
 
     // Null is an empty text; without the numbers nothing is added.
     void AddM(const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
-    void DelItemM(int index); // The line is deleted from all lists; the others keep their index.
-    void DelAllM();           // Empties all lists.
+    void TakeM(const RowCL& row); // The same, of the file: takes its texts.
+    void DelItemM(int index);     // The line is deleted from all lists; the others keep their index.
+    void DelAllM();               // Empties all lists.
     // How many lines are alive; their indexes in order, -1 behind the last.
     int GetAvailableNumM() const { return keys_.GetAvailableNumM(); }
     int GetFirstIdxM() const { return keys_.GetFirstIdxM(); }

@@ -14,9 +14,10 @@ public:
     // Appends a line. triple: parent key (0: none), own key, item data; pictures are .bmp files. Always 1.
     int AddStringM(
         const int triple[3], const char* text, const char* selectedPicture, const char* normalPicture);
-    void destroyM() { lines_.DelAllM(); }   // Empties the lines.
-    int InitTreeM(DuTreeCL* control) const; // The control may be null.
-    int InitTreeStrM(DuTreeCL* control);    // Inserts all lines from parent key 0 on into a live control.
+    void TakeRowM(const RowCL& row) { lines_.TakeM(row); } // The same, of the file.
+    void destroyM() { lines_.DelAllM(); }                  // Empties the lines.
+    int InitTreeM(DuTreeCL* control) const;                // The control may be null.
+    int InitTreeStrM(DuTreeCL* control); // Inserts all lines from parent key 0 on into a live control.
     // Inserts the lines with that parent key below the item, each followed by its own children, in order. A
     // line is used up by that, also when its pictures fail: then its children stay out. 1; 0 for a null tree.
     int genTreeM(int parentKey, _TREEITEM* parentItem, DuTreeCL* tree);
@@ -33,11 +34,9 @@ class PANELKIT_API DVrTreeArr : public RecordArr<DVrTreeCL>
 public:
     static constexpr const char* KindName = "tree";
     static constexpr const char* Header = TreeHeader;
-    static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries { { { TreeDataHeader, &slTreeRow,
-        [](RecordTP& record, const RowCL& row) {
-            record.AddStringM(
-                row.numbers, row.texts[0]->TextM(), row.texts[2]->TextM(), row.texts[1]->TextM());
-        } } } };
+    static constexpr std::array<SecondarySectionCL<RecordTP>, 1> Secondaries {
+        { { TreeDataHeader, &slTreeRow, [](RecordTP& record, const RowCL& row) { record.TakeRowM(row); } } }
+    };
 
     int InitTreeM(int index, DuTreeCL* control) const
     {

@@ -135,8 +135,9 @@ void DuSpinEditCL::DelItemM()
 
 int DuSpinEditCL::SetItemCmdM(int command)
 {
-    const int result = ControlCL::SetItemCmdM(command);
-    if (result == 1 && spinButton_.GetSafeHwnd() != nullptr) {
+    int result = 0;
+    const bool isThere = slOutlives(this, [&] { result = ControlCL::SetItemCmdM(command); });
+    if (isThere && result == 1 && spinButton_.GetSafeHwnd() != nullptr) {
         if (command == 1 || command == 2) {
             spinButton_.EnableWindow(command == 1);
         } else if (command == 3 || command == 4) {

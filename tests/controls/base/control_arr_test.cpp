@@ -120,3 +120,33 @@ TEST(ControlArr, ACopyFindsItsOwnControls)
     EXPECT_EQ(foundSlot(copy, 1), -1);
     EXPECT_EQ(foundSlot(labels, 1), 0);
 }
+
+TEST(ControlArr, WhatStandsInGoesWithTheElementsThatAnotherArrayReplaces)
+{
+    class ToldCL : public DuLabelCL
+    {
+    public:
+        explicit ToldCL(bool* isGone)
+            : isGone_(isGone)
+        {
+        }
+        ~ToldCL() override { *isGone_ = true; }
+
+    private:
+        bool* isGone_;
+    };
+    bool isGone = false;
+    DuLabelArr labels;
+    labels.AddItemM(label(1));
+    labels.StandInM(0, std::make_unique<ToldCL>(&isGone));
+    DuLabelArr& same = labels;
+    labels = same;
+    EXPECT_FALSE(isGone);
+    EXPECT_NE(&labels.ControlAtM(0), &labels.ElementAtM(0));
+    DuLabelArr other;
+    other.AddItemM(label(2));
+    labels = other;
+    EXPECT_TRUE(isGone);
+    EXPECT_EQ(&labels.ControlAtM(0), &labels.ElementAtM(0));
+    EXPECT_EQ(foundSlot(labels, 2), 0);
+}

@@ -154,6 +154,8 @@ TEST(ControlCommon, UpdatePositionTruncatesTowardZero)
     EXPECT_EQ(described(control), "10 -3 5 0");
     control.UpdatePositionM(1e30F, -1e30F, NAN, 0);
     EXPECT_EQ(described(control), "2147483647 -2147483648 0 0");
+    control.UpdatePositionM(2147483648.0F, -2147483648.0F, 2147483520.0F, -2147484160.0F);
+    EXPECT_EQ(described(control), "2147483647 -2147483648 2147483520 -2147483648");
 }
 
 TEST(ControlCommon, UpdatePositionFromTheWindowStoresZerosInsideTheParent)

@@ -79,7 +79,7 @@ TEST(SavedValue, ThatIsNoneOfItsKindIsRefused)
     for (const char* text : { "", "x", "1x", " 1", "1 ", "+1", "1.5", "2147483648", "0x10" }) {
         EXPECT_EQ(again(text, NumberPart), "-") << text;
     }
-    for (const char* text : { "", "x", "1,5", "1.5 ", " 1.5", "1e99" }) {
+    for (const char* text : { "", "x", "-", "--1", "-+1", "+1", "1,5", "1.5 ", " 1.5", "1e99" }) {
         EXPECT_EQ(again(text, RealPart), "-") << text;
     }
     for (const char* text : { "1.5", "1.5 ", "1.5 x", " 3", "1.5 3 4" }) {
@@ -192,6 +192,21 @@ TEST(ValueText, IsCutBetweenCharacters)
         EXPECT_EQ(buffer, size > 6 ? ChineseUtf8 + ChineseUtf8 : size > 3 ? ChineseUtf8 : "") << size;
     }
 }
+
+#ifdef _WIN32
+TEST(ValueText, OfSixteenBitsIsCutBetweenCharactersToo)
+{
+    wchar_t buffer[4] = L"";
+    EXPECT_EQ(ValueTextCL(L"a\xD83D\xDE00").WideM(buffer, 3), 4); // One character of two units.
+    EXPECT_STREQ(buffer, L"a");
+    EXPECT_EQ(ValueTextCL(L"a\xE000z").WideM(buffer, 2), 4);
+    EXPECT_STREQ(buffer, L"a");
+    EXPECT_EQ(ValueTextCL(L"ab\xE000").WideM(buffer, 3), 4);
+    EXPECT_STREQ(buffer, L"ab");
+    EXPECT_EQ(ValueTextCL(L"ab\xDBFF\xDFFF").WideM(buffer, 4), 5);
+    EXPECT_STREQ(buffer, L"ab");
+}
+#endif
 
 TEST(ValueText, OfANullPointerIsNone)
 {

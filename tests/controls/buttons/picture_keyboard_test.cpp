@@ -138,6 +138,14 @@ TEST_F(PictureKeyboardTest, SpaceAndEnterPressABitmapButtonAsTheMouseDoes)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_F(PictureKeyboardTest, ArrowsLeaveABitmapButtonAsTheyLeaveEveryButton)
+{
+    dialog_.SetPictureKeyboardM(true);
+    dialog_.StartAtM(2);
+    KeyM(VK_DOWN);
+    EXPECT_NE(ShownDialogCL::FocusedIdM(), 2);
+}
+
 TEST_F(PictureKeyboardTest, APressThatLosesTheFocusIsNoClick)
 {
     dialog_.SetPictureKeyboardM(true);

@@ -32,7 +32,8 @@ TEST(ListBoxKeys, SpaceDoesNothingWhereThereIsNoLine)
         SCOPED_TRACE(mode);
         ShownDialogCL dialog(HeaderSections
             + ("[文本列表框]\n1\n0\n1 11 10 10 90 80 14 " + std::string(mode)
-                + " 1 255 255 255 0\n[图片列表框]\n1\n0\n2 12 110 10 60 60 2 1 2 " + mode + "\n"));
+                + " 1 255 255 255 0\n[文本列表框初始值]\n0\n0\n[图片列表框]\n1\n0\n2 12 110 10 60 60 2 1 2 "
+                + mode + "\n[图片列表框位图]\n0\n0\n"));
         for (const int id : { 11, 12 }) {
             dialog.StartAtM(id);
             ClickM(dialog.ItemM(id), 20, 20);
@@ -55,6 +56,30 @@ TEST(ListBoxKeys, SpaceSelectsALineAndTakesThatBack)
     EXPECT_TRUE(PumpUntil([&] { return ::SendMessageW(dialog.ItemM(11), LB_GETSEL, 0, 0) > 0; }));
     KeyM(VK_SPACE);
     EXPECT_TRUE(PumpUntil([&] { return ::SendMessageW(dialog.ItemM(11), LB_GETSEL, 0, 0) == 0; }));
+}
+
+namespace {
+
+int questions = 0;
+
+LRESULT CALLBACK countQuestions(int code, WPARAM wParam, LPARAM lParam)
+{
+    questions += reinterpret_cast<const CWPSTRUCT*>(lParam)->message == EM_GETSEL ? 1 : 0;
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+// Once the guard asked whatever message came, its own question too, until the system had enough.
+TEST_F(ComboFieldTest, IsAskedForItsSelectionOnlyWhereThatMatters)
+{
+    const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROC, countQuestions, nullptr, ::GetCurrentThreadId());
+    questions = 0;
+    ::SendMessageW(field, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(questions, 0);
+    ::SendMessageW(field, WM_CHAR, 'x', 1);
+    EXPECT_EQ(questions, 1);
+    ::UnhookWindowsHookEx(hook);
 }
 
 TEST_F(ComboFieldTest, NothingIsInsertedBeforeATextThatIsTooWide)

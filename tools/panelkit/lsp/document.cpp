@@ -187,6 +187,9 @@ std::filesystem::path pathOfUri(const std::string& uri)
     if (path.size() > 2 && path[2] == ':') {
         path.erase(0, 1); // "/c:/panels".
     }
-#endif
+    const std::u16string wide = slUtf8ToUtf16(path); // Takes what is no UTF-8 too.
+    return std::wstring(wide.begin(), wide.end());
+#else
     return std::filesystem::u8path(path);
+#endif
 }

@@ -1,18 +1,32 @@
 #include "inbox.h"
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 namespace {
 
 constexpr std::size_t MostBytes = std::size_t { 1 } << 28; // More is no message.
+constexpr int MostLevels = 200; // The same: copies and answers go down level by level, each on the stack.
+
+// Discarded for what is no message.
+JsonTP parsed(const std::string& body)
+{
+    bool isTooDeep = false;
+    JsonTP message = JsonTP::parse(
+        body,
+        [&isTooDeep](int level, JsonTP::parse_event_t, JsonTP&) {
+            isTooDeep = isTooDeep || level > MostLevels;
+            return !isTooDeep;
+        },
+        false);
+    return isTooDeep ? JsonTP(JsonTP::value_t::discarded) : message;
+}
 
 // A line of a message's head without its end; false at the end of the input.
-bool readHeadLine(std::string* line)
+bool readHeadLine(std::FILE* client, std::string* line)
 {
     line->clear();
     constexpr std::size_t MostInLine = 4096;
-    for (int byte = std::getchar(); byte != EOF; byte = std::getchar()) {
+    for (int byte = std::getc(client); byte != EOF; byte = std::getc(client)) {
         if (byte == '\n') {
             if (!line->empty() && line->back() == '\r') {
                 line->pop_back();
@@ -26,14 +40,14 @@ bool readHeadLine(std::string* line)
     return false;
 }
 
-bool readBody(std::string* body)
+bool readBody(std::FILE* client, std::string* body)
 {
     constexpr const char Length[] = "content-length:";
     std::size_t length = 0;
-    for (std::string line; readHeadLine(&line);) {
+    for (std::string line; readHeadLine(client, &line);) {
         if (line.empty() && length > 0) {
             body->resize(length);
-            return std::fread(body->data(), 1, length, stdin) == length;
+            return std::fread(body->data(), 1, length, client) == length;
         }
         std::string name = line.substr(0, sizeof Length - 1);
         for (char& letter : name) {
@@ -51,15 +65,16 @@ bool readBody(std::string* body)
 
 } // namespace
 
-InboxCL::InboxCL()
-    : thread_([this] { readM(); })
+InboxCL::InboxCL(std::FILE* client)
+    : client_(client)
+    , thread_([this] { readM(); })
 {
 }
 
 void InboxCL::readM()
 {
-    for (std::string body; readBody(&body);) {
-        JsonTP message = JsonTP::parse(body, nullptr, false);
+    for (std::string body; readBody(client_, &body);) {
+        JsonTP message = parsed(body);
         const bool isLast = message.is_object() && message.value("method", JsonTP()) == "exit";
         const std::lock_guard<std::mutex> lock(mutex_);
         messages_.push_back(std::move(message));

@@ -1,16 +1,16 @@
 #pragma once
 #include "json.h"
 #include <condition_variable>
+#include <cstdio>
 #include <deque>
 #include <mutex>
 #include <thread>
 
-// The client's messages from standard input, read on a thread of its own: who answers can see whether more
-// has come already.
+// The client's messages, read on a thread of its own: who answers can see whether more has come already.
 class InboxCL
 {
 public:
-    InboxCL();
+    explicit InboxCL(std::FILE* client); // Must stay open as long as the inbox.
     InboxCL(const InboxCL&) = delete;
     InboxCL& operator=(const InboxCL&) = delete;
     ~InboxCL() { thread_.join(); }
@@ -24,6 +24,7 @@ public:
 private:
     void readM();
 
+    std::FILE* client_;
     std::mutex mutex_;
     std::condition_variable arrival_;
     std::deque<JsonTP> messages_;

@@ -12,7 +12,7 @@ int lspCommand(const std::string& language)
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
-    InboxCL inbox;
+    InboxCL inbox(stdin);
     ServerCL server(language);
     JsonTP message;
     for (;;) {
