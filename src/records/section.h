@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -191,13 +192,17 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
     if (status != SectionStatus::Read) {
         return status;
     }
-    RecordArrTP before; // Entries may be for records that were there already.
+    std::optional<RecordArrTP> before; // Entries may be for records that were there already.
     if (records.GetBoundM() > 0) {
-        before = records;
+        before.emplace() = records;
     }
     TakeBackCL half([&records, &before, count] {
         *count = 0;
-        records.SwapListM(before);
+        if (before) {
+            records.SwapListM(*before);
+        } else {
+            records.DelAllM();
+        }
     });
     const int firstNew = slMakeRoom(records, *count);
     section.PoolTextsM();
