@@ -101,11 +101,7 @@ protected:
     T* getCurrentItemPrtM();
     const T* getCurrentItemPrtM() const;
     // For lists that fill slots of the store themselves: both at most the length.
-    void setCountsM(int bound, int available)
-    {
-        bound_ = bound;
-        available_ = available;
-    }
+    void setCountsM(int bound, int available);
 
 private:
     enum

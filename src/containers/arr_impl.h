@@ -227,6 +227,12 @@ template <class T> const T* Arr<T>::getCurrentItemPrtM() const
     return heapStore_ != nullptr ? static_cast<const T*>(heapStore_) : inlineStore_.slots;
 }
 
+template <class T> void Arr<T>::setCountsM(int bound, int available)
+{
+    bound_ = bound;
+    available_ = available;
+}
+
 template <class T> T& Arr<T>::spareM()
 {
     return *static_cast<T*>(ArrElementsOf<T>.spare());

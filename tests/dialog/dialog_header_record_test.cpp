@@ -60,6 +60,20 @@ TEST(DialogHeader, MissingEitherSectionChangesNothing)
     EXPECT_EQ(header.fontOption, 77);
 }
 
+TEST(DialogHeader, NothingStaysOfTheOneReadBefore)
+{
+    DialogHeaderCL header;
+    ASSERT_EQ(read("[版本号]\n1\n[对话框]\n0\n1 2\n3 4\n1\nt\n12 2 4\nb\n", header), 1);
+    ASSERT_EQ(read("[版本号]\n1\n[对话框]\n0\n5 6\n", header), 1);
+    const DialogHeaderCL fresh;
+    EXPECT_EQ(header.position[1], 6);
+    EXPECT_EQ(header.size[0], fresh.size[0]);
+    EXPECT_EQ(header.titleFlag, fresh.titleFlag);
+    EXPECT_EQ(header.fontOption, fresh.fontOption);
+    EXPECT_EQ(header.borderKind, fresh.borderKind);
+    EXPECT_STREQ(header.background.TextM(), "");
+}
+
 TEST(DialogHeader, NullWordsMeanEmptyAndOtherSpellingsStay)
 {
     EXPECT_STREQ(withTitleAndPicture("NULL", "NULL").title.TextM(), "");

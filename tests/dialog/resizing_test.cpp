@@ -183,6 +183,8 @@ TEST(Resizing, NothingMakesItSmallerThanTheFileSays)
     dialog.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     EXPECT_EQ(limits.ptMinTrackSize.x, least.cx);
     EXPECT_EQ(limits.ptMinTrackSize.y, least.cy);
+    EXPECT_GE(limits.ptMaxTrackSize.x, least.cx); // However small the screen is.
+    EXPECT_GE(limits.ptMaxTrackSize.y, least.cy);
     EXPECT_EQ(dialog.ResizeM(10, -7), 1);
     EXPECT_EQ(dialog.PlaceM(12), "100 10 80 22");
 }
@@ -332,7 +334,8 @@ TEST(Resizing, WhatPaintsItselfIsNotErasedBefore)
 
 TEST(Resizing, OnAnotherContextEverythingIsErased)
 {
-    ResizedDialogCL dialog(everyKind("") + bindings());
+    const SmallPictureCL picture(0x0000FF, 20, 20);
+    ResizedDialogCL dialog(everyKind(picture.path()) + bindings());
     dialog.ShowM();
     CRect client;
     dialog.GetClientRect(&client);

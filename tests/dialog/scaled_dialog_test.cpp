@@ -204,6 +204,36 @@ TEST(ScaledDialog, EdgesAndTheClientAreaAreScaledAndCaptionsStayWhole)
     }
 }
 
+TEST(ScaledDialog, TextsThatJustFitStayWholeInASmallerFont)
+{
+    int smaller = 0;
+    for (const int height : { 9, 10, 11, 13 }) {
+        std::string text = HeaderSections;
+        text.replace(text.find("\n14 "), 4, "\n" + std::to_string(height) + " ");
+        text += "[标题]\n24\n0\n";
+        for (int i = 0; i < 24; ++i) { // Of widths at which the words stand in two lines or no longer.
+            text += "1 " + std::to_string(11 + i) + " " + std::to_string(i % 4 * 100) + " "
+                + std::to_string(i / 4 * 42) + " " + std::to_string(4 * height + 2 * i) + " "
+                + std::to_string(5 * height / 2) + " 1\nwords in a row\n0 255 255 255\n";
+        }
+        const DescriptionFileCL file(text);
+        ScaledDialogCL plain(file.path());
+        const std::set<int> wholeBefore = wholeCaptions(plain);
+        EXPECT_GT(wholeBefore.size(), 5U) << height;
+        for (const int percent : { 125, 150, 175 }) {
+            ScaledDialogCL scaled(file.path(), percent);
+            const std::set<int> wholeNow = wholeCaptions(scaled);
+            for (const int number : wholeBefore) {
+                EXPECT_EQ(wholeNow.count(number), 1U) << height << ' ' << percent << ' ' << number;
+            }
+            const int font = -fontHeight(scaled.GetDlgItem(11)->m_hWnd);
+            EXPECT_LE(font, ScaleCL(percent).SizeM(height));
+            smaller += font < ScaleCL(percent).SizeM(height) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(smaller, 0);
+}
+
 TEST(ScaledDialog, AFontWithoutAHeightIsThatOfTheSystemScaled)
 {
     std::string text = std::string(HeaderSections) + "[标准按钮]\n1\n0\n4 14 20 100 101 25\nok\n0\n";
