@@ -28,12 +28,13 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
 {
     const char* const bytes = bytes_.get();
     if (lineStarts_.empty()) {
-        lineStarts_.push_back(0);
+        std::vector<std::size_t> starts { 0 };
         for (const char *at = bytes, *end = bytes + size_;
              (at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at))))
              != nullptr;) {
-            lineStarts_.push_back(static_cast<std::size_t>(++at - bytes));
+            starts.push_back(static_cast<std::size_t>(++at - bytes));
         }
+        lineStarts_ = std::move(starts); // All of them or none: there may be no memory.
     }
     offset = std::min(offset, size_);
     // Mostly asked for in rising order: in growing steps from the last one on.
@@ -74,16 +75,18 @@ PlaceCL FileTextCL::PlaceM(std::size_t offset) const
 
 void FileTextCL::findHeadersM() const
 {
-    hasHeaders_ = true;
+    std::vector<std::size_t> headers;
     const char* const end = bytes_.get() + size_;
     CharacterStartsCL starts(bytes_.get());
     for (const char* at = bytes_.get();
          (at = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at)))) != nullptr;
          ++at) {
         if (starts.IsStartM(at, end)) {
-            headers_.push_back(static_cast<std::size_t>(at - bytes_.get()));
+            headers.push_back(static_cast<std::size_t>(at - bytes_.get()));
         }
     }
+    headers_ = std::move(headers); // All of them or none: there may be no memory.
+    hasHeaders_ = true;
 }
 
 std::size_t FileTextCL::HeaderEndM(std::string_view header) const

@@ -4,6 +4,7 @@
 #include "baselib/path.h"
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -37,6 +38,8 @@ void VrIOCL::OpenM(const char* path, const char* mode)
     if (path == nullptr || (!reading && !writing)) {
         return;
     }
+    CharArr directory; // Before the file, which is not to be left half open.
+    directory.SetM(path, directoryLength(path));
     if (reading) {
         std::size_t size = 0;
         if (auto bytes = slReadFile(path, &size)) {
@@ -47,21 +50,22 @@ void VrIOCL::OpenM(const char* path, const char* mode)
     }
     if (IsOpenM()) {
         binary_ = wanted.size() == 2;
-        directory_.SetM(path, directoryLength(path));
+        directory_ = std::move(directory);
     }
 }
 
 void VrIOCL::OpenM(std::shared_ptr<const FileTextCL> text, const char* path)
 {
     CloseM();
-    text_ = std::move(text);
-    if (text_ != nullptr) {
-        data_ = text_->BytesM();
-        size_ = text_->SizeM();
-        if (path != nullptr) {
-            directory_.SetM(path, directoryLength(path));
-        }
+    if (text == nullptr) {
+        return;
     }
+    if (path != nullptr) {
+        directory_.SetM(path, directoryLength(path));
+    }
+    text_ = std::move(text);
+    data_ = text_->BytesM();
+    size_ = text_->SizeM();
 }
 
 void VrIOCL::CloseM()

@@ -1,4 +1,5 @@
 #include "baselib/message_catalogue.h"
+#include "baselib/take_back.h"
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
@@ -74,14 +75,18 @@ bool isUtf8(std::string_view header)
 
 bool MessageCatalogueCL::ReadM(std::string bytes)
 {
-    translations_.clear();
-    bytes_ = std::move(bytes);
-    if (!fillM()) {
+    const auto empty = [this] {
         translations_.clear();
         bytes_.clear();
-        return false;
+    };
+    empty();
+    TakeBackCL half(empty);
+    bytes_ = std::move(bytes);
+    const bool isRead = fillM();
+    if (isRead) {
+        half.KeepM();
     }
-    return true;
+    return isRead;
 }
 
 bool MessageCatalogueCL::fillM()

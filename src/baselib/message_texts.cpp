@@ -135,7 +135,8 @@ bool slSetMessageTemplate(int id, const std::u16string* text)
     if (text == nullptr) {
         replaced.texts.erase(id);
     } else {
-        replaced.texts[id] = *text;
+        replaced.texts.insert_or_assign(
+            id, std::u16string(*text)); // The text first: a box without one says nothing.
     }
     return true;
 }

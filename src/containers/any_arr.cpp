@@ -1,6 +1,7 @@
 #include "containers/any_arr.h"
 #include "baselib/helpers.h"
 #include "baselib/io.h"
+#include "baselib/take_back.h"
 #include "containers/arr_slots.h"
 #include "containers/int_arr.h"
 #include <algorithm>
@@ -28,11 +29,12 @@ void inputElements(ArrSlotsCL& slots, VrIOCL* io, int n, const ArrElementsCL& el
         slots.BaseM(k).SetDeleteTagM(DeletedTag);
     }
     slots.CountsM().bound = n;
+    TakeBackCL half([&slots] { slots.DelAllVirtualM(); });
     for (int read = 0; read < n; ++read) {
         int k = read;
         if (!io->IsBinaryM()) {
             if (io->InputDM(&k) == 0) {
-                return;
+                break;
             }
             io->SkipLineM();
         }
@@ -43,6 +45,7 @@ void inputElements(ArrSlotsCL& slots, VrIOCL* io, int n, const ArrElementsCL& el
             ++slots.CountsM().available;
         }
     }
+    half.KeepM();
 }
 
 } // namespace
@@ -188,15 +191,11 @@ int AnyArrCL::InsertItemM(void* arr, const void* item, int i, const ArrElementsC
     if (counts.bound == counts.length && slots.AddSizeM(counts.increment) == 0) {
         return 0;
     }
-    if (own == counts.bound) { // The item lies in the slot at the bound.
-        slots.WithFreshM([&](void* overwritten) {
-            slots.CopyM(slots.SlotM(own), 1, overwritten);
-            slots.InsertWithinM(overwritten, i);
-            slots.LetGoM(overwritten, 1);
-        });
-    } else {
-        slots.InsertWithinM(own < 0 ? item : slots.SlotM(own < i || own > counts.bound ? own : own + 1), i);
-    }
+    slots.WithFreshM([&](void* copy) {
+        slots.CopyM(own < 0 ? item : slots.SlotM(own), 1, copy);
+        slots.InsertWithinM(copy, i);
+        slots.LetGoM(copy, 1);
+    });
     ++counts.bound;
     if (slots.BaseM(i).IsAliveM()) {
         ++counts.available;
@@ -210,6 +209,13 @@ int AnyArrCL::MergeM(void* arr, const void* other, const ArrElementsCL& elements
     ArrSlotsCL from(other, elements);
     ArrCountsCL& counts = slots.CountsM();
     const int otherBound = from.CountsM().bound; // Merging an array with itself moves its bound.
+    TakeBackCL half([&slots, &counts, bound = counts.bound, available = counts.available] {
+        for (int k = bound; k < std::min(counts.bound + 1, counts.length); ++k) {
+            slots.BaseM(k).SetDeleteTagM(DeletedTag);
+        }
+        counts.bound = bound;
+        counts.available = available;
+    });
     if (slots.AddSizeM(from.CountsM().available - counts.length + counts.bound) == 0) {
         return 0;
     }
@@ -225,6 +231,7 @@ int AnyArrCL::MergeM(void* arr, const void* other, const ArrElementsCL& elements
         ++counts.bound;
         ++counts.available;
     }
+    half.KeepM();
     return 1;
 }
 
@@ -303,6 +310,11 @@ int AnyArrCL::SwapM(void* arr, int i, int j, const ArrElementsCL& elements)
         slots.CopyM(temporary, 1, slots.SlotM(j));
     });
     return 1;
+}
+
+void AnyArrCL::SwapListM(void* arr, void* other, const ArrElementsCL& elements) noexcept
+{
+    ArrSlotsCL(arr, elements).SwapListM(ArrSlotsCL(other, elements));
 }
 
 int AnyArrCL::GetItemM(const void* arr, void* out, int i, const ArrElementsCL& elements)

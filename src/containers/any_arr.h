@@ -31,6 +31,7 @@ public:
     static int PurgeDeletedItemM(void* arr, const ArrElementsCL& elements);
     static int PurgeAllM(void* arr, IntArr* remap, const ArrElementsCL& elements);
     static int SwapM(void* arr, int i, int j, const ArrElementsCL& elements);
+    static void SwapListM(void* arr, void* other, const ArrElementsCL& elements) noexcept;
 
     static int GetItemM(const void* arr, void* out, int i, const ArrElementsCL& elements);
     static int GetNextM(const void* arr, void* out, int* idx, int from, const ArrElementsCL& elements);

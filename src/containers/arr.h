@@ -14,7 +14,8 @@ class IntArr;
 // the result is 1 unless said otherwise. A null pointer is refused unless said otherwise: nothing happens and
 // the result is 0, or null, or -1 where an index is reported.
 // When there is no memory, or a store would reach 2 GB, what needed it changes nothing and reports 0 (-1
-// where an index is reported).
+// where an index is reported). An element that finds none for what it holds itself throws std::bad_alloc: the
+// items are then what they were; only purging may have moved some of them already.
 //
 // The slots at or above the bound are outside the array but keep whatever they held, tags included; storing
 // over one that is still alive doesn't count as one more available item.
@@ -35,7 +36,8 @@ public:
     Arr& operator=(const Arr& other);
 
     // A list as FmOutputEvrLstM wrote it replaces the items. A count of 0 or less, or one beyond the bytes
-    // left, leaves them; one there is no memory for only deletes them. Elements with an index outside the
+    // left, leaves them; one there is no memory for only deletes them (and throws, where it is an element
+    // that found none). Elements with an index outside the
     // list are read and dropped.
     virtual void FmInputEvrLstM(VrIOCL* io);
     // Writes every slot below the bound, alive or deleted. The name (GBK, may be null) only labels the text
@@ -73,7 +75,8 @@ public:
     // was not alive. A heap store whose items now fit inside the object is released, its elements not
     // destroyed: they were moved.
     int PurgeAllM(IntArr* remap);
-    int SwapM(int i, int j); // 0 when either is outside the array.
+    int SwapM(int i, int j);             // 0 when either is outside the array.
+    void SwapListM(Arr& other) noexcept; // Both hold what the other held; needs no memory.
 
     int GetItemM(T* out, int i) const; // Outside the array: out is marked deleted.
     const T* GetItemPM(int i) const;   // Alive or not; null outside the array. The array keeps it.

@@ -152,6 +152,11 @@ template <class T> int Arr<T>::SwapM(int i, int j)
     return AnyArrCL::SwapM(this, i, j, ArrElementsOf<T>);
 }
 
+template <class T> void Arr<T>::SwapListM(Arr& other) noexcept
+{
+    AnyArrCL::SwapListM(this, &other, ArrElementsOf<T>);
+}
+
 template <class T> int Arr<T>::GetItemM(T* out, int i) const
 {
     return AnyArrCL::GetItemM(this, out, i, ArrElementsOf<T>);

@@ -1,10 +1,12 @@
 #include "containers/arr_slots.h"
 #include "baselib/helpers.h"
 #include "baselib/moved_bytes.h"
+#include "baselib/take_back.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -47,6 +49,47 @@ bool dropBlock(void* elements)
 
 } // namespace
 
+// A block whose elements are being made, from one of them on. Unless it is taken, it is freed with those made
+// so far.
+class ArrSlotsCL::FreshBlockCL
+{
+public:
+    FreshBlockCL(const ArrSlotsCL& slots, std::int64_t count, int first = 0)
+        : slots_(slots)
+        , elements_(allocateBlock(count, slots.elements_.size))
+        , first_(first)
+        , end_(first)
+    {
+    }
+    FreshBlockCL(const FreshBlockCL&) = delete;
+    FreshBlockCL& operator=(const FreshBlockCL&) = delete;
+    ~FreshBlockCL()
+    {
+        if (elements_ != nullptr) {
+            while (end_ > first_) {
+                slots_.BaseM(slots_.AtM(elements_, --end_)).~VrBaseCL();
+            }
+            freeBlock(elements_);
+        }
+    }
+
+    bool IsThereM() const { return elements_ != nullptr; }
+    void* ElementsM() const { return elements_; }
+    void MakeM(int n) // So many more.
+    {
+        for (; n > 0; --n, ++end_) {
+            slots_.elements_.construct(slots_.AtM(elements_, end_));
+        }
+    }
+    void* TakeM() { return std::exchange(elements_, nullptr); }
+
+private:
+    const ArrSlotsCL& slots_;
+    void* elements_;
+    int first_;
+    int end_;
+};
+
 void ArrSlotsCL::ShareM(void* heapStore)
 {
     ++ownersOf(heapStore);
@@ -75,11 +118,29 @@ int ArrSlotsCL::GetNextIdxM(int from)
     return -1;
 }
 
+void ArrSlotsCL::ExchangeM(void* one, void* other, int n) const
+{
+    char between[256];
+    for (std::size_t at = 0, size = 0; at < BytesM(n); at += size) {
+        size = std::min(sizeof between, BytesM(n) - at);
+        char* const here = static_cast<char*>(one) + at;
+        char* const there = static_cast<char*>(other) + at;
+        const auto move = [size](const char* from, char* to) {
+            std::memmove(to, from, size); // A list may be exchanged with itself.
+            slTellMovedBytes(from, size, to);
+        };
+        move(here, between);
+        move(there, here);
+        move(between, there);
+    }
+}
+
 void ArrSlotsCL::BeginM(int n)
 {
-    if (void* const block = allocateBlock(n, elements_.size)) {
-        ConstructM(block, n);
-        *heapStore_ = block;
+    FreshBlockCL block(*this, n);
+    if (block.IsThereM()) {
+        block.MakeM(n);
+        *heapStore_ = block.TakeM();
         counts_.length = n;
     }
 }
@@ -87,27 +148,50 @@ void ArrSlotsCL::BeginM(int n)
 void ArrSlotsCL::AssignM(ArrSlotsCL other)
 {
     const ArrCountsCL from = other.counts_;
-    void* block = nullptr;
-    if (from.length > InlineLength) {
-        block = allocateBlock(std::int64_t { InlineLength } + from.length, elements_.size);
-        if (block == nullptr) {
-            return;
-        }
+    if (from.length <= InlineLength) {
+        assignFewM(other, 0);
+        return;
+    }
+    FreshBlockCL block(*this, std::int64_t { InlineLength } + from.length);
+    if (!block.IsThereM()) {
+        return;
+    }
+    block.MakeM(InlineLength + from.length);
+    if (elements_.copiesFirst) {
+        CopyM(other.SlotsM(), from.bound, block.ElementsM());
     }
     if (*heapStore_ != nullptr && *heapStore_ == *other.heapStore_) {
         LetGoM(inlineStore_, InlineLength); // Deleting the items would delete those about to be copied.
         returnToInlineM();
     }
     DelAllM();
-    if (block != nullptr) {
-        ConstructM(block, InlineLength + from.length);
-        *heapStore_ = block;
-        counts_.length = InlineLength + from.length;
+    *heapStore_ = block.TakeM();
+    counts_ = from;
+    counts_.length = InlineLength + from.length;
+    if (!elements_.copiesFirst) {
+        CopyM(other.SlotsM(), from.bound, SlotsM());
     }
-    CopyM(other.SlotsM(), from.bound, SlotsM());
-    counts_.available = from.available;
-    counts_.bound = from.bound;
-    counts_.increment = from.increment;
+}
+
+// Assigns an array without a heap store. Copies of its items from i on wait until all are there: none
+// replaces anything before.
+void ArrSlotsCL::assignFewM(ArrSlotsCL& other, int i)
+{
+    const ArrCountsCL from = other.counts_;
+    if (elements_.copiesFirst && i < from.bound) {
+        WithFreshM([&](void* copy) {
+            CopyM(other.SlotM(i), 1, copy);
+            assignFewM(other, i + 1);
+            ExchangeM(copy, SlotM(i), 1);
+            LetGoM(copy, 1);
+        });
+        return;
+    }
+    DelAllM();
+    if (!elements_.copiesFirst) {
+        CopyM(other.SlotsM(), from.bound, SlotsM());
+    }
+    counts_ = from;
 }
 
 int ArrSlotsCL::AddSizeM(int n)
@@ -116,24 +200,25 @@ int ArrSlotsCL::AddSizeM(int n)
         return 1;
     }
     const int length = counts_.length;
-    void* const block = allocateBlock(std::int64_t { length } + n, elements_.size);
-    if (block == nullptr) {
+    void* const before = *heapStore_;
+    const bool isMoving = before != nullptr && ownersOf(before) == 1;
+    FreshBlockCL fresh(*this, std::int64_t { length } + n, isMoving ? length : 0);
+    if (!fresh.IsThereM()) {
         return 0;
     }
-    void* const before = *heapStore_;
-    if (before != nullptr && ownersOf(before) == 1) {
+    void* const block = fresh.ElementsM();
+    fresh.MakeM(isMoving ? n : length + n);
+    if (isMoving) {
         std::memcpy(block, before, BytesM(length));
         slTellMovedBytes(before, BytesM(length), block);
         freeBlock(before);
     } else {
         // Inline elements live on until the array dies, those of a shared block until its other owners go.
-        ConstructM(block, length);
         CopyM(SlotsM(), length, block);
         DropHeapStoreM();
     }
-    ConstructM(AtM(block, length), n);
     counts_.length += n;
-    *heapStore_ = block;
+    *heapStore_ = fresh.TakeM();
     return 1;
 }
 
@@ -151,16 +236,33 @@ int ArrSlotsCL::SetItemM(const void* item, int i)
             item = SlotM(own);
         }
     }
-    counts_.bound = std::max(counts_.bound, i + 1);
     char* const slot = SlotM(i);
-    if (!BaseM(slot).IsAliveM() && BaseM(item).IsAliveM()) {
+    const char before = BaseM(slot).GetDeleteTagM();
+    if (elements_.copiesFirst && i < counts_.bound) {
+        replaceM(slot, item);
+    } else {
+        TakeBackCL half([this, slot, before] { BaseM(slot).SetDeleteTagM(before); });
+        elements_.assign(slot, item);
+        half.KeepM();
+    }
+    counts_.bound = std::max(counts_.bound, i + 1);
+    if (before != AliveTag && BaseM(slot).IsAliveM()) {
         ++counts_.available;
     }
-    elements_.assign(slot, item);
     return 1;
 }
 
-void ArrSlotsCL::InsertWithinM(const void* item, int i)
+// An element that finds no memory may have taken half of another.
+void ArrSlotsCL::replaceM(void* slot, const void* item)
+{
+    WithFreshM([&](void* copy) {
+        elements_.assign(copy, item);
+        ExchangeM(copy, slot, 1);
+        LetGoM(copy, 1);
+    });
+}
+
+void ArrSlotsCL::InsertWithinM(void* copy, int i)
 {
     const int bound = counts_.bound;
     LetGoM(SlotM(bound), 1);
@@ -169,7 +271,11 @@ void ArrSlotsCL::InsertWithinM(const void* item, int i)
     std::memmove(SlotM(i + 1), SlotM(i), moved);
     slTellMovedBytes(SlotM(i), moved, SlotM(i + 1));
     ConstructM(SlotM(i), 1);
-    elements_.assign(SlotM(i), item);
+    if (elements_.copiesFirst) {
+        ExchangeM(copy, SlotM(i), 1);
+    } else {
+        elements_.assign(SlotM(i), copy);
+    }
 }
 
 void ArrSlotsCL::DelItemM(int i)
@@ -228,6 +334,13 @@ void ArrSlotsCL::DropHeapStoreM()
         freeBlock(store);
     }
     *heapStore_ = nullptr;
+}
+
+void ArrSlotsCL::SwapListM(ArrSlotsCL other)
+{
+    ExchangeM(inlineStore_, other.inlineStore_, InlineLength);
+    std::swap(*heapStore_, *other.heapStore_);
+    std::swap(counts_, other.counts_);
 }
 
 // An empty array on its inline store, whose old items must not count as alive again. Nothing to do without a

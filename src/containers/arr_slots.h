@@ -37,6 +37,7 @@ public:
     {
         return static_cast<char*>(slots) + static_cast<std::size_t>(i) * elements_.size;
     }
+    const char* AtM(const void* slots, int i) const { return AtM(const_cast<void*>(slots), i); }
     char* SlotM(int i) { return AtM(SlotsM(), i); }
     std::size_t BytesM(int n) const { return static_cast<std::size_t>(n) * elements_.size; }
 
@@ -54,12 +55,13 @@ public:
             elements_.construct(AtM(slots, k));
         }
     }
-    void CopyM(void* from, int n, void* to) const
+    void CopyM(const void* from, int n, void* to) const
     {
         for (int k = 0; k < n; ++k) {
             elements_.assign(AtM(to, k), AtM(from, k));
         }
     }
+    void ExchangeM(void* one, void* other, int n) const; // By their bytes: needs no memory.
     void DeleteM(void* slot) const { elements_.deleteItem(slot); }
     void WithFreshM(CallRefCL<void(void* fresh)> use) const
     {
@@ -87,14 +89,18 @@ public:
     void AssignM(ArrSlotsCL other);
     int AddSizeM(int n);
     int SetItemM(const void* item, int i);
-    void InsertWithinM(const void* item, int i); // Before an item of an array that has room for one more.
+    void InsertWithinM(void* copy, int i); // Before an item of an array that has room for one more.
     void DelItemM(int i);
     void DelAllVirtualM();
     void DelAllM();
     void MoveInlineM(int n); // The first n items of a heap store, which is released.
     void DropHeapStoreM();   // Its last owner destroys the elements. The other members stay.
+    void SwapListM(ArrSlotsCL other);
 
 private:
+    class FreshBlockCL;
+    void assignFewM(ArrSlotsCL& other, int i);
+    void replaceM(void* slot, const void* item);
     void returnToInlineM();
 
     const ArrElementsCL& elements_;

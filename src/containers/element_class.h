@@ -2,6 +2,7 @@
 #include "baselib/base.h"
 #include <cstddef>
 #include <new>
+#include <type_traits>
 
 // A class of elements, as what is the same for all arrays needs to know it. Slots are addresses of such
 // elements.
@@ -10,6 +11,7 @@ struct ArrElementsCL
     std::size_t size;    // Of an element, in bytes.
     std::size_t storeAt; // Where in an array the inline store begins.
     std::ptrdiff_t base; // Where in an element its VrBaseCL part is.
+    bool copiesFirst;    // A copy may find no memory: one is made before what it is to replace changes.
     void (*construct)(void* slot);
     void (*assign)(void* slot, const void* from);
     void (*deleteItem)(void* slot);
@@ -55,5 +57,6 @@ template <class T>
 const ArrElementsCL ArrElementsOf { sizeof(T), ArrStoreAt(alignof(T)),
     reinterpret_cast<char*>(static_cast<VrBaseCL*>(reinterpret_cast<T*>(alignof(std::max_align_t))))
         - reinterpret_cast<char*>(alignof(std::max_align_t)),
+    !std::is_nothrow_copy_assignable_v<T> && std::is_nothrow_move_assignable_v<T>,
     &ArrOperationsCL<T>::ConstructM, &ArrOperationsCL<T>::AssignM, &ArrOperationsCL<T>::DeleteItemM,
     &ArrOperationsCL<T>::MergeM, &ArrOperationsCL<T>::WithFreshM, &ArrOperationsCL<T>::SpareM };

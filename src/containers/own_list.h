@@ -1,5 +1,6 @@
 #pragma once
 #include "containers/string_arr.h"
+#include <utility>
 
 // A list as member of a record: copying the record copies it, while copies of a plain list share its store.
 template <class ListTP> class OwnListCL : public ListTP
@@ -11,9 +12,19 @@ public:
     {
         *this = other;
     }
+    OwnListCL(OwnListCL&& other) noexcept
+        : ListTP()
+    {
+        *this = std::move(other);
+    }
     OwnListCL& operator=(const OwnListCL& other)
     {
         ListTP::operator=(other);
+        return *this;
+    }
+    OwnListCL& operator=(OwnListCL&& other) noexcept // They exchange what they hold.
+    {
+        ListTP::SwapListM(other);
         return *this;
     }
 };

@@ -6,7 +6,8 @@
 // A growing list of slots of N ints each, alive or deleted, that keep their index for life.
 // Copy construction shares the storage: both see every change, the last to let go frees it (a list
 // that never held anything has no storage to share). Assignment makes an independent copy.
-// The object is one shared pointer and may be moved by bytes.
+// The object is one shared pointer and may be moved by bytes. Without memory std::bad_alloc is thrown and
+// nothing has changed.
 template <int N> class TaggedArr
 {
 public:
@@ -38,6 +39,7 @@ public:
     // Deletes a slot; the last one also lowers the bound, by one only. Outside 0..bound-1: nothing. 1.
     int DelItemM(int index);
     int DelAllM(); // Lets go of the storage: a list that shared it keeps its items. 1.
+    void SwapListM(TaggedArr& other) noexcept { store_.swap(other.store_); } // Needs no memory.
 
     // The most slots that storing beyond the bound may skip.
     static constexpr int MaxGap = 1 << 22;

@@ -90,14 +90,15 @@ void ReadingDiagnosticsCL::checkPictureM(const ValueSeenCL& value)
     int h = 0;
     unsigned char* pixels = nullptr;
     std::size_t size = 0;
-    if (slLoadBmpTexture(name.c_str(), &w, &h, &pixels) != 0) {
+    const bool isGood = slLoadBmpTexture(name.c_str(), &w, &h, &pixels) != 0;
+    slFree(pixels);
+    if (isGood) {
         goodPictures_.insert(name);
     } else if (slReadFile(name.c_str(), &size) == nullptr) {
         tellM("missing-file", &value.span, "there is no file '" + name + "'");
     } else {
         tellM("bad-picture", &value.span, "'" + name + "' is no .bmp picture that can be shown");
     }
-    slFree(pixels);
 }
 
 void ReadingDiagnosticsCL::EntryDroppedM(const EntryDroppedCL& entry)

@@ -58,13 +58,18 @@ EditResult EditorStateCL::DoM(TextChangesTP changes, const EditPlanCL* plan)
             return EditResult::Misread;
         }
     }
-    changes_ = std::move(changes);
-    if (changes_.empty()) {
+    if (changes.empty()) {
+        changes_.clear();
         return EditResult::Done;
     }
-    steps_.resize(stepsDone_);
-    steps_.push_back({ changes_, slUndoing(BytesM(), changes_) });
+    StepCL step { changes, slUndoing(BytesM(), changes) };
+    if (steps_.capacity() == stepsDone_) {
+        steps_.reserve(2 * stepsDone_ + 4);
+    }
+    steps_.resize(stepsDone_); // From here on nothing needs memory.
+    steps_.push_back(std::move(step));
     ++stepsDone_;
+    changes_ = std::move(changes);
     text_ = after;
     seen_ = std::move(read);
     return EditResult::Done;
@@ -72,9 +77,10 @@ EditResult EditorStateCL::DoM(TextChangesTP changes, const EditPlanCL* plan)
 
 void EditorStateCL::goM(const TextChangesTP& changes)
 {
+    TextChangesTP made = changes;
     text_ = std::make_shared<const FileTextCL>(slWithChanges(BytesM(), changes));
     seen_.reset();
-    changes_ = changes;
+    changes_ = std::move(made);
 }
 
 bool EditorStateCL::UndoM()
@@ -82,7 +88,8 @@ bool EditorStateCL::UndoM()
     if (stepsDone_ == 0) {
         return false;
     }
-    goM(steps_[--stepsDone_].undoing);
+    goM(steps_[stepsDone_ - 1].undoing);
+    --stepsDone_;
     return true;
 }
 
@@ -91,7 +98,8 @@ bool EditorStateCL::RedoM()
     if (stepsDone_ == steps_.size()) {
         return false;
     }
-    goM(steps_[stepsDone_++].done);
+    goM(steps_[stepsDone_].done);
+    ++stepsDone_;
     return true;
 }
 

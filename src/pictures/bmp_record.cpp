@@ -1,6 +1,7 @@
 #include "pictures/bmp_record.h"
 #include "baselib/gbk.h"
 #include "baselib/io.h"
+#include "baselib/take_back.h"
 #include "containers/int_arr.h"
 #include "pictures/bmp_reader.h"
 #include <cstddef>
@@ -66,6 +67,11 @@ int DVrBmpArr::FmInputScpFileM(VrIOCL* io, IntArr* map)
     if (count > 0 && static_cast<std::size_t>(count) <= io->BytesLeftM()) {
         result = AddSizeM(count);
         const int bound = GetBoundM();
+        TakeBackCL half([this, bound, count] {
+            for (int k = 0; k < count; ++k) {
+                ElementAtM(bound + k).SetDeleteTagM(DeletedTag);
+            }
+        });
         for (int k = 0; k < count && result == 1; ++k) {
             int label = 0;
             io->InputDM(&label);
@@ -74,6 +80,7 @@ int DVrBmpArr::FmInputScpFileM(VrIOCL* io, IntArr* map)
                 map->SetItemM(bound + k, k);
             }
         }
+        half.KeepM();
         if (result == 1) {
             setCountsM(bound + count, bound + count);
         }

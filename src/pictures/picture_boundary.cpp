@@ -1,4 +1,5 @@
 #include "pictures/picture_boundary.h"
+#include "baselib/take_back.h"
 #include "pictures/picture_pixels.h"
 #include <climits>
 #include <cstdint>
@@ -124,6 +125,12 @@ int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colou
     if (slGetFirstPntOnBound(colour, w, h, pixels, first) == 0) {
         return 1;
     }
+    WalkMemory memory(w, h);
+    TakeBackCL half([out, bound = out->GetBoundM()] {
+        while (out->GetBoundM() > bound) {
+            out->DelItemM(out->GetBoundM() - 1);
+        }
+    });
     out->AddItemM(first);
     int prev[2] = { NoPlace, NoPlace };
     int current[2] = { first[0], first[1] };
@@ -132,7 +139,6 @@ int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colou
     // Each pixel is entered at most once from each side; only places beyond a row's end could exceed that.
     const std::int64_t most = static_cast<std::int64_t>(w) * h * 4;
     std::int64_t count = 1;
-    WalkMemory memory(w, h);
     bool fresh = true;
     while (fresh && slIsSameInt2D(next, first) == 0
         && slGetNextPntOnBound(colour, w, h, pixels, prev, current, dir, next) != 0) {
@@ -143,5 +149,6 @@ int slGenBitMapBoundary(const unsigned char* /*key*/, const unsigned char* colou
             current[i] = next[i];
         }
     }
+    half.KeepM();
     return 1;
 }

@@ -109,11 +109,10 @@ int slFindVerticalEdgeM(const char* file, const unsigned char* key, Int2DArr* fi
 {
     int w = 0;
     int h = 0;
-    unsigned char* pixels = nullptr;
-    slLoadBmpPicture3D(file, &w, &h, &pixels);
-    const int result = slFindVerticalEdgeM(w, h, pixels, key, first, last);
-    slFree(pixels);
-    return result;
+    unsigned char* loaded = nullptr;
+    slLoadBmpPicture3D(file, &w, &h, &loaded);
+    const std::unique_ptr<unsigned char, void (*)(void*)> pixels(loaded, &slFree);
+    return slFindVerticalEdgeM(w, h, pixels.get(), key, first, last);
 }
 
 // What is cut out of a column are its transparent pixels and every pixel right below one. So each row needs

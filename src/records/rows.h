@@ -2,6 +2,8 @@
 #include "baselib/char_arr.h"
 #include "containers/own_list.h"
 #include "records/fields.h"
+#include <new>
+#include <utility>
 
 // The values of one entry of a secondary section, wherever they are kept.
 struct RowCL
@@ -27,17 +29,28 @@ inline void slPictureRow(FieldVisitorCL& visitor, const RowCL& row)
     visitor.NameM("bitmap", *row.texts[0], NullWord::SkipsEntry);
 }
 
-// Appends an alive text. Its index; -1, and nothing is appended, for null or when there is no memory.
+// Appends an alive text. Its index; -1, and nothing is appended, for null or when the list can't grow. What
+// finds no memory for the text throws and appends nothing.
 inline int slAppendText(VrStringArr& texts, const char* text)
 {
     return text != nullptr ? texts.AppendM(CharArr(text)) : -1;
 }
 
-// The same. 0, and nothing is appended, for null; else 1.
+// The same; a list that can't grow throws too. 0, and nothing is appended, for null; else 1.
 inline int slAddText(VrStringArr& texts, const char* text)
 {
-    slAppendText(texts, text);
+    if (slAppendText(texts, text) < 0 && text != nullptr) {
+        throw std::bad_alloc();
+    }
     return text != nullptr ? 1 : 0;
+}
+
+// Appends an alive text, taking it over. Where the list can't grow std::bad_alloc is thrown.
+inline void slTakeText(VrStringArr& texts, CharArr& text)
+{
+    if (texts.AppendM(std::move(text)) < 0) {
+        throw std::bad_alloc();
+    }
 }
 
 // The text of slot `index`, "" outside the list.

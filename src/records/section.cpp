@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <exception>
 
 SectionReaderCL::SectionReaderCL(VrIOCL& io, const char* header)
     : io_(io)
     , reader_(&io, header)
+    , exceptions_(std::uncaught_exceptions())
 {
     seen_.header = header;
     seen_.status = io.SearchStrM(header) != 0 ? SectionStatus::Read : SectionStatus::Missing;
@@ -15,9 +17,10 @@ SectionReaderCL::SectionReaderCL(VrIOCL& io, const char* header)
     }
 }
 
-SectionReaderCL::~SectionReaderCL()
+SectionReaderCL::~SectionReaderCL() noexcept(false)
 {
-    if (io_.ObserverM() == nullptr) {
+    // Nobody is told of a section that an exception has left.
+    if (io_.ObserverM() == nullptr || std::uncaught_exceptions() > exceptions_) {
         return;
     }
     EndM();

@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/take_back.h"
 #include "records/field_counter.h"
 #include "records/field_reader.h"
 #include "records/rows.h"
@@ -6,6 +7,8 @@
 #include <climits>
 #include <cstddef>
 #include <cstdint>
+#include <new>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,7 +25,7 @@ public:
     SectionReaderCL(VrIOCL& io, const char* header);
     SectionReaderCL(const SectionReaderCL&) = delete;
     SectionReaderCL& operator=(const SectionReaderCL&) = delete;
-    ~SectionReaderCL();
+    ~SectionReaderCL() noexcept(false); // The observer may find no memory.
 
     // The usual head, if the header was found: a count, the rest of its line, the number of comment lines,
     // those lines. CountM is the number of records or entries then, each of at least `values` numbers and
@@ -57,6 +60,7 @@ private:
     TextPoolCL texts_;
     FieldReaderCL reader_;
     SectionSeenCL seen_ {};
+    int exceptions_; // Under way when it was made.
     int record_ { 0 };
     std::size_t recordBegin_ { 0 };
     bool isEnded_ { false };
@@ -178,7 +182,8 @@ template <class ArrTP> int slMakeRoom(ArrTP& items, int count)
 
 // Reads the main section of one kind and its secondary sections from an open file, appending to the array.
 // RecordArrTP names its record type (RecordTP), its Header and its Secondaries.
-// *count is what the count line said, 0 when nothing was read.
+// *count is what the count line said, 0 when nothing was read. Without the memory for all of them
+// std::bad_alloc is thrown, and the array is what it was.
 template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP& records, int* count)
 {
     SectionReaderCL section(io, RecordArrTP::Header);
@@ -187,16 +192,26 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
     if (status != SectionStatus::Read) {
         return status;
     }
+    std::optional<RecordArrTP> before; // Entries may be for records that were there already.
+    if (records.GetBoundM() > 0) {
+        before.emplace() = records;
+    }
+    TakeBackCL half([&records, &before, count] {
+        *count = 0;
+        if (before) {
+            records.SwapListM(*before);
+        } else {
+            records.DelAllM();
+        }
+    });
     const int firstNew = slMakeRoom(records, *count);
     section.PoolTextsM();
     for (int i = 0; i < *count; ++i) {
         const int index = records.AddDefaultsM(firstNew);
-        if (index >= 0) {
-            slReadFreshRecord(records.ElementAtM(index), section.RecordM(i));
-        } else { // No memory is left for it.
-            typename RecordArrTP::RecordTP lost(AliveTag);
-            slReadFreshRecord(lost, section.RecordM(i));
+        if (index < 0) {
+            throw std::bad_alloc();
         }
+        slReadFreshRecord(records.ElementAtM(index), section.RecordM(i));
     }
     section.EndM();
     for (const auto& secondary : RecordArrTP::Secondaries) {
@@ -205,6 +220,7 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
             break;
         }
     }
+    half.KeepM();
     return section.StatusM();
 }
 

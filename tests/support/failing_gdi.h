@@ -1,4 +1,5 @@
 #pragma once
+#include "support/import_hooks.h"
 
 namespace testing_support {
 
@@ -17,9 +18,12 @@ public:
     explicit FailingGdiCL(Which which, int number = 0);
     FailingGdiCL(const FailingGdiCL&) = delete;
     FailingGdiCL& operator=(const FailingGdiCL&) = delete;
-    ~FailingGdiCL();
+    ~FailingGdiCL() = default;
 
     int CountM() const; // Requests so far.
+
+private:
+    ImportHooksCL hooks_;
 };
 
 } // namespace testing_support

@@ -10,7 +10,7 @@ class PANELKIT_API DVrNormalAnimateCL : public RecordCL<DVrNormalAnimateCL>
 public:
     using RecordCL::RecordCL;
     int AddBmpNameM(const char* file) { return slAppendText(frames_, file); } // The index of the new frame.
-    void TakeRowM(const RowCL& row) { frames_.AppendM(std::move(*row.texts[0])); } // The same, of the file.
+    void TakeRowM(const RowCL& row) { slTakeText(frames_, *row.texts[0]); }   // The same, of the file.
     int InitNormalAnimateM(DuNormalAnimateCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);
 

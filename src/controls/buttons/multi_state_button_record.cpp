@@ -1,4 +1,5 @@
 #include "controls/buttons/multi_state_button_record.h"
+#include "baselib/take_back.h"
 
 template class PANELKIT_API Arr<DVrMultiStateButtonCL>;
 
@@ -20,7 +21,9 @@ int DVrMultiStateButtonCL::addM(int status, CharArr&& file)
 {
     const int index = files_.AppendM(std::move(file));
     if (index >= 0) {
+        TakeBackCL half([this, index] { files_.DelItemM(index); });
         statuses_.AddItemM(status);
+        half.KeepM();
     }
     return index;
 }

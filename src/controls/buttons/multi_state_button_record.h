@@ -23,7 +23,9 @@ public:
     int AddStringM(int status, const char* file);
     void TakeRowM(const RowCL& row)
     {
-        addM(row.numbers[0], std::move(*row.texts[0]));
+        if (addM(row.numbers[0], std::move(*row.texts[0])) < 0) {
+            throw std::bad_alloc();
+        }
     } // The same, of the file.
     int InitMultiStateButtonM(DuMultiStateButtonCL* control) const;
     void EachFieldM(FieldVisitorCL& visitor);

@@ -131,12 +131,20 @@ int DVrNewRotateBtnArr::FmReadInterfaceM(VrIOCL* io)
         return 0;
     }
     section.SkipCommentsM(magnitude(lines));
+    DVrNewRotateBtnArr before; // Pictures may be for buttons that were there already.
+    if (GetBoundM() > 0) {
+        before = *this;
+    }
+    TakeBackCL half([this, &before] { SwapListM(before); });
     for (int i = 0; i < section.CountM(); ++i) {
         record.ReadM(section.RecordM(i), withShowCondition, withDescription);
-        AddItemM(record);
+        if (AddItemM(record) < 0) { // Pictures are for buttons by their places.
+            throw std::bad_alloc();
+        }
     }
     section.EndM();
     const int result = readPicturesM(io);
+    half.KeepM();
     if (result == 0) {
         section.SetStatusM(SectionStatus::Incomplete);
     }

@@ -60,7 +60,7 @@ class PANELKIT_API DVrNewRotateBtnArr : public RecordArr<DVrNewRotateBtnCL>
 public:
     // Reads both sections from an open file, appending. 1; 0 when one of them is missing or its count can't
     // be meant, the records read before that stay. Pictures of slots far beyond what the file can fill are
-    // passed over.
+    // passed over. Without the memory for all of it std::bad_alloc is thrown, and the array is what it was.
     int FmReadInterfaceM(VrIOCL* io);
     int InitNewRotateBtnM(int index, DuNewRotateBtnCL* control) const; // 0 for an index outside, else 1.
 

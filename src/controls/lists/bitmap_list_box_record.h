@@ -10,9 +10,9 @@ class PANELKIT_API DVrBmpListBoxCL : public RecordCL<DVrBmpListBoxCL>
 {
 public:
     using RecordCL::RecordCL;
-    int AddBmpNameM(const char* name); // Adds a picture; 1. 0 for null.
-    void TakeRowM(const RowCL& row) { bitmaps_.AppendM(std::move(*row.texts[0])); } // The same, of the file.
-    void destroyM() { bitmaps_.DelAllM(); }                                         // Drops the names.
+    int AddBmpNameM(const char* name);                                       // Adds a picture; 1. 0 for null.
+    void TakeRowM(const RowCL& row) { slTakeText(bitmaps_, *row.texts[0]); } // The same, of the file.
+    void destroyM() { bitmaps_.DelAllM(); }                                  // Drops the names.
     int InitBmpListBoxM(DuBmpListBoxCL* control) const;
     // Loads the pictures into a control with its window. Their numbers count the names, so one that can't be
     // loaded leaves a gap.

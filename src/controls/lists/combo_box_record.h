@@ -11,8 +11,8 @@ class PANELKIT_API DVrComboBoxCL : public RecordCL<DVrComboBoxCL>
 public:
     using RecordCL::RecordCL;
     int AddStringM(const char* text); // Appends an item; 0 for null, else 1.
-    void TakeRowM(const RowCL& row) { items_.AppendM(std::move(*row.texts[0])); } // The same, of the file.
-    void destroyM() { items_.DelAllM(); }                                         // Empties the items.
+    void TakeRowM(const RowCL& row) { slTakeText(items_, *row.texts[0]); } // The same, of the file.
+    void destroyM() { items_.DelAllM(); }                                  // Empties the items.
     int InitComboBoxM(DuComboBoxCL* control) const;
     int InitComboBoxStrM(DuComboBoxCL* control) const; // Adds the items to a live control.
     void EachFieldM(FieldVisitorCL& visitor);

@@ -1,21 +1,26 @@
 #include "controls/lists/list_control_record.h"
+#include "baselib/take_back.h"
 #include <algorithm>
 
 template class PANELKIT_API Arr<DVrListCtrlCL>;
 
 int PairedTextsCL::AddM(const int pair[2], const char* text)
 {
-    const int result = pair != nullptr ? slAddText(texts, text) : 0;
-    if (result != 0) {
-        pairs.AddItemM(pair);
+    if (pair == nullptr || text == nullptr) {
+        return 0;
     }
-    return result;
+    int numbers[2] = { pair[0], pair[1] };
+    CharArr own(text);
+    TakeM({ numbers, { &own } });
+    return 1;
 }
 
 void PairedTextsCL::TakeM(const RowCL& row)
 {
-    texts.AppendM(std::move(*row.texts[0]));
-    pairs.AddItemM(row.numbers);
+    const int added = pairs.AddItemM(row.numbers);
+    TakeBackCL half([this, added] { pairs.DelItemM(added); });
+    slTakeText(texts, *row.texts[0]);
+    half.KeepM();
 }
 
 void PairedTextsCL::DelAllM()

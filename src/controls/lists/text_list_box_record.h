@@ -10,9 +10,9 @@ class PANELKIT_API DVrTextListBoxCL : public RecordCL<DVrTextListBoxCL>
 {
 public:
     using RecordCL::RecordCL;
-    int AddStringM(const char* text); // Adds a line; 1. 0 for null.
-    void TakeRowM(const RowCL& row) { items_.AppendM(std::move(*row.texts[0])); } // The same, of the file.
-    void destroyM();                                                              // Drops the lines.
+    int AddStringM(const char* text);                                      // Adds a line; 1. 0 for null.
+    void TakeRowM(const RowCL& row) { slTakeText(items_, *row.texts[0]); } // The same, of the file.
+    void destroyM();                                                       // Drops the lines.
     int InitTextListBoxM(DuTextListBoxCL* control) const;
     int GiveLengthsM(DuTextListBoxCL* control) const; // The height of the lines too.
     // Adds the lines, numbered from 0, to a control with its window.

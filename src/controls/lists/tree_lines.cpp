@@ -1,4 +1,5 @@
 #include "controls/lists/tree_lines.h"
+#include "baselib/take_back.h"
 #include <unordered_map>
 #include <vector>
 
@@ -8,20 +9,19 @@ void TreeLinesCL::AddM(
     if (triple == nullptr) {
         return;
     }
-    const auto add
-        = [](VrStringArr& list, const char* what) { slAddText(list, what != nullptr ? what : ""); };
-    keys_.AddItemM(triple);
-    add(texts_, text);
-    add(normalPictures_, normalPicture);
-    add(selectedPictures_, selectedPicture);
+    int numbers[3] = { triple[0], triple[1], triple[2] };
+    CharArr own[] = { CharArr(text), CharArr(normalPicture), CharArr(selectedPicture) };
+    TakeM({ numbers, { &own[0], &own[1], &own[2] } });
 }
 
 void TreeLinesCL::TakeM(const RowCL& row)
 {
-    keys_.AddItemM(row.numbers);
-    texts_.AppendM(std::move(*row.texts[0]));
-    normalPictures_.AppendM(std::move(*row.texts[1]));
-    selectedPictures_.AppendM(std::move(*row.texts[2]));
+    const int index = keys_.AddItemM(row.numbers);
+    TakeBackCL half([this, index] { DelItemM(index); }); // What no list has by then is deleted in none.
+    slTakeText(texts_, *row.texts[0]);
+    slTakeText(normalPictures_, *row.texts[1]);
+    slTakeText(selectedPictures_, *row.texts[2]);
+    half.KeepM();
 }
 
 void TreeLinesCL::DelItemM(int index)
