@@ -126,6 +126,7 @@ public:
         , translation_(translation)
         , findings_(findings)
         , pictures_(folder)
+        , found_(findings.BeginOthersM())
     {
         constexpr std::size_t ShortRecord = 32; // Room that isn't used costs nothing, growing does.
         controls_.reserve(file.TextM().SizeM() / ShortRecord);

@@ -73,7 +73,7 @@ private:
     struct PictureCL
     {
         State state;
-        std::string shown; // Its name in UTF-8.
+        DetailsCL shown; // Its name in UTF-8.
     };
     State stateM(const std::string& name);
     std::filesystem::path findM(const std::string& name) const;
