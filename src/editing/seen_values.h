@@ -58,6 +58,7 @@ private:
 class SeenBlocksCL
 {
 public:
+    // More room for a list that is full; its values may lie elsewhere from then on.
     void MakeRoomM(SeenValuesCL& values);
 
 private:

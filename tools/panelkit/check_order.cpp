@@ -11,14 +11,20 @@ constexpr std::int64_t Near = 40;
 
 bool isPictureControl(const CheckedControlCL& control)
 {
-    return control.IsM({ BmpButtonCode, MultiStateButtonCode, RotateBtnCode });
+    static constexpr KindsCL Pictures { BmpButtonCode, MultiStateButtonCode, RotateBtnCode };
+    return control.IsM(Pictures);
 }
 
 bool needsLabel(const CheckedControlCL& control)
 {
-    return !control.isReadOnly
-        && control.IsM({ SingleEditCode, SpinEditCode, MultiEditCode, TextListBoxCode, BmpListBoxCode,
-            ComboBoxCode, ListCtrlCode, TreeCode });
+    static constexpr KindsCL WithoutText { SingleEditCode, SpinEditCode, MultiEditCode, TextListBoxCode,
+        BmpListBoxCode, ComboBoxCode, ListCtrlCode, TreeCode };
+    return !control.isReadOnly && control.IsM(WithoutText);
+}
+
+bool needsName(const CheckedControlCL& control)
+{
+    return needsLabel(control) || isPictureControl(control);
 }
 
 bool isNear(const CheckedControlCL& label, const CheckedControlCL& control)
@@ -84,10 +90,18 @@ private:
     {
         const CheckedControlCL* before = nullptr;
         for (const CheckedControlCL* const control : order_) {
-            sayUnnamedM(*control, before != nullptr && isName(*before, *control, isPictureControl(*control)));
+            if (needsName(*control)) {
+                sayUnnamedM(
+                    *control, before != nullptr && isName(*before, *control, isPictureControl(*control)));
+            }
             before = control;
         }
-        // The others have no place among the labels.
+        const auto isToName
+            = [](const CheckedControlCL& control) { return !control.isStacked && needsName(control); };
+        if (std::none_of(controls_.begin(), controls_.end(), isToName)) {
+            return;
+        }
+        // Those have no place among the labels.
         std::vector<const CheckedControlCL*> labels;
         std::copy_if(order_.begin(), order_.end(), std::back_inserter(labels),
             [](const CheckedControlCL* control) { return control->kind == LabelCode && control->hasText; });
@@ -98,7 +112,7 @@ private:
             tallest = std::max(tallest, label->h);
         }
         for (const CheckedControlCL& control : controls_) {
-            if (control.isStacked || (!needsLabel(control) && !isPictureControl(control))) {
+            if (!isToName(control)) {
                 continue;
             }
             auto label = std::lower_bound(labels.begin(), labels.end(), control.y - Near - tallest,
@@ -127,6 +141,9 @@ private:
             if (control.kind == RadioBoxCode) {
                 radios.push_back(&control);
             }
+        }
+        if (radios.empty()) {
+            return;
         }
         std::unordered_map<const CheckedControlCL*, std::size_t> placeOf;
         for (std::size_t i = 0; i < order_.size(); ++i) {

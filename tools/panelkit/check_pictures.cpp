@@ -98,7 +98,8 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
     }
     auto found = states_.find(name);
     if (found == states_.end()) {
-        found = states_.emplace(name, PictureCL { stateM(name), slGbkToUtf8(name.c_str()) }).first;
+        const PictureCL picture { stateM(name), findings.PackM({ slGbkToUtf8(name.c_str()) }) };
+        found = states_.emplace(name, picture).first;
         if (found->second.state != State::Remote) {
             findings.AddPictureM(name);
         }
@@ -106,13 +107,13 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
     const PictureCL& picture = found->second;
     switch (picture.state) {
     case State::Missing:
-        findings.AddM(Says::MissingFile, offset, { picture.shown });
+        findings.AddPackedM(Says::MissingFile, offset, picture.shown);
         break;
     case State::Bad:
-        findings.AddM(Says::BadPicture, offset, { picture.shown });
+        findings.AddPackedM(Says::BadPicture, offset, picture.shown);
         break;
     case State::Remote:
-        findings.AddM(Says::RemoteFile, offset, { picture.shown });
+        findings.AddPackedM(Says::RemoteFile, offset, picture.shown);
         break;
     case State::Good:
         break;

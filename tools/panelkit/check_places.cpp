@@ -1,6 +1,7 @@
 // Where controls stand: in the dialog, and before one another.
 #include "control_list.h"
 #include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -23,11 +24,10 @@ FrameCL frameOf(const DialogHeaderCL& dialog, int sizing, int fixed, int thin, i
     return { 2 * edge, 2 * edge + (dialog.titleFlag == 1 ? caption : 0) };
 }
 
-void checkOutside(FileReadingCL& file, const CheckedControlCL& control, FindingsCL& findings)
+// small and large: the least and the most that frame and caption take.
+void checkOutside(const DialogHeaderCL& dialog, const FrameCL& small, const FrameCL& large,
+    const CheckedControlCL& control, FindingsCL& findings)
 {
-    const DialogHeaderCL& dialog = file.DialogM();
-    const FrameCL small = frameOf(dialog, 4, 3, 1, 19); // The classic look.
-    const FrameCL large = frameOf(dialog, 8, 8, 1, 23); // Windows 10 and 11.
     const auto fits = [&](const FrameCL& frame) {
         return control.RightM() + frame.width <= dialog.size[0]
             && control.BottomM() + frame.height <= dialog.size[1];
@@ -51,21 +51,11 @@ void checkOutside(FileReadingCL& file, const CheckedControlCL& control, Findings
 class CoversCL
 {
 public:
-    const CheckedControlCL* FindM(const CheckedControlCL& control) const
+    const CheckedControlCL* FindM(const CheckedControlCL& control)
     {
-        const auto covers = [&control](const CheckedControlCL* other) {
-            return other->x <= control.x && other->y <= control.y && other->RightM() >= control.RightM()
-                && other->BottomM() >= control.BottomM();
-        };
-        const auto square = squares_.find(squareM(control.x >> Bits, control.y >> Bits));
-        if (square != squares_.end()) {
-            const auto found = std::find_if(square->second.begin(), square->second.end(), covers);
-            if (found != square->second.end()) {
-                return *found;
-            }
-        }
-        const auto found = std::find_if(large_.begin(), large_.end(), covers);
-        return found != large_.end() ? *found : nullptr;
+        const BoxCL box(control);
+        const CheckedControlCL* const found = findM(squareM(control.x >> Bits, control.y >> Bits), box);
+        return found != nullptr ? found : findM(large_, box);
     }
     void AddM(const CheckedControlCL& control)
     {
@@ -77,15 +67,15 @@ public:
         const std::int64_t top = control.y >> Bits;
         if ((right - left + 1) * (bottom - top + 1) > MostSquares) {
             if (large_.size() < MostLarge) {
-                large_.push_back(&control);
+                large_.emplace_back(control);
             }
             return;
         }
         for (std::int64_t x = left; x <= right; ++x) {
             for (std::int64_t y = top; y <= bottom; ++y) {
-                std::vector<const CheckedControlCL*>& square = squares_[squareM(x, y)];
+                BoxesTP& square = squareM(x, y);
                 if (square.size() < MostLarge) {
-                    square.push_back(&control);
+                    square.emplace_back(control);
                 }
             }
         }
@@ -93,14 +83,50 @@ public:
 
 private:
     static constexpr int Bits = 8;
-    static std::uint64_t squareM(std::int64_t x, std::int64_t y)
+    // Its sides, so that most controls need not be looked at; those beyond any int are moved there.
+    struct BoxCL
     {
-        return static_cast<std::uint64_t>(static_cast<std::uint32_t>(x)) << 32
-            | static_cast<std::uint32_t>(y);
+        explicit BoxCL(const CheckedControlCL& one)
+            : left(one.x)
+            , top(one.y)
+            , right(static_cast<int>(std::min<std::int64_t>(one.RightM(), INT_MAX)))
+            , bottom(static_cast<int>(std::min<std::int64_t>(one.BottomM(), INT_MAX)))
+            , control(&one)
+        {
+        }
+        bool CoversM(const BoxCL& other) const
+        {
+            return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom
+                && control->RightM() >= other.control->RightM()
+                && control->BottomM() >= other.control->BottomM();
+        }
+        int left, top, right, bottom;
+        const CheckedControlCL* control;
+    };
+    using BoxesTP = std::vector<BoxCL>;
+
+    static const CheckedControlCL* findM(const BoxesTP& boxes, const BoxCL& box)
+    {
+        for (const BoxCL& other : boxes) {
+            if (other.CoversM(box)) {
+                return other.control;
+            }
+        }
+        return nullptr;
+    }
+    BoxesTP& squareM(std::int64_t x, std::int64_t y)
+    {
+        const auto place
+            = static_cast<std::uint64_t>(static_cast<std::uint32_t>(x)) << 32 | static_cast<std::uint32_t>(y);
+        if (last_ == nullptr || last_->first != place) {
+            last_ = &*squares_.try_emplace(place).first;
+        }
+        return last_->second;
     }
 
-    std::unordered_map<std::uint64_t, std::vector<const CheckedControlCL*>> squares_;
-    std::vector<const CheckedControlCL*> large_;
+    std::unordered_map<std::uint64_t, BoxesTP> squares_;
+    std::pair<const std::uint64_t, BoxesTP>* last_ { nullptr }; // Of those.
+    BoxesTP large_;
 };
 
 } // namespace
@@ -108,6 +134,9 @@ private:
 void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings)
 {
     const bool isPlaced = file.HasDialogM() && file.SectionM(DialogGrammar).soundRecords > 0;
+    const DialogHeaderCL& dialog = file.DialogM();
+    const FrameCL classic = frameOf(dialog, 4, 3, 1, 19);
+    const FrameCL modern = frameOf(dialog, 8, 8, 1, 23); // Windows 10 and 11.
     CoversCL covers;
     for (const CheckedControlCL* const control : stack) {
         if (control->w <= 0 || control->h <= 0) {
@@ -116,7 +145,7 @@ void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings
             continue;
         }
         if (isPlaced) {
-            checkOutside(file, *control, findings);
+            checkOutside(dialog, classic, modern, *control, findings);
         }
         if (control->kind == 0) {
             continue;

@@ -3,6 +3,7 @@
 #include "baselib/gbk_texts.h"
 #include "check.h"
 #include "control_list.h"
+#include "rising_set.h"
 #include "sort_rows.h"
 #include <algorithm>
 #include <cstdint>
@@ -41,15 +42,19 @@ CheckedControlCL controlOf(const RecordViewCL& view, int kind, [[maybe_unused]] 
     control.kindName = kindName;
     control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
 #endif
-    if (control.IsM({ LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode, StandardButtonCode })) {
-        const FieldCL& caption = *view.FindM(control.IsM({ LabelCode, GroupBoxCode }) ? "text" : "caption");
+    static constexpr KindsCL Captioned { LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode,
+        StandardButtonCode };
+    static constexpr KindsCL Texts { LabelCode, GroupBoxCode };
+    static constexpr KindsCL MayBeReadOnly { SingleEditCode, MultiEditCode };
+    if (control.IsM(Captioned)) {
+        const FieldCL& caption = *view.FindM(control.IsM(Texts) ? "text" : "caption");
         control.hasText = kind == LabelCode && !caption.text->EmptyM();
 #ifdef _WIN32
         control.captionAt = offsetOf(caption);
         control.caption = std::move(*caption.text);
 #endif
     }
-    control.isReadOnly = control.IsM({ SingleEditCode, MultiEditCode }) && view.IntM("read_only") == 1;
+    control.isReadOnly = control.IsM(MayBeReadOnly) && view.IntM("read_only") == 1;
     control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
     control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
     if (kind == SpinEditCode && view.IntM("data_type") > 0) {
@@ -78,14 +83,15 @@ bool isInvisible(int kind, const RecordViewCL& view)
     }
 }
 
-// How many entries of a kind's one secondary section name each id.
-std::unordered_map<int, std::size_t> entriesById(FileReadingCL& file, const SeenSectionCL& section)
+// The ids that the entries of a kind's one secondary section name.
+RisingSetCL<int> idsOfEntries(FileReadingCL& file, const SeenSectionCL& section)
 {
-    std::unordered_map<int, std::size_t> counts;
+    EntryColumnCL column(file, section, "function_id");
+    RisingSetCL<int> ids;
     for (int i = 0; i < section.RecordsM(); ++i) {
-        ++counts[file.NumberM(section, i, "function_id")];
+        ids.AddM(column.NumberM(i));
     }
-    return counts;
+    return ids;
 }
 
 StackTP stackOf(const CheckedControlsTP& controls)
@@ -126,6 +132,7 @@ public:
         , translation_(translation)
         , findings_(findings)
         , pictures_(folder)
+        , found_(findings.BeginOthersM())
     {
         constexpr std::size_t ShortRecord = 32; // Room that isn't used costs nothing, growing does.
         controls_.reserve(file.TextM().SizeM() / ShortRecord);
@@ -162,8 +169,8 @@ private:
     {
         int grammar;
         int record;
-        std::size_t findingsEnd;
-        std::size_t picturesEnd;
+        std::uint32_t findingsEnd;
+        std::uint32_t picturesEnd;
     };
 
     bool isSoundM(int grammar, int record)
@@ -177,7 +184,8 @@ private:
     }
     void markM(int grammar, int record)
     {
-        const FoundCL now { grammar, record, found_.ListM().size(), named_.size() };
+        const FoundCL now { grammar, record, static_cast<std::uint32_t>(found_.ListM().size()),
+            static_cast<std::uint32_t>(named_.size()) };
         const FoundCL none {};
         const FoundCL& last = marks_.empty() ? none : marks_.back();
         if (now.findingsEnd > last.findingsEnd || now.picturesEnd > last.picturesEnd) {
@@ -233,9 +241,9 @@ private:
         if (!file_.IsSoundM(MultiStateButtonDataHeader)) {
             return;
         }
-        const auto entries = entriesById(file_, file_.SectionM(MultiStateButtonDataHeader));
+        const auto ids = idsOfEntries(file_, file_.SectionM(MultiStateButtonDataHeader));
         for (const CheckedControlCL& control : controls_) {
-            if (control.kind == MultiStateButtonCode && entries.count(control.id) == 0) {
+            if (control.kind == MultiStateButtonCode && !ids.HasM(control.id)) {
                 findings_.AddM(Says::InvisibleTabStop, control.idAt);
             }
         }

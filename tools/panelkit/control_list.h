@@ -6,6 +6,18 @@
 #include <filesystem>
 #include <unordered_map>
 
+// Some kinds, by their KindCodes.
+struct KindsCL
+{
+    constexpr KindsCL(std::initializer_list<int> codes)
+    {
+        for (const int code : codes) {
+            bits |= 1U << code;
+        }
+    }
+    unsigned bits { 0 };
+};
+
 // One control of the file, as the checks across records need it.
 struct CheckedControlCL
 {
@@ -31,14 +43,9 @@ struct CheckedControlCL
     CharArr caption;             // Of a kind that shows one; GBK.
     const char* kindName { "" }; // As dump has it.
 #endif
-    bool IsM(std::initializer_list<int> kinds) const
+    bool IsM(KindsCL kinds) const
     {
-        for (const int other : kinds) {
-            if (kind == other) {
-                return true;
-            }
-        }
-        return false;
+        return (kinds.bits >> kind & 1U) != 0;
     }
     // Reaches from x to this, and from y to this; of a combo box only what shows while its list is closed.
     std::int64_t RightM() const
@@ -73,7 +80,7 @@ private:
     struct PictureCL
     {
         State state;
-        std::string shown; // Its name in UTF-8.
+        DetailsCL shown; // Its name in UTF-8.
     };
     State stateM(const std::string& name);
     std::filesystem::path findM(const std::string& name) const;

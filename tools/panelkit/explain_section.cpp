@@ -38,11 +38,12 @@ private:
     bool hasCountM() const { return number_ != DialogGrammar; }
     std::string wordM(std::size_t at) const { return file_.CutM(wordAt(bytes_, at)); }
     std::size_t lineStartM(std::size_t at) const { return file_.LineStartM(file_.LineM(at)); }
-    void addM(Says says, std::size_t offset, std::vector<std::string> details, int soundRecords)
+    void addM(
+        Says says, std::size_t offset, std::initializer_list<std::string_view> details, int soundRecords)
     {
         section_.soundRecords = soundRecords;
         section_.isFaulty = true;
-        findings_.AddM(says, offset, std::move(details));
+        findings_.AddM(says, offset, details);
     }
     std::string costM(int record) const
     {

@@ -43,9 +43,8 @@ void FileReadingCL::KeepValuesM(int grammar)
     section.keepsLast = false;
 }
 
-int FileReadingCL::NumberM(const SeenSectionCL& section, int record, const char* field) const
+int FileReadingCL::NumberM(const SeenValueCL* value) const
 {
-    const SeenValueCL* const value = section.FindM(record, field);
     int number = 0;
     if (value != nullptr) {
         const std::string_view bytes = BytesM(*value);

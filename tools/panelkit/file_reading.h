@@ -49,7 +49,11 @@ public:
         return text_->CutM({ value.begin, value.end });
     }
     // An entry's number as the reader took it; 0 where none was read.
-    int NumberM(const SeenSectionCL& section, int record, const char* field) const;
+    int NumberM(const SeenSectionCL& section, int record, const char* field) const
+    {
+        return NumberM(section.FindM(record, field));
+    }
+    int NumberM(const SeenValueCL* value) const; // The same of one, or of null.
     std::size_t LineM(std::size_t offset) const; // From 0.
     std::size_t LineStartM(std::size_t line) const;
 
@@ -67,4 +71,35 @@ private:
     bool keepsAll_;
     bool hasDialog_ { false };
     bool hasStrayText_ { false };
+};
+
+// One field of all entries of a section: looked for where the entry before has it.
+class EntryColumnCL
+{
+public:
+    EntryColumnCL(const FileReadingCL& file, const SeenSectionCL& section, const char* field)
+        : file_(file)
+        , section_(section)
+        , field_(field)
+    {
+    }
+    const SeenValueCL* FindM(int record) // Null when there is none.
+    {
+        const SeenValueCL* const first = section_.FirstM(record);
+        if (name_ != nullptr && section_.EndM(record) - first > place_ && first[place_].field == name_) {
+            return first + place_;
+        }
+        const SeenValueCL* const found = section_.FindM(record, field_);
+        name_ = found != nullptr ? found->field : nullptr;
+        place_ = found != nullptr ? found - first : 0;
+        return found;
+    }
+    int NumberM(int record) { return file_.NumberM(FindM(record)); } // See FileReadingCL.
+
+private:
+    const FileReadingCL& file_;
+    const SeenSectionCL& section_;
+    const char* field_;
+    const char* name_ { nullptr };
+    std::ptrdiff_t place_ { 0 };
 };

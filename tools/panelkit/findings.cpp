@@ -3,7 +3,7 @@
 #include "sort_rows.h"
 #include <algorithm>
 #include <cstdio>
-#include <tuple>
+#include <cstring>
 
 const std::vector<MessageCL>& allMessages()
 {
@@ -15,46 +15,97 @@ const std::vector<MessageCL>& allMessages()
     return messages;
 }
 
-std::string FindingCL::TextM(Language language) const
+namespace {
+
+using DetailLengthTP = std::uint32_t;
+
+std::string_view detailAt(const char* packed)
 {
-    const std::string format = messageOf(says).TextM(language);
-    std::string text;
-    for (std::size_t i = 0; i < format.size(); ++i) {
-        if (format[i] == '{' && i + 2 < format.size() && format[i + 2] == '}') {
-            const auto number = static_cast<std::size_t>(format[i + 1] - '0');
-            text += number < details.size() ? details[number] : "";
-            i += 2;
-        } else {
-            text += format[i];
+    DetailLengthTP length = 0;
+    std::memcpy(&length, packed, sizeof length);
+    return { packed + sizeof length, length };
+}
+
+bool hasEqualDetails(const FindingCL& a, const FindingCL& b)
+{
+    if (a.packed == b.packed) {
+        return a.count == b.count;
+    }
+    return a.DetailsM() == b.DetailsM();
+}
+
+void appendText(std::string& text, const FindingCL& finding, Language language)
+{
+    for (std::string_view rest = messageOf(finding.says).TextM(language); !rest.empty();) {
+        const std::size_t plain = std::min(rest.find('{'), rest.size());
+        text += rest.substr(0, plain);
+        rest.remove_prefix(plain);
+        if (rest.size() > 2 && rest[2] == '}') {
+            const auto wanted = static_cast<std::size_t>(rest[1] - '0');
+            const char* at = finding.packed;
+            for (std::size_t i = 0; i < finding.count && i <= wanted; ++i) {
+                const std::string_view detail = detailAt(at);
+                at = detail.data() + detail.size();
+                text += i == wanted ? detail : std::string_view();
+            }
+            rest.remove_prefix(3);
+        } else if (!rest.empty()) {
+            text += rest.front();
+            rest.remove_prefix(1);
         }
     }
+}
+
+} // namespace
+
+std::vector<std::string_view> FindingCL::DetailsM() const
+{
+    std::vector<std::string_view> details;
+    for (const char* at = packed; details.size() < count;
+         at = details.back().data() + details.back().size()) {
+        details.push_back(detailAt(at));
+    }
+    return details;
+}
+
+std::string FindingCL::TextM(Language language) const
+{
+    std::string text;
+    appendText(text, *this, language);
     return text;
+}
+
+DetailsCL FindingsCL::PackM(std::initializer_list<std::string_view> details)
+{
+    std::size_t size = 0;
+    for (const std::string_view detail : details) {
+        size += sizeof(DetailLengthTP) + detail.size();
+    }
+    char* const packed = size > 0 ? static_cast<char*>(pool_->allocate(size, 1)) : nullptr;
+    char* at = packed;
+    for (const std::string_view detail : details) {
+        const auto length = static_cast<DetailLengthTP>(detail.size());
+        std::memcpy(at, &length, sizeof length);
+        at = std::copy(detail.begin(), detail.end(), at + sizeof length);
+    }
+    return { packed, details.size() };
 }
 
 void FindingsCL::SortM()
 {
-    std::vector<std::tuple<std::size_t, Says, std::size_t>> order;
-    order.reserve(list_.size());
-    for (std::size_t i = 0; i < list_.size(); ++i) {
-        order.push_back({ list_[i].offset, list_[i].says, i });
-    }
-    sortRows(order);
-    std::vector<FindingCL> sorted;
-    sorted.reserve(list_.size());
-    for (const auto& [offset, says, i] : order) {
-        if (sorted.empty() || sorted.back().offset != offset || sorted.back().says != says
-            || sorted.back().details != list_[i].details) {
-            sorted.push_back(std::move(list_[i]));
-            sorted.back().place = text_->PlaceM(offset);
-        }
-    }
-    list_ = std::move(sorted);
+    sortRows(list_);
+    const auto isSame = [](const FindingCL& a, const FindingCL& b) {
+        return a.offset == b.offset && a.says == b.says && hasEqualDetails(a, b);
+    };
+    list_.erase(std::unique(list_.begin(), list_.end(), isSame), list_.end());
 }
 
 std::size_t FindingsCL::CountM(Severity severity) const
 {
-    return static_cast<std::size_t>(std::count_if(list_.begin(), list_.end(),
-        [severity](const FindingCL& finding) { return messageOf(finding.says).severity == severity; }));
+    const std::vector<MessageCL>& messages = allMessages();
+    return static_cast<std::size_t>(std::count_if(list_.begin(), list_.end(), [&](const FindingCL& finding) {
+        return messages[static_cast<std::size_t>(finding.says)].severity == severity;
+    }));
 }
 
 namespace {
@@ -80,36 +131,55 @@ std::string summary(std::size_t errors, std::size_t warnings, std::size_t files,
 
 } // namespace
 
+void FindingsCL::appendLineM(std::string& text, const FindingCL& finding, Language language) const
+{
+    const MessageCL& message = messageOf(finding.says);
+    const PlaceCL place = PlaceM(finding);
+    text.append(file_).append(":").append(std::to_string(place.line)).append(":");
+    text.append(std::to_string(place.column)).append(": ");
+    text.append(language == Language::English     ? severityName(message.severity)
+            : message.severity == Severity::Error ? "错误"
+                                                  : "警告");
+    text.append(": ");
+    appendText(text, finding, language);
+    text.append(" [").append(message.code).append("]\n");
+}
+
 std::string FindingsCL::TextM(Language language, bool withWarnings) const
 {
     std::string text;
     for (const FindingCL& finding : list_) {
-        const MessageCL& message = messageOf(finding.says);
-        const bool isError = message.severity == Severity::Error;
-        const char* const word = language == Language::English ? severityName(message.severity)
-            : isError                                          ? "错误"
-                                                               : "警告";
-        if (isError || withWarnings) {
-            text += file_ + ":" + std::to_string(finding.place.line) + ":"
-                + std::to_string(finding.place.column) + ": " + word + ": " + finding.TextM(language) + " ["
-                + message.code + "]\n";
+        if (withWarnings || messageOf(finding.says).severity == Severity::Error) {
+            appendLineM(text, finding, language);
         }
     }
     return text;
+}
+
+void FindingsCL::PrintM(Language language) const
+{
+    constexpr std::size_t Block = 65536;
+    std::string text;
+    for (const FindingCL& finding : list_) {
+        appendLineM(text, finding, language);
+        if (text.size() >= Block || &finding == &list_.back()) {
+            std::fwrite(text.data(), 1, text.size(), stdout);
+            text.clear();
+        }
+    }
 }
 
 void printFindings(const std::vector<FindingsCL>& files, Language language)
 {
     std::size_t errors = 0;
     std::size_t warnings = 0;
-    std::string out;
     for (const FindingsCL& file : files) {
-        out += file.TextM(language, true);
+        file.PrintM(language);
         errors += file.CountM(Severity::Error);
         warnings += file.CountM(Severity::Warning);
     }
-    out += summary(errors, warnings, files.size(), language) + "\n";
-    std::fwrite(out.data(), 1, out.size(), stdout);
+    const std::string last = summary(errors, warnings, files.size(), language) + "\n";
+    std::fwrite(last.data(), 1, last.size(), stdout);
 }
 
 void printFindingsAsJson(const std::vector<FindingsCL>& files, Language language)
@@ -118,9 +188,10 @@ void printFindingsAsJson(const std::vector<FindingsCL>& files, Language language
     for (const FindingsCL& file : files) {
         for (const FindingCL& finding : file.ListM()) {
             const MessageCL& message = messageOf(finding.says);
-            list.push_back({ { "file", file.FileM() }, { "line", finding.place.line },
-                { "column", finding.place.column }, { "severity", severityName(message.severity) },
-                { "code", message.code }, { "message", finding.TextM(language) } });
+            const PlaceCL place = file.PlaceM(finding);
+            list.push_back({ { "file", file.FileM() }, { "line", place.line }, { "column", place.column },
+                { "severity", severityName(message.severity) }, { "code", message.code },
+                { "message", finding.TextM(language) } });
         }
     }
     printJson(list);
@@ -173,8 +244,8 @@ void printFindingsAsSarif(const std::vector<FindingsCL>& files, Language languag
     for (const FindingsCL& file : files) {
         for (const FindingCL& finding : file.ListM()) {
             const MessageCL& message = messageOf(finding.says);
-            const JsonTP region
-                = { { "startLine", finding.place.line }, { "startColumn", finding.place.column } };
+            const PlaceCL place = file.PlaceM(finding);
+            const JsonTP region = { { "startLine", place.line }, { "startColumn", place.column } };
             const JsonTP location = { { "physicalLocation",
                 { { "artifactLocation", { { "uri", uriOf(file.FileM()) } } }, { "region", region } } } };
             results.push_back({ { "ruleId", message.code }, { "level", severityName(message.severity) },

@@ -25,9 +25,9 @@ std::wstring barText(const FindingsCL& findings, Language language)
     for (const FindingCL& finding : findings.ListM()) {
         const MessageCL& message = messageOf(finding.says);
         if (message.severity == Severity::Error && ++errors <= MostLines) {
-            text += (text.empty() ? "" : "\r\n") + std::to_string(finding.place.line) + ":"
-                + std::to_string(finding.place.column) + ": " + finding.TextM(language) + " [" + message.code
-                + "]";
+            const PlaceCL place = findings.PlaceM(finding);
+            text += (text.empty() ? "" : "\r\n") + std::to_string(place.line) + ":"
+                + std::to_string(place.column) + ": " + finding.TextM(language) + " [" + message.code + "]";
         }
     }
     if (errors > MostLines) {

@@ -72,7 +72,8 @@ private:
                 continue;
             }
             for (const SeenValueCL* value = section.FirstM(i); value != section.EndM(i); ++value) {
-                const RowShapeCL::TextCL* const text = shape.FindM(value->field);
+                const RowShapeCL::TextCL* const text
+                    = shape.FindM(value->field, static_cast<std::size_t>(value - section.FirstM(i)));
                 if (text == nullptr || text->isPicture || value->fate == Fate::NullWord) {
                     continue;
                 }

@@ -1,4 +1,5 @@
 #include "row_shape.h"
+#include <algorithm>
 
 RowShapeCL::RowShapeCL(const GrammarCL& grammar)
 {
@@ -10,9 +11,10 @@ RowShapeCL::RowShapeCL(const GrammarCL& grammar)
     }
 }
 
-const RowShapeCL::TextCL* RowShapeCL::searchM(const char* field) const
+const RowShapeCL::TextCL* RowShapeCL::searchM(const char* field, std::size_t place) const
 {
     const auto found = texts_.find(field);
-    asked_.push_back({ field, found != texts_.end() ? &found->second : nullptr });
-    return asked_.back().second;
+    asked_.resize(std::max(asked_.size(), place + 1));
+    asked_[place] = { field, found != texts_.end() ? &found->second : nullptr };
+    return asked_[place].second;
 }

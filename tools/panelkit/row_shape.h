@@ -1,6 +1,5 @@
 #pragma once
 #include "file_reading.h"
-#include <algorithm>
 #include <map>
 
 // What the texts of a secondary section's entries are, by the names of their fields.
@@ -14,13 +13,12 @@ public:
         int size; // With its terminator.
         bool isPicture;
     };
-    // Null for a field that is no text. In little time for a name that was asked for before: entries repeat
-    // theirs.
-    const TextCL* FindM(const char* field) const
+    // Null for a field that is no text. place: of the value among those of its entry; in little time for a
+    // field that was asked for at the same place before.
+    const TextCL* FindM(const char* field, std::size_t place) const
     {
-        const auto asked = std::find_if(
-            asked_.begin(), asked_.end(), [field](const auto& one) { return one.first == field; });
-        return asked != asked_.end() ? asked->second : searchM(field);
+        return place < asked_.size() && asked_[place].first == field ? asked_[place].second
+                                                                     : searchM(field, place);
     }
     void CaptionM(const char* name, CharArr&, const TextFormCL& form) override
     {
@@ -32,7 +30,7 @@ public:
     }
 
 private:
-    const TextCL* searchM(const char* field) const;
+    const TextCL* searchM(const char* field, std::size_t place) const;
 
     std::map<std::string, TextCL> texts_;
     mutable std::vector<std::pair<const char*, const TextCL*>> asked_;

@@ -14,7 +14,7 @@ namespace {
 SpanCL spanOfFinding(const OpenFileCL& file, const FindingCL& finding)
 {
     const std::string& bytes = file.DocumentM().GbkM();
-    const std::size_t begin = std::min(finding.offset, bytes.size());
+    const std::size_t begin = std::min<std::size_t>(finding.offset, bytes.size());
     const std::size_t end = std::min(bytes.find_first_of(" \t\r\n", begin), bytes.size());
     return { begin, end };
 }
@@ -96,7 +96,7 @@ private:
 
 void FixerCL::fixM(const FindingCL& finding)
 {
-    const std::vector<std::string>& details = finding.details;
+    const std::vector<std::string_view> details = finding.DetailsM();
     const SpanCL word = spanOfFinding(file_, finding);
     switch (finding.says) {
     case Says::FileIsUtf8:
@@ -113,20 +113,20 @@ void FixerCL::fixM(const FindingCL& finding)
         while (end > word.begin && slIsBlank(bytes[end - 1])) {
             --end;
         }
-        writeM({ word.begin, end }, details[1]);
+        writeM({ word.begin, end }, std::string(details[1]));
         break;
     }
     case Says::CountTooSmall:
     case Says::ShortSection:
     case Says::EntryMissing:
-        setCountM(details[1]);
+        setCountM(std::string(details[1]));
         break;
     case Says::NegativeCount:
         setCountM("0");
         break;
     case Says::BadNumber:
     case Says::RecordSlip: {
-        const std::string meant = meantNumber(details[1]);
+        const std::string meant = meantNumber(std::string(details[1]));
         if (!meant.empty()) {
             writeM(word, meant);
         }
@@ -134,7 +134,7 @@ void FixerCL::fixM(const FindingCL& finding)
     }
     case Says::BadCount:
     case Says::BadCommentCount: {
-        const std::string meant = meantNumber(details[0]);
+        const std::string meant = meantNumber(std::string(details[0]));
         if (!meant.empty()) {
             writeM(word, meant);
         }
@@ -148,7 +148,7 @@ void FixerCL::fixM(const FindingCL& finding)
         break;
     }
     case Says::MissingSecondary:
-        addSectionM(details[0]);
+        addSectionM(std::string(details[0]));
         break;
     default:
         fixValueM(finding);
