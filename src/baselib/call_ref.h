@@ -10,6 +10,7 @@ template <class SignatureTP> class CallRefCL;
 template <class ResultTP, class... ArgumentsTP> class CallRefCL<ResultTP(ArgumentsTP...)>
 {
 public:
+    // Calls `function`, which is to live as long as this; nothing is copied.
     // NOLINTNEXTLINE(google-explicit-constructor): a lambda is given as it is.
     template <class FunctionTP,
         class = std::enable_if_t<!std::is_same_v<std::decay_t<FunctionTP>, CallRefCL>>>
@@ -22,6 +23,7 @@ public:
     {
     }
 
+    // What the function gives, and throws, for these arguments.
     ResultTP operator()(ArgumentsTP... arguments) const
     {
         return call_(object_, std::forward<ArgumentsTP>(arguments)...);

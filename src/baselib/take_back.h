@@ -6,6 +6,7 @@
 template <class FunctionTP> class TakeBackCL
 {
 public:
+    // Keeps `takeBack` for the end of the scope.
     explicit TakeBackCL(FunctionTP takeBack)
         : takeBack_(std::move(takeBack))
     {

@@ -12,17 +12,18 @@ struct ArrElementsCL
     std::size_t storeAt; // Where in an array the inline store begins.
     std::ptrdiff_t base; // Where in an element its VrBaseCL part is.
     bool copiesFirst;    // A copy may find no memory: one is made before what it is to replace changes.
-    void (*construct)(void* slot);
-    void (*assign)(void* slot, const void* from);
-    void (*deleteItem)(void* slot);
-    void (*merge)(void* slot, const void* from, int index);
+    void (*construct)(void* slot);                          // Makes an element there, with its defaults.
+    void (*assign)(void* slot, const void* from);           // Makes it a copy of another one.
+    void (*deleteItem)(void* slot);                         // Deletes it, as VrBaseCL::DelItemM.
+    void (*merge)(void* slot, const void* from, int index); // As VrBaseCL::SetByMergeM.
     void (*withFresh)(void (*use)(void* element, void* context), void* context); // With one that is new.
-    void* (*spare)();
+    void* (*spare)(); // What an index outside the store gives.
 };
 
 // What an array does with elements of class T.
 template <class T> struct ArrOperationsCL
 {
+    // As the members of ArrElementsCL, with the element's class known.
     static void ConstructM(void* slot) { ::new (slot) T(); }
     static void AssignM(void* slot, const void* from)
     {
@@ -48,11 +49,13 @@ template <class T> struct ArrOperationsCL
     }
 };
 
+// Where in an array the inline store begins, in bytes, by the elements' alignment.
 constexpr std::size_t ArrStoreAt(std::size_t alignment)
 {
     return (2 * sizeof(void*) + alignment - 1) / alignment * alignment; // Behind two pointers.
 }
 
+// What AnyArrCL is told of arrays of T.
 template <class T>
 const ArrElementsCL ArrElementsOf { sizeof(T), ArrStoreAt(alignof(T)),
     reinterpret_cast<char*>(static_cast<VrBaseCL*>(reinterpret_cast<T*>(alignof(std::max_align_t))))
