@@ -99,7 +99,7 @@ TEST(FilesWithoutMemory, CheckFindsTheSameAfterwards)
             EXPECT_EQ(found ? *found : find(), all);
             return hasFailed;
         },
-        9);
+        5);
     EXPECT_GT(failed, 50U);
 }
 
