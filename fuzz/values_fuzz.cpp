@@ -22,7 +22,7 @@ void expect(bool holds)
 void setRange(TypedValueCL& value, const std::uint8_t* limits)
 {
     simpleValD range;
-    std::memcpy(&range, limits, sizeof range.numbers);
+    std::memcpy(range.text, limits, sizeof range.numbers);
     value.SetRangeM(range);
 }
 
