@@ -182,6 +182,11 @@ template <int N> int TaggedArr<N>::DelAllM()
     return 1;
 }
 
+template <int N> void TaggedArr<N>::SwapListM(TaggedArr& other) noexcept
+{
+    store_.swap(other.store_);
+}
+
 template class PANELKIT_API TaggedArr<1>;
 template class PANELKIT_API TaggedArr<2>;
 template class PANELKIT_API TaggedArr<3>;

@@ -39,7 +39,7 @@ public:
     // Deletes a slot; the last one also lowers the bound, by one only. Outside 0..bound-1: nothing. 1.
     int DelItemM(int index);
     int DelAllM(); // Lets go of the storage: a list that shared it keeps its items. 1.
-    void SwapListM(TaggedArr& other) noexcept { store_.swap(other.store_); } // Needs no memory.
+    void SwapListM(TaggedArr& other) noexcept; // Both hold what the other held; needs no memory.
 
     // The most slots that storing beyond the bound may skip.
     static constexpr int MaxGap = 1 << 22;
