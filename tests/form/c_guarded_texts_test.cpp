@@ -31,7 +31,7 @@ TEST(CGuardedTexts, AllThatTakesOrFillsATextKeepsToIt)
     for (const size_t limit : { 50, 128, 260 }) {
         for (const std::string& gbk : textsAround(limit)) {
             SCOPED_TRACE(gbk.size());
-            const std::string utf8 = slGbkToUtf8(gbk);
+            const std::string utf8 = slGbkToUtf8(gbk.c_str());
             for (const auto side : { GuardedBufferCL::GuardBehind, GuardedBufferCL::GuardBefore }) {
                 const GuardedBufferCL text(utf8, side);
                 const char* const from = text.DataM();
