@@ -97,10 +97,8 @@ TEST(WithoutWindow, LinesAreRefused)
     EXPECT_EQ(table.InsertColumnM(0, 50, "a"), 0);
     EXPECT_EQ(table.InsertItemM(0, 1, "a"), 0);
     EXPECT_EQ(table.SetItemTextM(0, 0, "a"), 0);
-    EXPECT_EQ(table.SetSelM(0), 0);
     EXPECT_EQ(table.GetFirstSelM(&number, &number), 0);
     EXPECT_EQ(table.GetNextSelM(-1, &number, &number), 0);
-    EXPECT_EQ(table.GetCurSelM(&number, &number), 0);
     EXPECT_EQ(table.DeleteItemM(0), 0);
     EXPECT_EQ(table.DelAllM(), 0);
     DuTextListBoxCL texts;

@@ -20,7 +20,7 @@ unsigned IdChangesCL::CountM()
     return idChanges.load(std::memory_order_relaxed);
 }
 
-bool slOutlives(CWnd* control, const std::function<void()>& act)
+bool slOutlives(CWnd* control, const CallRefCL<void()>& act)
 {
     const LifeCL life(control);
     act();

@@ -1,4 +1,5 @@
 #pragma once
+#include "baselib/call_ref.h"
 #include "baselib/char_arr.h"
 #include "containers/int3d_arr.h"
 #include "controls/base/accessors.h"
@@ -17,7 +18,7 @@ inline int slWindowLength(int length)
 
 // Does something with a control of which the application hears. False: the control has been deleted
 // meanwhile.
-PANELKIT_API bool slOutlives(CWnd* control, const std::function<void()>& act);
+PANELKIT_API bool slOutlives(CWnd* control, const CallRefCL<void()>& act);
 
 // What the host and the application know of any control: ids, described place, window, relations.
 // Lengths are pixels. Without a live window the geometry getters give 0 and the setters do nothing.

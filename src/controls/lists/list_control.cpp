@@ -203,7 +203,7 @@ int DuListCtrlCL::GetNextSelM(int from, int* row, int* data) const
 
 int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 {
-    if (m_hWnd == nullptr || row == nullptr || data == nullptr) {
+    if (row == nullptr || data == nullptr) {
         return 0;
     }
     if (GetSelectedCount() > 0) {
@@ -215,9 +215,6 @@ int DuListCtrlCL::GetCurSelM(int* row, int* data) const
 
 int DuListCtrlCL::SetSelM(int row)
 {
-    if (m_hWnd == nullptr) {
-        return 0;
-    }
     for (int at = GetNextItem(-1, LVNI_SELECTED); at != -1; at = GetNextItem(at, LVNI_SELECTED)) {
         deselectM(at);
     }
