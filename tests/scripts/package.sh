@@ -15,7 +15,7 @@ needs_no_runtime() { # program
   local dlls
   dlls=$("${tools}objdump" -p "$1" | sed -n 's/^.*DLL Name: //p')
   [ -n "$dlls" ] || { echo "no DLLs in $1"; return 1; }
-  if grep -ivxE 'panelkit|(advapi32|comctl32|comdlg32|gdi32|kernel32|msvcrt|ole32|oleaut32|panelkit|shell32|user32|uuid|windowscodecs|winspool)\.(dll|drv)' \
+  if grep -ivxE 'panelkit|(advapi32|comctl32|comdlg32|gdi32|imm32|kernel32|msvcrt|ole32|oleaut32|panelkit|shell32|user32|uuid|windowscodecs|winspool)\.(dll|drv)' \
     <<<"$dlls"; then
     echo "$1 needs these"
     return 1
