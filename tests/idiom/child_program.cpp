@@ -1,4 +1,5 @@
 #include "idiom/child_program.h"
+#include "support/window.h"
 
 using namespace testing_support;
 
@@ -82,6 +83,7 @@ HWND ChildProgram::WindowM(const wchar_t* title)
     }
     EXPECT_TRUE(bringForward(found)) << "the window stays behind";
     EXPECT_TRUE(PumpUntil([this] { return FocusM() != nullptr; })) << "the window has no focus";
+    SettleProgramM(found);
     return found;
 }
 

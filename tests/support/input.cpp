@@ -2,7 +2,9 @@
 #include "support/pump.h"
 #include "support/script.h"
 #include "support/window.h"
+#include <initializer_list>
 #include <optional>
+#include <vector>
 
 namespace testing_support {
 
@@ -14,10 +16,13 @@ DWORD ahead = 0;
 
 // Injected input stands in the thread's queue when SendInput returns; pumping it empty processes it. In a
 // script the loop that the script runs under does that before the next step.
-void inject(INPUT input)
+void inject(std::initializer_list<INPUT> inputs)
 {
-    (input.type == INPUT_MOUSE ? input.mi.time : input.ki.time) = GetTickCount() + ahead;
-    SendInput(1, &input, sizeof input);
+    std::vector<INPUT> all(inputs);
+    for (INPUT& input : all) {
+        (input.type == INPUT_MOUSE ? input.mi.time : input.ki.time) = GetTickCount() + ahead;
+    }
+    SendInput(static_cast<UINT>(all.size()), all.data(), sizeof all[0]);
     if (!InsideLoopCL::LivesM()) {
         PumpPending();
     }
@@ -65,7 +70,7 @@ void mouse(DWORD flags, LONG x = 0, LONG y = 0, DWORD data = 0)
     input.mi.dy = y;
     input.mi.mouseData = data;
     input.mi.dwFlags = flags;
-    inject(input);
+    inject({ input });
 }
 
 // With its place: what the display reports of the pointer to another program, such as that it has entered a
@@ -83,12 +88,12 @@ void injectButton(DWORD flags)
 
 void KeyDownM(WORD virtualKey)
 {
-    inject(namedKey(virtualKey, 0));
+    inject({ namedKey(virtualKey, 0) });
 }
 
 void KeyUpM(WORD virtualKey)
 {
-    inject(namedKey(virtualKey, KEYEVENTF_KEYUP));
+    inject({ namedKey(virtualKey, KEYEVENTF_KEYUP) });
 }
 
 void KeyM(WORD virtualKey)
@@ -99,9 +104,9 @@ void KeyM(WORD virtualKey)
 
 void ChordM(WORD modifier, WORD virtualKey)
 {
-    KeyDownM(modifier);
-    KeyM(virtualKey);
-    KeyUpM(modifier);
+    // At once: the display, which knows of no key held, may let go of the modifier whenever it reports.
+    inject({ namedKey(modifier, 0), namedKey(virtualKey, 0), namedKey(virtualKey, KEYEVENTF_KEYUP),
+        namedKey(modifier, KEYEVENTF_KEYUP) });
 }
 
 void TypeM(const wchar_t* text)
@@ -112,8 +117,8 @@ void TypeM(const wchar_t* text)
             const bool shift = (HIBYTE(key) & 1) != 0;
             shift ? ChordM(VK_SHIFT, LOBYTE(key)) : KeyM(LOBYTE(key));
         } else {
-            inject(keyInput(0, *text, KEYEVENTF_UNICODE));
-            inject(keyInput(0, *text, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
+            inject({ keyInput(0, *text, KEYEVENTF_UNICODE) });
+            inject({ keyInput(0, *text, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP) });
         }
     }
 }
@@ -128,7 +133,9 @@ bool MoveMouseToM(HWND window, int x, int y)
     place = POINT { MulDiv(2 * wanted.x + 1, 65536, 2 * width), MulDiv(2 * wanted.y + 1, 65536, 2 * height) };
     mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, place->x, place->y);
     if (!InsideLoopCL::LivesM()) {
-        SettleM(); // The pointer enters and leaves windows.
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        process == GetCurrentProcessId() ? SettleM() : SettleProgramM(window); // The pointer enters windows.
     }
     POINT now = {};
     return GetCursorPos(&now) && now.x == wanted.x && now.y == wanted.y;

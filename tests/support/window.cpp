@@ -43,6 +43,14 @@ void SettleM()
     PumpPending();
 }
 
+void SettleProgramM(HWND window)
+{
+    for (int i = 0; i < 3; ++i) {
+        SettleM(); // What either program has asked of the display is done, and the reports are on their way.
+        SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, 1000, nullptr); // It comes by its loop.
+    }
+}
+
 bool ActivateM(HWND window)
 {
     SetForegroundWindow(window);

@@ -24,6 +24,10 @@ private:
 // says which keys a real keyboard holds, and would let go of a Shift key that a test presses meanwhile.
 void SettleM();
 
+// The same for a window of another program, which hears such reports itself. One that does not answer for a
+// second is busy, and is not waited for.
+void SettleProgramM(HWND window);
+
 // Brings the top-level window to the foreground and waits until it has the activation.
 bool ActivateM(HWND window);
 
