@@ -22,6 +22,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   baselib/string.cpp
   baselib/text_pool.cpp
   containers/any_arr.cpp
+  containers/any_arr_stream.cpp
   containers/arr_slots.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
