@@ -48,6 +48,7 @@ set(PANELKIT_CONTROL_SOURCES
   dialog/basic_dialog_build.cpp
   dialog/basic_dialog_by_id.cpp
   dialog/basic_dialog_by_id_lines.cpp
+  dialog/basic_dialog_destroy.cpp
   dialog/basic_dialog_diagnostics.cpp
   dialog/basic_dialog_finish.cpp
   dialog/basic_dialog_frame.cpp

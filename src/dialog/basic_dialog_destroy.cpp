@@ -1,0 +1,80 @@
+// Destroying: the controls by themselves, or with the dialog's window.
+#include "dialog/basic_dialog.h"
+#include "toolkit/life.h"
+
+namespace {
+
+// What the window system tells the parents of a window that is destroyed by itself.
+void tellParentsM(HWND child)
+{
+    const auto tells = [](HWND window) {
+        return (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0
+            && (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOPARENTNOTIFY) == 0;
+    };
+    const WPARAM what = MAKEWPARAM(WM_DESTROY, ::GetDlgCtrlID(child));
+    for (HWND at = child; tells(at);) {
+        at = ::GetParent(at);
+        if (at == nullptr) {
+            break;
+        }
+        ::SendMessageW(at, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(child));
+    }
+}
+
+} // namespace
+
+void DuBasicDialogCL::DestroyM()
+{
+    const ValidationPauseCL destroying(m_hWnd);
+    std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
+    index_.ForgetM();
+    bound_ = {};
+    font_.DeleteObject();
+}
+
+BOOL DuBasicDialogCL::DestroyWindow()
+{
+    const LifeCL life(this);
+    const bool isParted = partM();
+    if (!life.IsAliveM()) {
+        return TRUE;
+    }
+    if (!isParted) {
+        DestroyM();
+        return CDialog::DestroyWindow();
+    }
+    const ValidationPauseCL destroying(m_hWnd);
+    isParted_ = true;
+    const BOOL done = CDialog::DestroyWindow();
+    if (life.IsAliveM()) { // PostNcDestroy may have deleted it.
+        isParted_ = false;
+        DestroyM();
+    }
+    return done;
+}
+
+// Prepares for the controls' windows to go with the dialog's, in one call where each for itself would be
+// many: those that have something to say while they go are destroyed, for the others the dialog is told that
+// they go. False: all are to be destroyed one by one, as the focus or the mouse would wander through them.
+bool DuBasicDialogCL::partM()
+{
+    const auto holds = [this](HWND window) { return window != nullptr && ::IsChild(m_hWnd, window); };
+    if (m_hWnd == nullptr || parentM() != m_hWnd || holds(::GetFocus()) || holds(::GetCapture())) {
+        return false;
+    }
+    const LifeCL life(this);
+    const ValidationPauseCL destroying(m_hWnd);
+    eachControlsM([this, &life](auto row, auto& controls) {
+        for (int i = 0; life.IsAliveM() && i < controls.GetBoundM(); ++i) {
+            const auto& control = controls.ControlAtM(i);
+            const bool goesAlong = decltype(row)::CanM(GoesQuietly) && slIsJust(control)
+                && control.m_hWnd != nullptr && ::GetAncestor(control.m_hWnd, GA_PARENT) == m_hWnd;
+            if (goesAlong) {
+                tellParentsM(control.m_hWnd);
+            } else {
+                controls.DelItemM(i);
+            }
+        }
+    });
+    return life.IsAliveM() && m_hWnd != nullptr;
+}
