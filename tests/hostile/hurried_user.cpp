@@ -131,6 +131,9 @@ LRESULT CALLBACK HurriedUserCL::procedure(HWND window, UINT message, WPARAM wPar
     if (message == WM_NCHITTEST) {
         return HTTRANSPARENT;
     }
+    if (message == WM_CLOSE) {
+        return 0; // His Alt and F4, where no dialog has the activation any more.
+    }
     if (message != WM_PAINT && message != WM_TIMER) {
         return DefWindowProcW(window, message, wParam, lParam);
     }
