@@ -1,11 +1,12 @@
 // How long the first dialog of a process takes, over plain calls that make the same windows: each time in a
 // process of its own, the two in turn. first_bench [FOLDER of plotter.dlg]
+// first_bench list OUT: writes the list of its windows for other programs.
 #include "measures.h"
+#include "plain_windows.h"
 #include "raw_dialog.h"
 #include "support/test_dialog.h"
-#include <commctrl.h>
 #include <cstring>
-#include <fstream>
+#include <filesystem>
 
 using namespace mixed;
 
@@ -13,149 +14,18 @@ namespace {
 
 constexpr int Rounds = 12;
 
-struct WindowCL
-{
-    std::wstring name;
-    std::wstring text;
-    DWORD style;
-    DWORD exStyle;
-    RECT rect; // Left, top, width, height.
-    int id;
-    int buddy; // The id of the edit that the arrows of a spin control belong to; 0: none.
-    std::vector<std::wstring> lines;
-
-    bool IsLikeM(const WindowCL& other) const
-    {
-        return name == other.name && text == other.text && style == other.style && exStyle == other.exStyle
-            && ::EqualRect(&rect, &other.rect) && id == other.id && buddy == other.buddy
-            && lines == other.lines;
-    }
-};
-
-std::wstring textFrom(HWND window, UINT message, WPARAM wParam)
-{
-    wchar_t text[300] = L"";
-    ::SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-WindowCL look(HWND window)
-{
-    WindowCL seen;
-    wchar_t name[64] = L"";
-    ::GetClassNameW(window, name, 64);
-    seen.name = name;
-    wchar_t text[300] = L"";
-    ::GetWindowTextW(window, text, 300);
-    seen.text = text;
-    seen.style = styleOf(window);
-    seen.exStyle = exStyleOf(window);
-    ::GetWindowRect(window, &seen.rect);
-    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<POINT*>(&seen.rect), 2);
-    seen.rect.right -= seen.rect.left;
-    seen.rect.bottom -= seen.rect.top;
-    seen.id = ::GetDlgCtrlID(window);
-    seen.buddy = seen.name == UPDOWN_CLASSW
-        ? ::GetDlgCtrlID(reinterpret_cast<HWND>(::SendMessageW(window, UDM_GETBUDDY, 0, 0)))
-        : 0;
-    const bool isList = seen.name == L"ListBox";
-    const LRESULT count = isList   ? ::SendMessageW(window, LB_GETCOUNT, 0, 0)
-        : seen.name == L"ComboBox" ? ::SendMessageW(window, CB_GETCOUNT, 0, 0)
-                                   : 0;
-    for (LRESULT line = 0; line < count; ++line) {
-        seen.lines.push_back(textFrom(window, isList ? LB_GETTEXT : CB_GETLBTEXT, static_cast<WPARAM>(line)));
-    }
-    return seen;
-}
-
-std::vector<WindowCL> lookAtAll(HWND parent)
-{
-    std::vector<WindowCL> all;
-    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-        all.push_back(look(child));
-    }
-    return all;
-}
-
-// The windows, one after another, as lines of a file for the process that makes them.
-void write(const std::vector<WindowCL>& windows, const char* path)
-{
-    std::ofstream file(path, std::ios::binary);
-    const auto text = [&file](const std::wstring& wide) {
-        file << wide.size();
-        for (const wchar_t unit : wide) {
-            file << ' ' << static_cast<unsigned>(unit);
-        }
-        file << '\n';
-    };
-    file << windows.size() << '\n';
-    for (const WindowCL& window : windows) {
-        text(window.name);
-        text(window.text);
-        file << window.style << ' ' << window.exStyle << ' ' << window.rect.left << ' ' << window.rect.top
-             << ' ' << window.rect.right << ' ' << window.rect.bottom << ' ' << window.id << ' '
-             << window.buddy << ' ' << window.lines.size() << '\n';
-        for (const std::wstring& line : window.lines) {
-            text(line);
-        }
-    }
-}
-
-std::vector<WindowCL> read(const char* path)
-{
-    std::ifstream file(path, std::ios::binary);
-    const auto text = [&file] {
-        size_t size = 0;
-        file >> size;
-        std::wstring wide;
-        for (size_t i = 0; i < size; ++i) {
-            unsigned unit = 0;
-            file >> unit;
-            wide += static_cast<wchar_t>(unit);
-        }
-        return wide;
-    };
-    size_t count = 0;
-    file >> count;
-    std::vector<WindowCL> windows(count);
-    for (WindowCL& window : windows) {
-        window.name = text();
-        window.text = text();
-        size_t lines = 0;
-        file >> window.style >> window.exStyle >> window.rect.left >> window.rect.top >> window.rect.right
-            >> window.rect.bottom >> window.id >> window.buddy >> lines;
-        for (size_t i = 0; i < lines; ++i) {
-            window.lines.push_back(text());
-        }
-    }
-    return windows;
-}
-
 double buildByLibrary(const char* file)
 {
     HostCL host(file);
     return secondsOf([&host] { host.BuildM(); });
 }
 
-// An edit with arrows is created with the room of both: joining them takes the arrows' room from it.
-void giveRoomOfArrows(std::vector<WindowCL>& windows)
-{
-    for (const WindowCL& arrows : windows) {
-        for (WindowCL& edit : windows) {
-            if (arrows.buddy != 0 && edit.id == arrows.buddy) {
-                edit.rect.right += arrows.rect.right; // Widths.
-            }
-        }
-    }
-}
-
 // Negative when what it makes isn't what the file says.
 double buildRaw(const char* file)
 {
-    const std::vector<WindowCL> wanted = read(file);
-    std::vector<WindowCL> windows = wanted;
-    giveRoomOfArrows(windows);
+    const std::vector<plain::WindowCL> wanted = plain::read(file);
+    std::vector<plain::WindowCL> windows = wanted;
+    plain::giveRoomOfArrows(windows);
     const RawDialogCL dialog(0);
     const HWND parent = dialog.HandleM();
     const double seconds = secondsOf([&windows, parent] {
@@ -165,36 +35,10 @@ double buildRaw(const char* file)
             parent, GWL_STYLE, static_cast<LONG>(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_DLGFRAME));
         ::SetWindowTextW(parent, L"plotter");
         ::SetWindowPos(parent, nullptr, 120, 80, 560, 424, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-        std::vector<HWND> made;
-        for (const WindowCL& window : windows) {
-            made.push_back(::CreateWindowExW(window.exStyle, window.name.c_str(), window.text.c_str(),
-                window.style, window.rect.left, window.rect.top, window.rect.right, window.rect.bottom,
-                parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(window.id)), nullptr, nullptr));
-            const bool isList = window.name == L"ListBox";
-            for (const std::wstring& line : window.lines) {
-                ::SendMessageW(made.back(), isList ? LB_ADDSTRING : CB_ADDSTRING, 0,
-                    reinterpret_cast<LPARAM>(line.c_str()));
-            }
-        }
-        for (size_t i = 0; i < made.size(); ++i) {
-            if (windows[i].buddy != 0) {
-                ::SendMessageW(made[i], UDM_SETBUDDY,
-                    reinterpret_cast<WPARAM>(::GetDlgItem(parent, windows[i].buddy)), 0);
-            }
-        }
-        LOGFONTW look {};
-        look.lfHeight = -FontOption;
-        look.lfWeight = FW_NORMAL;
-        look.lfCharSet = GB2312_CHARSET;
-        look.lfPitchAndFamily = FF_MODERN;
-        std::wcscpy(look.lfFaceName, L"\u5B8B\u4F53");
-        const HFONT font = ::CreateFontIndirectW(&look);
-        for (const HWND window : made) {
-            ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-        }
+        plain::makeAll(parent, windows, FontOption);
         ::DeleteObject(picture);
     });
-    const std::vector<WindowCL> made = lookAtAll(parent);
+    const std::vector<plain::WindowCL> made = plain::lookAtAll(parent);
     for (size_t i = 0; i < wanted.size(); ++i) {
         if (made.size() != wanted.size() || !made[i].IsLikeM(wanted[i])) {
             std::fprintf(stderr, "window %u differs\n", static_cast<unsigned>(i));
@@ -230,19 +74,25 @@ double secondsIn(const wchar_t* how, const std::string& file)
 
 int main(int argc, char** argv)
 {
-    if (argc == 3) {
+    const bool isList = argc == 3 && std::strcmp(argv[1], "list") == 0;
+    const std::string out = isList ? std::filesystem::absolute(argv[2]).string() : "";
+    if (argc == 3 && !isList) {
         const double seconds = std::strcmp(argv[1], "raw") == 0 ? buildRaw(argv[2]) : buildByLibrary(argv[2]);
         return seconds < 0 ? 0 : static_cast<int>(seconds * 1e6);
     }
     ::SetCurrentDirectoryA(argc == 2 ? argv[1] : PANELKIT_PLOTTER);
-    std::vector<WindowCL> windows;
+    std::vector<plain::WindowCL> windows;
     {
         HostCL host("plotter.dlg");
         host.BuildM();
-        windows = lookAtAll(host.m_hWnd);
+        windows = plain::lookAtAll(host.m_hWnd);
+    }
+    if (isList) {
+        plain::write(windows, out.c_str());
+        return windows.empty() ? 1 : 0;
     }
     const TempFile list;
-    write(windows, list.path());
+    plain::write(windows, list.path());
     std::vector<double> mine;
     std::vector<double> raw;
     for (int round = 0; round <= Rounds; ++round) {

@@ -1,13 +1,34 @@
-// The least that a program does which pictures a dialog: one empty window of the plotter's size, no controls,
-// painted and written as it is. raw_shot OUT.bmp
+// What a program does by plain calls that pictures a dialog: a window of the plotter's size with its
+// background, painted and written as it is. raw_shot OUT.bmp: without controls, the least that any picture
+// takes. raw_shot OUT.bmp LIST: with the windows of a list of first_bench.
+#include "plain_windows.h"
 #include <cstdio>
-#include <vector>
-#include <windows.h>
 
 namespace {
 
 constexpr int Width = 560;
 constexpr int Height = 424;
+constexpr int FontHeight = 14;
+
+// In the folder that it is started in.
+LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_PAINT) {
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+    PAINTSTRUCT paint;
+    const HDC dc = ::BeginPaint(window, &paint);
+    const HANDLE picture = ::LoadImageW(
+        nullptr, L"plotter_background.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION);
+    const HDC memory = ::CreateCompatibleDC(dc);
+    const HGDIOBJ before = ::SelectObject(memory, picture);
+    ::BitBlt(dc, 0, 0, Width, Height, memory, 0, 0, SRCCOPY);
+    ::SelectObject(memory, before);
+    ::DeleteDC(memory);
+    ::DeleteObject(picture);
+    ::EndPaint(window, &paint);
+    return 0;
+}
 
 bool write(HWND window, const char* file)
 {
@@ -42,9 +63,25 @@ bool write(HWND window, const char* file)
 
 int main(int argc, char** argv)
 {
-    const HWND window = ::CreateWindowExW(0, L"#32770", L"", WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, Width,
-        Height, nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
+    WNDCLASSW type {};
+    type.lpfnWndProc = procedure;
+    type.hInstance = ::GetModuleHandleW(nullptr);
+    type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    type.lpszClassName = L"RawShot";
+    ::RegisterClassW(&type);
+    const HWND window = ::CreateWindowExW(0, type.lpszClassName, L"", WS_POPUP | WS_CAPTION | WS_SYSMENU, 0,
+        0, Width, Height, nullptr, nullptr, type.hInstance, nullptr);
+    if (argc == 3) {
+        const INITCOMMONCONTROLSEX controls { sizeof controls, ICC_UPDOWN_CLASS };
+        ::InitCommonControlsEx(&controls);
+        std::vector<plain::WindowCL> windows = plain::read(argv[2]);
+        plain::giveRoomOfArrows(windows);
+        plain::makeAll(window, windows, FontHeight);
+        if (windows.size() < 20) {
+            return 1;
+        }
+    }
     ::ShowWindow(window, SW_SHOW);
-    ::UpdateWindow(window);
-    return argc == 2 && window != nullptr && write(window, argv[1]) ? 0 : 1;
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return argc >= 2 && window != nullptr && write(window, argv[1]) ? 0 : 1;
 }
