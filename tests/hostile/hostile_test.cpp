@@ -21,7 +21,7 @@ namespace {
 constexpr int Inputs = 30;
 constexpr unsigned UsualCount = 200;
 constexpr unsigned Again = 30;
-constexpr size_t Spare = 8; // Blocks.
+constexpr size_t Spare = 8; // Blocks of the heap: two were seen, and of Again dialogs no third may leave one.
 
 unsigned setting(const char* name, unsigned usual)
 {
