@@ -14,16 +14,6 @@ void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
 
-const char* scanNumber(const char* at, const char* end, int& value)
-{
-    return slScanInt(at, end, &value);
-}
-
-const char* scanNumber(const char* at, const char* end, float& value)
-{
-    return slReadReal(at, end, &value);
-}
-
 // Only a limit may stand for more than itself.
 bool numberFits(const char* at, const char* end, int value)
 {
@@ -76,55 +66,40 @@ inline void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate f
     observer_->ValueM(seen_);
 }
 
-// Nearly all numbers are read by this alone: what is rare is left to others, so that it stays short.
+const char* FieldReaderCL::sureM() const
+{
+    const bool isSure = !isStopped_ && !io_->binary_ && io_->SizeM() > slScannedAtOnce;
+    return isSure ? io_->end_ - slScannedAtOnce : nullptr;
+}
+
+// Nearly all numbers are read by this alone: what is rare is left to another, so that it stays short.
 inline bool FieldReaderCL::readM(const char* name, int part, int& value)
 {
-    if (isStopped_ || io_->binary_) {
-        return readOtherwiseM(name, part, value);
+    if (sure_ != nullptr) {
+        const char* const begin = slSkipBlanks(io_->at_, sure_);
+        const char* const end = begin < sure_ ? slScanShortInt(begin, &value) : nullptr;
+        if (end != nullptr) {
+            io_->at_ = end;
+            return observer_ == nullptr || tellReadM(name, part, begin, end);
+        }
     }
-    const char* const end = io_->data_ + io_->size_;
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
-    const char* const numberEnd = slScanShortInt(begin, end, &value);
-    if (numberEnd == nullptr) {
-        return takeNumberM(name, part, begin, value);
-    }
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return observer_ == nullptr || tellNumberM(name, part, begin, numberEnd, value);
+    return readOtherwiseM(name, part, value);
 }
 
 inline bool FieldReaderCL::readM(const char* name, int part, float& value)
 {
-    if (isStopped_ || io_->binary_) {
-        return readOtherwiseM(name, part, value);
-    }
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, io_->data_ + io_->size_);
-    return takeNumberM(name, part, begin, value);
+    return readOtherwiseM(name, part, value);
 }
 
-// The same from the first byte that is no blank on.
-template <class T> bool FieldReaderCL::takeNumberM(const char* name, int part, const char* begin, T& value)
+bool FieldReaderCL::tellReadM(const char* name, int part, const char* begin, const char* end)
 {
-    const char* const numberEnd = scanNumber(begin, io_->data_ + io_->size_, value);
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return observer_ != nullptr ? tellNumberM(name, part, begin, numberEnd, value) : numberEnd > begin;
+    tellM(name, part,
+        { static_cast<std::size_t>(begin - io_->data_), static_cast<std::size_t>(end - io_->data_) },
+        Fate::Read);
+    return true;
 }
 
-// Whether it was read: it ends where it begins otherwise.
-template <class T>
-bool FieldReaderCL::tellNumberM(const char* name, int part, const char* begin, const char* end, T value)
-{
-    const auto at = static_cast<std::size_t>(begin - io_->data_);
-    if (end > begin) {
-        tellM(name, part, { at, io_->at_ }, numberFits(begin, end, value) ? Fate::Read : Fate::Saturated);
-        return true;
-    }
-    if (isObservedM()) {
-        tellUnreadM(name, part, at);
-    }
-    return false;
-}
-
-// From a binary file, or not at all.
+// Of any kind, from any file, or not at all.
 template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part, T& value)
 {
     const std::size_t begin = isObservedM() ? slNextValue(*io_) : 0;
@@ -135,8 +110,8 @@ template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part
             tellM(name, part, { begin, begin }, Fate::NotLookedAt);
         } else if (isRead) {
             const char* const bytes = file.BytesM();
-            const bool fits = numberFits(bytes + begin, bytes + io_->at_, value);
-            tellM(name, part, { begin, io_->at_ }, fits ? Fate::Read : Fate::Saturated);
+            const bool fits = numberFits(bytes + begin, io_->at_, value);
+            tellM(name, part, { begin, io_->PositionM() }, fits ? Fate::Read : Fate::Saturated);
         } else {
             tellUnreadM(name, part, begin);
         }
@@ -233,16 +208,42 @@ void FieldReaderCL::ColourM(const char* name, ColourTP& colour, int* flag)
     colour = (rgb[0] & 0xFFU) | (rgb[1] & 0xFFU) << 8 | (rgb[2] & 0xFFU) << 16;
 }
 
+// As VrIOCL::InputItemM for a text without a NUL, as nearly all are; false for all else, and nothing is read.
+inline bool FieldReaderCL::inputPlainM(std::string_view* item)
+{
+    if (sure_ == nullptr) {
+        return false;
+    }
+    const char* const begin = slSkipBlanks(io_->at_, sure_);
+    const char* const lineEnd = slFindLineEnd(begin, sure_);
+    if (lineEnd == nullptr) {
+        return false;
+    }
+    const char* itemEnd = lineEnd;
+    while (slIsBlank(itemEnd[-1])) {
+        --itemEnd;
+    }
+    io_->at_ = lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
+    *item = { begin, static_cast<std::size_t>(itemEnd - begin) };
+    return true;
+}
+
 void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& form)
 {
     std::string_view item;
-    if (isStopped_ || !io_->InputItemM(&item)) {
+    const bool isPlain = inputPlainM(&item);
+    if (!isPlain && (isStopped_ || !io_->InputItemM(&item))) {
         tellNoTextM(name);
         return;
     }
-    std::string_view kept
-        = item.substr(0, slGbkCutLength(item.data(), item.size(), static_cast<std::size_t>(form.size) - 1));
-    kept = kept.substr(0, kept.find('\0'));
+    std::string_view kept = item;
+    if (kept.size() >= static_cast<std::size_t>(form.size)) {
+        kept = kept.substr(
+            0, slGbkCutLength(kept.data(), kept.size(), static_cast<std::size_t>(form.size) - 1));
+    }
+    if (!isPlain) {
+        kept = kept.substr(0, kept.find('\0'));
+    }
     const bool isNullWord = standsForNothing(kept, form.nullWord);
     if (isNullWord && form.nullWord != NullWord::SkipsEntry) {
         text.SetM("");
@@ -291,4 +292,5 @@ void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& for
 void FieldReaderCL::StopReadingM()
 {
     isStopped_ = true;
+    sure_ = nullptr;
 }

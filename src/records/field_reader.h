@@ -14,6 +14,7 @@ public:
         , observer_(io != nullptr ? io->ObserverM() : nullptr)
         , seen_ { section, 0, "", 0, {}, Fate::Read }
         , isStopped_(io == nullptr)
+        , sure_(sureM())
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
@@ -22,6 +23,7 @@ public:
         seen_.record = number;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
+        sure_ = sureM();
     }
     // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
     void ReuseTextsM() { isReusing_ = true; }
@@ -50,17 +52,15 @@ public:
     void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override;
 
 private:
+    const char* sureM() const;
     bool isObservedM() const { return observer_ != nullptr && io_->FileTextM() != nullptr; }
     bool readM(const char* name, int part, int& value);
     bool readM(const char* name, int part, float& value);
     // What is rare, or only for an observer: readM is short without, and needs no registers saved.
     template <class T> [[gnu::noinline]] bool readOtherwiseM(const char* name, int part, T& value);
-    template <class T>
-    [[gnu::noinline]] bool takeNumberM(const char* name, int part, const char* begin, T& value);
-    template <class T>
-    [[gnu::noinline]] bool tellNumberM(
-        const char* name, int part, const char* begin, const char* end, T value);
+    [[gnu::noinline]] bool tellReadM(const char* name, int part, const char* begin, const char* end);
     [[gnu::noinline]] void tellUnreadM(const char* name, int part, std::size_t begin);
+    bool inputPlainM(std::string_view* item);
     template <class T> void readAllM(const char* name, T* values, int count);
     void tellM(const char* name, int part, SpanCL span, Fate fate);
     [[gnu::noinline]] void tellTextM(
@@ -71,6 +71,7 @@ private:
     ReadObserverCL* observer_;
     ValueSeenCL seen_; // What the observer is told, one value after the other.
     bool isStopped_;
+    const char* sure_; // Values in front of it may be read in the short ways; null: none.
     bool isSkipped_ { false };
     bool isReusing_ { false };
     TextPoolCL* pool_ { nullptr };
