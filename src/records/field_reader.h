@@ -21,6 +21,7 @@ public:
     void BeginRecordM(int number)
     {
         seen_.record = number;
+        room_ = observer_ != nullptr ? observer_->BeginRecordM(seen_.section, number) : nullptr;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
         sure_ = sureM();
@@ -62,14 +63,31 @@ private:
     [[gnu::noinline]] void tellUnreadM(const char* name, int part, std::size_t begin);
     bool inputPlainM(std::string_view* item);
     template <class T> void readAllM(const char* name, T* values, int count);
-    void tellM(const char* name, int part, SpanCL span, Fate fate);
+    void tellM(const char* name, int part, SpanCL span, Fate fate)
+    {
+        if (room_ != nullptr && room_->next != room_->end) {
+            SeenValueCL& seen = *room_->next++; // Filled one by one: a copy would wait for its parts.
+            seen.field = name;
+            seen.begin = static_cast<std::uint32_t>(span.begin);
+            seen.end = static_cast<std::uint32_t>(span.end);
+            seen.part = static_cast<std::uint8_t>(part);
+            seen.fate = fate;
+            return;
+        }
+        seen_.field = name;
+        seen_.part = part;
+        seen_.span = span;
+        seen_.fate = fate;
+        observer_->ValueM(seen_);
+    }
     [[gnu::noinline]] void tellTextM(
         const char* name, std::string_view item, std::size_t kept, bool isNullWord);
     void tellNoTextM(const char* name);
 
     VrIOCL* io_;
     ReadObserverCL* observer_;
-    ValueSeenCL seen_; // What the observer is told, one value after the other.
+    SeenRoomCL* room_ { nullptr }; // For its values; null: none.
+    ValueSeenCL seen_;             // What the observer is told, one value after the other.
     bool isStopped_;
     const char* sure_; // Values in front of it may be read in the short ways; null: none.
     bool isSkipped_ { false };
