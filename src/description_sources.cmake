@@ -24,6 +24,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   containers/any_arr.cpp
   containers/any_arr_stream.cpp
   containers/arr_slots.cpp
+  containers/arr_store.cpp
   containers/string_arr.cpp
   containers/tagged_arr.cpp
   controls/animation/normal_animate_record.cpp
@@ -81,6 +82,7 @@ set(PANELKIT_DESCRIPTION_SOURCES
   pictures/rotation.cpp
   records/common_box_record.cpp
   records/field_reader.cpp
+  records/field_reader_text.cpp
   records/fields.cpp
   records/scaling.cpp
   records/section.cpp

@@ -55,7 +55,9 @@ int CharArr::SetM(const char* bytes, std::size_t length)
 void CharArr::SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
 {
     char* const made = length > 0 ? fillText(pool.NewM(length + 1), bytes, length) : nullptr;
-    slDeleteText(text_);
+    if (text_ != nullptr) {
+        slDeleteText(text_);
+    }
     text_ = made;
 }
 

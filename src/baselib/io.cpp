@@ -65,7 +65,8 @@ void VrIOCL::OpenM(std::shared_ptr<const FileTextCL> text, const char* path)
     }
     text_ = std::move(text);
     data_ = text_->BytesM();
-    size_ = text_->SizeM();
+    end_ = data_ + text_->SizeM();
+    at_ = data_;
 }
 
 void VrIOCL::CloseM()
@@ -76,8 +77,8 @@ void VrIOCL::CloseM()
     }
     text_.reset();
     data_ = nullptr;
-    size_ = 0;
-    at_ = 0;
+    end_ = nullptr;
+    at_ = nullptr;
     binary_ = false;
     outputLineBegun_ = false;
     directory_.SetM("");

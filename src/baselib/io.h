@@ -31,9 +31,14 @@ public:
     // Whether there is a file, to read or to write; whether its mode is binary.
     bool IsOpenM() const { return data_ != nullptr || out_ != nullptr; }
     bool IsBinaryM() const { return binary_; }
-    std::size_t BytesLeftM() const { return size_ - at_; } // Behind the read position.
-    std::size_t SizeM() const { return size_; }            // Of the file read, in bytes.
-    std::size_t PositionM() const { return at_; }          // The offset of the next byte to be read.
+    std::size_t BytesLeftM() const
+    {
+        return static_cast<std::size_t>(end_ - at_);
+    } // Behind the read position.
+    // Of the file read, in bytes.
+    std::size_t SizeM() const { return static_cast<std::size_t>(end_ - data_); }
+    // The offset of the next byte to be read.
+    std::size_t PositionM() const { return static_cast<std::size_t>(at_ - data_); }
     // The file read; null unless open for reading.
     const std::shared_ptr<const FileTextCL>& FileTextM() const { return text_; }
 
@@ -108,9 +113,9 @@ private:
 
     std::shared_ptr<const FileTextCL> text_; // The file read; null unless open for reading.
     const char* data_ { nullptr };           // Its bytes.
-    std::size_t size_ { 0 };
-    std::size_t at_ { 0 };
-    FILE* out_ { nullptr }; // The file written.
+    const char* end_ { nullptr };            // Behind the last one.
+    const char* at_ { nullptr };             // The next one to be read.
+    FILE* out_ { nullptr };                  // The file written.
     bool outputLineBegun_ { false };
     bool binary_ { false };
     CharArr directory_;

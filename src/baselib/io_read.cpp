@@ -21,7 +21,7 @@ constexpr std::size_t NoLength = SIZE_MAX;
 
 void VrIOCL::skipBlanksM()
 {
-    at_ = static_cast<std::size_t>(slSkipBlanks(data_ + at_, data_ + size_) - data_);
+    at_ = slSkipBlanks(at_, end_);
 }
 
 bool VrIOCL::inputBytesM(void* to, std::size_t count)
@@ -29,7 +29,7 @@ bool VrIOCL::inputBytesM(void* to, std::size_t count)
     if (BytesLeftM() < count) {
         return false;
     }
-    std::memcpy(to, data_ + at_, count);
+    std::memcpy(to, at_, count);
     at_ += count;
     return true;
 }
@@ -98,10 +98,9 @@ bool VrIOCL::InputOneM(int* value)
         return true;
     }
     skipBlanksM();
-    const char* const begin = data_ + at_;
-    const char* const numberEnd = slScanInt(begin, data_ + size_, value);
-    at_ += numberEnd - begin;
-    return numberEnd > begin;
+    const char* const begin = at_;
+    at_ = slReadInt(begin, end_, value);
+    return at_ > begin;
 }
 
 bool VrIOCL::InputOneM(float* value)
@@ -116,10 +115,9 @@ bool VrIOCL::InputOneM(float* value)
         return true;
     }
     skipBlanksM();
-    const char* const begin = data_ + at_;
-    const char* const numberEnd = slReadReal(begin, data_ + size_, value);
-    at_ += numberEnd - begin;
-    return numberEnd > begin;
+    const char* const begin = at_;
+    at_ = slReadReal(begin, end_, value);
+    return at_ > begin;
 }
 
 bool VrIOCL::inputCharM(char* value)
@@ -133,7 +131,7 @@ bool VrIOCL::inputCharM(char* value)
 // The length in front of a text, taken only when that many bytes follow it; otherwise NoLength, nothing read.
 std::size_t VrIOCL::inputLengthM()
 {
-    const std::size_t start = at_;
+    const char* const start = at_;
     int length = -1;
     bool whole = InputOneM(&length) && length >= 0;
     if (whole && !binary_) {
@@ -155,18 +153,17 @@ bool VrIOCL::InputItemM(std::string_view* item)
         if (length == NoLength) {
             return false;
         }
-        *item = { data_ + at_, length };
+        *item = { at_, length };
         at_ += length;
         return true;
     }
-    const char* const end = data_ + size_;
-    const char* const begin = slSkipBlanks(data_ + at_, end);
-    at_ = static_cast<std::size_t>(begin - data_);
-    if (begin == end) {
+    const char* const begin = slSkipBlanks(at_, end_);
+    at_ = begin;
+    if (begin == end_) {
         return false;
     }
-    const void* const lineFeed = std::memchr(begin, '\n', static_cast<std::size_t>(end - begin));
-    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : end;
+    const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
+    const char* lineEnd = lineFeed != nullptr ? static_cast<const char*>(lineFeed) : end_;
     const char* itemEnd = lineEnd;
     while (slIsBlank(itemEnd[-1])) {
         --itemEnd;
@@ -174,7 +171,7 @@ bool VrIOCL::InputItemM(std::string_view* item)
     if (lineFeed != nullptr && lineEnd[-1] == '\r') {
         --lineEnd;
     }
-    at_ += lineEnd - begin;
+    at_ = lineEnd;
     *item = { begin, static_cast<std::size_t>(itemEnd - begin) };
     return true;
 }
@@ -206,7 +203,7 @@ int VrIOCL::InputTextM(CharArr* text)
         text->SetM("");
         return 0;
     }
-    text->SetM(data_ + at_, length);
+    text->SetM(at_, length);
     at_ += length;
     if (!binary_) {
         SkipLineM();
@@ -216,17 +213,16 @@ int VrIOCL::InputTextM(CharArr* text)
 
 int VrIOCL::SkipLineM()
 {
-    if (at_ < size_) {
-        const char* const begin = data_ + at_;
-        const void* const lineFeed = std::memchr(begin, '\n', BytesLeftM());
-        at_ = lineFeed != nullptr ? static_cast<const char*>(lineFeed) - data_ + 1 : size_;
+    if (at_ < end_) {
+        const void* const lineFeed = std::memchr(at_, '\n', BytesLeftM());
+        at_ = lineFeed != nullptr ? static_cast<const char*>(lineFeed) + 1 : end_;
     }
     return 1;
 }
 
 int VrIOCL::SkipSomeLinesM(int n)
 {
-    for (; n > 0 && at_ < size_; --n) {
+    for (; n > 0 && at_ < end_; --n) {
         SkipLineM();
     }
     return 1;
@@ -235,11 +231,11 @@ int VrIOCL::SkipSomeLinesM(int n)
 // Whether anything but blanks stands between the line's beginning and the read position.
 bool VrIOCL::isLineBegunM() const
 {
-    std::size_t at = at_;
-    while (at > 0 && data_[at - 1] != '\n' && slIsBlank(data_[at - 1])) {
+    const char* at = at_;
+    while (at > data_ && at[-1] != '\n' && slIsBlank(at[-1])) {
         --at;
     }
-    return at > 0 && data_[at - 1] != '\n';
+    return at > data_ && at[-1] != '\n';
 }
 
 int VrIOCL::SkipEndLineM()

@@ -4,7 +4,7 @@
 
 // The library's own reading, inline: what it does for each of the many values of a file.
 
-// What slIsBlank says, with one comparison for most bytes.
+// The first byte that is no blank. What slIsBlank says, with one comparison for most bytes.
 inline const char* slSkipBlanks(const char* at, const char* end)
 {
     constexpr std::uint64_t Blanks = 0x100003E01; // Space, tab to CR, NUL.
@@ -22,39 +22,44 @@ inline std::uint64_t slEightBytes(const char* at)
     return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
 }
 
-// The number of eight digits: the bytes are their values, the last digit highest. All are added up at once:
-// by twos, by fours, by eights.
-inline std::uint64_t slJoinedDigits(std::uint64_t digits)
+// How many bytes slScanShortInt and slFindLineEnd look at at once.
+constexpr int slScannedAtOnce = 8;
+
+// As slReadInt for one to seven digits without a sign: null for all else, *value unchanged. slScannedAtOnce
+// bytes are there. Nothing but branches finds out how long a number is: the processor, which foresees most of
+// them, is at the next value before it has this one.
+inline const char* slScanShortInt(const char* at, int* value)
 {
-    digits = digits * 10 + (digits >> 8);
-    return ((digits & 0x000000FF000000FF) * (100 + (std::uint64_t { 1000000 } << 32))
-               + (digits >> 16 & 0x000000FF000000FF) * (1 + (std::uint64_t { 10000 } << 32)))
-        >> 32;
+    const auto digitAt = [at](int i) { return static_cast<unsigned>(at[i]) - '0'; };
+    unsigned whole = digitAt(0);
+    if (whole > 9) {
+        return nullptr;
+    }
+#pragma GCC unroll 7
+    for (int i = 1; i < slScannedAtOnce; ++i) {
+        if (digitAt(i) > 9) {
+            *value = static_cast<int>(whole);
+            return at + i;
+        }
+        whole = whole * 10 + digitAt(i);
+    }
+    return nullptr;
 }
 
-// As slReadInt for one to seven digits without a sign, if they are not the last eight bytes: null for all
-// else, *value unchanged. Without a loop: numbers of changing lengths would mislead the processor, and most
-// of a file are such numbers.
-inline const char* slScanShortInt(const char* at, const char* end, int* value)
+// The first line feed, if no NUL is in front of it; null for all else, and where it isn't found before
+// `sure`. From there on slScannedAtOnce bytes are there.
+inline const char* slFindLineEnd(const char* at, const char* sure)
 {
     constexpr std::uint64_t Ones = 0x0101010101010101;
-    if (end - at < 8) {
-        return nullptr;
+    // The high bits of the bytes that are 0, right up to the first of them.
+    const auto zeros = [](std::uint64_t bytes) { return (bytes - Ones) & ~bytes & Ones * 0x80; };
+    for (; at < sure; at += slScannedAtOnce) {
+        const std::uint64_t bytes = slEightBytes(at);
+        const std::uint64_t ends = zeros(bytes ^ Ones * '\n') | zeros(bytes);
+        if (ends != 0) {
+            at += __builtin_ctzll(ends) / 8;
+            return *at == '\n' ? at : nullptr;
+        }
     }
-    const std::uint64_t bytes = slEightBytes(at) ^ Ones * '0'; // A digit has become its value.
-    // The high bits of those that are no digits, right up to the first of them.
-    const std::uint64_t others = (bytes | (bytes + Ones * (0x80 - 10))) & Ones * 0x80;
-    if (others == 0 || (others & 0x80) != 0) {
-        return nullptr;
-    }
-    const int digitBits = __builtin_ctzll(others) - 7;
-    *value = static_cast<int>(slJoinedDigits(bytes << (64 - digitBits)));
-    return at + digitBits / 8;
-}
-
-// As slReadInt; value is not null.
-inline const char* slScanInt(const char* at, const char* end, int* value)
-{
-    const char* const numberEnd = slScanShortInt(at, end, value);
-    return numberEnd != nullptr ? numberEnd : slReadInt(at, end, value);
+    return nullptr;
 }

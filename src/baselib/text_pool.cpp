@@ -1,18 +1,14 @@
 #include "baselib/text_pool.h"
 #include <algorithm>
 #include <atomic>
-#include <cstdint>
-#include <cstring>
 #include <new>
 
 namespace {
 
-using BackTP = std::uint32_t;       // What stands in front of a text: 0 when it has a block of its own.
 using UsersTP = std::atomic<int>;   // What a pool's block begins with: how many texts hold it,
 constexpr int PoolsShare = 1 << 30; // and with them its pool, which so counts its texts without any locking.
 constexpr std::size_t LeastBlock = 1024;
 constexpr std::size_t LargestBlock = 16384;
-constexpr std::size_t LongText = 512;
 
 void letGo(char* block, int users)
 {
@@ -23,17 +19,14 @@ void letGo(char* block, int users)
     }
 }
 
-char* textAt(char* place, BackTP back)
-{
-    std::memcpy(place, &back, sizeof back);
-    return place + sizeof back;
-}
-
 } // namespace
 
 char* slNewText(std::size_t size)
 {
-    return textAt(static_cast<char*>(::operator new(sizeof(BackTP) + size)), 0);
+    constexpr slTextBackTP Own = 0;
+    char* const block = static_cast<char*>(::operator new(sizeof Own + size));
+    std::memcpy(block, &Own, sizeof Own);
+    return block + sizeof Own;
 }
 
 void slDeleteText(char* text)
@@ -41,7 +34,7 @@ void slDeleteText(char* text)
     if (text == nullptr) {
         return;
     }
-    BackTP back = 0;
+    slTextBackTP back = 0;
     std::memcpy(&back, text - sizeof back, sizeof back);
     if (back == 0) {
         ::operator delete(text - sizeof back);
@@ -57,26 +50,20 @@ TextPoolCL::~TextPoolCL()
     }
 }
 
-char* TextPoolCL::NewM(std::size_t size)
+char* TextPoolCL::newElsewhereM(std::size_t size)
 {
     if (size > LongText) {
         return slNewText(size);
     }
-    const std::size_t taken = sizeof(BackTP) + size;
-    if (taken > size_ - used_) {
-        const std::size_t next = std::clamp(size_ * 2, LeastBlock, LargestBlock);
-        char* const made = static_cast<char*>(::operator new(next));
-        ::new (static_cast<void*>(made)) UsersTP(PoolsShare);
-        if (block_ != nullptr) {
-            letGo(block_, PoolsShare - texts_);
-        }
-        block_ = made;
-        size_ = next;
-        used_ = sizeof(UsersTP);
-        texts_ = 0;
+    const std::size_t next = std::clamp(size_ * 2, LeastBlock, LargestBlock);
+    char* const made = static_cast<char*>(::operator new(next));
+    ::new (static_cast<void*>(made)) UsersTP(PoolsShare);
+    if (block_ != nullptr) {
+        letGo(block_, PoolsShare - texts_);
     }
-    char* const text = textAt(block_ + used_, static_cast<BackTP>(used_ + sizeof(BackTP)));
-    used_ += taken;
-    ++texts_;
-    return text;
+    block_ = made;
+    size_ = next;
+    used_ = sizeof(UsersTP);
+    texts_ = 0;
+    return NewM(size);
 }

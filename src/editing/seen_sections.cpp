@@ -26,41 +26,48 @@ SeenSectionCL& SeenSectionsCL::findM(const char* header)
     return *last_;
 }
 
-// Before the first value of a record, and wherever more room is needed.
-void SeenSectionsCL::prepareM(const ValueSeenCL& value)
+// Takes notice of the values of the last record, which may be dropped then.
+void SeenSectionCL::JudgeLastM()
 {
-    SeenSectionCL& section = findM(value.section);
-    lastRecord_ = value.record;
-    if (section.keepsLast && section.starts.empty()) {
-        section.firstBegin = static_cast<std::uint32_t>(value.span.begin);
+    if (!keepsLast || values.empty()) {
+        return;
     }
-    if (value.record >= section.RecordsM()) {
+    firstBegin = starts.size() == 1 ? values.data()->begin : firstBegin;
+    bool isAsBefore = isRegular;
+    std::uint32_t end = lastEnd;
+    for (const SeenValueCL& value : values) {
+        isAsBefore = isAsBefore && value.begin > end && !value.IsAbsentM();
+        end = value.end;
+    }
+    isRegular = isAsBefore;
+    lastEnd = end;
+}
+
+SeenRoomCL* SeenSectionsCL::BeginRecordM(const char* header, int record)
+{
+    SeenSectionCL& section = findM(header);
+    if (record >= section.RecordsM()) {
         if (section.keepsLast) {
+            section.JudgeLastM();
             section.values.clear();
         }
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }
+    return &section.values.RoomM();
+}
+
+// What has no room yet, or belongs to a section that is read as one record.
+void SeenSectionsCL::ValueM(const ValueSeenCL& value)
+{
+    SeenSectionCL& section = findM(value.section);
+    if (value.record >= section.RecordsM()) {
+        BeginRecordM(value.section, value.record);
+    }
     if (section.values.IsFullM()) {
         blocks_.MakeRoomM(section.values);
     }
-}
-
-void SeenSectionsCL::ValueM(const ValueSeenCL& value)
-{
-    if (value.record != lastRecord_ || value.section != lastHeader_ || last_->values.IsFullM()) {
-        prepareM(value);
-    }
-    SeenSectionCL& section = *last_;
-    SeenValueCL& seen = section.values.AddM(); // Filled one by one: a copy would wait for its parts.
-    seen.field = value.field;
-    seen.begin = static_cast<std::uint32_t>(value.span.begin);
-    seen.end = static_cast<std::uint32_t>(value.span.end);
-    seen.part = static_cast<std::uint8_t>(value.part);
-    seen.fate = value.fate;
-    if (section.keepsLast) {
-        section.isRegular = section.isRegular && seen.begin > section.lastEnd && !seen.IsAbsentM();
-        section.lastEnd = seen.end;
-    }
+    *section.values.RoomM().next++ = { value.field, static_cast<std::uint32_t>(value.span.begin),
+        static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate };
 }
 
 void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)
@@ -70,7 +77,9 @@ void SeenSectionsCL::EntryDroppedM(const EntryDroppedCL& entry)
 
 void SeenSectionsCL::SectionM(const SectionSeenCL& section)
 {
-    findM(section.header).head = section;
+    SeenSectionCL& seen = findM(section.header);
+    seen.head = section;
+    seen.JudgeLastM();
 }
 
 SeenSectionsCL slReadSections(const std::shared_ptr<const FileTextCL>& text)

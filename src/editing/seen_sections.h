@@ -37,6 +37,7 @@ struct SeenSectionCL
     }
     // A record's value by the name of its field; null when there is none.
     PANELKIT_API const SeenValueCL* FindM(int record, const char* field, int part = 0) const;
+    PANELKIT_API void JudgeLastM(); // While keepsLast: when all values of the last record are there.
     // Whether values that were dropped are not missed: all lie in the section's region as they should.
     bool IsPlainM() const
     {
@@ -51,6 +52,7 @@ class PANELKIT_API SeenSectionsCL : public ReadObserverCL
 public:
     SeenSectionsCL();
     // See ReadObserverCL.
+    SeenRoomCL* BeginRecordM(const char* section, int record) override;
     void ValueM(const ValueSeenCL& value) override;
     void EntryDroppedM(const EntryDroppedCL& entry) override;
     void SectionM(const SectionSeenCL& section) override;
@@ -62,13 +64,11 @@ public:
 
 private:
     SeenSectionCL& findM(const char* header);
-    void prepareM(const ValueSeenCL& value);
 
     std::vector<SeenSectionCL> sections_;
     SeenBlocksCL blocks_;
     const char* lastHeader_ { nullptr };
     SeenSectionCL* last_ { nullptr };
-    int lastRecord_ { -1 };
 };
 
 // Reads every section of a file, each on its own: entries too whose owner is missing, and none is dropped.

@@ -4,24 +4,6 @@
 #include <cstdint>
 #include <memory>
 
-// One value as the library's reader met it; see ValueSeenCL.
-struct SeenValueCL
-{
-    const char* field;   // The name of its field.
-    std::uint32_t begin; // Where it stands in the file: the offset of its first byte,
-    std::uint32_t end;   // and the offset behind its last one.
-    std::uint8_t part;   // Its number among the values of a field with several.
-    Fate fate;           // What became of it.
-
-    // Those bytes.
-    SpanCL SpanM() const { return { begin, end }; }
-    // Whether nothing was read: no number stands there, or the file or the record ends before it.
-    bool IsAbsentM() const
-    {
-        return fate == Fate::NotANumber || fate == Fate::Missing || fate == Fate::NotLookedAt;
-    }
-};
-
 // The values of one section, in a part of a block that several sections share.
 class SeenValuesCL
 {
@@ -31,24 +13,23 @@ public:
     SeenValuesCL& operator=(SeenValuesCL&&) = default;
     // As those of a vector.
     const SeenValueCL* begin() const { return first_; }
-    const SeenValueCL* end() const { return first_ + size_; }
+    const SeenValueCL* end() const { return room_.next; }
     const SeenValueCL* data() const { return first_; }
-    const SeenValueCL& back() const { return first_[size_ - 1]; }
-    std::size_t size() const { return size_; }
-    bool empty() const { return size_ == 0; }
-    void clear() { size_ = 0; }
+    const SeenValueCL& back() const { return room_.next[-1]; }
+    std::size_t size() const { return static_cast<std::size_t>(room_.next - first_); }
+    bool empty() const { return room_.next == first_; }
+    void clear() { room_.next = first_; }
     // Whether SeenBlocksCL::MakeRoomM must make room before the next value.
-    bool IsFullM() const { return size_ == room_; }
-    // One more, to be filled.
-    SeenValueCL& AddM() { return first_[size_++]; }
+    bool IsFullM() const { return room_.next == room_.end; }
+    // Where the next ones are put.
+    SeenRoomCL& RoomM() { return room_; }
 
 private:
     friend class SeenBlocksCL;
 
     std::shared_ptr<SeenValueCL[]> block_;
     SeenValueCL* first_ { nullptr };
-    std::size_t size_ { 0 };
-    std::size_t room_ { 0 };
+    SeenRoomCL room_;
 };
 
 // Makes room for the values of many sections that are read one after the other. Each block is as large as all

@@ -8,21 +8,15 @@
 #include <cstring>
 
 ReadObserverCL::~ReadObserverCL() = default;
+SeenRoomCL* ReadObserverCL::BeginRecordM(const char*, int)
+{
+    return nullptr;
+}
 void ReadObserverCL::ValueM(const ValueSeenCL&) { }
 void ReadObserverCL::EntryDroppedM(const EntryDroppedCL&) { }
 void ReadObserverCL::SectionM(const SectionSeenCL&) { }
 
 namespace {
-
-const char* scanNumber(const char* at, const char* end, int& value)
-{
-    return slScanInt(at, end, &value);
-}
-
-const char* scanNumber(const char* at, const char* end, float& value)
-{
-    return slReadReal(at, end, &value);
-}
 
 // Only a limit may stand for more than itself.
 bool numberFits(const char* at, const char* end, int value)
@@ -46,14 +40,6 @@ std::size_t wordEnd(const FileTextCL& file, std::size_t at)
     return at + slGbkCutLength(word.data(), length, TextSize - 1);
 }
 
-bool standsForNothing(std::string_view text, NullWord rule)
-{
-    if (text.size() != 4 || rule == NullWord::Kept) {
-        return false; // Most texts.
-    }
-    return text == "NULL" || (text == "null" && rule != NullWord::UpperEmpty);
-}
-
 } // namespace
 
 std::size_t slNextValue(const VrIOCL& io)
@@ -67,64 +53,40 @@ std::size_t slNextValue(const VrIOCL& io)
     return static_cast<std::size_t>(next - bytes);
 }
 
-inline void FieldReaderCL::tellM(const char* name, int part, SpanCL span, Fate fate)
+const char* FieldReaderCL::sureM() const
 {
-    seen_.field = name;
-    seen_.part = part;
-    seen_.span = span;
-    seen_.fate = fate;
-    observer_->ValueM(seen_);
+    const bool isSure = !isStopped_ && !io_->binary_ && io_->SizeM() > slScannedAtOnce;
+    return isSure ? io_->end_ - slScannedAtOnce : nullptr;
 }
 
-// Nearly all numbers are read by this alone: what is rare is left to others, so that it stays short.
+// Nearly all numbers are read by this alone: what is rare is left to another, so that it stays short.
 inline bool FieldReaderCL::readM(const char* name, int part, int& value)
 {
-    if (isStopped_ || io_->binary_) {
-        return readOtherwiseM(name, part, value);
+    if (sure_ != nullptr) {
+        const char* const begin = slSkipBlanks(io_->at_, sure_);
+        const char* const end = begin < sure_ ? slScanShortInt(begin, &value) : nullptr;
+        if (end != nullptr) {
+            io_->at_ = end;
+            return observer_ == nullptr || tellReadM(name, part, begin, end);
+        }
     }
-    const char* const end = io_->data_ + io_->size_;
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, end);
-    const char* const numberEnd = slScanShortInt(begin, end, &value);
-    if (numberEnd == nullptr) {
-        return takeNumberM(name, part, begin, value);
-    }
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return observer_ == nullptr || tellNumberM(name, part, begin, numberEnd, value);
+    return readOtherwiseM(name, part, value);
 }
 
 inline bool FieldReaderCL::readM(const char* name, int part, float& value)
 {
-    if (isStopped_ || io_->binary_) {
-        return readOtherwiseM(name, part, value);
-    }
-    const char* const begin = slSkipBlanks(io_->data_ + io_->at_, io_->data_ + io_->size_);
-    return takeNumberM(name, part, begin, value);
+    return readOtherwiseM(name, part, value);
 }
 
-// The same from the first byte that is no blank on.
-template <class T> bool FieldReaderCL::takeNumberM(const char* name, int part, const char* begin, T& value)
+bool FieldReaderCL::tellReadM(const char* name, int part, const char* begin, const char* end)
 {
-    const char* const numberEnd = scanNumber(begin, io_->data_ + io_->size_, value);
-    io_->at_ = static_cast<std::size_t>(numberEnd - io_->data_);
-    return observer_ != nullptr ? tellNumberM(name, part, begin, numberEnd, value) : numberEnd > begin;
+    tellM(name, part,
+        { static_cast<std::size_t>(begin - io_->data_), static_cast<std::size_t>(end - io_->data_) },
+        Fate::Read);
+    return true;
 }
 
-// Whether it was read: it ends where it begins otherwise.
-template <class T>
-bool FieldReaderCL::tellNumberM(const char* name, int part, const char* begin, const char* end, T value)
-{
-    const auto at = static_cast<std::size_t>(begin - io_->data_);
-    if (end > begin) {
-        tellM(name, part, { at, io_->at_ }, numberFits(begin, end, value) ? Fate::Read : Fate::Saturated);
-        return true;
-    }
-    if (isObservedM()) {
-        tellUnreadM(name, part, at);
-    }
-    return false;
-}
-
-// From a binary file, or not at all.
+// Of any kind, from any file, or not at all.
 template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part, T& value)
 {
     const std::size_t begin = isObservedM() ? slNextValue(*io_) : 0;
@@ -135,8 +97,8 @@ template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part
             tellM(name, part, { begin, begin }, Fate::NotLookedAt);
         } else if (isRead) {
             const char* const bytes = file.BytesM();
-            const bool fits = numberFits(bytes + begin, bytes + io_->at_, value);
-            tellM(name, part, { begin, io_->at_ }, fits ? Fate::Read : Fate::Saturated);
+            const bool fits = numberFits(bytes + begin, io_->at_, value);
+            tellM(name, part, { begin, io_->PositionM() }, fits ? Fate::Read : Fate::Saturated);
         } else {
             tellUnreadM(name, part, begin);
         }
@@ -233,62 +195,8 @@ void FieldReaderCL::ColourM(const char* name, ColourTP& colour, int* flag)
     colour = (rgb[0] & 0xFFU) | (rgb[1] & 0xFFU) << 8 | (rgb[2] & 0xFFU) << 16;
 }
 
-void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& form)
-{
-    std::string_view item;
-    if (isStopped_ || !io_->InputItemM(&item)) {
-        tellNoTextM(name);
-        return;
-    }
-    std::string_view kept
-        = item.substr(0, slGbkCutLength(item.data(), item.size(), static_cast<std::size_t>(form.size) - 1));
-    kept = kept.substr(0, kept.find('\0'));
-    const bool isNullWord = standsForNothing(kept, form.nullWord);
-    if (isNullWord && form.nullWord != NullWord::SkipsEntry) {
-        text.SetM("");
-    } else if (isReusing_) {
-        text.SetWithinM(kept.data(), kept.size(), TextSize);
-    } else if (pool_ != nullptr) {
-        text.SetInM(*pool_, kept.data(), kept.size());
-    } else {
-        text.SetM(kept.data(), kept.size());
-    }
-    isSkipped_ = isSkipped_ || (isNullWord && form.nullWord == NullWord::SkipsEntry);
-    if (observer_ != nullptr) {
-        tellTextM(name, item, kept.size(), isNullWord);
-    }
-}
-
-void FieldReaderCL::tellTextM(const char* name, std::string_view item, std::size_t kept, bool isNullWord)
-{
-    const auto begin = static_cast<std::size_t>(item.data() - io_->FileTextM()->BytesM());
-    tellM(name, 0, { begin, begin + item.size() },
-        isNullWord                ? Fate::NullWord
-            : kept == item.size() ? Fate::Read
-                                  : Fate::Cut);
-}
-
-void FieldReaderCL::tellNoTextM(const char* name)
-{
-    if (observer_ != nullptr) {
-        const std::size_t at = slNextValue(*io_);
-        tellM(name, 0, { at, at }, isStopped_ ? Fate::NotLookedAt : Fate::Missing);
-    }
-}
-
-void FieldReaderCL::CaptionM(const char* name, CharArr& text, const TextFormCL& form)
-{
-    TextM(name, text, form);
-}
-
-void FieldReaderCL::NameM(const char* name, CharArr& file, const TextFormCL& form)
-{
-    seen_.isFileName = true;
-    TextM(name, file, form);
-    seen_.isFileName = false;
-}
-
 void FieldReaderCL::StopReadingM()
 {
     isStopped_ = true;
+    sure_ = nullptr;
 }

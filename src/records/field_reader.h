@@ -14,14 +14,17 @@ public:
         , observer_(io != nullptr ? io->ObserverM() : nullptr)
         , seen_ { section, 0, "", 0, {}, Fate::Read }
         , isStopped_(io == nullptr)
+        , sure_(sureM())
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
     void BeginRecordM(int number)
     {
         seen_.record = number;
+        room_ = observer_ != nullptr ? observer_->BeginRecordM(seen_.section, number) : nullptr;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
+        sure_ = sureM();
     }
     // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
     void ReuseTextsM() { isReusing_ = true; }
@@ -50,27 +53,43 @@ public:
     void CaptionM(const char* name, CharArr& text, const TextFormCL& form) override;
 
 private:
+    const char* sureM() const;
     bool isObservedM() const { return observer_ != nullptr && io_->FileTextM() != nullptr; }
     bool readM(const char* name, int part, int& value);
     bool readM(const char* name, int part, float& value);
     // What is rare, or only for an observer: readM is short without, and needs no registers saved.
     template <class T> [[gnu::noinline]] bool readOtherwiseM(const char* name, int part, T& value);
-    template <class T>
-    [[gnu::noinline]] bool takeNumberM(const char* name, int part, const char* begin, T& value);
-    template <class T>
-    [[gnu::noinline]] bool tellNumberM(
-        const char* name, int part, const char* begin, const char* end, T value);
+    [[gnu::noinline]] bool tellReadM(const char* name, int part, const char* begin, const char* end);
     [[gnu::noinline]] void tellUnreadM(const char* name, int part, std::size_t begin);
+    bool inputPlainM(std::string_view* item);
     template <class T> void readAllM(const char* name, T* values, int count);
-    void tellM(const char* name, int part, SpanCL span, Fate fate);
+    void tellM(const char* name, int part, SpanCL span, Fate fate)
+    {
+        if (room_ != nullptr && room_->next != room_->end) {
+            SeenValueCL& seen = *room_->next++; // Filled one by one: a copy would wait for its parts.
+            seen.field = name;
+            seen.begin = static_cast<std::uint32_t>(span.begin);
+            seen.end = static_cast<std::uint32_t>(span.end);
+            seen.part = static_cast<std::uint8_t>(part);
+            seen.fate = fate;
+            return;
+        }
+        seen_.field = name;
+        seen_.part = part;
+        seen_.span = span;
+        seen_.fate = fate;
+        observer_->ValueM(seen_);
+    }
     [[gnu::noinline]] void tellTextM(
         const char* name, std::string_view item, std::size_t kept, bool isNullWord);
     void tellNoTextM(const char* name);
 
     VrIOCL* io_;
     ReadObserverCL* observer_;
-    ValueSeenCL seen_; // What the observer is told, one value after the other.
+    SeenRoomCL* room_ { nullptr }; // For its values; null: none.
+    ValueSeenCL seen_;             // What the observer is told, one value after the other.
     bool isStopped_;
+    const char* sure_; // Values in front of it may be read in the short ways; null: none.
     bool isSkipped_ { false };
     bool isReusing_ { false };
     TextPoolCL* pool_ { nullptr };

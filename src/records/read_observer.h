@@ -1,5 +1,6 @@
 #pragma once
 #include "baselib/file_text.h"
+#include <cstdint>
 
 // What became of a counted section of a description file.
 enum class SectionStatus
@@ -33,6 +34,31 @@ struct ValueSeenCL
     SpanCL span; // What was found; what is no number to the next blank, at most 259 bytes. Or empty.
     Fate fate;   // What became of it.
     bool isFileName { false }; // It names a picture.
+};
+
+// The same, as it is kept; see SeenRoomCL.
+struct SeenValueCL
+{
+    const char* field;   // The name of its field.
+    std::uint32_t begin; // Where it stands in the file: the offset of its first byte,
+    std::uint32_t end;   // and the offset behind its last one.
+    std::uint8_t part;   // Its number among the values of a field with several.
+    Fate fate;           // What became of it.
+
+    // Those bytes.
+    SpanCL SpanM() const { return { begin, end }; }
+    // Whether nothing was read: no number stands there, or the file or the record ends before it.
+    bool IsAbsentM() const
+    {
+        return fate == Fate::NotANumber || fate == Fate::Missing || fate == Fate::NotLookedAt;
+    }
+};
+
+// Where the reader keeps the values that it meets, for who wants many.
+struct SeenRoomCL
+{
+    SeenValueCL* next { nullptr }; // The place of the next one,
+    SeenValueCL* end { nullptr };  // and the end of the room.
 };
 
 // Why an entry belongs to no record.
@@ -73,6 +99,9 @@ class PANELKIT_API ReadObserverCL
 {
 public:
     virtual ~ReadObserverCL();
+    // Before the values of a record or entry of a section: room for them, which holds while the record is
+    // read. The reader keeps them there; those that have no room left, and here all, ValueM is told.
+    virtual SeenRoomCL* BeginRecordM(const char* section, int record);
     // Do nothing here. What they are given holds until they return.
     virtual void ValueM(const ValueSeenCL& value);
     virtual void EntryDroppedM(const EntryDroppedCL& entry);

@@ -225,7 +225,7 @@ template <class RecordArrTP> SectionStatus slReadSection(VrIOCL& io, RecordArrTP
 }
 
 // Reads the same without keeping the records: see(number, record) is shown each when it was read, without
-// what its secondary sections add, and may take from it what it likes.
+// what its secondary sections add, all in the same record, and may take from it what it likes.
 template <class RecordArrTP, class SeeTP> SectionStatus slEachRecordRead(VrIOCL& io, SeeTP&& see)
 {
     using RecordTP = typename RecordArrTP::RecordTP;

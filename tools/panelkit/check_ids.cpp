@@ -12,9 +12,11 @@ namespace {
 class IdsCheckerCL
 {
 public:
-    IdsCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+    IdsCheckerCL(FileReadingCL& file, const CheckedControlsTP& controls, const std::vector<ArrowsCL>& arrows,
+        FindingsCL& findings)
         : file_(file)
         , controls_(controls)
+        , arrows_(arrows)
         , findings_(findings)
     {
     }
@@ -96,14 +98,11 @@ private:
             }
         }
         uses.resize(ids);
-        for (const CheckedControlCL& spin : controls_) { // The arrows of spin edits are controls too.
-            if (spin.arrowsId == 0) {
-                continue;
-            }
-            const auto other = std::lower_bound(uses.begin(), uses.end(), UseCL { spin.arrowsId, 0, 0 });
-            if (other != uses.end() && other->id == spin.arrowsId) {
-                findings_.AddM(Says::DuplicateId, spin.arrowsAt,
-                    { std::to_string(spin.arrowsId), lineM(controls_[other->control]) });
+        for (const ArrowsCL& arrows : arrows_) {
+            const auto other = std::lower_bound(uses.begin(), uses.end(), UseCL { arrows.id, 0, 0 });
+            if (other != uses.end() && other->id == arrows.id) {
+                findings_.AddM(Says::DuplicateId, arrows.at,
+                    { std::to_string(arrows.id), lineM(controls_[other->control]) });
             }
         }
     }
@@ -199,12 +198,14 @@ private:
 
     FileReadingCL& file_;
     const CheckedControlsTP& controls_;
+    const std::vector<ArrowsCL>& arrows_;
     FindingsCL& findings_;
 };
 
 } // namespace
 
-void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings)
+void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, const std::vector<ArrowsCL>& arrows,
+    FindingsCL& findings)
 {
-    IdsCheckerCL(file, controls, findings).CheckM();
+    IdsCheckerCL(file, controls, arrows, findings).CheckM();
 }

@@ -96,7 +96,8 @@ private:
         }
         bool CoversM(const BoxCL& other) const
         {
-            return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom
+            // What stands in front mostly ends above, or to the left.
+            return bottom >= other.bottom && right >= other.right && left <= other.left && top <= other.top
                 && control->RightM() >= other.control->RightM()
                 && control->BottomM() >= other.control->BottomM();
         }

@@ -4,67 +4,10 @@
 #include "check.h"
 #include "control_list.h"
 #include "rising_set.h"
-#include "sort_rows.h"
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 namespace {
-
-std::uint32_t offsetOf(const FieldCL& field)
-{
-    return field.seen != nullptr ? field.seen->begin : 0;
-}
-
-// May take the caption from the record.
-CheckedControlCL controlOf(const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName,
-    int grammar, int record, bool isStacked)
-{
-    const FieldCL& index = *view.FindM("window_index");
-    const FieldCL& id = *view.FindM("function_id");
-    const FieldCL& position = *view.FindM("position");
-    const FieldCL& size = *view.FindM("size");
-    CheckedControlCL control;
-    control.kind = static_cast<std::int16_t>(kind);
-    control.grammar = static_cast<std::int16_t>(grammar);
-    control.record = record;
-    control.isStacked = isStacked;
-    control.windowIndex = index.ints[0];
-    control.id = id.ints[0];
-    control.x = position.ints[0];
-    control.y = position.ints[1];
-    control.w = size.ints[0];
-    control.h = size.ints[1];
-    control.idAt = offsetOf(id);
-    control.indexAt = offsetOf(index);
-    control.positionAt = offsetOf(position);
-#ifdef _WIN32
-    control.kindName = kindName;
-    control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
-#endif
-    static constexpr KindsCL Captioned { LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode,
-        StandardButtonCode };
-    static constexpr KindsCL Texts { LabelCode, GroupBoxCode };
-    static constexpr KindsCL MayBeReadOnly { SingleEditCode, MultiEditCode };
-    if (control.IsM(Captioned)) {
-        const FieldCL& caption = *view.FindM(control.IsM(Texts) ? "text" : "caption");
-        control.hasText = kind == LabelCode && !caption.text->EmptyM();
-#ifdef _WIN32
-        control.captionAt = offsetOf(caption);
-        control.caption = std::move(*caption.text);
-#endif
-    }
-    control.isReadOnly = control.IsM(MayBeReadOnly) && view.IntM("read_only") == 1;
-    control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
-    control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
-    if (kind == SpinEditCode && view.IntM("data_type") > 0) {
-        control.windowIndex = view.IntM("edit_window_index");
-        control.indexAt = offsetOf(*view.FindM("edit_window_index"));
-        control.arrowsId = view.IntM("spin_function_id");
-        control.arrowsAt = offsetOf(*view.FindM("spin_function_id"));
-    }
-    return control;
-}
 
 // Where the fields of a kind leave nothing to see although Tab stops there.
 bool isInvisible(int kind, const RecordViewCL& view)
@@ -94,35 +37,6 @@ RisingSetCL<int> idsOfEntries(FileReadingCL& file, const SeenSectionCL& section)
     return ids;
 }
 
-StackTP stackOf(const CheckedControlsTP& controls)
-{
-    struct PlaceCL
-    {
-        int index;
-        std::uint32_t control;
-        bool operator<(const PlaceCL& other) const { return index < other.index; }
-    };
-    std::vector<PlaceCL> places;
-    places.reserve(controls.size());
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        if (controls[i].isStacked) {
-            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
-        }
-    }
-    sortRows(places);
-    StackTP stack;
-    stack.reserve(controls.size());
-    for (const PlaceCL& place : places) {
-        stack.push_back(&controls[place.control]);
-    }
-    for (const CheckedControlCL& control : controls) {
-        if (!control.isStacked) {
-            stack.push_back(&control);
-        }
-    }
-    return stack;
-}
-
 class RecordsCheckerCL
 {
 public:
@@ -143,17 +57,13 @@ public:
         dialogM();
         slEachKind([this](auto row) { kindM<decltype(row)>(); });
         checkSections(file_, findings_);
-        controls_.erase(std::remove_if(controls_.begin(), controls_.end(),
-                            [this](const CheckedControlCL& control) {
-                                return !isSoundM(control.grammar, control.record);
-                            }),
-            controls_.end());
+        dropUnsoundM();
         newRotateButtonsM();
         takeFindingsM();
         invisibleStatesM();
         checkEntries(file_, pictures_, findings_);
         checkLists(file_, findings_);
-        checkIds(file_, controls_, findings_);
+        checkIds(file_, controls_, arrows_, findings_);
         checkBindings(file_, controls_, findings_);
         const StackTP stack = stackOf(controls_);
         checkPlaces(file_, stack, findings_);
@@ -176,6 +86,28 @@ private:
     bool isSoundM(int grammar, int record)
     {
         return record < file_.SectionM(grammar).soundRecords;
+    }
+    // A section's controls follow one another, one for each record.
+    void dropUnsoundM()
+    {
+        auto kept = controls_.begin();
+        int grammar = -1;
+        int record = 0;
+        for (CheckedControlCL& control : controls_) {
+            record = control.grammar == grammar ? record + 1 : 0;
+            grammar = control.grammar;
+            if (isSoundM(grammar, record)) {
+                if (&*kept != &control) {
+                    *kept = std::move(control);
+                }
+                ++kept;
+            }
+        }
+        controls_.erase(kept, controls_.end());
+        const int spins = slGrammarOf(SpinEditHeader);
+        arrows_.erase(std::remove_if(arrows_.begin(), arrows_.end(),
+                          [&](const ArrowsCL& arrows) { return !isSoundM(spins, arrows.record); }),
+            arrows_.end());
     }
     void valuesM(int grammar, int record)
     {
@@ -220,10 +152,18 @@ private:
         using RecordsTP = typename RowTP::Records;
         const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
+        // The fields of a kind are the same in each record, but for the types that a field tells of others.
+        const auto type = [this] { return view_.IntM("data_type"); };
+        bool isShown = false;
+        int shownType = 0;
         file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
-            view_.BeginM(section, i);
-            record.EachCommonFieldM(view_);
-            record.EachFieldM(view_);
+            if (!isShown || !view_.ShowsM(section, i) || type() != shownType) {
+                view_.BeginM(section, i);
+                record.EachCommonFieldM(view_);
+                record.EachFieldM(view_);
+                isShown = true;
+                shownType = type();
+            }
             if (isInvisible(RowTP::Code, view_)) {
                 found_.AddM(Says::InvisibleTabStop, offsetOf(*view_.FindM("function_id")));
             }
@@ -234,7 +174,11 @@ private:
     {
         checkRanges(kind, view_, found_);
         valuesM(grammar, record);
-        controls_.push_back(controlOf(view_, kind, kindName, grammar, record, isStacked));
+        controls_.push_back(checkedControlOf(view_, kind, kindName, grammar, isStacked));
+        if (kind == SpinEditCode && view_.IntM("data_type") > 0 && view_.IntM("spin_function_id") != 0) {
+            arrows_.push_back(
+                { record, view_.IntM("spin_function_id"), offsetOf(*view_.FindM("spin_function_id")) });
+        }
     }
     void invisibleStatesM()
     {
@@ -278,6 +222,7 @@ private:
     PicturesCL pictures_;
     RecordViewCL view_;
     CheckedControlsTP controls_;
+    std::vector<ArrowsCL> arrows_;
     FindingsCL found_;           // In records, sound or not,
     std::vector<SpanCL> named_;  // and the names of pictures that they have.
     std::vector<FoundCL> marks_; // Which of them were found where.

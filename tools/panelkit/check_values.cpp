@@ -59,7 +59,7 @@ double contrastOfBlack(ColourTP colour)
 
 void checkColour(FileReadingCL& file, const FieldCL& field, const RecordViewCL& record, FindingsCL& findings)
 {
-    for (int part = 0; part < 3 && field.seen != nullptr && field.isOn; ++part) {
+    for (int part = 0; part < 3 && field.seen != nullptr && field.IsOnM(); ++part) {
         const std::string_view bytes = file.BytesM(field.seen[part]);
         int number = 0;
         slReadInt(bytes.data(), bytes.data() + bytes.size(), &number);
@@ -71,13 +71,13 @@ void checkColour(FileReadingCL& file, const FieldCL& field, const RecordViewCL& 
     constexpr double LeastContrast = 4.5;
     const FieldCL* const text = record.FindM("text");
     const bool isEdit = record.FindM("read_only") != nullptr;
-    const double contrast = contrastOfBlack(field.colour);
-    if (field.isOn && (isEdit || (text != nullptr && !text->text->EmptyM())) && contrast < LeastContrast) {
+    const double contrast = contrastOfBlack(*field.colour);
+    if (field.IsOnM() && (isEdit || (text != nullptr && !text->text->EmptyM())) && contrast < LeastContrast) {
         char ratio[16];
         std::snprintf(ratio, sizeof ratio, "%.1f", contrast);
         findings.AddM(Says::LowContrast, field.seen->begin,
-            { std::to_string(field.colour & 0xFF) + " " + std::to_string(field.colour >> 8 & 0xFF) + " "
-                    + std::to_string(field.colour >> 16 & 0xFF),
+            { std::to_string(*field.colour & 0xFF) + " " + std::to_string(*field.colour >> 8 & 0xFF) + " "
+                    + std::to_string(*field.colour >> 16 & 0xFF),
                 ratio });
     }
 }
@@ -126,11 +126,14 @@ void checkLimits(const FieldCL& range, int low, int high, const FieldCL& initial
 void checkValues(
     FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings)
 {
+    const bool isPlain = record.IsPlainM(); // As nearly all are.
     for (const FieldCL& field : record.FieldsM()) {
         if (field.seen == nullptr) {
             continue;
         }
-        checkFates(file, field, findings);
+        if (!isPlain) {
+            checkFates(file, field, findings);
+        }
         switch (field.verb) {
         case Verb::Choice: {
             bool isOne = false;

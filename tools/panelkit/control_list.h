@@ -22,20 +22,17 @@ struct KindsCL
 struct CheckedControlCL
 {
     // Small: there may be very many.
-    std::int16_t kind { 0 };    // Its KindCode; 0 for a new rotate button.
-    std::int16_t grammar { 0 }; // Its section,
-    int record { 0 };           // and its place there.
+    std::int8_t kind { 0 };    // Its KindCode; 0 for a new rotate button.
+    std::int8_t grammar { 0 }; // Its section.
+    bool isStacked { false };  // Its window index counts.
+    bool hasText : 1;
+    bool isReadOnly : 1;
+    bool isDefault : 1;
     int windowIndex { 0 };
     int id { 0 };
     int x { 0 }, y { 0 }, w { 0 }, h { 0 };
     std::uint32_t idAt { 0 }, indexAt { 0 }, positionAt { 0 }; // Offsets in the file.
     int group { 0 };
-    int arrowsId { 0 }; // Of a spin edit; 0 for none.
-    std::uint32_t arrowsAt { 0 };
-    bool isStacked { false }; // Its window index counts.
-    bool hasText { false };
-    bool isReadOnly { false };
-    bool isDefault { false };
 #ifdef _WIN32
     // Captions are measured there.
     bool isSunken { false };
@@ -43,6 +40,12 @@ struct CheckedControlCL
     CharArr caption;             // Of a kind that shows one; GBK.
     const char* kindName { "" }; // As dump has it.
 #endif
+    CheckedControlCL()
+        : hasText(false)
+        , isReadOnly(false)
+        , isDefault(false)
+    {
+    }
     bool IsM(KindsCL kinds) const
     {
         return (kinds.bits >> kind & 1U) != 0;
@@ -57,6 +60,14 @@ struct CheckedControlCL
         constexpr int ComboHeight = 24;
         return std::int64_t { y } + (kind == ComboBoxCode && h > ComboHeight ? ComboHeight : h);
     }
+};
+
+// The arrows of a spin edit, which are a control too.
+struct ArrowsCL
+{
+    int record;
+    int id;
+    std::uint32_t at; // Where that stands in the file.
 };
 
 // The pictures that a file names: looked at once each.
@@ -93,13 +104,19 @@ using CheckedControlsTP = std::vector<CheckedControlCL>;
 // From the top of the stack down, those without a place in it behind the others.
 using StackTP = std::vector<const CheckedControlCL*>;
 
+std::uint32_t offsetOf(const FieldCL& field); // Where it stands in the file; 0 where it doesn't.
+// Of a record; may take the caption from it.
+CheckedControlCL checkedControlOf(
+    const RecordViewCL& view, int kind, const char* kindName, int grammar, bool isStacked);
+StackTP stackOf(const CheckedControlsTP& controls);
 // Appends the names of pictures.
 void checkValues(
     FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings);
 void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);
-void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
+void checkIds(FileReadingCL& file, const CheckedControlsTP& controls, const std::vector<ArrowsCL>& arrows,
+    FindingsCL& findings);
 void checkBindings(FileReadingCL& file, const CheckedControlsTP& controls, FindingsCL& findings);
 void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings);
 // Only where a window system is.

@@ -31,7 +31,7 @@ public:
     DVrNewRotateBtnArr& NewRotateButtonsM() { return newRotateButtons_; }
     std::vector<BindingCL>& BindingsM() { return bindings_; }
     // Reads the sections of one kind; see(number, record) is shown each control when its values have been
-    // seen, and may take from the record what it likes.
+    // seen, all in the same record, and may take from it what it likes.
     template <class RecordsTP, class SeeTP> void ReadKindM(SeeTP&& see)
     {
         if (!keepsAll_) {

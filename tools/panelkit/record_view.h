@@ -35,9 +35,10 @@ struct FieldCL
     int size { 0 };           // Of a text, with its terminator.
     const ChoiceCL* firstChoice { nullptr };
     const ChoiceCL* lastChoice { nullptr };
-    ColourTP colour { 0 };
-    bool isOn { true }; // A colour that applies.
+    const ColourTP* colour { nullptr };
+    const int* flag { nullptr }; // Of a colour: whether it applies; null: always.
 
+    bool IsOnM() const { return flag == nullptr || *flag != 0; }
     float RealM(int part = 0) const
     {
         return reals != nullptr ? reals[part]
@@ -54,8 +55,20 @@ public:
     void BeginM(const SeenSectionCL& section, int record)
     {
         count_ = 0;
-        next_ = section.FirstM(record);
+        first_ = section.FirstM(record);
+        next_ = first_;
         end_ = section.EndM(record);
+    }
+    // Whether what the view shows is also true of another record: one in the same place, with the same
+    // fields, whose values lie where those of the one before did.
+    bool ShowsM(const SeenSectionCL& section, int record) const
+    {
+        return first_ != nullptr && section.FirstM(record) == first_ && section.EndM(record) == end_;
+    }
+    // Whether all values were read just as they stand.
+    bool IsPlainM() const
+    {
+        return std::all_of(first_, end_, [](const SeenValueCL& value) { return value.fate == Fate::Read; });
     }
     struct FieldsCL
     {
@@ -94,8 +107,8 @@ public:
     void ColourM(const char* name, ColourTP& colour, int* flag) override
     {
         FieldCL& field = addM(name, Verb::Colour, 3);
-        field.colour = colour;
-        field.isOn = flag == nullptr || *flag != 0;
+        field.colour = &colour;
+        field.flag = flag;
     }
     void TextM(const char* name, CharArr& text, const TextFormCL& form) override
     {
@@ -184,6 +197,7 @@ private:
     std::size_t count_ { 0 };
     unsigned shape_ { 0 }; // Another one whenever a name stands where another one stood.
     mutable FoundCL found_[Places];
+    const SeenValueCL* first_ { nullptr };
     const SeenValueCL* next_ { nullptr };
     const SeenValueCL* end_ { nullptr };
 };

@@ -1,0 +1,83 @@
+// What the checks across records keep of each control.
+#include "control_list.h"
+#include "sort_rows.h"
+
+std::uint32_t offsetOf(const FieldCL& field)
+{
+    return field.seen != nullptr ? field.seen->begin : 0;
+}
+
+CheckedControlCL checkedControlOf(
+    const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName, int grammar, bool isStacked)
+{
+    const FieldCL& index = *view.FindM("window_index");
+    const FieldCL& id = *view.FindM("function_id");
+    const FieldCL& position = *view.FindM("position");
+    const FieldCL& size = *view.FindM("size");
+    CheckedControlCL control;
+    control.kind = static_cast<std::int8_t>(kind);
+    control.grammar = static_cast<std::int8_t>(grammar);
+    control.isStacked = isStacked;
+    control.windowIndex = index.ints[0];
+    control.id = id.ints[0];
+    control.x = position.ints[0];
+    control.y = position.ints[1];
+    control.w = size.ints[0];
+    control.h = size.ints[1];
+    control.idAt = offsetOf(id);
+    control.indexAt = offsetOf(index);
+    control.positionAt = offsetOf(position);
+#ifdef _WIN32
+    control.kindName = kindName;
+    control.isSunken = kind == LabelCode && view.IntM("edge") == 1;
+#endif
+    static constexpr KindsCL Captioned { LabelCode, GroupBoxCode, CheckBoxCode, RadioBoxCode,
+        StandardButtonCode };
+    static constexpr KindsCL Texts { LabelCode, GroupBoxCode };
+    static constexpr KindsCL MayBeReadOnly { SingleEditCode, MultiEditCode };
+    if (control.IsM(Captioned)) {
+        const FieldCL& caption = *view.FindM(control.IsM(Texts) ? "text" : "caption");
+        control.hasText = kind == LabelCode && !caption.text->EmptyM();
+#ifdef _WIN32
+        control.captionAt = offsetOf(caption);
+        control.caption = std::move(*caption.text);
+#endif
+    }
+    control.isReadOnly = control.IsM(MayBeReadOnly) && view.IntM("read_only") == 1;
+    control.isDefault = kind == StandardButtonCode && view.IntM("default_button") == 1;
+    control.group = kind == RadioBoxCode ? view.IntM("group") : 0;
+    if (kind == SpinEditCode && view.IntM("data_type") > 0) {
+        control.windowIndex = view.IntM("edit_window_index");
+        control.indexAt = offsetOf(*view.FindM("edit_window_index"));
+    }
+    return control;
+}
+
+StackTP stackOf(const CheckedControlsTP& controls)
+{
+    struct PlaceCL
+    {
+        int index;
+        std::uint32_t control;
+        bool operator<(const PlaceCL& other) const { return index < other.index; }
+    };
+    std::vector<PlaceCL> places;
+    places.reserve(controls.size());
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (controls[i].isStacked) {
+            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
+        }
+    }
+    sortRows(places);
+    StackTP stack;
+    stack.reserve(controls.size());
+    for (const PlaceCL& place : places) {
+        stack.push_back(&controls[place.control]);
+    }
+    for (const CheckedControlCL& control : controls) {
+        if (!control.isStacked) {
+            stack.push_back(&control);
+        }
+    }
+    return stack;
+}
