@@ -135,7 +135,9 @@ std::vector<WindowCL> read(const char* path)
 double buildByLibrary(const char* file)
 {
     HostCL host(file);
-    return secondsOf([&host] { host.BuildM(); });
+    double seconds = 0;
+    markTrace("first_library", [&] { seconds = secondsOf([&host] { host.BuildM(); }); });
+    return seconds;
 }
 
 // An edit with arrows is created with the room of both: joining them takes the arrows' room from it.
@@ -158,6 +160,7 @@ double buildRaw(const char* file)
     giveRoomOfArrows(windows);
     const RawDialogCL dialog(0);
     const HWND parent = dialog.HandleM();
+    markRequest("panelkit-begin-first_raw");
     const double seconds = secondsOf([&windows, parent] {
         const auto picture = static_cast<HBITMAP>(::LoadImageW(
             nullptr, L"plotter_background.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
@@ -194,6 +197,7 @@ double buildRaw(const char* file)
         }
         ::DeleteObject(picture);
     });
+    markRequest("panelkit-end-first_raw");
     const std::vector<WindowCL> made = lookAtAll(parent);
     for (size_t i = 0; i < wanted.size(); ++i) {
         if (made.size() != wanted.size() || !made[i].IsLikeM(wanted[i])) {
