@@ -1,5 +1,6 @@
 // How long the first dialog of a process takes, over plain calls that make the same windows: each time in a
 // process of its own, the two in turn. first_bench [FOLDER of plotter.dlg]
+// first_bench requests: no times, but the parts named in the trace of the window system's server, once each.
 // first_bench list OUT: writes the list of its windows for other programs.
 #include "measures.h"
 #include "plain_windows.h"
@@ -17,7 +18,9 @@ constexpr int Rounds = 12;
 double buildByLibrary(const char* file)
 {
     HostCL host(file);
-    return secondsOf([&host] { host.BuildM(); });
+    double seconds = 0;
+    markTrace("first_dialog", [&] { seconds = secondsOf([&host] { host.BuildM(); }); });
+    return seconds;
 }
 
 // Negative when what it makes isn't what the file says.
@@ -28,6 +31,7 @@ double buildRaw(const char* file)
     plain::giveRoomOfArrows(windows);
     const RawDialogCL dialog(0);
     const HWND parent = dialog.HandleM();
+    markRequest("panelkit-begin-first_dialog_raw");
     const double seconds = secondsOf([&windows, parent] {
         const auto picture = static_cast<HBITMAP>(::LoadImageW(
             nullptr, L"plotter_background.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
@@ -38,6 +42,7 @@ double buildRaw(const char* file)
         plain::makeAll(parent, windows, FontOption);
         ::DeleteObject(picture);
     });
+    markRequest("panelkit-end-first_dialog_raw");
     const std::vector<plain::WindowCL> made = plain::lookAtAll(parent);
     for (size_t i = 0; i < wanted.size(); ++i) {
         if (made.size() != wanted.size() || !made[i].IsLikeM(wanted[i])) {
@@ -80,7 +85,8 @@ int main(int argc, char** argv)
         const double seconds = std::strcmp(argv[1], "raw") == 0 ? buildRaw(argv[2]) : buildByLibrary(argv[2]);
         return seconds < 0 ? 0 : static_cast<int>(seconds * 1e6);
     }
-    ::SetCurrentDirectoryA(argc == 2 ? argv[1] : PANELKIT_PLOTTER);
+    const bool isCounting = argc == 2 && std::strcmp(argv[1], "requests") == 0;
+    ::SetCurrentDirectoryA(argc == 2 && !isCounting ? argv[1] : PANELKIT_PLOTTER);
     std::vector<plain::WindowCL> windows;
     {
         HostCL host("plotter.dlg");
@@ -95,7 +101,7 @@ int main(int argc, char** argv)
     plain::write(windows, list.path());
     std::vector<double> mine;
     std::vector<double> raw;
-    for (int round = 0; round <= Rounds; ++round) {
+    for (int round = 0; round <= (isCounting ? 0 : Rounds); ++round) {
         double first = 0;
         double second = 0;
         for (const int which : { round % 2, 1 - round % 2 }) {
@@ -111,6 +117,8 @@ int main(int argc, char** argv)
             raw.push_back(second);
         }
     }
-    tellRatio("first_dialog_over_raw", mine, raw);
+    if (!isCounting) {
+        tellRatio("first_dialog_over_raw", mine, raw);
+    }
     return 0;
 }

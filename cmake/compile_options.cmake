@@ -26,6 +26,27 @@ if(WIN32)
   set(mapped_by_wine LINKER:--file-alignment=4096)
 endif()
 
+# What nobody calls stays out, above all of the compiler's runtime. Every function has an entry in .pdata, by which
+# frames are unwound; the linker's own script keeps all of these, and with them every function of a file of which one
+# is called. By ours an entry holds nothing, but what .xdata names does: what unwinds frames, what is thrown and
+# caught. The entries of functions that went are empty and come first.
+function(panelkit_drop_unused target)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    return()
+  endif()
+  target_link_options(${target} PRIVATE LINKER:--gc-sections)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -shared -Wl,--verbose OUTPUT_VARIABLE said ERROR_QUIET)
+  if(said MATCHES "\n====+\n(.*)\n====+\n")
+    string(REPLACE "KEEP(*(.pdata*))" "*(.pdata*)" script "${CMAKE_MATCH_1}")
+    if(NOT script STREQUAL CMAKE_MATCH_1) # 32-bit code is unwound by other means.
+      set(file ${CMAKE_CURRENT_BINARY_DIR}/${target}.ld)
+      file(CONFIGURE OUTPUT ${file} CONTENT "${script}" @ONLY)
+      target_link_options(${target} PRIVATE LINKER:-T,${file})
+      set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${file})
+    endif()
+  endif()
+endfunction()
+
 # What Windows shows as the details of a program or library, and installers compare.
 function(panelkit_version_resource target description)
   if(WIN32)

@@ -260,8 +260,8 @@ private:
     bool hasFileSizeM(HWND window) const;
     void giveTreeFontsM();
     void makeFontM();
-    template <class ControlTP, class RecordTP>
-    void rescaleControlM(ControlTP& control, RecordTP* record, int from);
+    bool rescaleControlM(HWND window, DControlCommonCL& control, const DVrCommonBoxCL* scaled, int from,
+        const CallRefCL<void()>& giveLengths);
     template <class RowTP> void rescaleKindM(VrIOCL& io, int from);
     void rescaleM(int percent, const RECT* suggested);
     bool answerDpiM(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);

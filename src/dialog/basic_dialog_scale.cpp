@@ -135,22 +135,22 @@ void DuBasicDialogCL::giveTreeFontsM()
 }
 
 // A control that the application has moved stays there, in proportion. All others get the edges that they
-// have in a dialog which is built at this scale.
-template <class ControlTP, class RecordTP>
-void DuBasicDialogCL::rescaleControlM(ControlTP& control, RecordTP* record, int from)
+// have in a dialog which is built at this scale. scaled: its record if the file still has it, which
+// giveLengths scales and hands on; else null. False for a control without a window.
+bool DuBasicDialogCL::rescaleControlM(HWND window, DControlCommonCL& control, const DVrCommonBoxCL* scaled,
+    int from, const CallRefCL<void()>& giveLengths)
 {
-    if (control.GetSafeHwnd() == nullptr) {
-        return;
+    if (window == nullptr) {
+        return false;
     }
     const int to = scale_.PercentM();
     const CRect described = placeOf(control);
     RECT now {};
-    ::GetWindowRect(control.m_hWnd, &now);
-    ::MapWindowPoints(nullptr, ::GetParent(control.m_hWnd), reinterpret_cast<POINT*>(&now), 2);
-    if (record != nullptr && record->GetFuncIDM() == control.GetFunctionIDM()) {
-        control.SetPictureScaleM({ scale_, record->GetPositionM() });
-        slScaleRecord(*record, scale_);
-        record->GiveLengthsM(&control);
+    ::GetWindowRect(window, &now);
+    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<POINT*>(&now), 2);
+    if (scaled != nullptr && scaled->GetFuncIDM() == control.GetFunctionIDM()) {
+        control.SetPictureScaleM({ scale_, scaled->GetPositionM() });
+        giveLengths();
     } else { // The file has changed.
         const CRect moved = movedRect(described, from, to);
         const int corner[2] = { static_cast<int>(moved.left), static_cast<int>(moved.top) };
@@ -164,9 +164,9 @@ void DuBasicDialogCL::rescaleControlM(ControlTP& control, RecordTP* record, int 
         const CRect there(CPoint(now.left, now.top), described.Size());
         place = movedRect(there, from, to);
     }
-    ::SetWindowPos(control.m_hWnd, nullptr, place.left, place.top, place.Width(), place.Height(),
+    ::SetWindowPos(window, nullptr, place.left, place.top, place.Width(), place.Height(),
         SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
-    control.RescaledM(from, to);
+    return true;
 }
 
 template <class RowTP> void DuBasicDialogCL::rescaleKindM(VrIOCL& io, int from)
@@ -176,8 +176,15 @@ template <class RowTP> void DuBasicDialogCL::rescaleKindM(VrIOCL& io, int from)
     int count = 0;
     slReadSection(io, records, &count);
     for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-        rescaleControlM(
-            controls.ControlAtM(i), records.CheckAvailableM(i) == 1 ? &records.ElementAtM(i) : nullptr, from);
+        auto& control = controls.ControlAtM(i);
+        auto* const record = records.CheckAvailableM(i) == 1 ? &records.ElementAtM(i) : nullptr;
+        const auto giveLengths = [this, &control, record] {
+            slScaleRecord(*record, scale_);
+            record->GiveLengthsM(&control);
+        };
+        if (rescaleControlM(control.GetSafeHwnd(), control, record, from, giveLengths)) {
+            control.RescaledM(from, scale_.PercentM());
+        }
     }
 }
 

@@ -3,15 +3,42 @@
 
 // Here, once for all kinds.
 ControlLooksCL::ControlLooksCL() = default;
-ControlLooksCL::ControlLooksCL(const ControlLooksCL& other) = default;
-ControlLooksCL& ControlLooksCL::operator=(const ControlLooksCL& other) = default;
+ControlLooksCL::ControlLooksCL(const ControlLooksCL& other)
+    : given_(other.given_ != nullptr ? std::make_unique<GivenCL>(*other.given_) : nullptr)
+{
+}
+ControlLooksCL& ControlLooksCL::operator=(const ControlLooksCL& other)
+{
+    ControlLooksCL copy(other);
+    given_.swap(copy.given_);
+    return *this;
+}
 ControlLooksCL::~ControlLooksCL() = default;
+
+ControlLooksCL::GivenCL& ControlLooksCL::givenM()
+{
+    if (given_ == nullptr) {
+        given_ = std::make_unique<GivenCL>();
+    }
+    return *given_;
+}
+
+void ControlLooksCL::SetTextColourM(std::optional<COLORREF> colour)
+{
+    if (colour || given_ != nullptr) {
+        givenM().textColour = colour;
+    }
+}
+
+std::optional<COLORREF> ControlLooksCL::TextColourM() const
+{
+    return given_ != nullptr ? given_->textColour : std::nullopt;
+}
 
 void ControlLooksCL::SetNameM(const ValueTextCL& name, long role)
 {
-    const std::wstring text = name.WideM();
-    name_ = text.empty() ? nullptr : std::make_shared<const std::wstring>(text);
-    role_ = role;
+    givenM().name = name.WideM();
+    givenM().role = role;
 }
 
 void ControlLooksCL::ColourM(
@@ -21,16 +48,17 @@ void ControlLooksCL::ColourM(
     if (!isAnswered && parent != nullptr) {
         *answer = parent->DefWindowProc(message, wParam, lParam);
     }
-    ::SetTextColor(reinterpret_cast<HDC>(wParam), *textColour_);
+    ::SetTextColor(reinterpret_cast<HDC>(wParam), *given_->textColour);
 }
 
 bool ControlLooksCL::NamesM(UINT message, LPARAM lParam) const
 {
     // Of the number the lower half counts.
-    return message == WM_GETOBJECT && name_ != nullptr && static_cast<LONG>(lParam) == OBJID_CLIENT;
+    return message == WM_GETOBJECT && given_ != nullptr && !given_->name.empty()
+        && static_cast<LONG>(lParam) == OBJID_CLIENT;
 }
 
 LRESULT ControlLooksCL::AnswerNameM(HWND control, WPARAM wParam) const
 {
-    return slAnswerAccessible(control, wParam, *name_, role_);
+    return slAnswerAccessible(control, wParam, given_->name, given_->role);
 }

@@ -3,6 +3,7 @@
 #include "toolkit/toolkit.h"
 #include <memory>
 #include <optional>
+#include <string>
 
 // What an application may give a control besides its description: the colour of its text, and what screen
 // readers call it. Nothing to begin with. Copying copies it.
@@ -15,9 +16,9 @@ public:
     ~ControlLooksCL();
 
     // For the next colour request; none: that of the system.
-    void SetTextColourM(std::optional<COLORREF> colour) { textColour_ = colour; }
+    void SetTextColourM(std::optional<COLORREF> colour);
     // What was set.
-    const std::optional<COLORREF>& TextColourM() const { return textColour_; }
+    std::optional<COLORREF> TextColourM() const;
     // None or the empty text: no name. role: one of ROLE_SYSTEM_...; 0: the role that the window has.
     // A push button can be pressed through it.
     void SetNameM(const ValueTextCL& name, long role);
@@ -25,7 +26,8 @@ public:
     // Whether it colours what this message of a control to its parent asks for.
     bool ColoursM(UINT message) const
     {
-        return textColour_ && message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+        return given_ != nullptr && message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC
+            && TextColourM().has_value();
     }
     // Colours it, wParam being the message's. isAnswered: whether *answer is a brush already; else the parent
     // of the control gives one.
@@ -38,7 +40,13 @@ public:
     LRESULT AnswerNameM(HWND control, WPARAM wParam) const;
 
 private:
-    std::optional<COLORREF> textColour_;
-    std::shared_ptr<const std::wstring> name_; // A control is moved by its bytes.
-    long role_ { 0 };
+    struct GivenCL
+    {
+        std::optional<COLORREF> textColour;
+        std::wstring name; // Empty: none.
+        long role { 0 };
+    };
+    GivenCL& givenM();
+
+    std::unique_ptr<GivenCL> given_; // Null: nothing.
 };

@@ -15,11 +15,11 @@ void DVrSingleEditCL::EachFieldM(FieldVisitorCL& visitor)
     if (dataType_ < IntegerType || dataType_ > TextType) {
         visitor.StopReadingM();
     }
-    visitor.LimitsM("range", dataType_, range_);
+    range_.LimitsFieldM(visitor, "range", dataType_);
     visitor.CountM("decimals", decimals_);
     visitor.FlagM("password", password_);
     visitor.ChoiceM("alignment", alignMode_, Alignments);
-    visitor.NumberM("initial", dataType_, initial_);
+    initial_.NumberFieldM(visitor, "initial", dataType_);
     visitor.FlagM("read_only", readOnly_);
     visitor.FlagM("edge", edge_);
     visitor.ColourM("colour", colour_);

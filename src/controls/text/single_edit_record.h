@@ -22,8 +22,8 @@ private:
     int readOnly_ { 0 };
     int edge_ { 1 };
     ColourTP colour_ { 0xFFFFFF };
-    simpleValD range_;
-    simpleValD initial_;
+    KeptValueCL range_;
+    KeptValueCL initial_;
 };
 
 extern template class PANELKIT_API Arr<DVrSingleEditCL>;

@@ -1,5 +1,5 @@
 #pragma once
-#include "controls/base/control_common.h"
+#include "controls/base/control.h"
 
 // The arrows of a spin edit. A click is sent to the edit as message 1725; 1625 is posted to the parent when
 // they gain the focus. Copying copies the description, never the window.
@@ -21,6 +21,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);

@@ -32,9 +32,9 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
     }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
-    control->SetRangeM(range_);
-    control->SetInitValM(initial_);
-    control->SetStepM(step_);
+    control->SetRangeM(range_.WholeM());
+    control->SetInitValM(initial_.WholeM());
+    control->SetStepM(step_.WholeM());
     control->SetSpinLenM(spinWidth_);
     control->SetWinIdxM(editWindowIndex_);
     control->SpinButtonM().SetFunctionIDM(spinFunctionId_);
@@ -158,10 +158,10 @@ int DuSpinEditCL::SetStepM(const simpleValD& step)
 {
     switch (value_.GetTypeM()) {
     case IntegerType:
-        step_.number = step.number;
+        step_.NumberM() = step.number;
         return 1;
     case RealType:
-        step_.real = step.real;
+        step_.RealM() = step.real;
         return 1;
     default:
         return 0;
@@ -242,14 +242,14 @@ CheckCode DuSpinEditCL::steppedM(int delta, simpleValD* value) const
     const TypedValueCL::LimitsCL& range = value_.RangeM();
     if (value_.GetTypeM() == IntegerType) {
         const long long limits[2] = { range.numbers[0], range.numbers[1] };
-        const long long stepped = value_.IntM() - static_cast<long long>(delta) * step_.number;
+        const long long stepped = value_.IntM() - static_cast<long long>(delta) * step_.NumberM();
         const CheckCode code = judgeStep(stepped, limits, delta == 1);
         if (code == ValidValue) {
             value->number = static_cast<int>(stepped);
         }
         return code;
     }
-    const float stepped = delta == 1 ? value_.RealM() - step_.real : value_.RealM() + step_.real;
+    const float stepped = delta == 1 ? value_.RealM() - step_.RealM() : value_.RealM() + step_.RealM();
     const CheckCode code = judgeStep(stepped, range.reals, delta == 1);
     if (code == ValidValue) {
         value->real = stepped;

@@ -74,7 +74,7 @@ private:
     // How far the edges of the arrows are from those of the field, the right one from that of both.
     CRect joint_;
     int platformWidth_ { 0 }; // Of the arrows, where the platform takes no other; else 0.
-    simpleValD step_;
+    KeptValueCL step_;
 };
 
 extern template class PANELKIT_API Arr<DuSpinEditCL>;

@@ -16,11 +16,11 @@ void DVrSpinEditCL::EachFieldM(FieldVisitorCL& visitor)
         visitor.StopReadingM();
     }
     const int type = dataType_ == RealType ? RealType : IntegerType; // No texts here.
-    visitor.LimitsM("range", type, range_);
+    range_.LimitsFieldM(visitor, "range", type);
     visitor.CountM("decimals", decimals_);
-    visitor.NumberM("step", type, step_);
+    step_.NumberFieldM(visitor, "step", type);
     visitor.ChoiceM("alignment", alignMode_, Alignments);
-    visitor.NumberM("initial", type, initial_);
+    initial_.NumberFieldM(visitor, "initial", type);
     visitor.IndexM("edit_window_index", editWindowIndex_);
     visitor.IdM("spin_function_id", spinFunctionId_);
     visitor.LengthM("spin_width", spinWidth_, Along::X);

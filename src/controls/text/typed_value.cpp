@@ -30,6 +30,76 @@ void slTripDot(char* text, int decimals)
     }
 }
 
+KeptValueCL::KeptValueCL(const KeptValueCL& other)
+    : few_(other.few_)
+    , whole_(other.whole_ != nullptr ? std::make_unique<simpleValD>(*other.whole_) : nullptr)
+{
+}
+
+KeptValueCL& KeptValueCL::operator=(const KeptValueCL& other)
+{
+    KeptValueCL copy(other);
+    few_ = copy.few_;
+    whole_ = std::move(copy.whole_);
+    return *this;
+}
+
+simpleValD KeptValueCL::WholeM() const
+{
+    simpleValD value;
+    std::memcpy(value.text, TextM(), whole_ != nullptr ? sizeof value.text : sizeof few_.text);
+    return value;
+}
+
+void KeptValueCL::NumberFieldM(FieldVisitorCL& visitor, const char* name, int type)
+{
+    simpleValD value = WholeM();
+    visitor.NumberM(name, type, value);
+    if (type != TextType) {
+        takeFewM(value);
+        return;
+    }
+    static constexpr simpleValD nothing {};
+    if (std::memcmp(value.text + sizeof few_.text, nothing.text, sizeof value.text - sizeof few_.text) != 0) {
+        makeWholeM() = value;
+    } else {
+        whole_ = nullptr;
+        takeFewM(value);
+    }
+}
+
+void KeptValueCL::LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type)
+{
+    simpleValD range = WholeM();
+    visitor.LimitsM(name, type, range);
+    takeFewM(range);
+}
+
+void KeptValueCL::takeFewM(const simpleValD& value)
+{
+    std::memcpy(TextM(), value.text, sizeof few_.text);
+}
+
+void KeptValueCL::SetTextM(const char* text)
+{
+    if (text == TextM()) {
+        return;
+    }
+    if (whole_ == nullptr && (text == nullptr || std::memchr(text, 0, sizeof few_.text) != nullptr)) {
+        slCopyText(few_.text, sizeof few_.text, text);
+    } else {
+        slCopyText(makeWholeM().text, TextSize, text);
+    }
+}
+
+simpleValD& KeptValueCL::makeWholeM()
+{
+    if (whole_ == nullptr) {
+        whole_ = std::make_unique<simpleValD>(WholeM());
+    }
+    return *whole_;
+}
+
 void TypedValueCL::SetTypeM(int type, int decimals)
 {
     type_ = type;
@@ -50,10 +120,10 @@ int TypedValueCL::SetValueM(const simpleValD& value)
 {
     switch (type_) {
     case IntegerType:
-        value_.number = value.number;
+        SetIntM(value.number);
         return 1;
     case RealType:
-        value_.real = value.real;
+        SetRealM(value.real);
         return 1;
     case TextType: {
         simpleValD ended = value;
@@ -73,23 +143,16 @@ int TypedValueCL::GetValueM(simpleValD* value) const
     }
     switch (type_) {
     case IntegerType:
-        value->number = value_.number;
+        value->number = IntM();
         return 1;
     case RealType:
-        value->real = value_.real;
+        value->real = RealM();
         return 1;
     case TextType:
-        slCopyText(value->text, TextSize, value_.text);
+        slCopyText(value->text, TextSize, TextM());
         return 1;
     default:
         return 0;
-    }
-}
-
-void TypedValueCL::SetTextM(const char* value)
-{
-    if (value != value_.text) {
-        slCopyText(value_.text, TextSize, value);
     }
 }
 
@@ -116,7 +179,7 @@ CheckCode TypedValueCL::ReadM(const char* text)
     if (type_ == TextType) {
         SetTextM(line);
         // Only the maximum counts.
-        const int length = static_cast<int>(std::strlen(value_.text));
+        const int length = static_cast<int>(std::strlen(TextM()));
         return length > range_.numbers[1] ? AboveMaximum : ValidValue;
     }
     if (type_ == RealType) {
@@ -124,11 +187,11 @@ CheckCode TypedValueCL::ReadM(const char* text)
     }
     const char* const end = line + std::strlen(line);
     const char* const begin = std::find_if_not(static_cast<const char*>(line), end, slIsBlank);
-    if (type_ == IntegerType && slReadInt(begin, end, &value_.number) > begin) {
-        return judgeM(value_.number, range_.numbers);
+    if (type_ == IntegerType && slReadInt(begin, end, &value_.NumberM()) > begin) {
+        return judgeM(IntM(), range_.numbers);
     }
-    if (type_ == RealType && slReadReal(begin, end, &value_.real) > begin) {
-        return judgeM(value_.real, range_.reals);
+    if (type_ == RealType && slReadReal(begin, end, &value_.RealM()) > begin) {
+        return judgeM(RealM(), range_.reals);
     }
     return Unreadable;
 }
@@ -195,11 +258,11 @@ int TypedValueCL::ShowM(char* to, int size) const
 {
     slCopyText(to, size, "");
     if (type_ == TextType) {
-        slCopyText(to, size, value_.text);
+        slCopyText(to, size, TextM());
         return 1;
     }
     LimitsCL number;
-    std::memcpy(&number, value_.text, sizeof number);
+    std::memcpy(&number, TextM(), sizeof number);
     showNumberM(to, size, number, 0);
     return isNumberType(type_) ? 1 : 0;
 }
@@ -226,11 +289,11 @@ void TypedValueCL::ForceM(CheckCode code)
     }
     const int which = code == BelowMinimum ? 0 : 1;
     if (type_ == IntegerType) {
-        value_.number = range_.numbers[which];
+        SetIntM(range_.numbers[which]);
     } else if (type_ == RealType) {
-        value_.real = range_.reals[which];
+        SetRealM(range_.reals[which]);
     } else if (type_ == TextType && code == AboveMaximum) {
-        slCutText(value_.text, std::max(range_.numbers[1], 0));
+        slCutText(value_.TextM(), std::max(range_.numbers[1], 0));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "baselib/simple_value.h"
 #include "controls/base/control_value.h"
 #include "records/fields.h"
+#include <memory>
 #include <string>
 
 // How a text was judged.
@@ -16,6 +17,44 @@ enum CheckCode
 
 // A real is shown with at most so many decimals: any then fits a text buffer.
 constexpr int MostDecimals = TextSize - 42;
+
+// What simpleValD holds, byte for byte, in little room until a long text comes. Copied deeply, and may be
+// moved by its bytes.
+class PANELKIT_API KeptValueCL
+{
+public:
+    KeptValueCL() = default; // All zero.
+    KeptValueCL(const KeptValueCL& other);
+    KeptValueCL& operator=(const KeptValueCL& other);
+    ~KeptValueCL() = default;
+
+    simpleValD WholeM() const; // All of it.
+    // Shows it to a visitor of fields as what FieldVisitorCL's function of that name shows.
+    void NumberFieldM(FieldVisitorCL& visitor, const char* name, int type);
+    void LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type);
+
+    // Its members, each at the beginning of its bytes. Of a text 259 bytes are taken, cut at a character;
+    // null is empty.
+    int& NumberM() { return whole_ != nullptr ? whole_->number : few_.number; }
+    float& RealM() { return whole_ != nullptr ? whole_->real : few_.real; }
+    char* TextM() { return whole_ != nullptr ? whole_->text : few_.text; } // Valid until it is set.
+    int NumberM() const { return const_cast<KeptValueCL*>(this)->NumberM(); }
+    float RealM() const { return const_cast<KeptValueCL*>(this)->RealM(); }
+    const char* TextM() const { return const_cast<KeptValueCL*>(this)->TextM(); }
+    void SetTextM(const char* text);
+
+private:
+    simpleValD& makeWholeM();
+    void takeFewM(const simpleValD& value);
+
+    union FewTP {
+        char text[16] {};
+        int number;
+        float real;
+    };
+    FewTP few_;                         // The first bytes of a value, which has no others,
+    std::unique_ptr<simpleValD> whole_; // unless this is there.
+};
 
 // The value of an edit: its data type, decimals and limits; reading it from what the user typed, checking it,
 // and showing it. Any code but those above is an unknown type: nothing can be typed, stored, read or shown.
@@ -42,12 +81,12 @@ public:
     const LimitsCL& RangeM() const { return range_; }
 
     // These don't look at the type.
-    void SetIntM(int value) { value_.number = value; }
-    void SetRealM(float value) { value_.real = value; }
-    void SetTextM(const char* value);
-    int IntM() const { return value_.number; }
-    float RealM() const { return value_.real; }
-    const char* TextM() const { return value_.text; }
+    void SetIntM(int value) { value_.NumberM() = value; }
+    void SetRealM(float value) { value_.RealM() = value; }
+    void SetTextM(const char* value) { value_.SetTextM(value); }
+    int IntM() const { return value_.NumberM(); }
+    float RealM() const { return value_.RealM(); }
+    const char* TextM() const { return value_.TextM(); }
 
     // Whether the user may type this character. Editing commands such as Ctrl+V arrive as characters too.
     bool AcceptsM(unsigned character) const;
@@ -78,7 +117,7 @@ private:
     int type_ { IntegerType };
     int decimals_ { 0 };
     LimitsCL range_ {};
-    simpleValD value_;
+    KeptValueCL value_;
 };
 
 // Cuts a real's text behind the given number of decimals, not rounding; the point itself stays.
