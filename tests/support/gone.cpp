@@ -1,5 +1,4 @@
 #include "support/gone.h"
-#include "support/faults.h"
 #include <algorithm>
 #include <cstring>
 #include <malloc.h>
@@ -52,12 +51,6 @@ struct SenderCL<function, refusesNone>
         const bool isThere
             = window == HWND_BROADCAST || (window == nullptr && refusesNone) || ::IsWindow(window);
         messages += isThere ? 0 : 1;
-        if (!isThere && getenv("F2_STACK")) {
-            CONTEXT c;
-            RtlCaptureContext(&c);
-            fprintf(stderr, "MESSAGE %u\n", message);
-            WriteStackM(c);
-        }
         return original(window, message, wParam, lParam);
     }
 };

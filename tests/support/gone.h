@@ -13,7 +13,7 @@ public:
     GoneCL& operator=(const GoneCL&) = delete;
     ~GoneCL();
 
-    // Messages sent or posted to windows that don't exist any more, or posted to none, since the last call.
+    // Messages sent or posted to windows that are gone, or posted to none, since the last call.
     static int MessagesM();
     // Freed blocks that somebody wrote into since the last call; all those until now are given back.
     static int WrittenM();
