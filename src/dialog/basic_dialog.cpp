@@ -1,6 +1,7 @@
-#include "baselib/gbk.h"
 #include "dialog/basic_dialog.h"
+#include "baselib/gbk.h"
 #include "dialog/reading_diagnostics.h"
+#include "toolkit/life.h"
 
 namespace {
 
@@ -31,8 +32,6 @@ DuBasicDialogCL::DuBasicDialogCL(int templateId, CWnd* parent)
 {
 }
 
-DuBasicDialogCL::~DuBasicDialogCL() = default;
-
 int DuBasicDialogCL::SetConfigFileM(const char* path)
 {
     if (path == nullptr || *path == '\0') {
@@ -55,11 +54,19 @@ int DuBasicDialogCL::DoModalM(CWnd* parent)
 
 BOOL DuBasicDialogCL::OnInitDialog()
 {
+    const LifeCL life(this); // The application may delete it, or destroy its window, whenever it is told.
+    const auto isThere = [this, &life] { return life.IsAliveM() && m_hWnd != nullptr; };
     DestroyM();
-    stretch_ = {}; // That of a window before.
-    InitDlgM(this, 1);
-    CDialog::OnInitDialog(); // The host's data exchange finds the controls.
-    timerId_ = SetTimer(StartTimer, StartPeriod, nullptr);
+    if (isThere()) {
+        stretch_ = {}; // That of a window before.
+        InitDlgM(this, 1);
+    }
+    if (isThere()) {
+        CDialog::OnInitDialog(); // The host's data exchange finds the controls.
+    }
+    if (isThere()) {
+        timerId_ = SetTimer(StartTimer, StartPeriod, nullptr);
+    }
     return TRUE;
 }
 

@@ -214,6 +214,7 @@ protected:
 
 private:
     friend class DialogValuesCL;
+    class TurnCL;
     template <class RowTP> struct KindMembersCL
     {
         typename RowTP::Controls controls;
@@ -225,19 +226,28 @@ private:
     {
         using Type = std::tuple<KindMembersCL<RowsTP>...>;
     };
+    struct KindsCL
+    {
+        MembersOfCL<KindTable>::Type all;
+    };
 
+    template <class RowTP> KindMembersCL<RowTP>& membersM() const
+    {
+        return std::get<KindMembersCL<RowTP>>(kinds_->all);
+    }
     template <class FunctionTP> void eachControlsM(FunctionTP&& see);
     template <class FunctionTP> bool withControlM(int id, FunctionTP&& see);
     void fillIndexM();
     void* findM(int id, int* row);
     template <class FunctionTP> int withSingleEditM(int id, FunctionTP&& see);
-    void initM(VrIOCL& io, CWnd* parent, int mode);
+    void buildM(CWnd* parent, const TurnCL& turn);
+    void initM(VrIOCL& io, CWnd* parent, const TurnCL& turn);
     void beginDiagnosticsM();
     bool givePainterM(int id, const PainterTP& painter);
     void givePictureKeyboardM();
     void openFileM(VrIOCL& io);
-    template <class RowTP> void translateKindM();
-    template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent);
+    template <class RowTP> void translateKindM(const TurnCL& turn);
+    template <class RowTP> void buildKindM(VrIOCL& io, CWnd* parent, const TurnCL& turn);
     HWND parentM() const; // The window with the controls: the dialog's own, or one that the application has.
     // What the passes over all controls do with one: the topmost child with its id.
     struct StepCL
@@ -248,9 +258,9 @@ private:
         bool isOfKind; // The window belongs to a control of the library's own class.
     };
     std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
-    void finishM(CWnd* parent, int mode);
-    void setItemFontM(const std::vector<StepCL>& steps, bool isShown);
-    void setItemFontM(CWnd* parent, bool isShown);
+    void finishM(CWnd* parent, const TurnCL& turn);
+    void setItemFontM(const std::vector<StepCL>& steps, bool isShown, const TurnCL& turn);
+    void setItemFontM(CWnd* parent, bool isShown, const TurnCL& turn);
     void setTxtLstBoxItemHeightM();
     bool isScaledM() const { return askedScale_ != NoScale; }
     int wantedScaleM() const;
@@ -258,24 +268,26 @@ private:
     void sizeWindowM(HWND window);
     void noteSizeM(HWND window);
     bool hasFileSizeM(HWND window) const;
-    void giveTreeFontsM();
+    void giveTreeFontsM(const TurnCL& turn);
     void makeFontM();
     bool rescaleControlM(HWND window, DControlCommonCL& control, const DVrCommonBoxCL* scaled, int from,
         const CallRefCL<void()>& giveLengths);
-    template <class RowTP> void rescaleKindM(VrIOCL& io, int from);
+    template <class RowTP> void rescaleKindM(VrIOCL& io, int from, const TurnCL& turn);
     void rescaleM(int percent, const RECT* suggested);
+    void changeScaleM(int percent, const RECT* suggested, const TurnCL& turn);
     bool answerDpiM(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    void leaveKindsM();
     bool partM();
     bool hasControlsM();
     bool showLooksM(int id);
     void showRefusalM();
     void showHooksM();
     bool readBindingsM(VrIOCL& io);
-    void bindM(const DialogStretchCL& before);
-    bool unbindM();
+    void bindM(const DialogStretchCL& before, const TurnCL& turn);
+    bool unbindM(const TurnCL& turn);
     void bindAgainM(const DialogStretchCL& before);
     void findBoundM();
-    void makeSizableM();
+    void makeSizableM(const TurnCL& turn);
     void stretchAgainM(const DialogStretchCL& before);
     void leaveOutOpaqueM(HDC dc);
     LRESULT whileBoundM(UINT message, WPARAM wParam, LPARAM lParam);
@@ -296,7 +308,10 @@ private:
     bool isFileSized_ { true }; // Whether the window had that size before the scale changed.
     DVrBitmapCL background_;
     int valueStatus_ { 0 };
-    MembersOfCL<KindTable>::Type kinds_;
+    std::shared_ptr<KindsCL> kinds_ {
+        std::make_shared<KindsCL>()
+    };                // The turns that are about them own them too.
+    int turns_ { 0 }; // How many of those there are.
     ControlIndexCL index_;
     DialogValuesCL values_ { *this };
     std::map<int, PainterTP> painters_;
@@ -323,9 +338,10 @@ template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<Co
     static_assert(isKind, "name the library's class of the kind: SetFactoryM<DuSingleEditCL>(...)");
     slEachKind([this, &make](auto row) {
         if constexpr (std::is_same_v<typename decltype(row)::Controls::ControlTP, ControlTP>) {
-            std::get<KindMembersCL<decltype(row)>>(kinds_).make = std::move(make);
+            membersM<decltype(row)>().make = std::move(make);
         }
     });
 }
 
 #include "dialog/basic_dialog_each.h"
+#include "dialog/basic_dialog_turn.h"

@@ -8,8 +8,21 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
     if (parent == nullptr) {
         return 0;
     }
+    if (turns_ > 0) { // Those are over.
+        const LifeCL life(this);
+        leaveKindsM();
+        if (!life.IsAliveM()) {
+            return 1;
+        }
+    }
     builtIn_ = parent->GetSafeHwnd();
     mode_ = mode;
+    buildM(parent, TurnCL(this, builtIn_));
+    return 1;
+}
+
+void DuBasicDialogCL::buildM(CWnd* parent, const TurnCL& turn)
+{
     scale_ = ScaleCL(wantedScaleM());
     bound_ = {};
     const DialogStretchCL before = stretch_.OfM(builtIn_);
@@ -23,21 +36,31 @@ int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)
         const PictureSharingCL sharing;
         VrIOCL io; // It holds the file's bytes, not the file: a control may open that again.
         openFileM(io);
-        initM(io, parent, mode);
-        slEachKindAsBuilt([this, &io, parent](auto row) { buildKindM<decltype(row)>(io, parent); });
-        isBound = readBindingsM(io);
+        initM(io, parent, turn);
+        slEachKindAsBuilt([this, &io, parent, &turn](auto row) {
+            if (!turn.IsOverM()) {
+                buildKindM<decltype(row)>(io, parent, turn);
+            }
+        });
+        isBound = !turn.IsOverM() && readBindingsM(io);
     }
-    finishM(parent, mode);
-    setTxtLstBoxItemHeightM(); // The font has changed them.
-    if (isBound) {
-        bindM(before);
+    if (!turn.IsOverM()) {
+        finishM(parent, turn);
+    }
+    if (!turn.IsOverM()) {
+        setTxtLstBoxItemHeightM(); // The font has changed them.
+    }
+    if (isBound && !turn.IsOverM()) {
+        bindM(before, turn);
+    }
+    if (turn.IsOverM()) {
+        return;
     }
     for (const auto& [id, painter] : painters_) {
         givePainterM(id, painter);
     }
     givePictureKeyboardM();
     showHooksM();
-    return 1;
 }
 
 HWND DuBasicDialogCL::parentM() const
@@ -45,7 +68,7 @@ HWND DuBasicDialogCL::parentM() const
     return ::IsWindow(builtIn_) ? builtIn_ : m_hWnd;
 }
 
-void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
+void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, const TurnCL& turn)
 {
     if (slReadDialogHeader(io, header_) == 0) {
         return;
@@ -54,24 +77,29 @@ void DuBasicDialogCL::initM(VrIOCL& io, CWnd* parent, int mode)
     if (!header_.background.EmptyM()) {
         background_.LoadScaledM(header_.background.TextM(), PictureScaleCL(scale_, { 0, 0 }));
     }
-    if (mode == 1) {
+    if (mode_ == 1) {
         ::SetWindowLongW(parent->m_hWnd, GWL_STYLE, static_cast<LONG>(header_.StyleM()));
-        if (header_.titleFlag == 1) {
-            parent->SetWindowText(header_.title.TextM());
+        if (!turn.IsOverM() && header_.titleFlag == 1) {
             const ValueTextCL title = translation_.FindM(header_.title.TextM(), "dialog", 0);
-            if (!title.IsNoneM()) {
+            parent->SetWindowText(header_.title.TextM());
+            if (!title.IsNoneM() && !turn.IsOverM()) {
                 ::SetWindowTextW(parent->m_hWnd, title.WideM().c_str());
             }
+        }
+        if (turn.IsOverM()) {
+            return;
         }
         // The style may have another frame, of which a window of the same size would not hear.
         parent->SetWindowPos(nullptr, slWindowLength(scale_.PlaceM(header_.position[0])),
             slWindowLength(scale_.PlaceM(header_.position[1])),
             slWindowLength(scale_.PlaceM(header_.size[0])), slWindowLength(scale_.PlaceM(header_.size[1])),
             SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-        if (isScaledM()) {
+        if (!turn.IsOverM() && isScaledM()) {
             sizeWindowM(parent->m_hWnd);
         }
-        noteSizeM(parent->m_hWnd);
+        if (!turn.IsOverM()) {
+            noteSizeM(parent->m_hWnd);
+        }
     }
 }
 
@@ -114,10 +142,10 @@ void* DuBasicDialogCL::findM(int id, int* row)
 }
 
 // Reads the records of one kind, then makes and fills its controls.
-template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent)
+template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent, const TurnCL& turn)
 {
     using ControlTP = typename RowTP::Controls::ControlTP;
-    auto& [controls, records, make] = std::get<KindMembersCL<RowTP>>(kinds_);
+    auto& [controls, records, make] = membersM<RowTP>();
     if (isScaledM()) {
         records.DelAllM(); // Those of a build before this one may have had another scale.
     }
@@ -130,6 +158,9 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
     }
     // Controls of a build before this one would move while they have windows.
     controls.DelAllM();
+    if (turn.IsOverM()) {
+        return;
+    }
     index_.ForgetM();
     const ControlTP scratch(AliveTag);
     controls.InitialSizeM(count);
@@ -157,15 +188,15 @@ template <class RowTP> void DuBasicDialogCL::buildKindM(VrIOCL& io, CWnd* parent
             control = controls.GetNextIdxM(control);
         }
     }
-    if (!translation_.EmptyM()) {
-        translateKindM<RowTP>();
+    if (!turn.IsOverM() && !translation_.EmptyM()) {
+        translateKindM<RowTP>(turn);
     }
 }
 
-template <class RowTP> void DuBasicDialogCL::translateKindM()
+template <class RowTP> void DuBasicDialogCL::translateKindM(const TurnCL& turn)
 {
-    auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
-    for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+    auto& controls = membersM<RowTP>().controls;
+    for (int i = controls.GetFirstIdxM(); i >= 0 && !turn.IsOverM(); i = controls.GetNextIdxM(i)) {
         [[maybe_unused]] auto& control = controls.ControlAtM(i);
         [[maybe_unused]] const auto translate = [this, &control](const ValueTextCL& text) {
             return translation_.FindM(text, RowTP::Records::KindName, control.GetFunctionIDM());

@@ -1,6 +1,5 @@
 // Destroying: the controls by themselves, or with the dialog's window.
 #include "dialog/basic_dialog.h"
-#include "toolkit/life.h"
 
 namespace {
 
@@ -21,30 +20,71 @@ void tellParentsM(HWND child)
     }
 }
 
+// Takes the windows of controls that somebody is about: none of them counts any more.
+template <class KindsTP> void endKinds(KindsTP& kinds)
+{
+    std::apply([](auto&... kind) { (kind.controls.DelAllVirtualM(), ...); }, kinds);
+}
+
 } // namespace
+
+DuBasicDialogCL::~DuBasicDialogCL()
+{
+    if (turns_ > 0) { // They keep the controls, not the windows.
+        endKinds(kinds_->all);
+    }
+}
 
 void DuBasicDialogCL::DestroyM()
 {
     const ValidationPauseCL destroying(m_hWnd);
-    std::apply([](auto&... kind) { ((kind.controls.DelAllM(), kind.records.DelAllM()), ...); }, kinds_);
+    const LifeCL life(this);
+    if (turns_ > 0) {
+        leaveKindsM();
+    } else {
+        const TurnCL turn(this);
+        std::apply(
+            [&turn](auto&... kind) {
+                ((turn.IsOverM() || (kind.controls.DelAllM(), kind.records.DelAllM(), true)), ...);
+            },
+            turn.KindsM().all);
+        if (turn.IsOverM()) {
+            return;
+        }
+        index_.ForgetM();
+        bound_ = {};
+    }
+    if (life.IsAliveM()) {
+        font_.DeleteObject();
+    }
+}
+
+// Leaves controls and records to the turns that are about them, for others.
+void DuBasicDialogCL::leaveKindsM()
+{
+    const auto kinds = std::make_shared<KindsCL>();
+    slEachKind([this, &kinds](auto row) {
+        using MembersTP = KindMembersCL<decltype(row)>;
+        std::get<MembersTP>(kinds->all).make = std::get<MembersTP>(kinds_->all).make;
+    });
+    const auto left = std::exchange(kinds_, kinds);
     index_.ForgetM();
     bound_ = {};
-    font_.DeleteObject();
+    endKinds(left->all);
 }
 
 BOOL DuBasicDialogCL::DestroyWindow()
 {
     const LifeCL life(this);
     const bool isParted = partM();
+    if (life.IsAliveM() && !isParted) {
+        DestroyM();
+    }
     if (!life.IsAliveM()) {
         return TRUE;
     }
-    if (!isParted) {
-        DestroyM();
-        return CDialog::DestroyWindow();
-    }
     const ValidationPauseCL destroying(m_hWnd);
-    isParted_ = true;
+    isParted_ = isParted;
     const BOOL done = CDialog::DestroyWindow();
     if (life.IsAliveM()) { // PostNcDestroy may have deleted it.
         isParted_ = false;
@@ -62,10 +102,10 @@ bool DuBasicDialogCL::partM()
     if (m_hWnd == nullptr || parentM() != m_hWnd || holds(::GetFocus()) || holds(::GetCapture())) {
         return false;
     }
-    const LifeCL life(this);
+    const TurnCL turn(this);
     const ValidationPauseCL destroying(m_hWnd);
-    eachControlsM([this, &life](auto row, auto& controls) {
-        for (int i = 0; life.IsAliveM() && i < controls.GetBoundM(); ++i) {
+    eachControlsM([this, &turn](auto row, auto& controls) {
+        for (int i = 0; !turn.IsOverM() && i < controls.GetBoundM(); ++i) {
             const auto& control = controls.ControlAtM(i);
             const bool goesAlong = decltype(row)::CanM(GoesQuietly) && slIsJust(control)
                 && control.m_hWnd != nullptr && ::GetAncestor(control.m_hWnd, GA_PARENT) == m_hWnd;
@@ -76,5 +116,5 @@ bool DuBasicDialogCL::partM()
             }
         }
     });
-    return life.IsAliveM() && m_hWnd != nullptr;
+    return !turn.IsOverM() && m_hWnd != nullptr;
 }

@@ -14,7 +14,7 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
     const LifeCL life(this);
     slEachKind([this, &see, &life](auto row) {
         if (life.IsAliveM()) {
-            see(row, std::get<KindMembersCL<decltype(row)>>(kinds_).controls);
+            see(row, membersM<decltype(row)>().controls);
         }
     });
 }

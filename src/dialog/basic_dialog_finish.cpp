@@ -97,12 +97,12 @@ std::vector<DuBasicDialogCL::StepCL> DuBasicDialogCL::stepsM(CWnd* parent, int* 
 // Mode 1 stacks the controls by ascending window index, equal ones as collected. Each step looks up its id
 // and would move what it finds just behind the step before; as moved windows are above all others, an id
 // always finds the window that was topmost at first, and the last step with that id decides where it stays.
-void DuBasicDialogCL::finishM(CWnd* parent, int mode)
+void DuBasicDialogCL::finishM(CWnd* parent, const TurnCL& turn)
 {
     int siblings = 0;
     const std::vector<StepCL> steps = stepsM(parent, &siblings);
     const bool isShown = ::IsWindowVisible(parent->m_hWnd) != FALSE;
-    if (mode == 1) {
+    if (mode_ == 1) {
         std::vector<StepCL> sorted = steps;
         std::stable_sort(sorted.begin(), sorted.end(),
             [](const StepCL& a, const StepCL& b) { return a.windowIndex < b.windowIndex; });
@@ -118,14 +118,19 @@ void DuBasicDialogCL::finishM(CWnd* parent, int mode)
         // Of a hidden dialog nothing is to be drawn.
         stackM(order, siblings, isShown ? 0 : SWP_NOREDRAW | SWP_DEFERERASE);
     }
-    setItemFontM(steps, isShown);
+    if (!turn.IsOverM()) {
+        setItemFontM(steps, isShown, turn);
+    }
 }
 
-void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown)
+void DuBasicDialogCL::setItemFontM(const std::vector<StepCL>& steps, bool isShown, const TurnCL& turn)
 {
     makeFontM();
-    giveTreeFontsM();
+    giveTreeFontsM(turn);
     for (const StepCL& step : steps) {
+        if (turn.IsOverM()) {
+            return;
+        }
         ::SendMessageW(step.window, WM_SETFONT, reinterpret_cast<WPARAM>(font_.GetSafeHandle()),
             isShown || !step.isOfKind ? TRUE : FALSE);
     }
@@ -140,8 +145,8 @@ void DuBasicDialogCL::setTxtLstBoxItemHeightM()
     });
 }
 
-void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown)
+void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown, const TurnCL& turn)
 {
     int siblings = 0;
-    setItemFontM(stepsM(parent, &siblings), isShown);
+    setItemFontM(stepsM(parent, &siblings), isShown, turn);
 }

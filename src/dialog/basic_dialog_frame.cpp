@@ -1,7 +1,6 @@
 // The frame of a dialog that can be made larger, and what it is told by it.
 #include "dialog/basic_dialog.h"
 #include "dialog/deferred_places.h"
-#include "toolkit/life.h"
 #include <algorithm>
 
 namespace {
@@ -15,7 +14,7 @@ void setWindowSize(HWND window, const int (&size)[2])
 } // namespace
 
 // Gives the dialog the frame to be resized by, around the client area that it has.
-void DuBasicDialogCL::makeSizableM()
+void DuBasicDialogCL::makeSizableM(const TurnCL& turn)
 {
     const LONG style = ::GetWindowLongW(m_hWnd, GWL_STYLE);
     if ((style & WS_CHILD) != 0 || header_.borderKind == 1 || ::IsIconic(m_hWnd)) {
@@ -24,12 +23,18 @@ void DuBasicDialogCL::makeSizableM()
     const LONG box = (style & WS_CAPTION) == WS_CAPTION ? WS_MAXIMIZEBOX : 0;
     const LONG sizable = style | WS_THICKFRAME | box;
     ::SetWindowLongW(m_hWnd, GWL_STYLE, sizable);
+    if (turn.IsOverM()) {
+        return;
+    }
     RECT rect { 0, 0, bound_.fileSize[0], bound_.fileSize[1] };
     ::AdjustWindowRectEx(&rect, static_cast<DWORD>(sizable), ::GetMenu(m_hWnd) != nullptr,
         static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_EXSTYLE)));
     bound_.least[0] = rect.right - rect.left;
     bound_.least[1] = rect.bottom - rect.top;
     setWindowSize(m_hWnd, bound_.least);
+    if (turn.IsOverM()) {
+        return;
+    }
     RECT client {}; // The frame may be that of another screen than the system's first.
     ::GetClientRect(m_hWnd, &client);
     if (client.right != bound_.fileSize[0] || client.bottom != bound_.fileSize[1]) {
@@ -46,8 +51,9 @@ void DuBasicDialogCL::stretchAgainM(const DialogStretchCL& before)
         return;
     }
     if (before.isZoomed) {
-        ::SetWindowLongW(m_hWnd, GWL_STYLE, ::GetWindowLongW(m_hWnd, GWL_STYLE) | WS_MAXIMIZE);
-        ::SetWindowPos(m_hWnd, nullptr, before.zoomed.left, before.zoomed.top,
+        const HWND window = m_hWnd;
+        ::SetWindowLongW(window, GWL_STYLE, ::GetWindowLongW(window, GWL_STYLE) | WS_MAXIMIZE);
+        ::SetWindowPos(window, nullptr, before.zoomed.left, before.zoomed.top,
             before.zoomed.right - before.zoomed.left, before.zoomed.bottom - before.zoomed.top,
             SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
         return;

@@ -60,7 +60,7 @@ void DuBasicDialogCL::givePictureKeyboardM()
     eachControlsM([this](auto row, auto& controls) {
         if constexpr (decltype(row)::CanM(TakesKeys)) {
             for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
-                controls.ElementAtM(i).UseKeyboardM(usesPictureKeyboard_);
+                controls.ControlAtM(i).UseKeyboardM(usesPictureKeyboard_);
             }
         }
     });

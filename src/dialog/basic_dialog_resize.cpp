@@ -45,7 +45,7 @@ bool DuBasicDialogCL::readBindingsM(VrIOCL& io)
     return status == SectionStatus::Read || status == SectionStatus::Empty;
 }
 
-void DuBasicDialogCL::bindM(const DialogStretchCL& before)
+void DuBasicDialogCL::bindM(const DialogStretchCL& before, const TurnCL& turn)
 {
     const HWND window = parentM();
     const bool isInItsSize = mode_ == 1 && !::IsIconic(window);
@@ -70,15 +70,20 @@ void DuBasicDialogCL::bindM(const DialogStretchCL& before)
     findBoundM();
     if (mode_ == 1 && window == m_hWnd) {
         bound_.isOwn = true;
-        makeSizableM();
-        stretchAgainM(before);
+        makeSizableM(turn);
+        if (!turn.IsOverM()) {
+            stretchAgainM(before);
+        }
     }
 }
 
 // All controls go back to where the file has them, and stay there. Whether some could follow.
-bool DuBasicDialogCL::unbindM()
+bool DuBasicDialogCL::unbindM(const TurnCL& turn)
 {
     const bool wasBound = ResizeM(0, 0) == 1;
+    if (turn.IsOverM()) {
+        return false;
+    }
     bound_.isBound = false;
     bound_.least[0] = bound_.least[1] = 0;
     return wasBound;

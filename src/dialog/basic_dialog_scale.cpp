@@ -108,7 +108,7 @@ void DuBasicDialogCL::makeFontM()
 }
 
 // Trees keep the font that the system gives them; here it grows like that of the others.
-void DuBasicDialogCL::giveTreeFontsM()
+void DuBasicDialogCL::giveTreeFontsM(const TurnCL& turn)
 {
     const bool hadFont = treeFont_.GetSafeHandle() != nullptr;
     if (scale_.PercentM() == 100 && !hadFont) {
@@ -130,8 +130,10 @@ void DuBasicDialogCL::giveTreeFontsM()
             }
         }
     });
-    treeFont_.DeleteObject();
-    treeFont_.Attach(font.Detach());
+    if (!turn.IsOverM()) {
+        treeFont_.DeleteObject();
+        treeFont_.Attach(font.Detach());
+    }
 }
 
 // A control that the application has moved stays there, in proportion. All others get the edges that they
@@ -169,13 +171,14 @@ bool DuBasicDialogCL::rescaleControlM(HWND window, DControlCommonCL& control, co
     return true;
 }
 
-template <class RowTP> void DuBasicDialogCL::rescaleKindM(VrIOCL& io, int from)
+template <class RowTP> void DuBasicDialogCL::rescaleKindM(VrIOCL& io, int from, const TurnCL& turn)
 {
-    auto& controls = std::get<KindMembersCL<RowTP>>(kinds_).controls;
+    auto& controls = membersM<RowTP>().controls;
     typename RowTP::Records records;
     int count = 0;
     slReadSection(io, records, &count);
-    for (int i = controls.GetFirstIdxM(); i >= 0; i = controls.GetNextIdxM(i)) {
+    const int to = scale_.PercentM();
+    for (int i = controls.GetFirstIdxM(); i >= 0 && !turn.IsOverM(); i = controls.GetNextIdxM(i)) {
         auto& control = controls.ControlAtM(i);
         auto* const record = records.CheckAvailableM(i) == 1 ? &records.ElementAtM(i) : nullptr;
         const auto giveLengths = [this, &control, record] {
@@ -183,7 +186,7 @@ template <class RowTP> void DuBasicDialogCL::rescaleKindM(VrIOCL& io, int from)
             record->GiveLengthsM(&control);
         };
         if (rescaleControlM(control.GetSafeHwnd(), control, record, from, giveLengths)) {
-            control.RescaledM(from, scale_.PercentM());
+            control.RescaledM(from, to);
         }
     }
 }
@@ -199,11 +202,31 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
     }
     const bool isShown = ::IsWindowVisible(window) != FALSE;
     const ValidationPauseCL rescaling(window); // No field is left by that.
-    if (isShown) {
-        ::SendMessageW(window, WM_SETREDRAW, FALSE, 0);
+    {
+        const TurnCL turn(this, window);
+        if (isShown) {
+            ::SendMessageW(window, WM_SETREDRAW, FALSE, 0);
+        }
+        if (!turn.IsOverM()) {
+            changeScaleM(percent, suggested, turn);
+        }
     }
+    if (isShown && ::IsWindow(window)) {
+        ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
+        ::RedrawWindow(window, nullptr, nullptr,
+            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    }
+}
+
+void DuBasicDialogCL::changeScaleM(int percent, const RECT* suggested, const TurnCL& turn)
+{
+    const HWND window = parentM();
+    const int from = scale_.PercentM();
     const DialogStretchCL stretch = stretch_;
-    const bool wasBound = unbindM();
+    const bool wasBound = unbindM(turn);
+    if (turn.IsOverM()) {
+        return;
+    }
     stretch_ = stretch;
     scale_ = ScaleCL(percent);
     if (mode_ == 1) {
@@ -212,27 +235,35 @@ void DuBasicDialogCL::rescaleM(int percent, const RECT* suggested)
                 suggested->right - suggested->left, suggested->bottom - suggested->top,
                 SWP_NOZORDER | SWP_NOACTIVATE);
         }
-        if (isFileSized_ && !::IsZoomed(window)) {
+        if (!turn.IsOverM() && isFileSized_ && !::IsZoomed(window)) {
             sizeWindowM(window);
+        }
+        if (!turn.IsOverM() && isFileSized_ && !::IsZoomed(window)) {
             noteSizeM(window);
         }
+    }
+    if (turn.IsOverM()) {
+        return;
     }
     {
         const PictureSharingCL sharing;
         background_.RescaleM(PictureScaleCL(scale_, { 0, 0 }));
         VrIOCL io;
         io.OpenM(configFile_, "r");
-        slEachKindAsBuilt([this, &io, from](auto row) { rescaleKindM<decltype(row)>(io, from); });
+        slEachKindAsBuilt([this, &io, from, &turn](auto row) {
+            if (!turn.IsOverM()) {
+                rescaleKindM<decltype(row)>(io, from, turn);
+            }
+        });
     }
-    setItemFontM(CWnd::FromHandle(window), false);
-    setTxtLstBoxItemHeightM();
-    if (wasBound) {
+    if (!turn.IsOverM()) {
+        setItemFontM(CWnd::FromHandle(window), false, turn);
+    }
+    if (!turn.IsOverM()) {
+        setTxtLstBoxItemHeightM();
+    }
+    if (wasBound && !turn.IsOverM()) {
         bindAgainM(stretch);
-    }
-    if (isShown) {
-        ::SendMessageW(window, WM_SETREDRAW, TRUE, 0);
-        ::RedrawWindow(window, nullptr, nullptr,
-            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     }
 }
 

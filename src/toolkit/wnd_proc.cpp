@@ -67,7 +67,11 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return WindowMessageCL::PassM(state, handled);
     }
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
+        const LifeCL life(wnd);
         CreationHookCL::SeeM(reinterpret_cast<HWND>(lParam), CreationHookCL::IsTold);
+        if (!life.IsAliveM() || wnd->m_hWnd != hWnd) { // What the child tells it may be its end.
+            return 0;
+        }
     }
     MSG outerMessage = state.message;
     state.message = handled;

@@ -243,10 +243,14 @@ TEST(AccessibleName, LetsAReaderPressAPictureButton)
     dialog.BuildM();
     MessageRecorder reports(dialog.m_hWnd, { ButtonDownMsg, ButtonActionMsg });
     for (const int id : { 32, 33 }) {
+        const MessageRecorder clicks(dialog.ItemM(id), { WM_LBUTTONDOWN, WM_LBUTTONUP });
         EXPECT_TRUE(dialog.SetAccessibleNameM(id, L"open"));
         EXPECT_TRUE(SeenByReaderCL(dialog.ItemM(id)).PressM());
         EXPECT_TRUE(reports.ListM().empty()); // Nobody waits for what the press does.
         PumpPending();
+        const std::string middle = " l=" + std::to_string(MAKELPARAM(10, 10));
+        EXPECT_EQ(clicks.ListM(),
+            (std::vector<std::string> { "posted 513 w=1" + middle, "posted 514 w=0" + middle }));
         EXPECT_EQ(::GetCapture(), nullptr);
         EXPECT_EQ(
             reports.ListM().back(), "posted 1424 w=" + std::to_string(id) + " l=" + (id == 33 ? "1" : "0"));

@@ -399,6 +399,18 @@ TEST(Resizing, TheSizeOutlivesARebuild)
     EXPECT_EQ(dialog.PlaceM(12), "100 10 80 22");
 }
 
+TEST(Resizing, OnlyAWidthOrAHeightOutlivesARebuildToo)
+{
+    for (const auto& [x, y] : { std::pair(0, 100), std::pair(200, 0) }) {
+        ResizedDialogCL dialog(TwoBound);
+        dialog.GrowM(x, y);
+        const SIZE size = dialog.ClientM();
+        dialog.DestroyM();
+        ASSERT_EQ(dialog.InitDlgM(&dialog, 1), 1);
+        EXPECT_EQ(textOf(dialog.ClientM()), textOf(size));
+    }
+}
+
 TEST(Resizing, AFileWithoutTheSectionTakesTheFrameAway)
 {
     ResizedDialogCL dialog(TwoBound);

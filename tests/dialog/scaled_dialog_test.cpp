@@ -255,6 +255,21 @@ TEST(ScaledDialog, AFontWithoutAHeightIsThatOfTheSystemScaled)
     EXPECT_EQ(fontHeight(scaled.GetDlgItem(14)->m_hWnd), -2 * heightOfLetters(plain.GetDlgItem(14)->m_hWnd));
 }
 
+TEST(ScaledDialog, ATreeHasTheFontOfTheSystemScaled)
+{
+    LOGFONTW system {};
+    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0));
+    TestDialogCL dialog(std::string(HeaderSections)
+        + "[树形控件]\n1\n0\n1 24 10 10 90 60\n[树形控件数据]\n1\n0\n24 0 1 501 root\nNULL\nNULL\n");
+    const int before = fontHeight(dialog.ItemM(24));
+    for (const int percent : { 200, 150 }) {
+        EXPECT_EQ(dialog.SetScaleM(percent), 1);
+        EXPECT_EQ(fontHeight(dialog.ItemM(24)), ScaleCL(percent).SizeM(static_cast<int>(system.lfHeight)));
+    }
+    EXPECT_EQ(dialog.SetScaleM(100), 1);
+    EXPECT_EQ(fontHeight(dialog.ItemM(24)), before != 0 ? before : static_cast<int>(system.lfHeight));
+}
+
 TEST(ScaledDialog, OneThatChangesIsLikeOneBuiltAtThatScale)
 {
     for (const std::string& file : files()) {
@@ -353,6 +368,24 @@ TEST(ScaledDialog, AnExplicitScaleDoesNotFollowTheMonitor)
     RECT place { 10, 10, 900, 700 };
     dialog.SendMessage(DpiChanged, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&place));
     EXPECT_EQ(dialog.ScaleM(), 150);
+}
+
+TEST(ScaledDialog, WithoutControlsItLeavesTheMonitorToTheApplication)
+{
+    TestDialogCL dialog(usedDialog());
+    dialog.SetScaleM(DuBasicDialogCL::AutomaticScale);
+    dialog.DestroyM();
+    RECT before {};
+    dialog.GetWindowRect(&before);
+    const RECT suggested { 40, 40, 790, 540 };
+    SIZE wanted { 7, 7 };
+    EXPECT_EQ(dialog.SendMessage(0x02E4, 144, reinterpret_cast<LPARAM>(&wanted)), 0);
+    EXPECT_EQ(wanted.cx, 7);
+    dialog.SendMessage(DpiChanged, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+    RECT now {};
+    dialog.GetWindowRect(&now);
+    EXPECT_TRUE(::EqualRect(&now, &before));
+    EXPECT_EQ(dialog.ScaleM(), 100);
 }
 
 TEST(ScaledDialog, AWindowThatTheUserHasSizedTakesTheRectangleThatTheSystemSuggests)

@@ -42,6 +42,11 @@ public:
         standIns_.DelM(i);
         return Arr<ControlParamTP>::DelItemM(i);
     }
+    int DelAllVirtualM()
+    {
+        standIns_.EndAllM();
+        return Arr<ControlParamTP>::DelAllVirtualM();
+    }
     int DelAllM()
     {
         standIns_.ClearM();

@@ -54,7 +54,15 @@ public:
             list_.DropM(i);
         }
     }
-    void ClearM() // The same for all.
+    void EndAllM() // Takes the windows of all; they stay.
+    {
+        for (int i = 0; i < list_.CountM(); ++i) {
+            if (ControlTP* const control = AtM(i)) {
+                control->DelItemM();
+            }
+        }
+    }
+    void ClearM() // Deletes all with their windows.
     {
         for (int i = 0; i < list_.CountM(); ++i) {
             DelM(i);

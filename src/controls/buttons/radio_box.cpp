@@ -118,7 +118,7 @@ int DuRadioBoxArr::AfterCreateM()
 {
     const int made = MakeGroupM();
     for (int i = GetFirstIdxM(); i >= 0; i = GetNextIdxM(i)) {
-        ElementAtM(i).CheckFromStartM();
+        ControlAtM(i).CheckFromStartM();
     }
     return made;
 }

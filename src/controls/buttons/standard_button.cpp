@@ -22,7 +22,7 @@ int DuStandardButtonCL::Create(CWnd* parent)
 {
     const int result = CaptionedCL::Create(parent);
     if (result == 1 && default_ == 1) {
-        answerEnterM(parent->m_hWnd);
+        answerEnterM(::GetParent(m_hWnd)); // The application may have deleted the object of the parent.
     }
     return result;
 }

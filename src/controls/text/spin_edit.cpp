@@ -59,8 +59,8 @@ int DuSpinEditArr::Create(CWnd* parent)
 
 int DuSpinEditCL::Create(CWnd* parent)
 {
-    spinButton_.DestroyWindow(); // They belong to the window before.
-    if (createM(parent) != 1) {
+    spinButton_.DestroyWindow();                     // They belong to the window before.
+    if (createM(parent) != 1 || m_hWnd == nullptr) { // The application may have destroyed it at once.
         return 0;
     }
     CRect rect;

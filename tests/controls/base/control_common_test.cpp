@@ -166,6 +166,13 @@ TEST(ControlCommon, UpdatePositionFromTheWindowStoresZerosInsideTheParent)
     placed.label.SetLeftM(850);
     placed.label.UpdatePositionM();
     EXPECT_EQ(described(placed.label), "2 0 0 0");
+    placed.label.SetLeftM(30);
+    placed.parent.SetWindowPos(nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
+    placed.label.UpdatePositionM();
+    EXPECT_EQ(described(placed.label), "33 43 94 14"); // In pixels, as the parent has one.
+    placed.parent.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOZORDER);
+    placed.label.UpdatePositionM();
+    EXPECT_EQ(described(placed.label), "0 0 0 0"); // Of a parent without a size there is no share.
 }
 
 TEST(ControlCommon, ShowsAndHidesOnlyAnExistingWindow)

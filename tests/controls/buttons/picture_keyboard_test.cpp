@@ -161,6 +161,20 @@ TEST_F(PictureKeyboardTest, APressThatLosesTheFocusIsNoClick)
     EXPECT_EQ(stateM(), 20); // The release is not its.
 }
 
+TEST_F(PictureKeyboardTest, APressThatLosesTheFocusTakesTheMouseFromNobodyElse)
+{
+    dialog_.SetPictureKeyboardM(true);
+    for (const int id : { 2, 3, 4, 5 }) {
+        dialog_.StartAtM(id);
+        KeyDownM(VK_SPACE);
+        ::SetCapture(dialog_.ItemM(7));
+        ::SetFocus(dialog_.ItemM(1));
+        EXPECT_EQ(::GetCapture(), dialog_.ItemM(7)) << id;
+        ::ReleaseCapture();
+        KeyUpM(VK_SPACE);
+    }
+}
+
 TEST_F(PictureKeyboardTest, ArrowsGoThroughTheStates)
 {
     dialog_.SetPictureKeyboardM(true);
@@ -262,4 +276,45 @@ TEST_F(PictureKeyboardTest, ACopyOfAButtonTakesTheKeysOfItsOwnWindow)
     EXPECT_EQ(copy.Create(&dialog_), 1);
     KeyUpM(VK_SPACE);
     EXPECT_EQ(afterKeyM(22, VK_SPACE), "posted 1224 w=22 l=0; posted 1424 w=22 l=0");
+}
+
+TEST(PictureKeyboard, AButtonWithoutAPictureShowsTheFocusAndNothingAfterwards)
+{
+    ShownDialogCL dialog(HeaderSections
+        + std::string("[多行文本]\n1\n0\n1 1 10 10 90 20 1 20\nx\n0 1 255 255 255\n[位图按钮]\n1\n0\n2 2 20 "
+                      "50 40 30\nNULL\nNULL\nNULL\nNULL\nNULL\n"));
+    dialog.StartAtM(1);
+    const Pixels before(dialog.ItemM(2));
+    dialog.SetPictureKeyboardM(true);
+    dialog.StartAtM(2);
+    const Pixels framed(dialog.ItemM(2));
+    EXPECT_EQ(framed.CountM(RGB(0, 0, 0)), 36 + 24);
+    EXPECT_EQ(framed.DifferencesM(before), 2 * 36 + 2 * 24);
+    dialog.StartAtM(1);
+    EXPECT_EQ(Pixels(dialog.ItemM(2)).DifferencesM(before), 0);
+}
+
+TEST(PictureKeyboard, AButtonOfTheApplicationsClassTakesKeysToo)
+{
+    struct OwnButtonCL : DuBmpButtonCL
+    {
+    };
+    const SmallPictureCL red(Red, 40, 30);
+    std::string section = HeaderSections + std::string("[位图按钮]\n1\n0\n2 2 20 50 40 30\n");
+    for (int i = 0; i < 4; ++i) {
+        section += std::string(red.path()) + "\n";
+    }
+    const DescriptionFileCL file(section + "NULL\n");
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    dialog.SetFactoryM<DuBmpButtonCL>([](int) { return std::make_unique<OwnButtonCL>(); });
+    dialog.SetPictureKeyboardM(true);
+    ASSERT_EQ(dialog.CreateM(), 1);
+    dialog.ShowWindow(SW_SHOW);
+    EXPECT_TRUE(ActivateM(dialog.m_hWnd));
+    EXPECT_TRUE(FocusM(::GetDlgItem(dialog.m_hWnd, 2)));
+    const MessageRecorder reports(dialog.m_hWnd, { ButtonDownMsg, ButtonActionMsg });
+    KeyM(VK_SPACE);
+    PumpPending();
+    EXPECT_EQ(reports.ListM(), (std::vector<std::string> { "posted 1224 w=2 l=0", "posted 1424 w=2 l=0" }));
 }

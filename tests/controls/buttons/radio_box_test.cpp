@@ -41,6 +41,22 @@ TEST(RadioBox, EachGroupKeepsItsCheck)
     EXPECT_EQ(checkedOf(dialog, 11, 15), "-x-xx");
 }
 
+TEST(RadioBox, EachGroupOfTheApplicationsClassKeepsItsCheck)
+{
+    struct OwnRadioCL : DuRadioBoxCL
+    {
+    };
+    const DescriptionFileCL file(HeaderSections
+        + radios({ radio(1, 11, 1, 0), radio(2, 12, 1, 1), radio(3, 13, 2, 1), radio(4, 14, 2, 0) }));
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    dialog.SetFactoryM<DuRadioBoxCL>([](int) { return std::make_unique<OwnRadioCL>(); });
+    ASSERT_EQ(dialog.CreateM(), 1);
+    for (const int id : { 11, 12, 13, 14 }) {
+        EXPECT_EQ(isChecked(::GetDlgItem(dialog.m_hWnd, id)), id == 12 || id == 13) << id;
+    }
+}
+
 TEST(RadioBox, ClickLeavesOnlyTheClickedOneOfItsGroupChecked)
 {
     ShownDialogCL dialog(HeaderSections
@@ -62,7 +78,9 @@ TEST(RadioBox, ArrowKeysMoveInsideTheGroup)
     dialog.StartAtM(11);
     KeyM(VK_DOWN);
     EXPECT_EQ(ShownDialogCL::FocusedIdM(), 12);
-    EXPECT_EQ(checkedOf(dialog, 11, 14), "-xx-");
+    for (const int id : { 11, 12, 13, 14 }) {
+        EXPECT_EQ(isChecked(::GetDlgItem(dialog.m_hWnd, id)), id == 12 || id == 13) << id;
+    }
     KeyM(VK_DOWN);
     EXPECT_EQ(ShownDialogCL::FocusedIdM(), 11); // Around, not into the next group.
     EXPECT_EQ(checkedOf(dialog, 11, 14), "x-x-");

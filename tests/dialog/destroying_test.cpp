@@ -1,0 +1,95 @@
+// Whom a dialog tells of its controls when it is destroyed, and when they go.
+#include "support/pump.h"
+#include "support/test_dialog.h"
+#include <gtest/gtest.h>
+
+using namespace testing_support;
+
+namespace {
+
+// A window that notes which of its children it is told to go.
+template <class WindowTP> class ToldCL : public WindowTP
+{
+public:
+    using WindowTP::WindowTP;
+    std::string told;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY) {
+            told += std::to_string(HIWORD(wParam)) + " ";
+        }
+        return WindowTP::WindowProc(message, wParam, lParam);
+    }
+};
+
+// A label of the application's that looks for another one when its window goes.
+class LookingLabelCL : public DuLabelCL
+{
+public:
+    explicit LookingLabelCL(bool* finds)
+        : finds_(finds)
+    {
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DESTROY) {
+            int kind = 0;
+            auto* const dialog = static_cast<DuBasicDialogCL*>(GetParent());
+            *finds_ = dialog->GetContrlPtrM(12, &kind) != nullptr;
+        }
+        return DuLabelCL::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    bool* finds_;
+};
+
+const std::string Labels = HeaderSections
+    + std::string("[标题]\n2\n0\n1 11 10 10 90 20 1\na\n0 -1 0 0\n2 12 10 40 90 20 1\nb\n0 -1 0 0\n");
+
+} // namespace
+
+TEST(Destroying, TheDialogIsToldOfEachControlOnceAndItsOwnerOfNone)
+{
+    const DescriptionFileCL file(Labels);
+    ToldCL<PlainWindowCL> owner;
+    ToldCL<DuBasicDialogCL> dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.CreateM(&owner), 1);
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_EQ(dialog.told, "11 12 ");
+    EXPECT_EQ(owner.told, "");
+}
+
+TEST(Destroying, AControlInAnotherWindowGoesThereOnce)
+{
+    const DescriptionFileCL file(Labels);
+    ToldCL<PlainWindowCL> other;
+    ToldCL<DuBasicDialogCL> dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.CreateM(), 1);
+    const HWND label = ::GetDlgItem(dialog.m_hWnd, 11);
+    ::SetParent(label, other.m_hWnd);
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_FALSE(::IsWindow(label));
+    EXPECT_EQ(other.told, "11 ");
+    EXPECT_EQ(dialog.told, "12 ");
+}
+
+TEST(Destroying, AControlOfTheApplicationGoesWhileTheOthersAreThere)
+{
+    const DescriptionFileCL file(Labels);
+    bool finds = false;
+    DuBasicDialogCL dialog;
+    dialog.SetFactoryM<DuLabelCL>([&finds](int id) {
+        return id == 11 ? std::make_unique<LookingLabelCL>(&finds) : std::unique_ptr<DuLabelCL>();
+    });
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.CreateM(), 1);
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_TRUE(finds);
+}
