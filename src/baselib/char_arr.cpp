@@ -29,15 +29,6 @@ CharArr& CharArr::operator=(const CharArr& other)
     return *this;
 }
 
-CharArr& CharArr::operator=(CharArr&& other) noexcept
-{
-    char* const taken = other.text_;
-    other.text_ = nullptr;
-    slDeleteText(text_);
-    text_ = taken;
-    return *this;
-}
-
 int CharArr::SetM(const char* text)
 {
     return SetM(text, text != nullptr ? std::strlen(text) : 0);

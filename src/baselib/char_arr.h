@@ -15,7 +15,16 @@ public:
         other.text_ = nullptr;
     }
     CharArr& operator=(const CharArr& other);
-    CharArr& operator=(CharArr&& other) noexcept;
+    CharArr& operator=(CharArr&& other) noexcept
+    {
+        char* const taken = other.text_;
+        other.text_ = nullptr;
+        if (text_ != nullptr) {
+            slDeleteText(text_);
+        }
+        text_ = taken;
+        return *this;
+    }
     ~CharArr()
     {
         if (text_ != nullptr) {

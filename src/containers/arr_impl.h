@@ -39,7 +39,9 @@ template <class T> Arr<T>::~Arr()
 {
     static_assert(sizeof(Arr) >= ArrStoreAt(alignof(T)) + InlineLength * sizeof(T) + 4 * sizeof(int),
         "AnyArrCL knows where the parts of an array are");
-    AnyArrCL::DropHeapStoreM(this, ArrElementsOf<T>);
+    if (heapStore_ != nullptr) {
+        AnyArrCL::DropHeapStoreM(this, ArrElementsOf<T>);
+    }
 }
 
 template <class T> void Arr<T>::FmInputEvrLstM(VrIOCL* io)

@@ -19,25 +19,41 @@ TaggedArr<N>::Store::Store(const Store& other)
     std::copy_n(other.tags_, bound_, tags_);
 }
 
+template <int N> void TaggedArr<N>::Store::makeRoomM(int slots)
+{
+    const auto room = std::max(static_cast<std::size_t>(slots), static_cast<std::size_t>(room_) * 2);
+    std::unique_ptr<int[]> values(new int[room * N]); // Not zeroed first.
+    std::unique_ptr<char[]> tags(new char[room]);
+    std::copy_n(values_, static_cast<std::size_t>(bound_) * N, values.get());
+    std::copy_n(tags_, bound_, tags.get());
+    moreValues_ = std::move(values);
+    moreTags_ = std::move(tags);
+    values_ = moreValues_.get();
+    tags_ = moreTags_.get();
+    room_ = static_cast<int>(std::min<std::size_t>(room, INT_MAX));
+}
+
 template <int N> void TaggedArr<N>::Store::SetBoundM(int slots)
 {
     if (slots > room_) {
-        const auto room = std::max(static_cast<std::size_t>(slots), static_cast<std::size_t>(room_) * 2);
-        std::unique_ptr<int[]> values(new int[room * N]); // Not zeroed first.
-        std::unique_ptr<char[]> tags(new char[room]);
-        std::copy_n(values_, static_cast<std::size_t>(bound_) * N, values.get());
-        std::copy_n(tags_, bound_, tags.get());
-        moreValues_ = std::move(values);
-        moreTags_ = std::move(tags);
-        values_ = moreValues_.get();
-        tags_ = moreTags_.get();
-        room_ = static_cast<int>(std::min<std::size_t>(room, INT_MAX));
+        makeRoomM(slots);
     }
     if (slots > bound_) {
         std::fill(ValuesM(bound_), ValuesM(slots), 0);
         std::fill(tags_ + bound_, tags_ + slots, DeletedTag);
     }
     bound_ = slots;
+}
+
+template <int N> int TaggedArr<N>::Store::AppendM(const int* values)
+{
+    if (bound_ == room_) {
+        makeRoomM(bound_ + 1);
+    }
+    std::copy_n(values, N, ValuesM(bound_));
+    tags_[bound_] = AliveTag;
+    ++available;
+    return bound_++;
 }
 
 template <int N> typename TaggedArr<N>::Store& TaggedArr<N>::storeM()
@@ -94,8 +110,12 @@ template <int N> int TaggedArr<N>::SetItemM(const int* values, int index)
 
 template <int N> int TaggedArr<N>::AddItemM(const int* values)
 {
-    const int index = GetBoundM();
-    return SetItemM(values, index) ? index : -1;
+    if (values == nullptr || GetBoundM() == INT_MAX) {
+        return -1;
+    }
+    int copy[N]; // The values may lie in this list, whose storage is about to move.
+    std::copy_n(values, N, copy);
+    return storeM().AppendM(copy);
 }
 
 template <int N> int TaggedArr<N>::InsertItemM(const int* values, int index)

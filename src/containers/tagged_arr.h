@@ -54,10 +54,11 @@ private:
     class Store
     {
     public:
-        Store() = default;
+        Store() { } // NOLINT: by default all would be zeroed first.
         Store(const Store& other);
         Store& operator=(const Store&) = delete;
-        void SetBoundM(int slots); // New slots are deleted ones holding 0.
+        void SetBoundM(int slots);      // New slots are deleted ones holding 0.
+        int AppendM(const int* values); // An alive one. Its index.
         int BoundM() const { return bound_; }
         int* ValuesM(int index) { return values_ + static_cast<std::ptrdiff_t>(index) * N; }
         char* TagsM() { return tags_; }
@@ -68,6 +69,8 @@ private:
         char* tags_ { firstTags_ };
         int bound_ { 0 };
         int room_ { FirstRoom };
+        void makeRoomM(int slots);
+
         std::unique_ptr<int[]> moreValues_; // All of them when there are more.
         std::unique_ptr<char[]> moreTags_;
         int firstValues_[FirstRoom * N];

@@ -75,6 +75,16 @@ inline bool FieldReaderCL::readM(const char* name, int part, int& value)
 
 inline bool FieldReaderCL::readM(const char* name, int part, float& value)
 {
+    if (sure_ != nullptr) {
+        const char* const begin = slSkipBlanks(io_->at_, sure_);
+        float read = 0;
+        const char* const end = begin < sure_ ? slReadReal(begin, io_->end_, &read) : begin;
+        if (end > begin && std::abs(read) != FLT_MAX) {
+            value = read;
+            io_->at_ = end;
+            return observer_ == nullptr || tellReadM(name, part, begin, end);
+        }
+    }
     return readOtherwiseM(name, part, value);
 }
 

@@ -14,7 +14,8 @@ public:
         , observer_(io != nullptr ? io->ObserverM() : nullptr)
         , seen_ { section, 0, "", 0, {}, Fate::Read }
         , isStopped_(io == nullptr)
-        , sure_(sureM())
+        , whole_(sureM())
+        , sure_(whole_)
     {
     }
     // One reader serves all records or entries of a section; the next one begins.
@@ -24,7 +25,7 @@ public:
         room_ = observer_ != nullptr ? observer_->BeginRecordM(seen_.section, number) : nullptr;
         isStopped_ = io_ == nullptr;
         isSkipped_ = false;
-        sure_ = sureM();
+        sure_ = whole_;
     }
     // All texts that it sees from now on are used again and again; see CharArr::SetWithinM.
     void ReuseTextsM() { isReusing_ = true; }
@@ -89,7 +90,8 @@ private:
     SeenRoomCL* room_ { nullptr }; // For its values; null: none.
     ValueSeenCL seen_;             // What the observer is told, one value after the other.
     bool isStopped_;
-    const char* sure_; // Values in front of it may be read in the short ways; null: none.
+    const char* whole_; // Values in front of it may be read in the short ways; null: none.
+    const char* sure_;  // The same; null when stopped.
     bool isSkipped_ { false };
     bool isReusing_ { false };
     TextPoolCL* pool_ { nullptr };

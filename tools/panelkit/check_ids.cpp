@@ -69,8 +69,31 @@ private:
             && id <= controls_[i - 1].id;
     }
 
+    void sayReservedM(const CheckedControlCL& control)
+    {
+        if ((control.id == 1 || control.id == 2)
+            && !control.IsM({ StandardButtonCode, BmpButtonCode, MultiStateButtonCode })) {
+            findings_.AddM(Says::ReservedId, control.idAt,
+                { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
+        }
+    }
+    // As nearly all files have them: each id above the one before.
+    bool riseM() const
+    {
+        return std::adjacent_find(controls_.begin(), controls_.end(),
+                   [](const CheckedControlCL& one, const CheckedControlCL& next) {
+                       return one.id >= next.id;
+                   })
+            == controls_.end();
+    }
+
     void findDuplicatesM()
     {
+        if (arrows_.empty() && riseM()) {
+            std::for_each(controls_.begin(), controls_.end(),
+                [this](const CheckedControlCL& control) { sayReservedM(control); });
+            return;
+        }
         std::vector<UseCL> uses;
         uses.reserve(controls_.size());
         for (std::size_t i = 0; i < controls_.size(); ++i) {
@@ -91,11 +114,7 @@ private:
                 continue;
             }
             uses[ids++] = use;
-            if ((control.id == 1 || control.id == 2)
-                && !control.IsM({ StandardButtonCode, BmpButtonCode, MultiStateButtonCode })) {
-                findings_.AddM(Says::ReservedId, control.idAt,
-                    { std::to_string(control.id), control.id == 1 ? "OK" : "Cancel" });
-            }
+            sayReservedM(control);
         }
         uses.resize(ids);
         for (const ArrowsCL& arrows : arrows_) {

@@ -51,14 +51,21 @@ void checkOutside(const DialogHeaderCL& dialog, const FrameCL& small, const Fram
 class CoversCL
 {
 public:
-    const CheckedControlCL* FindM(const CheckedControlCL& control)
+    explicit CoversCL(const StackTP& stack)
+        : stack_(stack)
     {
-        const BoxCL box(control);
+    }
+    // Controls are meant by their places in the stack.
+    const CheckedControlCL* FindM(std::size_t place)
+    {
+        const CheckedControlCL& control = *stack_[place];
+        const BoxCL box(control, place);
         const CheckedControlCL* const found = findM(squareM(control.x >> Bits, control.y >> Bits), box);
         return found != nullptr ? found : findM(large_, box);
     }
-    void AddM(const CheckedControlCL& control)
+    void AddM(std::size_t place)
     {
+        const CheckedControlCL& control = *stack_[place];
         constexpr std::int64_t MostSquares = 64;
         constexpr std::size_t MostLarge = 256;
         const std::int64_t right = (control.RightM() - 1) >> Bits;
@@ -67,7 +74,7 @@ public:
         const std::int64_t top = control.y >> Bits;
         if ((right - left + 1) * (bottom - top + 1) > MostSquares) {
             if (large_.size() < MostLarge) {
-                large_.emplace_back(control);
+                large_.emplace_back(control, place);
             }
             return;
         }
@@ -75,7 +82,7 @@ public:
             for (std::int64_t y = top; y <= bottom; ++y) {
                 BoxesTP& square = squareM(x, y);
                 if (square.size() < MostLarge) {
-                    square.emplace_back(control);
+                    square.emplace_back(control, place);
                 }
             }
         }
@@ -86,31 +93,34 @@ private:
     // Its sides, so that most controls need not be looked at; those beyond any int are moved there.
     struct BoxCL
     {
-        explicit BoxCL(const CheckedControlCL& one)
+        BoxCL(const CheckedControlCL& one, std::size_t at)
             : left(one.x)
             , top(one.y)
             , right(static_cast<int>(std::min<std::int64_t>(one.RightM(), INT_MAX)))
             , bottom(static_cast<int>(std::min<std::int64_t>(one.BottomM(), INT_MAX)))
-            , control(&one)
+            , place(static_cast<std::uint32_t>(at))
         {
         }
-        bool CoversM(const BoxCL& other) const
+        bool MayCoverM(const BoxCL& other) const
         {
             // What stands in front mostly ends above, or to the left.
-            return bottom >= other.bottom && right >= other.right && left <= other.left && top <= other.top
-                && control->RightM() >= other.control->RightM()
-                && control->BottomM() >= other.control->BottomM();
+            return bottom >= other.bottom && right >= other.right && left <= other.left && top <= other.top;
         }
         int left, top, right, bottom;
-        const CheckedControlCL* control;
+        std::uint32_t place;
     };
     using BoxesTP = std::vector<BoxCL>;
 
-    static const CheckedControlCL* findM(const BoxesTP& boxes, const BoxCL& box)
+    const CheckedControlCL* findM(const BoxesTP& boxes, const BoxCL& box) const
     {
+        const CheckedControlCL& control = *stack_[box.place];
         for (const BoxCL& other : boxes) {
-            if (other.CoversM(box)) {
-                return other.control;
+            if (!other.MayCoverM(box)) {
+                continue;
+            }
+            const CheckedControlCL& cover = *stack_[other.place];
+            if (cover.RightM() >= control.RightM() && cover.BottomM() >= control.BottomM()) {
+                return &cover;
             }
         }
         return nullptr;
@@ -125,6 +135,7 @@ private:
         return last_->second;
     }
 
+    const StackTP& stack_;
     std::unordered_map<std::uint64_t, BoxesTP> squares_;
     std::pair<const std::uint64_t, BoxesTP>* last_ { nullptr }; // Of those.
     BoxesTP large_;
@@ -138,8 +149,9 @@ void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings
     const DialogHeaderCL& dialog = file.DialogM();
     const FrameCL classic = frameOf(dialog, 4, 3, 1, 19);
     const FrameCL modern = frameOf(dialog, 8, 8, 1, 23); // Windows 10 and 11.
-    CoversCL covers;
-    for (const CheckedControlCL* const control : stack) {
+    CoversCL covers(stack);
+    for (std::size_t place = 0; place < stack.size(); ++place) {
+        const CheckedControlCL* const control = stack[place];
         if (control->w <= 0 || control->h <= 0) {
             findings.AddM(Says::NeverShown, control->positionAt,
                 { std::to_string(control->w), std::to_string(control->h) });
@@ -151,12 +163,12 @@ void checkPlaces(FileReadingCL& file, const StackTP& stack, FindingsCL& findings
         if (control->kind == 0) {
             continue;
         }
-        const CheckedControlCL* const cover = covers.FindM(*control);
+        const CheckedControlCL* const cover = covers.FindM(place);
         if (cover != nullptr) {
             findings.AddM(
                 Says::HiddenBehind, control->positionAt, { std::to_string(file.LineM(cover->idAt) + 1) });
         } else if (control->kind != GroupBoxCode) {
-            covers.AddM(*control);
+            covers.AddM(place);
         }
     }
 }
