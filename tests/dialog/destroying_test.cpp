@@ -60,6 +60,7 @@ TEST(Destroying, TheDialogIsToldOfEachControlOnceAndItsOwnerOfNone)
     ToldCL<DuBasicDialogCL> dialog;
     dialog.SetConfigFileM(file.path());
     ASSERT_EQ(dialog.CreateM(&owner), 1);
+    ::SetFocus(owner.m_hWnd); // Else the controls go one by one.
     EXPECT_TRUE(dialog.DestroyWindow());
     EXPECT_EQ(dialog.told, "11 12 ");
     EXPECT_EQ(owner.told, "");

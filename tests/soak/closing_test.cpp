@@ -277,8 +277,8 @@ TEST_P(ClosingTest, FromInsideItsMessages)
 {
     const int id = GetParam();
     const char* const only = std::getenv("PANELKIT_SOAK_CLOSING"); // One alone, by its name.
-    // Each so manyth of all moments and actions.
-    const int step = soakNumber("PANELKIT_SOAK_CLOSINGS", 60);
+    // Each so manyth of all moments and actions; no multiple of their number, which would take one for all.
+    const int step = soakNumber("PANELKIT_SOAK_CLOSINGS", 61);
     const ToldStepCL telling;
     ToldStepCL::NoteM(0, 0, "", "");
     runM(id, std::nullopt, Close);

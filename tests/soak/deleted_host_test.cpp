@@ -159,6 +159,29 @@ std::string sections(const std::string& picture)
         + "[随窗口变化]\n4\n0\n51 0 0 1 0\n16 0 0 1 1\n24 1 0 1 1\n15 0 0 1 0\n";
 }
 
+// A host that has built into a window of the application, the focus in its field.
+struct FocusedHostCL
+{
+    FocusedHostCL(const char* file, bool isBad)
+    {
+        host->SetConfigFileM(file);
+        host->InitDlgM(&window, 0);
+        const HWND field = ::GetDlgItem(window.m_hWnd, FocusedId);
+        ::SetFocus(field);
+        EXPECT_EQ(::GetFocus(), field);
+        if (isBad) {
+            ::SetWindowTextW(field, L"999");
+        }
+    }
+    FocusedHostCL(const FocusedHostCL&) = delete;
+    FocusedHostCL& operator=(const FocusedHostCL&) = delete;
+    ~FocusedHostCL() { DeleteM(); }
+    void DeleteM() { delete std::exchange(host, nullptr); }
+
+    OwnWindowCL window;
+    GuardedCL<HostCL>* host = new GuardedCL<HostCL>;
+};
+
 } // namespace
 
 TEST(DeletedHost, NothingOfItIsTouchedAfterTheReportOfABadValue)
@@ -166,17 +189,11 @@ TEST(DeletedHost, NothingOfItIsTouchedAfterTheReportOfABadValue)
     const DescriptionFileCL file(fewSections());
     const MessageBoxWatcher watcher;
     const GuardedPagesCL pages;
-    OwnWindowCL window;
-    auto* host = new GuardedCL<HostCL>;
-    host->SetConfigFileM(file.path());
-    host->InitDlgM(&window, 0);
-    const HWND field = ::GetDlgItem(window.m_hWnd, FocusedId);
-    ::SetFocus(field);
-    ::SetWindowTextW(field, L"999");
-    window.trigger.ArmAtM(ValueReportMsg, [&host] { delete std::exchange(host, nullptr); });
-    EXPECT_EQ(host->CheckValueLegalM(), 0);
-    EXPECT_EQ(host, nullptr);
-    EXPECT_TRUE(::IsWindow(window.m_hWnd));
+    FocusedHostCL built(file.path(), true);
+    built.window.trigger.ArmAtM(ValueReportMsg, [&built] { built.DeleteM(); });
+    EXPECT_EQ(built.host->CheckValueLegalM(), 0);
+    EXPECT_EQ(built.host, nullptr);
+    EXPECT_TRUE(::IsWindow(built.window.m_hWnd));
     EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
 }
 
@@ -195,24 +212,14 @@ TEST(DeletedHost, NothingOfItIsTouchedInAWindowOfTheApplication)
         const auto run = [&](int number) {
             ToldStepCL::NoteM(0, number, "", operation.name);
             const GuardedPagesCL pages;
-            OwnWindowCL window;
-            auto* host = new GuardedCL<HostCL>;
-            host->SetConfigFileM(file.path());
-            host->InitDlgM(&window, 0);
-            const HWND field = ::GetDlgItem(window.m_hWnd, FocusedId);
-            ::SetFocus(field);
-            EXPECT_EQ(::GetFocus(), field);
-            if (operation.isBad) {
-                ::SetWindowTextW(field, L"999");
-            }
-            window.trigger.ArmM(number, [&host] { delete std::exchange(host, nullptr); });
-            operation.run(*host);
-            const int seen = window.trigger.DisarmM();
-            const bool isGone = host == nullptr;
+            FocusedHostCL built(file.path(), operation.isBad);
+            built.window.trigger.ArmM(number, [&built] { built.DeleteM(); });
+            operation.run(*built.host);
+            const int seen = built.window.trigger.DisarmM();
+            const bool isGone = built.host == nullptr;
             EXPECT_EQ(isGone, number > 0) << operation.name;
-            EXPECT_EQ(GuardedPagesCL::TouchesM(), "")
-                << operation.name << ", deleted at message " << window.trigger.AtM() << ", " << number << ".";
-            delete host;
+            EXPECT_EQ(GuardedPagesCL::TouchesM(), "") << operation.name << ", deleted at message "
+                                                      << built.window.trigger.AtM() << ", " << number << ".";
             return seen;
         };
         if (left-- <= 0) {
