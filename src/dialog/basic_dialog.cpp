@@ -1,5 +1,5 @@
-#include "baselib/gbk.h"
 #include "dialog/basic_dialog.h"
+#include "baselib/gbk.h"
 #include "dialog/reading_diagnostics.h"
 
 namespace {
