@@ -31,16 +31,17 @@ public:
     simpleValD WholeM() const; // All of it.
     // Shows it to a visitor of fields as what FieldVisitorCL's function of that name shows.
     void NumberFieldM(FieldVisitorCL& visitor, const char* name, int type);
-    void LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type);
+    void LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type); // The same.
 
-    // Its members, each at the beginning of its bytes. Of a text 259 bytes are taken, cut at a character;
-    // null is empty.
+    // Its members, each at the beginning of its bytes: the int; valid until a text is set, as are the others.
     int& NumberM() { return whole_ != nullptr ? whole_->number : few_.number; }
-    float& RealM() { return whole_ != nullptr ? whole_->real : few_.real; }
-    char* TextM() { return whole_ != nullptr ? whole_->text : few_.text; } // Valid until it is set.
+    float& RealM() { return whole_ != nullptr ? whole_->real : few_.real; } // The real.
+    char* TextM() { return whole_ != nullptr ? whole_->text : few_.text; }  // The text.
+    // The same to read.
     int NumberM() const { return const_cast<KeptValueCL*>(this)->NumberM(); }
-    float RealM() const { return const_cast<KeptValueCL*>(this)->RealM(); }
-    const char* TextM() const { return const_cast<KeptValueCL*>(this)->TextM(); }
+    float RealM() const { return const_cast<KeptValueCL*>(this)->RealM(); }       // The same.
+    const char* TextM() const { return const_cast<KeptValueCL*>(this)->TextM(); } // The same.
+    // A copy of its first 259 bytes, cut at a character; null is empty.
     void SetTextM(const char* text);
 
 private:
