@@ -33,14 +33,16 @@ void SeenSectionCL::JudgeLastM()
         return;
     }
     firstBegin = starts.size() == 1 ? values.data()->begin : firstBegin;
-    bool isAsBefore = isRegular;
-    std::uint32_t end = lastEnd;
-    for (const SeenValueCL& value : values) {
-        isAsBefore = isAsBefore && value.begin > end && !value.IsAbsentM();
-        end = value.end;
+    if (values.RoomM().isPlain) {
+        isRegular = isRegular && values.data()->begin > lastEnd;
+    } else {
+        std::uint32_t end = lastEnd;
+        for (const SeenValueCL& value : values) {
+            isRegular = isRegular && value.begin > end && !value.IsAbsentM();
+            end = value.end;
+        }
     }
-    isRegular = isAsBefore;
-    lastEnd = end;
+    lastEnd = values.back().end;
 }
 
 SeenRoomCL* SeenSectionsCL::BeginRecordM(const char* header, int record)
@@ -53,7 +55,9 @@ SeenRoomCL* SeenSectionsCL::BeginRecordM(const char* header, int record)
         }
         section.starts.push_back(static_cast<std::uint32_t>(section.values.size()));
     }
-    return &section.values.RoomM();
+    SeenRoomCL& room = section.values.RoomM();
+    room.isPlain = true;
+    return &room;
 }
 
 // What has no room yet, or belongs to a section that is read as one record.
@@ -66,7 +70,9 @@ void SeenSectionsCL::ValueM(const ValueSeenCL& value)
     if (section.values.IsFullM()) {
         blocks_.MakeRoomM(section.values);
     }
-    *section.values.RoomM().next++ = { value.field, static_cast<std::uint32_t>(value.span.begin),
+    SeenRoomCL& room = section.values.RoomM();
+    room.isPlain = room.isPlain && value.fate == Fate::Read;
+    *room.next++ = { value.field, static_cast<std::uint32_t>(value.span.begin),
         static_cast<std::uint32_t>(value.span.end), static_cast<std::uint8_t>(value.part), value.fate };
 }
 

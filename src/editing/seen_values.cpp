@@ -19,7 +19,8 @@ void SeenBlocksCL::MakeRoomM(SeenValuesCL& values)
         std::copy_n(values.first_, size, first);
         values.block_ = block_;
         values.first_ = first;
-        values.room_ = { first + size, first + size };
+        values.room_.next = first + size;
+        values.room_.end = first + size;
         used_ += size;
     }
     const std::size_t more = std::min(Step, size_ - used_);

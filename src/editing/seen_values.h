@@ -23,6 +23,7 @@ public:
     bool IsFullM() const { return room_.next == room_.end; }
     // Where the next ones are put.
     SeenRoomCL& RoomM() { return room_; }
+    const SeenRoomCL& RoomM() const { return room_; }
 
 private:
     friend class SeenBlocksCL;

@@ -59,6 +59,15 @@ const char* FieldReaderCL::sureM() const
     return isSure ? io_->end_ - slScannedAtOnce : nullptr;
 }
 
+// Of a number that was read whole.
+inline bool FieldReaderCL::tellReadM(const char* name, int part, const char* begin, const char* end)
+{
+    tellM(name, part,
+        { static_cast<std::size_t>(begin - io_->data_), static_cast<std::size_t>(end - io_->data_) },
+        Fate::Read);
+    return true;
+}
+
 // Nearly all numbers are read by this alone: what is rare is left to another, so that it stays short.
 inline bool FieldReaderCL::readM(const char* name, int part, int& value)
 {
@@ -81,6 +90,7 @@ inline bool FieldReaderCL::readM(const char* name, int part, float& value)
         const char* const end = begin < sure_ ? slReadReal(begin, io_->end_, &read) : begin;
         if (end > begin && std::abs(read) != FLT_MAX) {
             value = read;
+            mayJoinM(begin);
             io_->at_ = end;
             return observer_ == nullptr || tellReadM(name, part, begin, end);
         }
@@ -88,18 +98,13 @@ inline bool FieldReaderCL::readM(const char* name, int part, float& value)
     return readOtherwiseM(name, part, value);
 }
 
-bool FieldReaderCL::tellReadM(const char* name, int part, const char* begin, const char* end)
-{
-    tellM(name, part,
-        { static_cast<std::size_t>(begin - io_->data_), static_cast<std::size_t>(end - io_->data_) },
-        Fate::Read);
-    return true;
-}
-
 // Of any kind, from any file, or not at all.
 template <class T> bool FieldReaderCL::readOtherwiseM(const char* name, int part, T& value)
 {
     const std::size_t begin = isObservedM() ? slNextValue(*io_) : 0;
+    if (isObservedM()) {
+        mayJoinM(io_->data_ + begin);
+    }
     const bool isRead = !isStopped_ && io_->InputOneM(&value);
     if (isObservedM()) {
         const FileTextCL& file = *io_->FileTextM();

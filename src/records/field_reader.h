@@ -60,7 +60,14 @@ private:
     bool readM(const char* name, int part, float& value);
     // What is rare, or only for an observer: readM is short without, and needs no registers saved.
     template <class T> [[gnu::noinline]] bool readOtherwiseM(const char* name, int part, T& value);
-    [[gnu::noinline]] bool tellReadM(const char* name, int part, const char* begin, const char* end);
+    // Before a value that may begin where the one before ends: one of digits alone never does.
+    void mayJoinM(const char* begin)
+    {
+        if (room_ != nullptr && begin == io_->at_) {
+            room_->isPlain = false;
+        }
+    }
+    bool tellReadM(const char* name, int part, const char* begin, const char* end);
     [[gnu::noinline]] void tellUnreadM(const char* name, int part, std::size_t begin);
     bool inputPlainM(std::string_view* item);
     template <class T> void readAllM(const char* name, T* values, int count);
@@ -73,6 +80,7 @@ private:
             seen.end = static_cast<std::uint32_t>(span.end);
             seen.part = static_cast<std::uint8_t>(part);
             seen.fate = fate;
+            room_->isPlain = room_->isPlain && fate == Fate::Read;
             return;
         }
         seen_.field = name;

@@ -29,6 +29,7 @@ inline bool FieldReaderCL::inputPlainM(std::string_view* item)
     while (slIsBlank(itemEnd[-1])) {
         --itemEnd;
     }
+    mayJoinM(begin);
     io_->at_ = lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
     *item = { begin, static_cast<std::size_t>(itemEnd - begin) };
     return true;
@@ -38,6 +39,9 @@ void FieldReaderCL::TextM(const char* name, CharArr& text, const TextFormCL& for
 {
     std::string_view item;
     const bool isPlain = inputPlainM(&item);
+    if (!isPlain && room_ != nullptr) {
+        room_->isPlain = false;
+    }
     if (!isPlain && (isStopped_ || !io_->InputItemM(&item))) {
         tellNoTextM(name);
         return;

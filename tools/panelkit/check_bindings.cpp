@@ -37,7 +37,7 @@ public:
             BindingCL& binding = file_.BindingsM()[static_cast<std::size_t>(i)];
             view.BeginM(section_, i);
             binding.EachFieldM(view);
-            checkValues(file_, view, pictures, findings_);
+            checkValues(file_, view, false, pictures, findings_);
             controlM(i, binding);
             edgesM(i, binding, Along::X);
             edgesM(i, binding, Along::Y);

@@ -109,9 +109,9 @@ private:
                           [&](const ArrowsCL& arrows) { return !isSoundM(spins, arrows.record); }),
             arrows_.end());
     }
-    void valuesM(int grammar, int record)
+    void valuesM(int grammar, int record, bool isPlain = false)
     {
-        checkValues(file_, view_, named_, found_);
+        checkValues(file_, view_, isPlain, named_, found_);
         markM(grammar, record);
     }
     void markM(int grammar, int record)
@@ -167,13 +167,15 @@ private:
             if (isInvisible(RowTP::Code, view_)) {
                 found_.AddM(Says::InvisibleTabStop, offsetOf(*view_.FindM("function_id")));
             }
-            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked));
+            recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked),
+                section.values.RoomM().isPlain);
         });
     }
-    void recordM(int kind, const char* kindName, int grammar, int record, bool isStacked)
+    void recordM(
+        int kind, const char* kindName, int grammar, int record, bool isStacked, bool isPlain = false)
     {
         checkRanges(kind, view_, found_);
-        valuesM(grammar, record);
+        valuesM(grammar, record, isPlain);
         controls_.push_back(checkedControlOf(view_, kind, kindName, grammar, isStacked));
         if (kind == SpinEditCode && view_.IntM("data_type") > 0 && view_.IntM("spin_function_id") != 0) {
             arrows_.push_back(

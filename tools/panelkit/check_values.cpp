@@ -61,6 +61,9 @@ void checkColour(FileReadingCL& file, const FieldCL& field, const RecordViewCL& 
 {
     for (int part = 0; part < 3 && field.seen != nullptr && field.IsOnM(); ++part) {
         const std::string_view bytes = file.BytesM(field.seen[part]);
+        if (bytes.size() < 3 && !bytes.empty() && bytes[0] != '-') {
+            continue;
+        }
         int number = 0;
         slReadInt(bytes.data(), bytes.data() + bytes.size(), &number);
         if (number < 0 || number > 255) {
@@ -123,16 +126,18 @@ void checkLimits(const FieldCL& range, int low, int high, const FieldCL& initial
 
 } // namespace
 
-void checkValues(
-    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings)
+void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, std::vector<SpanCL>& pictures,
+    FindingsCL& findings)
 {
-    const bool isPlain = record.IsPlainM(); // As nearly all are.
-    for (const FieldCL& field : record.FieldsM()) {
+    if (!isPlain) {
+        for (const FieldCL& field : record.FieldsM()) {
+            checkFates(file, field, findings);
+        }
+    }
+    for (const std::size_t place : record.JudgedM()) {
+        const FieldCL& field = record.FieldM(place);
         if (field.seen == nullptr) {
             continue;
-        }
-        if (!isPlain) {
-            checkFates(file, field, findings);
         }
         switch (field.verb) {
         case Verb::Choice: {

@@ -109,9 +109,9 @@ std::uint32_t offsetOf(const FieldCL& field); // Where it stands in the file; 0 
 CheckedControlCL checkedControlOf(
     const RecordViewCL& view, int kind, const char* kindName, int grammar, bool isStacked);
 StackTP stackOf(const CheckedControlsTP& controls);
-// Appends the names of pictures.
-void checkValues(
-    FileReadingCL& file, const RecordViewCL& record, std::vector<SpanCL>& pictures, FindingsCL& findings);
+// Appends the names of pictures. isPlain: all values were read just as they stand.
+void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, std::vector<SpanCL>& pictures,
+    FindingsCL& findings);
 void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);

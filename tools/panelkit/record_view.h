@@ -55,6 +55,7 @@ public:
     void BeginM(const SeenSectionCL& section, int record)
     {
         count_ = 0;
+        judged_.clear();
         first_ = section.FirstM(record);
         next_ = first_;
         end_ = section.EndM(record);
@@ -65,11 +66,9 @@ public:
     {
         return first_ != nullptr && section.FirstM(record) == first_ && section.EndM(record) == end_;
     }
-    // Whether all values were read just as they stand.
-    bool IsPlainM() const
-    {
-        return std::all_of(first_, end_, [](const SeenValueCL& value) { return value.fate == Fate::Read; });
-    }
+    // The fields whose verbs tell what their values may be.
+    const std::vector<std::size_t>& JudgedM() const { return judged_; }
+    const FieldCL& FieldM(std::size_t place) const { return fields_[place]; }
     struct FieldsCL
     {
         const FieldCL* first;
@@ -170,6 +169,9 @@ private:
         if (count_ == fields_.size()) {
             fields_.emplace_back();
         }
+        if (verb == Verb::Choice || verb == Verb::Flag || verb == Verb::Colour || verb == Verb::Name) {
+            judged_.push_back(count_);
+        }
         FieldCL& field = fields_[count_++];
         if (field.name != name) {
             ++shape_;
@@ -193,6 +195,7 @@ private:
 
     static constexpr std::size_t Places = 1024; // So many that hardly two names of a kind share one.
 
+    std::vector<std::size_t> judged_;
     std::vector<FieldCL> fields_; // Those of the record, and behind them what others left.
     std::size_t count_ { 0 };
     unsigned shape_ { 0 }; // Another one whenever a name stands where another one stood.
