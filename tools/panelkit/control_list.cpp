@@ -7,13 +7,13 @@ std::uint32_t offsetOf(const FieldCL& field)
     return field.seen != nullptr ? field.seen->begin : 0;
 }
 
-CheckedControlCL checkedControlOf(
-    const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName, int grammar, bool isStacked)
+CheckedControlCL checkedControlOf(const RecordViewCL& view, const CommonFieldsCL& common, int kind,
+    [[maybe_unused]] const char* kindName, int grammar, bool isStacked)
 {
-    const FieldCL& index = *view.FindM("window_index");
-    const FieldCL& id = *view.FindM("function_id");
-    const FieldCL& position = *view.FindM("position");
-    const FieldCL& size = *view.FindM("size");
+    const FieldCL& index = *common.index;
+    const FieldCL& id = *common.id;
+    const FieldCL& position = *common.position;
+    const FieldCL& size = *common.size;
     CheckedControlCL control;
     control.kind = static_cast<std::int8_t>(kind);
     control.grammar = static_cast<std::int8_t>(grammar);
