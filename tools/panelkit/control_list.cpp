@@ -55,25 +55,16 @@ CheckedControlCL checkedControlOf(const RecordViewCL& view, const CommonFieldsCL
 
 StackTP stackOf(const CheckedControlsTP& controls)
 {
-    struct PlaceCL
-    {
-        int index;
-        std::uint32_t control;
-        bool operator<(const PlaceCL& other) const { return index < other.index; }
-    };
-    std::vector<PlaceCL> places;
-    places.reserve(controls.size());
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        if (controls[i].isStacked) {
-            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
-        }
-    }
-    sortRows(places);
     StackTP stack;
     stack.reserve(controls.size());
-    for (const PlaceCL& place : places) {
-        stack.push_back(&controls[place.control]);
+    for (const CheckedControlCL& control : controls) {
+        if (control.isStacked) {
+            stack.push_back(&control);
+        }
     }
+    sortRows(stack, [](const CheckedControlCL* one, const CheckedControlCL* other) {
+        return one->windowIndex < other->windowIndex;
+    });
     for (const CheckedControlCL& control : controls) {
         if (!control.isStacked) {
             stack.push_back(&control);
