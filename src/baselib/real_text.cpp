@@ -136,7 +136,8 @@ const char* slReadShortReal(const char* at, const char* end, float* value)
     if (count == 0 || mayGoOn || digits >= std::uint64_t { 1 } << 53) {
         return nullptr;
     }
-    const double quotient = static_cast<double>(digits) / Powers[behindPoint];
+    const double whole = static_cast<double>(digits);
+    const double quotient = behindPoint > 0 ? whole / Powers[behindPoint] : whole;
     // As a double it is off by less than two of its last bits. Where that may decide, this doesn't know.
     std::uint64_t bits = 0;
     std::memcpy(&bits, &quotient, sizeof bits);

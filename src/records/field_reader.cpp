@@ -59,8 +59,9 @@ const char* FieldReaderCL::sureM() const
     return isSure ? io_->end_ - slScannedAtOnce : nullptr;
 }
 
-// Of a number that was read whole.
-inline bool FieldReaderCL::tellReadM(const char* name, int part, const char* begin, const char* end)
+// Of a number that was read whole. Apart, as readM is short without, and needs no registers saved.
+[[gnu::noinline]] bool FieldReaderCL::tellReadM(
+    const char* name, int part, const char* begin, const char* end)
 {
     tellM(name, part,
         { static_cast<std::size_t>(begin - io_->data_), static_cast<std::size_t>(end - io_->data_) },

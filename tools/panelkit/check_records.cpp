@@ -153,19 +153,21 @@ private:
         const int grammar = slGrammarOf(RecordsTP::Header);
         const SeenSectionCL& section = file_.SectionM(grammar);
         // The fields of a kind are the same in each record, but for the types that a field tells of others.
-        const auto type = [this] { return view_.IntM("data_type"); };
+        const FieldCL* type = nullptr;
         bool isShown = false;
         int shownType = 0;
         file_.ReadKindM<RecordsTP>([&](int i, typename RecordsTP::RecordTP& record) {
-            if (!isShown || !view_.ShowsM(section, i) || type() != shownType) {
+            if (!isShown || !view_.ShowsM(section, i) || (type != nullptr && type->ints[0] != shownType)) {
                 view_.BeginM(section, i);
                 record.EachCommonFieldM(view_);
                 record.EachFieldM(view_);
+                common_ = CommonFieldsCL(view_);
                 isShown = true;
-                shownType = type();
+                type = view_.FindM("data_type");
+                shownType = type != nullptr ? type->ints[0] : 0;
             }
             if (isInvisible(RowTP::Code, view_)) {
-                found_.AddM(Says::InvisibleTabStop, offsetOf(*view_.FindM("function_id")));
+                found_.AddM(Says::InvisibleTabStop, offsetOf(*common_.id));
             }
             recordM(RowTP::Code, RecordsTP::KindName, grammar, i, RowTP::CanM(Stacked),
                 section.values.RoomM().isPlain);
@@ -176,7 +178,7 @@ private:
     {
         checkRanges(kind, view_, found_);
         valuesM(grammar, record, isPlain);
-        controls_.push_back(checkedControlOf(view_, kind, kindName, grammar, isStacked));
+        controls_.push_back(checkedControlOf(view_, common_, kind, kindName, grammar, isStacked));
         if (kind == SpinEditCode && view_.IntM("data_type") > 0 && view_.IntM("spin_function_id") != 0) {
             arrows_.push_back(
                 { record, view_.IntM("spin_function_id"), offsetOf(*view_.FindM("spin_function_id")) });
@@ -204,6 +206,7 @@ private:
             records.ElementAtM(i).EachCommonFieldM(view_, 1);
             records.ElementAtM(i).EachFieldM(view_, section.FindM(i, "show_condition") != nullptr,
                 section.FindM(i, "description") != nullptr);
+            common_ = CommonFieldsCL(view_);
             recordM(0, "new_rotate_button", grammar, i, false);
             const FieldCL* const first = view_.FindM("initial_index");
             const int slots = records.ElementAtM(i).SlotCountM();
@@ -223,6 +226,7 @@ private:
     FindingsCL& findings_;
     PicturesCL pictures_;
     RecordViewCL view_;
+    CommonFieldsCL common_; // Of that.
     CheckedControlsTP controls_;
     std::vector<ArrowsCL> arrows_;
     FindingsCL found_;           // In records, sound or not,

@@ -61,7 +61,8 @@ void checkColour(FileReadingCL& file, const FieldCL& field, const RecordViewCL& 
 {
     for (int part = 0; part < 3 && field.seen != nullptr && field.IsOnM(); ++part) {
         const std::string_view bytes = file.BytesM(field.seen[part]);
-        if (bytes.size() < 3 && !bytes.empty() && bytes[0] != '-') {
+        const bool isShort = bytes.size() < 3 || (bytes.size() == 3 && bytes <= "255");
+        if (isShort && !bytes.empty() && bytes[0] >= '0' && bytes[0] <= '9') {
             continue;
         }
         int number = 0;

@@ -7,13 +7,13 @@ std::uint32_t offsetOf(const FieldCL& field)
     return field.seen != nullptr ? field.seen->begin : 0;
 }
 
-CheckedControlCL checkedControlOf(
-    const RecordViewCL& view, int kind, [[maybe_unused]] const char* kindName, int grammar, bool isStacked)
+CheckedControlCL checkedControlOf(const RecordViewCL& view, const CommonFieldsCL& common, int kind,
+    [[maybe_unused]] const char* kindName, int grammar, bool isStacked)
 {
-    const FieldCL& index = *view.FindM("window_index");
-    const FieldCL& id = *view.FindM("function_id");
-    const FieldCL& position = *view.FindM("position");
-    const FieldCL& size = *view.FindM("size");
+    const FieldCL& index = *common.index;
+    const FieldCL& id = *common.id;
+    const FieldCL& position = *common.position;
+    const FieldCL& size = *common.size;
     CheckedControlCL control;
     control.kind = static_cast<std::int8_t>(kind);
     control.grammar = static_cast<std::int8_t>(grammar);
@@ -55,25 +55,16 @@ CheckedControlCL checkedControlOf(
 
 StackTP stackOf(const CheckedControlsTP& controls)
 {
-    struct PlaceCL
-    {
-        int index;
-        std::uint32_t control;
-        bool operator<(const PlaceCL& other) const { return index < other.index; }
-    };
-    std::vector<PlaceCL> places;
-    places.reserve(controls.size());
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        if (controls[i].isStacked) {
-            places.push_back({ controls[i].windowIndex, static_cast<std::uint32_t>(i) });
-        }
-    }
-    sortRows(places);
     StackTP stack;
     stack.reserve(controls.size());
-    for (const PlaceCL& place : places) {
-        stack.push_back(&controls[place.control]);
+    for (const CheckedControlCL& control : controls) {
+        if (control.isStacked) {
+            stack.push_back(&control);
+        }
     }
+    sortRows(stack, [](const CheckedControlCL* one, const CheckedControlCL* other) {
+        return one->windowIndex < other->windowIndex;
+    });
     for (const CheckedControlCL& control : controls) {
         if (!control.isStacked) {
             stack.push_back(&control);

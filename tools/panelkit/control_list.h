@@ -105,9 +105,26 @@ using CheckedControlsTP = std::vector<CheckedControlCL>;
 using StackTP = std::vector<const CheckedControlCL*>;
 
 std::uint32_t offsetOf(const FieldCL& field); // Where it stands in the file; 0 where it doesn't.
+// The fields that all controls have, in a view; valid until it shows other fields.
+struct CommonFieldsCL
+{
+    CommonFieldsCL() = default;
+    explicit CommonFieldsCL(const RecordViewCL& view)
+        : index(view.FindM("window_index"))
+        , id(view.FindM("function_id"))
+        , position(view.FindM("position"))
+        , size(view.FindM("size"))
+    {
+    }
+    const FieldCL* index { nullptr };
+    const FieldCL* id { nullptr };
+    const FieldCL* position { nullptr };
+    const FieldCL* size { nullptr };
+};
+
 // Of a record; may take the caption from it.
-CheckedControlCL checkedControlOf(
-    const RecordViewCL& view, int kind, const char* kindName, int grammar, bool isStacked);
+CheckedControlCL checkedControlOf(const RecordViewCL& view, const CommonFieldsCL& common, int kind,
+    const char* kindName, int grammar, bool isStacked);
 StackTP stackOf(const CheckedControlsTP& controls);
 // Appends the names of pictures. isPlain: all values were read just as they stand.
 void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, std::vector<SpanCL>& pictures,
