@@ -1,6 +1,6 @@
 // Building: the header and the pass of each kind.
 #include "baselib/message_texts.h"
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 #include "pictures/picture_sharing.h"
 
 int DuBasicDialogCL::InitDlgM(CWnd* parent, int mode)

@@ -1,5 +1,5 @@
 // Destroying: the controls by themselves, or with the dialog's window.
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 
 namespace {
 

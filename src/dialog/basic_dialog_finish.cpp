@@ -1,5 +1,5 @@
 // The passes over all controls once they exist: stacking order and font.
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 #include <algorithm>
 #include <unordered_map>
 #include <vector>

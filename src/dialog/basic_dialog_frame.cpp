@@ -1,5 +1,5 @@
 // The frame of a dialog that can be made larger, and what it is told by it.
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 #include "dialog/deferred_places.h"
 #include <algorithm>
 

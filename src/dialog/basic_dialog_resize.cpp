@@ -1,5 +1,5 @@
 // A dialog that can be made larger: which windows follow it, and where to.
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 #include "dialog/deferred_places.h"
 #include "dialog/monitor_scale.h"
 #include <unordered_map>

@@ -1,6 +1,6 @@
 // Other scales than the file's: lengths, the window, fonts, and a dialog that changes its scale while it is
 // used.
-#include "dialog/basic_dialog_turn.h"
+#include "dialog/basic_dialog.h"
 #include "dialog/dialog_font.h"
 #include "dialog/fitting_font.h"
 #include "dialog/monitor_scale.h"
