@@ -344,4 +344,3 @@ template <class ControlTP> void DuBasicDialogCL::SetFactoryM(ControlFactoryTP<Co
 }
 
 #include "dialog/basic_dialog_each.h"
-#include "dialog/basic_dialog_turn.h"
