@@ -21,9 +21,9 @@ int DVrSingleEditCL::InitSingleEditM(DuSingleEditCL* control) const
     }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
-    control->SetRangeM(range_.WholeM());
-    const bool isNoText = dataType_ == TextType && slIsNullWord(initial_.TextM()) != 0;
-    control->SetInitValM(isNoText ? simpleValD() : initial_.WholeM());
+    control->SetRangeM(range_);
+    const bool isNoText = dataType_ == TextType && slIsNullWord(initial_.text) != 0;
+    control->SetInitValM(isNoText ? simpleValD() : initial_);
     control->SetPasswordM(password_);
     control->SetEdgeM(edge_);
     control->SetReadOnlyM(readOnly_);

@@ -15,11 +15,11 @@ void DVrSingleEditCL::EachFieldM(FieldVisitorCL& visitor)
     if (dataType_ < IntegerType || dataType_ > TextType) {
         visitor.StopReadingM();
     }
-    range_.LimitsFieldM(visitor, "range", dataType_);
+    visitor.LimitsM("range", dataType_, range_);
     visitor.CountM("decimals", decimals_);
     visitor.FlagM("password", password_);
     visitor.ChoiceM("alignment", alignMode_, Alignments);
-    initial_.NumberFieldM(visitor, "initial", dataType_);
+    visitor.NumberM("initial", dataType_, initial_);
     visitor.FlagM("read_only", readOnly_);
     visitor.FlagM("edge", edge_);
     visitor.ColourM("colour", colour_);

@@ -22,8 +22,8 @@ private:
     int readOnly_ { 0 };
     int edge_ { 1 };
     ColourTP colour_ { 0xFFFFFF };
-    KeptValueCL range_;
-    KeptValueCL initial_;
+    simpleValD range_;
+    simpleValD initial_;
 };
 
 extern template class PANELKIT_API Arr<DVrSingleEditCL>;

@@ -32,9 +32,9 @@ int DVrSpinEditCL::InitSpinEditM(DuSpinEditCL* control) const
     }
     control->SetAlignModeM(alignMode_);
     control->SetDataTypeM(dataType_, decimals_);
-    control->SetRangeM(range_.WholeM());
-    control->SetInitValM(initial_.WholeM());
-    control->SetStepM(step_.WholeM());
+    control->SetRangeM(range_);
+    control->SetInitValM(initial_);
+    control->SetStepM(step_);
     control->SetSpinLenM(spinWidth_);
     control->SetWinIdxM(editWindowIndex_);
     control->SpinButtonM().SetFunctionIDM(spinFunctionId_);

@@ -16,11 +16,11 @@ void DVrSpinEditCL::EachFieldM(FieldVisitorCL& visitor)
         visitor.StopReadingM();
     }
     const int type = dataType_ == RealType ? RealType : IntegerType; // No texts here.
-    range_.LimitsFieldM(visitor, "range", type);
+    visitor.LimitsM("range", type, range_);
     visitor.CountM("decimals", decimals_);
-    step_.NumberFieldM(visitor, "step", type);
+    visitor.NumberM("step", type, step_);
     visitor.ChoiceM("alignment", alignMode_, Alignments);
-    initial_.NumberFieldM(visitor, "initial", type);
+    visitor.NumberM("initial", type, initial_);
     visitor.IndexM("edit_window_index", editWindowIndex_);
     visitor.IdM("spin_function_id", spinFunctionId_);
     visitor.LengthM("spin_width", spinWidth_, Along::X);

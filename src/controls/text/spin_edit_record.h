@@ -21,9 +21,9 @@ private:
     int dataType_ { IntegerType };
     int alignMode_ { 2 };
     int decimals_ { 0 };
-    KeptValueCL range_;
-    KeptValueCL step_;
-    KeptValueCL initial_;
+    simpleValD range_;
+    simpleValD step_;
+    simpleValD initial_;
 };
 
 extern template class PANELKIT_API Arr<DVrSpinEditCL>;

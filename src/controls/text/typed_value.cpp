@@ -51,35 +51,6 @@ simpleValD KeptValueCL::WholeM() const
     return value;
 }
 
-void KeptValueCL::NumberFieldM(FieldVisitorCL& visitor, const char* name, int type)
-{
-    simpleValD value = WholeM();
-    visitor.NumberM(name, type, value);
-    if (type != TextType) {
-        takeFewM(value);
-        return;
-    }
-    static constexpr simpleValD nothing {};
-    if (std::memcmp(value.text + sizeof few_.text, nothing.text, sizeof value.text - sizeof few_.text) != 0) {
-        makeWholeM() = value;
-    } else {
-        whole_ = nullptr;
-        takeFewM(value);
-    }
-}
-
-void KeptValueCL::LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type)
-{
-    simpleValD range = WholeM();
-    visitor.LimitsM(name, type, range);
-    takeFewM(range);
-}
-
-void KeptValueCL::takeFewM(const simpleValD& value)
-{
-    std::memcpy(TextM(), value.text, sizeof few_.text);
-}
-
 void KeptValueCL::SetTextM(const char* text)
 {
     if (text == TextM()) {

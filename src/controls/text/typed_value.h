@@ -29,9 +29,6 @@ public:
     ~KeptValueCL() = default;
 
     simpleValD WholeM() const; // All of it.
-    // Shows it to a visitor of fields as what FieldVisitorCL's function of that name shows.
-    void NumberFieldM(FieldVisitorCL& visitor, const char* name, int type);
-    void LimitsFieldM(FieldVisitorCL& visitor, const char* name, int type); // The same.
 
     // Its members, each at the beginning of its bytes: the int; valid until a text is set, as are the others.
     int& NumberM() { return whole_ != nullptr ? whole_->number : few_.number; }
@@ -46,7 +43,6 @@ public:
 
 private:
     simpleValD& makeWholeM();
-    void takeFewM(const simpleValD& value);
 
     union FewTP {
         char text[16] {};
