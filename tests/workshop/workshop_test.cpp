@@ -1,6 +1,7 @@
 // The example application as its user meets it: keyboard, mouse and screen, from one start to the next.
 #include "idiom/child_program.h"
 #include "support/temp_file.h"
+#include "support/window.h"
 #include <filesystem>
 #include <optional>
 
@@ -144,6 +145,7 @@ protected:
             return box != nullptr && ::GetWindow(box, GW_OWNER) == dialog_ && ::IsWindowVisible(box)
                 && ::IsChild(box, program_->FocusM());
         })) << "no message box";
+        SettleProgramM(box); // One that went before the display had told of it would take the focus along.
         return box;
     }
 
