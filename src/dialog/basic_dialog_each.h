@@ -30,7 +30,8 @@ public:
         }
     }
 
-    KindsCL& KindsM() const { return *kinds_; }
+    KindsCL& KindsM() const { return *kinds_; } // The controls and records as the turn found them.
+    // Whether the host is gone, or has other controls, or the window is gone.
     bool IsOverM() const
     {
         return !life_.IsAliveM() || host_->kinds_ != kinds_ || (window_ != nullptr && !::IsWindow(window_));
@@ -53,7 +54,7 @@ template <class FunctionTP> void DuBasicDialogCL::eachControlsM(FunctionTP&& see
     const LifeCL life(this);
     slEachKind([this, &see, &life](auto row) {
         if (life.IsAliveM()) {
-            see(row, membersM<decltype(row)>().controls);
+            see(row, this->template membersM<decltype(row)>().controls);
         }
     });
 }
