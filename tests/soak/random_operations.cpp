@@ -158,7 +158,7 @@ void RandomOperationsCL::addValuesM()
     OPERATION("Utf8TextM", 10, values.Utf8TextM(id, p.RoomM(7), 7));
     OPERATION("WideTextM", 5, values.WideTextM(id, nullptr, p.NumberM()));
     OPERATION("SetTextM", 40, values.SetTextM(id, p.TextM()));
-    OPERATION("SetTextM, UTF-8", 20, values.SetTextM(id, ValueTextCL::FromUtf8M(p.TextM())));
+    OPERATION("SetTextM, UTF-8", 20, values.SetTextM(id, ValueTextCL::FromUtf8M(p.Utf8TextM())));
     OPERATION("CheckedM", 5, values.CheckedM(id));
     OPERATION("SetCheckedM", 20, values.SetCheckedM(id, p.ChanceM(50)));
     OPERATION("GroupM", 5, values.GroupM(id));
