@@ -94,11 +94,8 @@ public:
             '?');
         return text.c_str();
     }
-    std::string SomeTextM() // Never null.
-    {
-        const char* const text = TextM();
-        return text != nullptr ? text : "";
-    }
+    std::string SomeTextM() { return orEmpty(TextM()); }
+    std::string SomeUtf8TextM() { return orEmpty(Utf8TextM()); }
     // The path of a picture, or of none.
     const char* FileM() { return ChanceM(60) && !onlyNull_ ? picture_.path() : TextM(); }
 
@@ -125,6 +122,7 @@ public:
     bool IsRoomKeptM() const { return room_.empty() || room_.substr(size_) == std::string(16, '\x5A'); }
 
 private:
+    static std::string orEmpty(const char* text) { return text != nullptr ? text : ""; }
     std::mt19937 random_;
     bool onlyNull_;
     bool hasGivenNull_ { false };
