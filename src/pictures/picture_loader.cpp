@@ -5,6 +5,8 @@
 #include "pictures/bmp_indices.h"
 #include "pictures/bmp_reader.h"
 #include <algorithm>
+#include <cstring>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -64,12 +66,11 @@ HBITMAP makeBlock(int width, int height, PixelBlockCL* block)
     return bitmap;
 }
 
-HBITMAP makeIndexed(const BmpBytes& file, const BmpHeader& header)
+HBITMAP makeIndexed(const BmpBytes& file, const BmpHeader& header, const SectionInfo& info)
 {
     std::vector<unsigned char> indices;
     unsigned char* to = nullptr;
-    const HBITMAP bitmap
-        = slDecodeBmpIndices(file, header, &indices) ? makeSection(infoOf(header), &to) : nullptr;
+    const HBITMAP bitmap = slDecodeBmpIndices(file, header, &indices) ? makeSection(info, &to) : nullptr;
     if (bitmap == nullptr) {
         return nullptr;
     }
@@ -111,6 +112,34 @@ HBITMAP makeColoured(const BmpBytes& file, const BmpHeader& header)
         ::SetDIBits(dc, bitmap, 0, static_cast<UINT>(h), rows.data(),
             reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS);
         ::DeleteDC(dc);
+    }
+    return bitmap;
+}
+
+// What the platform's loader makes of a picture that is here whole; null of one with masks or unusual
+// headers.
+HBITMAP makeAtOnce(const BmpBytes& file)
+{
+    BmpHeader header;
+    if (!slReadBmpHeader(file, &header) || header.topDown || file.dword(14) != sizeof(BITMAPINFOHEADER)) {
+        return nullptr;
+    }
+    SectionInfo info = infoOf(header);
+    std::memcpy(&info.header, file.data + 14, sizeof info.header);
+    const std::size_t size = header.stride() * static_cast<std::size_t>(header.height);
+    if (info.header.biClrUsed > std::size(info.colours)) {
+        return nullptr;
+    }
+    if (header.isRunCoded()) {
+        info.header.biCompression = BI_RGB;
+        info.header.biSizeImage = static_cast<DWORD>(size);
+        return makeIndexed(file, header, info);
+    }
+    unsigned char* bits = nullptr;
+    const HBITMAP bitmap
+        = header.coding == BmpCoding::Rgb && header.holdsRows(file) ? makeSection(info, &bits) : nullptr;
+    if (bitmap != nullptr) {
+        std::memcpy(bits, file.data + header.pixelsAt, size);
     }
     return bitmap;
 }
@@ -175,9 +204,15 @@ HBITMAP slMakeBitmap(const char* file)
         return nullptr;
     }
     std::size_t size = 0;
-    unsigned char headers[BmpHeadersSize] {};
-    slReadFileBeginning(file, headers, sizeof headers, &size);
-    if (slCanPlatformLoadBmp({ headers, size })) {
+    // Most pictures are there whole then, and the platform need not open and map the file once more.
+    unsigned char beginning[32 * 1024];
+    const std::size_t held = slReadFileBeginning(file, beginning, sizeof beginning, &size);
+    std::fill(beginning + held, beginning + std::max(held, BmpHeadersSize), static_cast<unsigned char>(0));
+    if (slCanPlatformLoadBmp({ beginning, size })) {
+        const HBITMAP made = held == size ? makeAtOnce({ beginning, size }) : nullptr;
+        if (made != nullptr) {
+            return made;
+        }
         const HANDLE loaded = ::LoadImageW(nullptr, slGbkToWide(file).c_str(), IMAGE_BITMAP, 0, 0,
             LR_LOADFROMFILE | LR_CREATEDIBSECTION | LR_DEFAULTSIZE);
         if (loaded != nullptr) {
@@ -190,7 +225,7 @@ HBITMAP slMakeBitmap(const char* file)
     if (!slReadBmpHeader(bytes, &header)) {
         return nullptr;
     }
-    return header.bits <= 8 ? makeIndexed(bytes, header) : makeColoured(bytes, header);
+    return header.bits <= 8 ? makeIndexed(bytes, header, infoOf(header)) : makeColoured(bytes, header);
 }
 
 HBITMAP slResampleBitmap(HBITMAP bitmap, int width, int height, std::int64_t key)

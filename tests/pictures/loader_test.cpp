@@ -4,6 +4,7 @@
 #include "pictures/region_functions.h"
 #include "support/platform_pictures.h"
 #include <cstring>
+#include <random>
 
 namespace {
 
@@ -86,7 +87,7 @@ Pixels shownByUs(const char* path)
     return pixelsOf(bitmap);
 }
 
-// What GetObject tells of a file's bitmap.
+// What the platform tells of a file's bitmap, its colours and bytes included.
 std::string measuresOf(HBITMAP bitmap)
 {
     DIBSECTION section {};
@@ -95,12 +96,29 @@ std::string measuresOf(HBITMAP bitmap)
     for (const auto value :
         { static_cast<DWORD>(section.dsBm.bmWidth), static_cast<DWORD>(section.dsBm.bmHeight),
             static_cast<DWORD>(section.dsBm.bmWidthBytes), static_cast<DWORD>(section.dsBm.bmBitsPixel),
-            static_cast<DWORD>(section.dsBmih.biHeight), section.dsBmih.biCompression,
-            section.dsBmih.biClrUsed, section.dsBmih.biSizeImage, section.dsBitfields[0] }) {
+            section.dsBmih.biSize, static_cast<DWORD>(section.dsBmih.biHeight), section.dsBmih.biCompression,
+            section.dsBmih.biClrUsed, section.dsBmih.biClrImportant, section.dsBmih.biSizeImage,
+            section.dsBitfields[0] }) {
         text += std::to_string(value) + " ";
     }
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = ::SelectObject(dc, bitmap);
+    RGBQUAD colours[256] {};
+    const UINT count = ::GetDIBColorTable(dc, 0, 256, colours);
+    text.append(reinterpret_cast<const char*>(colours), count * sizeof *colours);
+    ::SelectObject(dc, before);
+    text.append(static_cast<const char*>(section.dsBm.bmBits),
+        static_cast<size_t>(section.dsBm.bmWidthBytes) * static_cast<size_t>(section.dsBm.bmHeight));
     ::DeleteObject(bitmap);
     return text;
+}
+
+int resolutionOf(CBitmap& bitmap) // Pixels a metre.
+{
+    DIBSECTION section {};
+    ::GetObjectW(bitmap, sizeof section, &section);
+    return section.dsBmih.biXPelsPerMeter;
 }
 
 std::string shownMeasures(const char* path)
@@ -197,6 +215,11 @@ TEST(BmpReader, ReadsTheSamePicturesAsThePlatformsLoader)
         EXPECT_TRUE(expected.bytes == found.bytes) << kind.first;
         EXPECT_TRUE(expected.bytes == shownByUs(file.path()).bytes) << kind.first;
         EXPECT_EQ(measuresOf(loadedByPlatform(file.path())), shownMeasures(file.path())) << kind.first;
+        CBitmap platforms;
+        CBitmap ours;
+        platforms.Attach(loadedByPlatform(file.path()));
+        slLoadPicture(&ours, file.path());
+        EXPECT_EQ(resolutionOf(platforms), resolutionOf(ours)) << kind.first;
         ++compared;
     }
     EXPECT_GT(compared, 20);
@@ -212,6 +235,31 @@ TEST(BmpReader, ReadsFlawedPicturesAsThePlatformsLoader)
         EXPECT_TRUE(expected.bytes == shownByUs(file.path()).bytes) << kind.first;
         EXPECT_EQ(measuresOf(loadedByPlatform(file.path())), shownMeasures(file.path())) << kind.first;
     }
+}
+
+TEST(BmpReader, ReadsAnyRunsAsThePlatformsLoader)
+{
+    std::mt19937 random(3); // NOLINT: the same pictures each time.
+    int shown = 0;
+    for (int round = 0; round < 300; ++round) {
+        std::vector<unsigned char> codes;
+        for (size_t i = random() % 40; i > 0; --i) {
+            codes.push_back(static_cast<unsigned char>(random() % (random() % 4 == 0 ? 256 : 5)));
+        }
+        codes.insert(codes.end(), { 0, 1 });
+        BmpFile picture = codedBmp(round % 2 == 0 ? 8 : 4, 7, 6, codes);
+        picture.codesSize = static_cast<std::uint32_t>(picture.pixels.size());
+        const TestFile file("loader_test.bmp", picture);
+        CBitmap ours;
+        slLoadPicture(&ours, file.path());
+        if (ours.GetSafeHandle() != nullptr) {
+            EXPECT_EQ(
+                measuresOf(loadedByPlatform(file.path())), measuresOf(static_cast<HBITMAP>(ours.Detach())))
+                << round;
+            ++shown;
+        }
+    }
+    EXPECT_GT(shown, 100);
 }
 
 // Masks of 16 bits are left to the platform's loader: some lose the lowest bit of the greens.
