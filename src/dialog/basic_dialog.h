@@ -257,7 +257,8 @@ private:
         int place;     // Among its siblings, from the top down.
         bool isOfKind; // The window belongs to a control of the library's own class.
     };
-    std::vector<StepCL> stepsM(CWnd* parent, int* siblings);
+    // *siblings: all children of parent, from the top down.
+    std::vector<StepCL> stepsM(CWnd* parent, std::vector<HWND>* siblings);
     void finishM(CWnd* parent, const TurnCL& turn);
     void setItemFontM(const std::vector<StepCL>& steps, bool isShown, const TurnCL& turn);
     void setItemFontM(CWnd* parent, bool isShown, const TurnCL& turn);

@@ -12,28 +12,23 @@ struct ChildCL
     int place;
 };
 
-// For each control id the topmost child with it: what a look-up by id finds. One pass over the children,
-// where a look-up for each would be a pass each.
-std::unordered_map<int, ChildCL> topmostById(const CWnd* parent, int* children)
+// For each control id the topmost child with it: what a look-up by id finds. One pass over the children, from
+// the top down, where a look-up for each would be a pass each.
+std::unordered_map<int, ChildCL> topmostById(const CWnd* parent, std::vector<HWND>* children)
 {
     std::unordered_map<int, ChildCL> found;
-    *children = 0;
     for (HWND child = ::GetWindow(parent->m_hWnd, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
-        found.emplace(::GetDlgCtrlID(child), ChildCL { child, (*children)++ });
+        found.emplace(::GetDlgCtrlID(child), ChildCL { child, static_cast<int>(children->size()) });
+        children->push_back(child);
     }
     return found;
 }
 
 // The most of these windows, in this order from the top down, that may stay where they are while the others
-// are moved: their places rise, and none lies below one of the windows that are to come last.
-std::vector<bool> stayingM(const std::vector<ChildCL>& order, int siblings)
+// are moved: their places rise, and lie above the limit.
+std::vector<bool> stayingM(const std::vector<ChildCL>& order, int limit)
 {
-    std::vector<bool> isListed(static_cast<std::size_t>(siblings), false);
-    for (const ChildCL& child : order) {
-        isListed[static_cast<std::size_t>(child.place)] = true;
-    }
-    const int limit = static_cast<int>(std::find(isListed.begin(), isListed.end(), false) - isListed.begin());
     // The longest rising row of places: ends[k] is the lowest last one of those with k + 1 windows.
     std::vector<int> ends;
     std::vector<int> lengths(order.size(), 0);
@@ -46,7 +41,7 @@ std::vector<bool> stayingM(const std::vector<ChildCL>& order, int siblings)
     }
     std::vector<bool> staying(order.size(), false);
     int wanted = static_cast<int>(ends.size());
-    int below = siblings;
+    int below = limit;
     for (std::size_t i = order.size(); i-- > 0 && wanted > 0;) {
         if (lengths[i] == wanted && order[i].place < below) {
             staying[i] = true;
@@ -57,15 +52,50 @@ std::vector<bool> stayingM(const std::vector<ChildCL>& order, int siblings)
     return staying;
 }
 
-// Stacks windows above all their siblings, in this order from the top down.
-void stackM(const std::vector<ChildCL>& order, int siblings, UINT flags)
+// The children that are not in this order, from the top down.
+std::vector<ChildCL> othersM(const std::vector<ChildCL>& order, const std::vector<HWND>& children)
 {
-    const std::vector<bool> staying = stayingM(order, siblings);
+    std::vector<bool> isListed(children.size(), false);
+    for (const ChildCL& child : order) {
+        isListed[static_cast<std::size_t>(child.place)] = true;
+    }
+    std::vector<ChildCL> others;
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        if (!isListed[i]) {
+            others.push_back({ children[i], static_cast<int>(i) });
+        }
+    }
+    return others;
+}
+
+bool isArrows(const ChildCL& child)
+{
+    return dynamic_cast<DuSpinButtonCL*>(CWnd::FromHandlePermanent(child.window)) != nullptr;
+}
+
+// Stacks windows above all their siblings, in this order from the top down. What isn't in it stays where it
+// is, but for the arrows of spin edits: a few of them go down where many controls would have to go up.
+void stackM(const std::vector<ChildCL>& order, const std::vector<HWND>& children, UINT flags)
+{
+    flags |= SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE;
+    const std::vector<ChildCL> others = othersM(order, children);
+    std::vector<bool> staying
+        = stayingM(order, others.empty() ? static_cast<int>(children.size()) : others[0].place);
+    if (!others.empty() && std::all_of(others.begin(), others.end(), isArrows)) {
+        std::vector<bool> stayingBeside = stayingM(order, static_cast<int>(children.size()));
+        const auto count
+            = [](const std::vector<bool>& list) { return std::count(list.begin(), list.end(), true); };
+        if (count(stayingBeside) - count(staying) > static_cast<std::ptrdiff_t>(others.size())) {
+            staying.swap(stayingBeside);
+            for (const ChildCL& arrows : others) {
+                ::SetWindowPos(arrows.window, HWND_BOTTOM, 0, 0, 0, 0, flags);
+            }
+        }
+    }
     HWND above = HWND_TOP;
     for (std::size_t i = 0; i < order.size(); ++i) {
         if (!staying[i]) {
-            ::SetWindowPos(
-                order[i].window, above, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | flags);
+            ::SetWindowPos(order[i].window, above, 0, 0, 0, 0, flags);
         }
         above = order[i].window;
     }
@@ -74,7 +104,7 @@ void stackM(const std::vector<ChildCL>& order, int siblings, UINT flags)
 } // namespace
 
 // In order of collection.
-std::vector<DuBasicDialogCL::StepCL> DuBasicDialogCL::stepsM(CWnd* parent, int* siblings)
+std::vector<DuBasicDialogCL::StepCL> DuBasicDialogCL::stepsM(CWnd* parent, std::vector<HWND>* siblings)
 {
     std::vector<StepCL> steps;
     const auto windows = topmostById(parent, siblings);
@@ -99,14 +129,14 @@ std::vector<DuBasicDialogCL::StepCL> DuBasicDialogCL::stepsM(CWnd* parent, int* 
 // always finds the window that was topmost at first, and the last step with that id decides where it stays.
 void DuBasicDialogCL::finishM(CWnd* parent, const TurnCL& turn)
 {
-    int siblings = 0;
+    std::vector<HWND> siblings;
     const std::vector<StepCL> steps = stepsM(parent, &siblings);
     const bool isShown = ::IsWindowVisible(parent->m_hWnd) != FALSE;
     if (mode_ == 1) {
         std::vector<StepCL> sorted = steps;
         std::stable_sort(sorted.begin(), sorted.end(),
             [](const StepCL& a, const StepCL& b) { return a.windowIndex < b.windowIndex; });
-        std::vector<bool> isPlaced(static_cast<std::size_t>(siblings), false);
+        std::vector<bool> isPlaced(siblings.size(), false);
         std::vector<ChildCL> order; // From the last to the first.
         for (auto step = sorted.rbegin(); step != sorted.rend(); ++step) {
             if (!isPlaced[static_cast<std::size_t>(step->place)]) {
@@ -147,6 +177,6 @@ void DuBasicDialogCL::setTxtLstBoxItemHeightM()
 
 void DuBasicDialogCL::setItemFontM(CWnd* parent, bool isShown, const TurnCL& turn)
 {
-    int siblings = 0;
+    std::vector<HWND> siblings;
     setItemFontM(stepsM(parent, &siblings), isShown, turn);
 }

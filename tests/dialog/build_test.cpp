@@ -181,15 +181,57 @@ TEST(Build, StacksAsMovingEachControlWould)
             }
             above = window;
         }
-        std::vector<std::string> seen;
-        std::vector<std::string> wanted;
-        for (HWND child = ::GetWindow(dialog.m_hWnd, GW_CHILD); child != nullptr;
-             child = ::GetWindow(child, GW_HWNDNEXT)) {
-            seen.push_back(std::to_string(::GetDlgCtrlID(child)));
-        }
+        std::string wanted;
         for (const int window : expected) {
-            wanted.push_back(std::to_string(ids[static_cast<size_t>(window)]));
+            wanted += (wanted.empty() ? "" : " ") + std::to_string(ids[static_cast<size_t>(window)]);
         }
-        ASSERT_EQ(seen, wanted) << "round " << round;
+        ASSERT_EQ(stackOf(dialog.m_hWnd), wanted) << "round " << round;
+    }
+}
+
+// Of many controls few move, and the arrows of spin edits end below all of them in the order that they had.
+TEST(Build, StacksSpinEditsAndTheirArrows)
+{
+    std::mt19937 random(11); // NOLINT: the same dialogs each time.
+    const auto number
+        = [&random](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+    for (int round = 0; round < 30; ++round) {
+        const int spins = number(4);
+        const int counts[] = { 1 + number(20), spins, 1 + number(20) }; // Labels, spin edits, buttons.
+        const bool isForeign = number(4) == 0;
+        std::vector<std::pair<int, int>> steps; // Window index and id.
+        const auto indexOf = [&](int id) {
+            steps.emplace_back(number(3) == 0 ? number(40) : id % 100, id);
+            return std::to_string(steps.back().first);
+        };
+        std::string text = HeaderSections + std::string("[标题]\n") + std::to_string(counts[0]) + "\n0\n";
+        for (int i = 0; i < counts[0]; ++i) {
+            text += indexOf(100 + i) + ' ' + std::to_string(100 + i) + " 20 30 120 20 1\nx\n0 -1 0 0\n";
+        }
+        text += "[带spin的文本]\n" + std::to_string(spins) + "\n0\n";
+        for (int i = 0; i < spins; ++i) {
+            text += "1 " + std::to_string(200 + i) + " 10 130 90 24 1 0 100 0 1 2 88 " + indexOf(200 + i)
+                + ' ' + std::to_string(900 + i) + " 16\n";
+        }
+        text += "[标准按钮]\n" + std::to_string(counts[2]) + "\n0\n";
+        for (int i = 0; i < counts[2]; ++i) {
+            text += indexOf(300 + i) + ' ' + std::to_string(300 + i) + " 20 30 120 20\nx\n0\n";
+        }
+        HearingDialogCL dialog(text);
+        std::string wanted;
+        std::stable_sort(steps.begin(), steps.end(), [](auto& a, auto& b) { return a.first < b.first; });
+        for (const auto& step : steps) {
+            wanted += (wanted.empty() ? "" : " ") + std::to_string(step.second);
+        }
+        if (isForeign) {
+            ::CreateWindowExW(0, L"Static", L"", WS_CHILD, 0, 0, 9, 9, dialog.m_hWnd,
+                reinterpret_cast<HMENU>(static_cast<INT_PTR>(7)), nullptr, nullptr);
+            wanted += " 7";
+        }
+        for (int i = 0; i < spins; ++i) {
+            wanted += ' ' + std::to_string(900 + i);
+        }
+        dialog.InitDlgM(&dialog, 1);
+        ASSERT_EQ(stackOf(dialog.m_hWnd), wanted) << "round " << round;
     }
 }

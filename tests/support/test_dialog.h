@@ -2,6 +2,17 @@
 #include "dialog/basic_dialog.h"
 #include "support/description.h"
 
+// Ids of the children from the top of the stacking order down.
+inline std::string stackOf(HWND parent)
+{
+    std::string ids;
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        ids += (ids.empty() ? "" : " ") + std::to_string(::GetDlgCtrlID(child));
+    }
+    return ids;
+}
+
 // The dialog of a description (UTF-8), built in mode 1. Its window exists, not yet shown, until the object
 // goes.
 class TestDialogCL : public DuBasicDialogCL
@@ -19,16 +30,7 @@ public:
     // The child window with that id, null if there is none.
     HWND ItemM(int id) const { return ::GetDlgItem(m_hWnd, id); }
 
-    // Ids of the children from the top of the stacking order down.
-    std::string StackM() const
-    {
-        std::string ids;
-        for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
-             child = ::GetWindow(child, GW_HWNDNEXT)) {
-            ids += (ids.empty() ? "" : " ") + std::to_string(::GetDlgCtrlID(child));
-        }
-        return ids;
-    }
+    std::string StackM() const { return stackOf(m_hWnd); }
 
 private:
     DescriptionFileCL file_;

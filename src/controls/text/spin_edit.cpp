@@ -122,7 +122,7 @@ int DuSpinEditCL::OnCreate(LPCREATESTRUCT create)
 {
     const int result = CEdit::OnCreate(create);
     if (result != -1) {
-        ModifyStyleEx(0, WS_EX_CLIENTEDGE);
+        catchUpM();
     }
     return result;
 }

@@ -47,6 +47,8 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    bool hearsCreationM() const override { return !slIsJust(*this); }
+    void catchUpM() override { ModifyStyleEx(0, WS_EX_CLIENTEDGE); }
     // 1: reads the text, the check code; else DispEditM.
     int updateDataM(int direction) { return direction == 1 ? GetCurValM(nullptr) : DispEditM(); }
     afx_msg void OnChar(UINT character, UINT repeats, UINT flags);
