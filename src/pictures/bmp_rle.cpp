@@ -11,10 +11,11 @@ constexpr int Move = 2;
 class RunDecoder
 {
 public:
-    RunDecoder(const BmpBytes& file, const BmpHeader& header, unsigned char* indices)
+    RunDecoder(const BmpBytes& file, const BmpHeader& header, unsigned char* indices, std::size_t stride)
         : file_(file)
         , header_(header)
         , indices_(indices)
+        , stride_(stride != 0 ? stride : static_cast<std::size_t>(header.width))
         , at_(header.pixelsAt)
         , end_(file.size)
     {
@@ -49,6 +50,8 @@ public:
 private:
     bool holds(std::size_t count) const { return count <= end_ - at_; }
 
+    int fitting(int count) const { return std::min(count, header_.width - x_); } // Of so many pixels.
+
     void put(int index)
     {
         if (x_ < header_.width) {
@@ -61,7 +64,7 @@ private:
     unsigned char* row() const
     {
         const int fromBelow = header_.topDown ? header_.height - 1 - y_ : y_;
-        return indices_ + static_cast<std::size_t>(fromBelow) * static_cast<std::size_t>(header_.width);
+        return indices_ + static_cast<std::size_t>(fromBelow) * stride_;
     }
 
     void mark(int code)
@@ -95,8 +98,16 @@ private:
 
     void repeat(int count, int pixel)
     {
+        if (header_.bits == 8) {
+            const int inRow = fitting(count);
+            if (indices_ != nullptr) {
+                std::fill_n(row() + x_, inRow, static_cast<unsigned char>(pixel));
+            }
+            x_ += inRow;
+            return;
+        }
         for (int i = 0; i < count; ++i) {
-            put(header_.bits == 8 ? pixel : nibble(pixel, i));
+            put(nibble(pixel, i));
         }
     }
 
@@ -109,9 +120,16 @@ private:
             at_ = end_;
             return;
         }
-        for (int i = 0; i < count; ++i) {
-            put(header_.bits == 8 ? file_.data[at_ + static_cast<std::size_t>(i)]
-                                  : nibble(file_.data[at_ + static_cast<std::size_t>(i / 2)], i));
+        if (header_.bits == 8) {
+            const int inRow = fitting(count);
+            if (indices_ != nullptr) {
+                std::copy_n(file_.data + at_, inRow, row() + x_);
+            }
+            x_ += inRow;
+        } else {
+            for (int i = 0; i < count; ++i) {
+                put(nibble(file_.data[at_ + static_cast<std::size_t>(i / 2)], i));
+            }
         }
         at_ += filled;
     }
@@ -121,6 +139,7 @@ private:
     const BmpBytes& file_;
     const BmpHeader& header_;
     unsigned char* indices_;
+    std::size_t stride_;
     std::size_t at_;
     std::size_t end_;  // Of the codes.
     int x_ { 0 };      // Up to the width.
@@ -131,7 +150,8 @@ private:
 
 } // namespace
 
-bool slDecodeBmpRuns(const BmpBytes& file, const BmpHeader& header, unsigned char* indices)
+bool slDecodeBmpRuns(
+    const BmpBytes& file, const BmpHeader& header, unsigned char* indices, std::size_t stride)
 {
-    return RunDecoder(file, header, indices).decode();
+    return RunDecoder(file, header, indices, stride).decode();
 }

@@ -4,6 +4,7 @@
 #include "baselib/helpers.h"
 #include "pictures/bmp_indices.h"
 #include "pictures/bmp_reader.h"
+#include "pictures/bmp_rle.h"
 #include <algorithm>
 #include <cstring>
 #include <iterator>
@@ -68,18 +69,27 @@ HBITMAP makeBlock(int width, int height, PixelBlockCL* block)
 
 HBITMAP makeIndexed(const BmpBytes& file, const BmpHeader& header, const SectionInfo& info)
 {
-    std::vector<unsigned char> indices;
     unsigned char* to = nullptr;
+    if (header.isRunCoded() && header.bits == 8) { // Rows of a section are rows of indices then.
+        const HBITMAP bitmap = slDecodeBmpIndices(file, header, nullptr) ? makeSection(info, &to) : nullptr;
+        if (bitmap != nullptr) {
+            slDecodeBmpRuns(file, header, to, header.stride());
+        }
+        return bitmap;
+    }
+    std::vector<unsigned char> indices;
     const HBITMAP bitmap = slDecodeBmpIndices(file, header, &indices) ? makeSection(info, &to) : nullptr;
     if (bitmap == nullptr) {
         return nullptr;
     }
     const std::size_t width = static_cast<std::size_t>(header.width);
     const std::size_t bits = static_cast<std::size_t>(header.bits);
-    for (std::size_t i = 0; i < indices.size(); ++i) {
-        const std::size_t x = i % width;
-        unsigned char& byte = to[i / width * header.stride() + x * bits / 8];
-        byte = static_cast<unsigned char>(byte | indices[i] << (8 - bits - x * bits % 8));
+    const unsigned char* from = indices.data();
+    for (int y = 0; y < header.height; ++y, from += width, to += header.stride()) {
+        for (std::size_t x = 0; x < width; ++x) {
+            unsigned char& byte = to[x * bits / 8];
+            byte = static_cast<unsigned char>(byte | from[x] << (8 - bits - x * bits % 8));
+        }
     }
     return bitmap;
 }
