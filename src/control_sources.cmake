@@ -146,6 +146,7 @@ set(PANELKIT_CONTROL_SOURCES
   toolkit/window_dc.cpp
   toolkit/wnd.cpp
   toolkit/wnd_exchange.cpp
+  toolkit/wnd_map.cpp
   toolkit/wnd_menu.cpp
   toolkit/wnd_messages.cpp
   toolkit/wnd_others.cpp

@@ -1,22 +1,25 @@
 // Destroying: the controls by themselves, or with the dialog's window.
 #include "dialog/basic_dialog.h"
+#include <vector>
 
 namespace {
 
-// What the window system tells the parents of a window that is destroyed by itself.
-void tellParentsM(HWND child)
+bool tellsParentM(HWND window)
 {
-    const auto tells = [](HWND window) {
-        return (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0
-            && (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOPARENTNOTIFY) == 0;
-    };
+    return (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0
+        && (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOPARENTNOTIFY) == 0;
+}
+
+// What the window system tells the parents of a window that is destroyed by itself.
+// windows: the dialog, then those above it that hear of what happens in it.
+void tellParentsM(HWND child, const std::vector<HWND>& windows)
+{
+    if (!tellsParentM(child)) {
+        return;
+    }
     const WPARAM what = MAKEWPARAM(WM_DESTROY, ::GetDlgCtrlID(child));
-    for (HWND at = child; tells(at);) {
-        at = ::GetParent(at);
-        if (at == nullptr) {
-            break;
-        }
-        ::SendMessageW(at, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(child));
+    for (HWND window : windows) {
+        ::SendMessageW(window, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(child));
     }
 }
 
@@ -102,15 +105,19 @@ bool DuBasicDialogCL::partM()
     if (m_hWnd == nullptr || parentM() != m_hWnd || holds(::GetFocus()) || holds(::GetCapture())) {
         return false;
     }
+    std::vector<HWND> hearing { m_hWnd };
+    while (tellsParentM(hearing.back()) && ::GetParent(hearing.back()) != nullptr) {
+        hearing.push_back(::GetParent(hearing.back()));
+    }
     const TurnCL turn(this);
     const ValidationPauseCL destroying(m_hWnd);
-    eachControlsM([this, &turn](auto row, auto& controls) {
+    eachControlsM([this, &turn, &hearing](auto row, auto& controls) {
         for (int i = 0; !turn.IsOverM() && i < controls.GetBoundM(); ++i) {
             const auto& control = controls.ControlAtM(i);
             const bool goesAlong = decltype(row)::CanM(GoesQuietly) && slIsJust(control)
                 && control.m_hWnd != nullptr && ::GetAncestor(control.m_hWnd, GA_PARENT) == m_hWnd;
             if (goesAlong) {
-                tellParentsM(control.m_hWnd);
+                tellParentsM(control.m_hWnd, hearing);
             } else {
                 controls.DelItemM(i);
             }

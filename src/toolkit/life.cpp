@@ -1,17 +1,17 @@
 #include "toolkit/life.h"
 #include "toolkit/thread_state.h"
+#include <utility>
 
 LifeCL::LifeCL(CWnd* wnd)
     : wnd_(wnd)
+    , innermost_(&ThreadStateCL::ThisM().lives)
+    , outer_(std::exchange(*innermost_, this))
 {
-    ThreadStateCL& state = ThreadStateCL::ThisM();
-    outer_ = state.lives;
-    state.lives = this;
 }
 
 LifeCL::~LifeCL()
 {
-    ThreadStateCL::ThisM().lives = outer_;
+    *innermost_ = outer_;
 }
 
 void LifeCL::ForgetM(const CWnd* wnd)

@@ -18,5 +18,6 @@ public:
 
 private:
     CWnd* wnd_;
+    LifeCL** innermost_; // Of this thread.
     LifeCL* outer_;
 };

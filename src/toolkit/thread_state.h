@@ -1,5 +1,6 @@
 #pragma once
 #include "toolkit/temporaries.h"
+#include "toolkit/wnd_map.h"
 #include <memory>
 #include <unordered_map>
 
@@ -17,7 +18,7 @@ struct ThreadStateCL
     static ThreadStateCL* KnownM(); // null: none made yet, or the thread is ending
     static void ThreadEndsM();      // the calling thread
 
-    std::unordered_map<HWND, CWnd*> permanent;
+    WndMapCL permanent;
     std::unordered_map<HMENU, CMenu*> permanentMenus;
     // Windows whose object has left while another procedure still calls AfxWndProc: what that calls in turn.
     std::unordered_map<HWND, WNDPROC> left;

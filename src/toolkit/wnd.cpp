@@ -42,12 +42,10 @@ CWnd* WndCallsCL::FromHandle(HWND hWnd)
 
 CWnd* WndCallsCL::FromHandlePermanent(HWND hWnd)
 {
-    auto& permanent = ThreadStateCL::ThisM().permanent;
-    auto found = permanent.find(hWnd);
-    if (found == permanent.end() && CreationHookCL::SeeM(hWnd, CreationHookCL::IsAskedFor)) {
-        found = permanent.find(hWnd);
-    }
-    return found == permanent.end() ? nullptr : found->second;
+    const WndMapCL& permanent = ThreadStateCL::ThisM().permanent;
+    CWnd* const found = permanent.FindM(hWnd);
+    return found == nullptr && CreationHookCL::SeeM(hWnd, CreationHookCL::IsAskedFor) ? permanent.FindM(hWnd)
+                                                                                      : found;
 }
 
 BOOL CWnd::Attach(HWND hWnd)
@@ -57,7 +55,7 @@ BOOL CWnd::Attach(HWND hWnd)
         return FALSE;
     }
     m_hWnd = hWnd;
-    ThreadStateCL::ThisM().permanent[hWnd] = this;
+    ThreadStateCL::ThisM().permanent.PutM(hWnd, this);
     return TRUE;
 }
 
@@ -67,9 +65,8 @@ HWND CWnd::Detach()
     WNDPROC oldProc = std::exchange(oldProc_, nullptr);
     if (hWnd != nullptr) {
         ThreadStateCL& state = ThreadStateCL::ThisM();
-        auto found = state.permanent.find(hWnd);
-        if (found != state.permanent.end() && found->second == this) {
-            state.permanent.erase(found);
+        if (state.permanent.FindM(hWnd) == this) {
+            state.permanent.RemoveM(hWnd);
         }
         if (oldProc == nullptr || !::IsWindow(hWnd)) {
             return hWnd;

@@ -62,8 +62,11 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
 {
     ThreadStateCL& state = ThreadStateCL::ThisM();
     const MSG handled = { hWnd, message, wParam, lParam, 0, {} };
-    CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
-    if (wnd == nullptr || state.left.count(hWnd) != 0) {
+    CWnd* wnd = state.permanent.FindM(hWnd);
+    if (wnd == nullptr) {
+        wnd = CWnd::FromHandlePermanent(hWnd); // One that is being created.
+    }
+    if (wnd == nullptr || (!state.left.empty() && state.left.count(hWnd) != 0)) {
         return WindowMessageCL::PassM(state, handled);
     }
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
