@@ -19,14 +19,18 @@ struct WindowCL
     DWORD exStyle;
     RECT rect; // Left, top, width, height.
     int id;
-    int buddy; // The id of the edit that the arrows of a spin control belong to; 0: none.
+    int buddy;      // The id of the edit that the arrows of a spin control belong to; 0: none.
+    int check;      // Of a button.
+    int lineHeight; // Of a list box, in pixels; else 0.
     std::vector<std::wstring> lines;
+    std::vector<int> data; // A number for each line.
 
     bool IsLikeM(const WindowCL& other) const
     {
         return name == other.name && text == other.text && style == other.style && exStyle == other.exStyle
             && ::EqualRect(&rect, &other.rect) && id == other.id && buddy == other.buddy
-            && lines == other.lines;
+            && check == other.check && lineHeight == other.lineHeight && lines == other.lines
+            && data == other.data;
     }
 };
 
@@ -57,11 +61,16 @@ inline WindowCL look(HWND window)
         ? ::GetDlgCtrlID(reinterpret_cast<HWND>(::SendMessageW(window, UDM_GETBUDDY, 0, 0)))
         : 0;
     const bool isList = seen.name == L"ListBox";
+    seen.check = seen.name == L"Button" ? static_cast<int>(::SendMessageW(window, BM_GETCHECK, 0, 0)) : 0;
+    seen.lineHeight = isList ? static_cast<int>(::SendMessageW(window, LB_GETITEMHEIGHT, 0, 0)) : 0;
     const LRESULT count = isList   ? ::SendMessageW(window, LB_GETCOUNT, 0, 0)
         : seen.name == L"ComboBox" ? ::SendMessageW(window, CB_GETCOUNT, 0, 0)
                                    : 0;
     for (LRESULT line = 0; line < count; ++line) {
-        seen.lines.push_back(textFrom(window, isList ? LB_GETTEXT : CB_GETLBTEXT, static_cast<WPARAM>(line)));
+        const auto at = static_cast<WPARAM>(line);
+        seen.lines.push_back(textFrom(window, isList ? LB_GETTEXT : CB_GETLBTEXT, at));
+        seen.data.push_back(
+            static_cast<int>(::SendMessageW(window, isList ? LB_GETITEMDATA : CB_GETITEMDATA, at, 0)));
     }
     return seen;
 }
@@ -93,9 +102,11 @@ inline void write(const std::vector<WindowCL>& windows, const char* path)
         text(window.text);
         file << window.style << ' ' << window.exStyle << ' ' << window.rect.left << ' ' << window.rect.top
              << ' ' << window.rect.right << ' ' << window.rect.bottom << ' ' << window.id << ' '
-             << window.buddy << ' ' << window.lines.size() << '\n';
-        for (const std::wstring& line : window.lines) {
-            text(line);
+             << window.buddy << ' ' << window.check << ' ' << window.lineHeight << ' ' << window.lines.size()
+             << '\n';
+        for (size_t line = 0; line < window.lines.size(); ++line) {
+            text(window.lines[line]);
+            file << window.data[line] << '\n';
         }
     }
 }
@@ -122,9 +133,10 @@ inline std::vector<WindowCL> read(const char* path)
         window.text = text();
         size_t lines = 0;
         file >> window.style >> window.exStyle >> window.rect.left >> window.rect.top >> window.rect.right
-            >> window.rect.bottom >> window.id >> window.buddy >> lines;
+            >> window.rect.bottom >> window.id >> window.buddy >> window.check >> window.lineHeight >> lines;
         for (size_t i = 0; i < lines; ++i) {
             window.lines.push_back(text());
+            file >> window.data.emplace_back();
         }
     }
     return windows;
@@ -142,8 +154,8 @@ inline void giveRoomOfArrows(std::vector<WindowCL>& windows)
     }
 }
 
-// Creates the windows in that order, fills lists, joins arrows with their edits, and gives all the font of
-// dialogs with that height in pixels.
+// Creates the windows in that order, fills lists, marks buttons, joins arrows with their edits, and gives all
+// the font of dialogs with that height in pixels, and list boxes the height of their lines.
 inline void makeAll(HWND parent, const std::vector<WindowCL>& windows, int fontHeight)
 {
     std::vector<HWND> made;
@@ -152,9 +164,14 @@ inline void makeAll(HWND parent, const std::vector<WindowCL>& windows, int fontH
             window.style, window.rect.left, window.rect.top, window.rect.right, window.rect.bottom, parent,
             reinterpret_cast<HMENU>(static_cast<INT_PTR>(window.id)), nullptr, nullptr));
         const bool isList = window.name == L"ListBox";
-        for (const std::wstring& line : window.lines) {
-            ::SendMessageW(
-                made.back(), isList ? LB_ADDSTRING : CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
+        for (size_t line = 0; line < window.lines.size(); ++line) {
+            const LRESULT at = ::SendMessageW(made.back(), isList ? LB_ADDSTRING : CB_ADDSTRING, 0,
+                reinterpret_cast<LPARAM>(window.lines[line].c_str()));
+            ::SendMessageW(made.back(), isList ? LB_SETITEMDATA : CB_SETITEMDATA, static_cast<WPARAM>(at),
+                window.data[line]);
+        }
+        if (window.check != 0) {
+            ::SendMessageW(made.back(), BM_SETCHECK, static_cast<WPARAM>(window.check), 0);
         }
     }
     for (size_t i = 0; i < made.size(); ++i) {
@@ -172,6 +189,11 @@ inline void makeAll(HWND parent, const std::vector<WindowCL>& windows, int fontH
     const HFONT font = ::CreateFontIndirectW(&look);
     for (const HWND window : made) {
         ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    }
+    for (size_t i = 0; i < made.size(); ++i) { // The font has changed it.
+        if (windows[i].lineHeight != 0) {
+            ::SendMessageW(made[i], LB_SETITEMHEIGHT, 0, windows[i].lineHeight);
+        }
     }
 }
 

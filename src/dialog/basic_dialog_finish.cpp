@@ -10,6 +10,7 @@ struct ChildCL
 {
     HWND window;
     int place;
+    bool isOfKind; // It belongs to a control of the library's own class.
 };
 
 // For each control id the topmost child with it: what a look-up by id finds. One pass over the children, from
@@ -19,7 +20,7 @@ std::unordered_map<int, ChildCL> topmostById(const CWnd* parent, std::vector<HWN
     std::unordered_map<int, ChildCL> found;
     for (HWND child = ::GetWindow(parent->m_hWnd, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
-        found.emplace(::GetDlgCtrlID(child), ChildCL { child, static_cast<int>(children->size()) });
+        found.emplace(::GetDlgCtrlID(child), ChildCL { child, static_cast<int>(children->size()), false });
         children->push_back(child);
     }
     return found;
@@ -62,7 +63,7 @@ std::vector<ChildCL> othersM(const std::vector<ChildCL>& order, const std::vecto
     std::vector<ChildCL> others;
     for (std::size_t i = 0; i < children.size(); ++i) {
         if (!isListed[i]) {
-            others.push_back({ children[i], static_cast<int>(i) });
+            others.push_back({ children[i], static_cast<int>(i), false });
         }
     }
     return others;
@@ -88,14 +89,16 @@ void stackM(const std::vector<ChildCL>& order, const std::vector<HWND>& children
         if (count(stayingBeside) - count(staying) > static_cast<std::ptrdiff_t>(others.size())) {
             staying.swap(stayingBeside);
             for (const ChildCL& arrows : others) {
-                ::SetWindowPos(arrows.window, HWND_BOTTOM, 0, 0, 0, 0, flags);
+                ::SetWindowPos(arrows.window, HWND_BOTTOM, 0, 0, 0, 0, flags | SWP_NOSENDCHANGING);
             }
         }
     }
     HWND above = HWND_TOP;
     for (std::size_t i = 0; i < order.size(); ++i) {
         if (!staying[i]) {
-            ::SetWindowPos(order[i].window, above, 0, 0, 0, 0, flags);
+            // The library's own classes don't change what is asked for.
+            ::SetWindowPos(
+                order[i].window, above, 0, 0, 0, 0, flags | (order[i].isOfKind ? SWP_NOSENDCHANGING : 0));
         }
         above = order[i].window;
     }
@@ -141,7 +144,7 @@ void DuBasicDialogCL::finishM(CWnd* parent, const TurnCL& turn)
         for (auto step = sorted.rbegin(); step != sorted.rend(); ++step) {
             if (!isPlaced[static_cast<std::size_t>(step->place)]) {
                 isPlaced[static_cast<std::size_t>(step->place)] = true;
-                order.push_back({ step->window, step->place });
+                order.push_back({ step->window, step->place, step->isOfKind });
             }
         }
         std::reverse(order.begin(), order.end());
