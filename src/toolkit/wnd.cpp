@@ -65,9 +65,7 @@ HWND CWnd::Detach()
     WNDPROC oldProc = std::exchange(oldProc_, nullptr);
     if (hWnd != nullptr) {
         ThreadStateCL& state = ThreadStateCL::ThisM();
-        if (state.permanent.FindM(hWnd) == this) {
-            state.permanent.RemoveM(hWnd);
-        }
+        state.permanent.RemoveM(hWnd, this);
         if (oldProc == nullptr || !::IsWindow(hWnd)) {
             return hWnd;
         }
@@ -229,6 +227,10 @@ void CWnd::OnNcDestroy()
     if (state.thread != nullptr && state.thread->m_pMainWnd == this) {
         state.thread->MainWndGone();
     }
-    state.left.erase(Detach()); // no message comes any more
+    // No message comes any more: the window's procedure may stay.
+    const HWND window = std::exchange(m_hWnd, nullptr);
+    oldProc_ = nullptr;
+    state.permanent.RemoveM(window, this);
+    state.left.erase(window);
     PostNcDestroy();
 }

@@ -43,9 +43,9 @@ void WndMapCL::PutM(HWND window, CWnd* object)
     place = { window, object };
 }
 
-void WndMapCL::RemoveM(HWND window)
+void WndMapCL::RemoveM(HWND window, const CWnd* object)
 {
-    if (FindM(window) == nullptr) {
+    if (object == nullptr || FindM(window) != object) {
         return;
     }
     std::size_t gap = placeM(window);

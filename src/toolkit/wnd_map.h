@@ -12,7 +12,7 @@ class WndMapCL
 public:
     CWnd* FindM(HWND window) const;       // The object, owned by whoever put it in; null: none, as for null.
     void PutM(HWND window, CWnd* object); // Neither is null; in place of another object of that window.
-    void RemoveM(HWND window);            // Nothing where there is none.
+    void RemoveM(HWND window, const CWnd* object); // Nothing where that object doesn't have it.
 
 private:
     struct PlaceCL
