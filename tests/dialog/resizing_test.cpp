@@ -196,7 +196,8 @@ TEST(Resizing, TheUserDragsTheFrame)
     dialog.GetWindowRect(&before);
     const std::string place = placeOf(dialog.ItemM(12));
     RECT after {};
-    Script drag;
+    ASSERT_TRUE(MoveMouseToM(::GetDesktopWindow(), before.right - 1, before.bottom - 1));
+    Script drag; // Its steps begin as soon as anything pumps.
     drag.DoM([&] { MoveMouseToM(::GetDesktopWindow(), before.right + 60, before.bottom + 45); })
         .WaitM(
             [&] {
@@ -205,7 +206,6 @@ TEST(Resizing, TheUserDragsTheFrame)
             },
             "the window to follow")
         .DoM([] { ReleaseM(); });
-    ASSERT_TRUE(MoveMouseToM(::GetDesktopWindow(), before.right - 1, before.bottom - 1));
     PressM(); // The loop of the drag runs in here, and the script in that.
     PumpUntil([&] { return drag.DoneM() && ::GetCapture() == nullptr; });
     dialog.GetWindowRect(&after);
