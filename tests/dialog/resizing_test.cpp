@@ -189,6 +189,36 @@ TEST(Resizing, NothingMakesItSmallerThanTheFileSays)
     EXPECT_EQ(dialog.PlaceM(12), "100 10 80 22");
 }
 
+namespace {
+
+// Notes for which style its frame was reckoned last.
+class FramedDialogCL : public DuBasicDialogCL
+{
+public:
+    LONG framed { 0 };
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NCCALCSIZE) {
+            framed = ::GetWindowLongW(m_hWnd, GWL_STYLE);
+        }
+        return DuBasicDialogCL::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST(Resizing, TheFrameIsThatOfADialogToBeResizedAtOnce)
+{
+    const DescriptionFileCL file(TwoBound);
+    FramedDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.CreateM(), 1);
+    EXPECT_NE(styleOf(dialog.m_hWnd) & WS_THICKFRAME, 0U);
+    EXPECT_NE(dialog.framed & WS_THICKFRAME, 0);
+}
+
 TEST(Resizing, TheUserDragsTheFrame)
 {
     ShownDialogCL dialog(TwoBound);
