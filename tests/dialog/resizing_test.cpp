@@ -191,32 +191,39 @@ TEST(Resizing, NothingMakesItSmallerThanTheFileSays)
 
 namespace {
 
-// Notes for which style its frame was reckoned last.
-class FramedDialogCL : public DuBasicDialogCL
+// Its frame is wider than the system says, as on a screen of another scale.
+class WideFrameDialogCL : public DuBasicDialogCL
 {
-public:
-    LONG framed { 0 };
-
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_NCCALCSIZE) {
-            framed = ::GetWindowLongW(m_hWnd, GWL_STYLE);
+        const LRESULT result = DuBasicDialogCL::WindowProc(message, wParam, lParam);
+        if (message == WM_NCCALCSIZE && (styleOf(m_hWnd) & WS_THICKFRAME) != 0) {
+            auto* const client = reinterpret_cast<RECT*>(lParam);
+            client->right -= 6;
+            client->bottom -= 4;
         }
-        return DuBasicDialogCL::WindowProc(message, wParam, lParam);
+        return result;
     }
 };
 
 } // namespace
 
-TEST(Resizing, TheFrameIsThatOfADialogToBeResizedAtOnce)
+TEST(Resizing, AWiderFrameTakesNothingOfTheClientArea)
 {
+    const ResizedDialogCL usual(TwoBound);
     const DescriptionFileCL file(TwoBound);
-    FramedDialogCL dialog;
+    WideFrameDialogCL dialog;
     dialog.SetConfigFileM(file.path());
     ASSERT_EQ(dialog.CreateM(), 1);
-    EXPECT_NE(styleOf(dialog.m_hWnd) & WS_THICKFRAME, 0U);
-    EXPECT_NE(dialog.framed & WS_THICKFRAME, 0);
+    RECT client {};
+    ::GetClientRect(dialog.m_hWnd, &client);
+    EXPECT_EQ(client.right, usual.ClientM().cx);
+    EXPECT_EQ(client.bottom, usual.ClientM().cy);
+    RECT window {};
+    ::GetWindowRect(dialog.m_hWnd, &window);
+    EXPECT_EQ(window.right - window.left, usual.WindowM().cx + 6);
+    EXPECT_EQ(window.bottom - window.top, usual.WindowM().cy + 4);
 }
 
 TEST(Resizing, TheUserDragsTheFrame)
