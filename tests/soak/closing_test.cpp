@@ -61,6 +61,7 @@ struct SceneCL
     {
         return way == DragFrame ? 2 : way > DragFrame && way < Modal ? 1 : 0;
     }
+    friend void PrintTo(const SceneCL& scene, std::ostream* out) { *out << scene.name; }
     static constexpr int LongList = 17;
 };
 
@@ -140,7 +141,7 @@ protected:
     {
         const bool isColour = moment.message >= WM_CTLCOLORMSGBOX && moment.message <= WM_CTLCOLORSTATIC;
         const bool asks = (isColour && moment.detail == MomentCL::Field) || moment.message == WM_MEASUREITEM
-            || moment.message == WM_DRAWITEM || moment.message == WM_NOTIFY
+            || moment.message == WM_DRAWITEM || moment.message == WM_DELETEITEM || moment.message == WM_NOTIFY
             || moment.message == WM_NOTIFYFORMAT;
         const UINT code = moment.message == WM_COMMAND ? HIWORD(moment.detail) : 0;
         const bool isBeforeTextShows = code == EN_UPDATE || (code == CBN_EDITUPDATE && scene.number == 19);

@@ -27,6 +27,7 @@ struct PlainCaseCL
     UINT message; // At the first of these in that step that has the code, if one is given, the control goes.
     UINT code;
     bool isBorne;
+    friend void PrintTo(const PlainCaseCL& one, std::ostream* out) { *out << one.name; }
 };
 
 constexpr UINT LbTrackPointMsg = 0x131;
