@@ -97,11 +97,16 @@ void DuBasicDialogCL::OnPaint()
 
 void DuBasicDialogCL::OnTimer(UINT_PTR id)
 {
+    const LifeCL life(this);
+    const HWND window = m_hWnd;
+    const auto isThere = [this, &life, window] { return life.IsAliveM() && m_hWnd == window; };
     if (id == StartTimer) {
         ShowWindow(SW_SHOW);
-        if (timerId_ != 0) {
+        if (isThere() && timerId_ != 0) {
             KillTimer(timerId_);
         }
     }
-    CDialog::OnTimer(id);
+    if (isThere()) {
+        CDialog::OnTimer(id);
+    }
 }

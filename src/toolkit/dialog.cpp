@@ -130,7 +130,8 @@ INT_PTR CDialog::DoModal()
     beginModalM();
     LifeCL life(this);
     try {
-        if (createM(dialogTemplate, owner) && life.IsAliveM()) {
+        // While it is made the application may have destroyed the window again: nothing is left to wait for.
+        if (createM(dialogTemplate, owner) && life.IsAliveM() && m_hWnd != nullptr) {
             RunModalLoop(MLF_SHOWONIDLE);
         }
     } catch (...) {

@@ -130,7 +130,9 @@ int CWnd::RunModalLoop(DWORD flags)
             if (!isShown) {
                 isShown = true;
                 ShowWindow(SW_SHOWNORMAL);
-                UpdateWindow();
+                if (life.IsAliveM() && m_hWnd == hWnd) { // Its end may be what the application does then.
+                    UpdateWindow();
+                }
                 continue;
             }
             thread->OnIdle(0);

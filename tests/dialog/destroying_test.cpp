@@ -1,4 +1,5 @@
 // Whom a dialog tells of its controls when it is destroyed, and when they go.
+#include "soak/guarded_object.h"
 #include "support/pump.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
@@ -48,6 +49,25 @@ private:
     bool* finds_;
 };
 
+// Deletes itself as soon as it is shown.
+class DeletedWhenShownCL : public DuBasicDialogCL
+{
+public:
+    static inline int living { 0 };
+    DeletedWhenShownCL() { ++living; }
+    ~DeletedWhenShownCL() override { --living; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SHOWWINDOW) {
+            delete this;
+            return 0;
+        }
+        return DuBasicDialogCL::WindowProc(message, wParam, lParam);
+    }
+};
+
 const std::string Labels = HeaderSections
     + std::string("[标题]\n2\n0\n1 11 10 10 90 20 1\na\n0 -1 0 0\n2 12 10 40 90 20 1\nb\n0 -1 0 0\n");
 
@@ -94,4 +114,15 @@ TEST(Destroying, AControlOfTheApplicationGoesWhileTheOthersAreThere)
     ::SetFocus(nullptr); // Else they go one by one.
     EXPECT_TRUE(dialog.DestroyWindow());
     EXPECT_TRUE(finds);
+}
+
+TEST(Destroying, AModelessDialogMayBeDeletedWhenItShowsItself)
+{
+    const DescriptionFileCL file(Labels);
+    const GuardedPagesCL pages;
+    auto* const dialog = new GuardedCL<DeletedWhenShownCL>;
+    dialog->SetConfigFileM(file.path());
+    ASSERT_EQ(dialog->CreateM(), 1);
+    EXPECT_TRUE(PumpUntil([] { return DeletedWhenShownCL::living == 0; }));
+    EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
 }

@@ -189,6 +189,43 @@ TEST(Resizing, NothingMakesItSmallerThanTheFileSays)
     EXPECT_EQ(dialog.PlaceM(12), "100 10 80 22");
 }
 
+namespace {
+
+// Its frame is wider than the system says, as on a screen of another scale.
+class WideFrameDialogCL : public DuBasicDialogCL
+{
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = DuBasicDialogCL::WindowProc(message, wParam, lParam);
+        if (message == WM_NCCALCSIZE && (styleOf(m_hWnd) & WS_THICKFRAME) != 0) {
+            auto* const client = reinterpret_cast<RECT*>(lParam);
+            client->right -= 6;
+            client->bottom -= 4;
+        }
+        return result;
+    }
+};
+
+} // namespace
+
+TEST(Resizing, AWiderFrameTakesNothingOfTheClientArea)
+{
+    const ResizedDialogCL usual(TwoBound);
+    const DescriptionFileCL file(TwoBound);
+    WideFrameDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_EQ(dialog.CreateM(), 1);
+    RECT client {};
+    ::GetClientRect(dialog.m_hWnd, &client);
+    EXPECT_EQ(client.right, usual.ClientM().cx);
+    EXPECT_EQ(client.bottom, usual.ClientM().cy);
+    RECT window {};
+    ::GetWindowRect(dialog.m_hWnd, &window);
+    EXPECT_EQ(window.right - window.left, usual.WindowM().cx + 6);
+    EXPECT_EQ(window.bottom - window.top, usual.WindowM().cy + 4);
+}
+
 TEST(Resizing, TheUserDragsTheFrame)
 {
     ShownDialogCL dialog(TwoBound);
@@ -196,7 +233,8 @@ TEST(Resizing, TheUserDragsTheFrame)
     dialog.GetWindowRect(&before);
     const std::string place = placeOf(dialog.ItemM(12));
     RECT after {};
-    Script drag;
+    ASSERT_TRUE(MoveMouseToM(::GetDesktopWindow(), before.right - 1, before.bottom - 1));
+    Script drag; // Its steps begin as soon as anything pumps.
     drag.DoM([&] { MoveMouseToM(::GetDesktopWindow(), before.right + 60, before.bottom + 45); })
         .WaitM(
             [&] {
@@ -205,7 +243,6 @@ TEST(Resizing, TheUserDragsTheFrame)
             },
             "the window to follow")
         .DoM([] { ReleaseM(); });
-    ASSERT_TRUE(MoveMouseToM(::GetDesktopWindow(), before.right - 1, before.bottom - 1));
     PressM(); // The loop of the drag runs in here, and the script in that.
     PumpUntil([&] { return drag.DoneM() && ::GetCapture() == nullptr; });
     dialog.GetWindowRect(&after);

@@ -39,7 +39,7 @@ private:
         std::fprintf(stderr, "crashed at %p; seed %u, step %d: %s %s\n",
             fault->ExceptionRecord->ExceptionAddress, seed_, step_, kind_, name_);
         std::fflush(stderr);
-        return EXCEPTION_CONTINUE_SEARCH;
+        return EXCEPTION_EXECUTE_HANDLER; // The program ends, without a debugger that nobody waits for.
     }
 
     static inline unsigned seed_ { 0 };

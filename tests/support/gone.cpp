@@ -13,6 +13,7 @@ namespace {
 constexpr unsigned char Gone = 0xDD;
 
 int messages = 0;
+DWORD thread = 0; // Whose messages count.
 
 // Freed blocks, not given back yet.
 struct BlockCL
@@ -50,7 +51,7 @@ struct SenderCL<function, refusesNone>
     {
         const bool isThere
             = window == HWND_BROADCAST || (window == nullptr && refusesNone) || ::IsWindow(window);
-        messages += isThere ? 0 : 1;
+        messages += isThere || ::GetCurrentThreadId() != thread ? 0 : 1;
         return original(window, message, wParam, lParam);
     }
 };
@@ -68,6 +69,7 @@ GoneCL::GoneCL()
         senderOf<&::SendMessageW, true>("SendMessageW"), senderOf<&::PostMessageW, false>("PostMessageW") })
 {
     messages = 0;
+    thread = ::GetCurrentThreadId();
 }
 
 GoneCL::~GoneCL()

@@ -4,7 +4,8 @@
 namespace testing_support {
 
 // While it lives, what the library and the test free is overwritten and kept from use, so that who reads or
-// writes it shows, and messages to windows that are gone are counted. One at a time.
+// writes it shows, and messages of this thread to windows that are gone are counted (those of one that
+// answers message boxes may come too late). One at a time.
 class GoneCL
 {
 public:

@@ -1,3 +1,4 @@
+#include "soak/guarded_object.h"
 #include "support/message_box.h"
 #include "support/pump.h"
 #include "toolkit/dialog_template.h"
@@ -83,6 +84,106 @@ TEST(Dialog, ModalDialogsNest)
     EXPECT_EQ(outer.DoModal(), 77);
     EXPECT_EQ(outer.innerResult, 77);
     EXPECT_FALSE(inner.ownerWasEnabled);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+namespace {
+
+// Its window goes while it is made, with or without a result.
+class VanishingDialogCL : public CDialog
+{
+public:
+    explicit VanishingDialogCL(int result)
+        : result_(result)
+    {
+    }
+    BOOL OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        if (result_ != 0) {
+            EndDialog(result_);
+        }
+        DestroyWindow();
+        return TRUE;
+    }
+
+private:
+    int result_;
+};
+
+// Ends what waits for messages in vain.
+class EndingCL
+{
+public:
+    EndingCL()
+        : timer_(::SetTimer(nullptr, 0, 3000, &end))
+    {
+        wasNeeded = false;
+    }
+    EndingCL(const EndingCL&) = delete;
+    EndingCL& operator=(const EndingCL&) = delete;
+    ~EndingCL()
+    {
+        ::KillTimer(nullptr, timer_);
+        MSG quit {};
+        ::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+    static inline bool wasNeeded { false };
+
+private:
+    static void CALLBACK end(HWND, UINT, UINT_PTR, DWORD)
+    {
+        wasNeeded = true;
+        ::PostQuitMessage(0);
+    }
+    UINT_PTR timer_;
+};
+
+// Deletes itself as soon as it is shown.
+class DeletedWhenShownCL : public CDialog
+{
+public:
+    static inline int living { 0 };
+    DeletedWhenShownCL() { ++living; }
+    ~DeletedWhenShownCL() override { --living; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SHOWWINDOW) {
+            delete this;
+            return 0;
+        }
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST(Dialog, ModalDialogWhoseWindowGoesWhileItIsMadeIsOver)
+{
+    TemplateCL shape;
+    for (const int result : { 0, 5 }) {
+        OwnerCL owner;
+        VanishingDialogCL dialog(result);
+        dialog.InitModalIndirect(shape, &owner);
+        const EndingCL ending;
+        EXPECT_EQ(dialog.DoModal(), result == 0 ? -1 : result);
+        EXPECT_FALSE(EndingCL::wasNeeded);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+    }
+}
+
+TEST(Dialog, ModalDialogMayBeDeletedWhenItIsShown)
+{
+    OwnerCL owner;
+    TemplateCL shape;
+    const GuardedPagesCL pages;
+    auto* const dialog = new GuardedCL<DeletedWhenShownCL>;
+    dialog->InitModalIndirect(shape, &owner);
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_EQ(DeletedWhenShownCL::living, 0);
+    EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 

@@ -1,5 +1,6 @@
 // Controls that an application paints by a painter.
 #include "controls/drawing/draw_2d.h"
+#include "soak/guarded_object.h"
 #include "support/handles.h"
 #include "support/pictured_dialog.h"
 #include <gtest/gtest.h>
@@ -288,6 +289,26 @@ TEST_F(PainterTest, OneMayDestroyItsControlsOrItsDialog)
     EXPECT_EQ(other, nullptr);
     EXPECT_EQ(kept.use_count(), 1);
     EXPECT_EQ(alive.use_count(), 2); // The first dialog keeps its painter for the next build.
+}
+
+TEST_F(PainterTest, NothingIsTouchedOfAControlThatItHasDestroyed)
+{
+    const GuardedPagesCL pages;
+    dialog_.SetFactoryM<DuDraw2DCL>([](int) { return std::make_unique<GuardedCL<DuDraw2DCL>>(); });
+    buildM();
+    for (const bool throws : { false, true }) {
+        EXPECT_TRUE(dialog_.SetPainterM(11, [this, throws](CDC&, const CSize&) {
+            dialog_.DestroyM();
+            if (throws) {
+                throw std::runtime_error("and more");
+            }
+        }));
+        PumpPending();
+        EXPECT_EQ(windowM(), nullptr);
+        EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
+        buildM();
+    }
+    dialog_.DestroyM();
 }
 
 TEST_F(PainterTest, IsKeptThroughEveryBuild)
