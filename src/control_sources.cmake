@@ -42,6 +42,7 @@ set(PANELKIT_CONTROL_SOURCES
   controls/text/single_edit.cpp
   controls/text/spin_button.cpp
   controls/text/spin_edit.cpp
+  controls/text/spin_edit_steps.cpp
   controls/text/text_box.cpp
   controls/text/tool_tip.cpp
   dialog/basic_dialog.cpp
@@ -74,6 +75,7 @@ set(PANELKIT_CONTROL_SOURCES
   form/dialog_handles.cpp
   form/hosted_dialog.cpp
   form/hosted_dialog_events.cpp
+  pictures/bitmap_arr.cpp
   pictures/bitmap_record.cpp
   pictures/brush_record.cpp
   pictures/image_cache.cpp

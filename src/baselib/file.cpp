@@ -60,3 +60,10 @@ std::size_t slReadFileBeginning(const char* path, void* to, std::size_t most, st
     std::fclose(file);
     return read;
 }
+
+bool slIsTooLargeToRead(const char* path)
+{
+    std::size_t size = 0;
+    slReadFileBeginning(path, nullptr, 0, &size);
+    return size > 0;
+}

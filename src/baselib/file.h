@@ -12,6 +12,9 @@ FILE* slOpenFile(const char* path, bool writing);
 // file that can be opened: a pipe or a device could wait for ever, and reading one never end.
 std::unique_ptr<char[]> slReadFile(const char* path, std::size_t* size);
 
+// Whether slReadFile gave nothing because there is no memory for the file: it can be opened, and isn't empty.
+bool slIsTooLargeToRead(const char* path);
+
 // The first bytes of a regular file, at most `most`, and *size, how many it has in all. Their number; 0 for
 // anything else.
 std::size_t slReadFileBeginning(const char* path, void* to, std::size_t most, std::size_t* size);

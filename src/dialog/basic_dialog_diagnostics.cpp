@@ -1,8 +1,10 @@
 // Who is told what is wrong with the description file.
+#include "baselib/file.h"
 #include "baselib/gbk.h"
 #include "baselib/io.h"
 #include "dialog/basic_dialog.h"
 #include "dialog/reading_diagnostics.h"
+#include "toolkit/thread_state.h"
 #include <string>
 
 namespace {
@@ -39,6 +41,9 @@ void DuBasicDialogCL::beginDiagnosticsM()
 void DuBasicDialogCL::openFileM(VrIOCL& io)
 {
     io.OpenM(configFile_, "r");
+    if (!io.IsOpenM() && slIsTooLargeToRead(configFile_)) {
+        ThreadStateCL::ThisM().hasLackedMemory = true;
+    }
     if (diagnostics_ != nullptr) {
         diagnostics_->WatchM(configFile_, io);
     }

@@ -1,7 +1,6 @@
 #include "dialog/reading_diagnostics.h"
 #include "baselib/file.h"
 #include "baselib/gbk_texts.h"
-#include "baselib/helpers.h"
 #include "baselib/io.h"
 #include "pictures/bmp_reader.h"
 #include "records/fields.h"
@@ -86,18 +85,22 @@ void ReadingDiagnosticsCL::checkPictureM(const ValueSeenCL& value)
     if (name.empty() || slIsNullWord(name.c_str()) != 0 || goodPictures_.count(name) > 0) {
         return;
     }
-    int w = 0;
-    int h = 0;
-    unsigned char* pixels = nullptr;
+    unsigned char beginning[BmpBeginning];
     std::size_t size = 0;
-    const bool isGood = slLoadBmpTexture(name.c_str(), &w, &h, &pixels) != 0;
-    slFree(pixels);
-    if (isGood) {
+    const std::size_t held = slReadFileBeginning(name.c_str(), beginning, sizeof beginning, &size);
+    const auto isJudged = [&](int (*judge)(const void*, std::size_t, std::size_t)) {
+        const int early = judge(beginning, held, size);
+        const std::unique_ptr<char[]> whole = early < 0 ? slReadFile(name.c_str(), &size) : nullptr;
+        return (early < 0 ? judge(whole.get(), size, size) : early) == 1;
+    };
+    if (isJudged(&slIsBmp)) {
         goodPictures_.insert(name);
-    } else if (slReadFile(name.c_str(), &size) == nullptr) {
+    } else if (held == 0 && slReadFile(name.c_str(), &size) == nullptr) {
         tellM("missing-file", &value.span, "there is no file '" + name + "'");
-    } else {
+    } else if (!isJudged(&slIsShownBmp)) {
         tellM("bad-picture", &value.span, "'" + name + "' is no .bmp picture that can be shown");
+    } else if (std::strcmp(value.field, RegionField) == 0) {
+        tellM("bad-picture", &value.span, "'" + name + "' has too many pixels: no region is made of it");
     }
 }
 

@@ -1,9 +1,11 @@
 // The C interface: opening, showing and closing.
+#include "baselib/file.h"
 #include "baselib/gbk.h"
 #include "baselib/io.h"
 #include "form/dialog_handles.h"
 #include "form/form_host.h"
 #include "form/panelkit_c.h"
+#include "toolkit/thread_state.h"
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -41,6 +43,9 @@ panelkit_status checkFile(const std::string& path, const char* file)
     VrIOCL io;
     io.OpenM(path.c_str(), "r");
     DialogHeaderCL header;
+    if (!io.IsOpenM() && slIsTooLargeToRead(path.c_str())) {
+        return PANELKIT_ERROR_MEMORY;
+    }
     if (!io.IsOpenM()) {
         slThreadError() = std::string("can't read ") + file;
     } else if (slReadDialogHeader(io, header) == 0) {
@@ -73,6 +78,9 @@ panelkit_status open(const char* file, const panelkit_options* given, panelkit_d
     }
     if (!dialog->BuildM(path, static_cast<HWND>(options.owner))) {
         return PANELKIT_ERROR_WINDOW;
+    }
+    if (ThreadStateCL::ThisM().hasLackedMemory) {
+        return PANELKIT_ERROR_MEMORY; // Not all of it is there.
     }
     slKeepHandle(dialog.get());
     *handle = dialog.release()->HandleM();

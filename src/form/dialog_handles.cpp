@@ -1,7 +1,9 @@
 #include "form/dialog_handles.h"
 #include "form/handle_table.h"
+#include "toolkit/thread_state.h"
 #include <cstring>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -59,7 +61,13 @@ panelkit_status slGuarded(std::string* error, CallRefCL<panelkit_status()> call)
         text.clear();
         panelkit_status status = PANELKIT_ERROR_INTERNAL;
         try {
+            ThreadStateCL& thread = ThreadStateCL::ThisM();
+            thread.hasLackedMemory = false;
             status = call();
+            // A message between us and what failed has kept the exception.
+            if (status != PANELKIT_OK && std::exchange(thread.hasLackedMemory, false)) {
+                status = PANELKIT_ERROR_MEMORY;
+            }
         } catch (const std::bad_alloc&) {
             status = PANELKIT_ERROR_MEMORY;
         } catch (const std::exception& thrown) {

@@ -208,6 +208,10 @@ bool slCanPlatformLoadBmp(const BmpBytes& file)
     if (headersEnd > file.size || header.pixelsAt < FileHeaderSize || header.pixelsAt > file.size) {
         return false;
     }
+    // Beyond these it counts wrong, or crashes.
+    if (header.stride() > INT_MAX / static_cast<std::size_t>(header.height)) {
+        return false;
+    }
     return header.isRunCoded() ? header.codesSize != 0 && file.holds(header.pixelsAt, header.codesSize)
                                : header.holdsRows(file);
 }

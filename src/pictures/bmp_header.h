@@ -1,4 +1,5 @@
 #pragma once
+#include <climits>
 #include <cstddef>
 #include <cstdint>
 
@@ -53,6 +54,11 @@ struct BmpHeader
     BmpColour palette[256];      // Black for indices without a colour.
 
     bool isRunCoded() const { return coding == BmpCoding::Rle8 || coding == BmpCoding::Rle4; }
+    // More than a buffer of three bytes a pixel, or a region made of one, is given room for.
+    bool hasTooManyPixels() const
+    {
+        return static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) > INT_MAX / 3;
+    }
     // Bytes of a row of pixels that aren't run-length coded, and whether the file holds them all.
     std::size_t stride() const
     {
@@ -71,7 +77,7 @@ struct BmpHeader
 bool slReadBmpHeader(const BmpBytes& file, BmpHeader* header);
 
 // Whether the platform's loader can be given the file: it reads what the headers announce without asking for
-// the file's end, and doesn't know pictures stored from the top, runs of unknown size and the headers of
-// OS/2. As much is looked at. Less strict than slReadBmpHeader where the loader makes something of it, e.g.
-// of masks with gaps.
+// the file's end, and doesn't know pictures stored from the top, runs of unknown size, rows of more than
+// INT_MAX bytes in all and the headers of OS/2. As much is looked at. Less strict than slReadBmpHeader where
+// the loader makes something of it, e.g. of masks with gaps.
 bool slCanPlatformLoadBmp(const BmpBytes& file);

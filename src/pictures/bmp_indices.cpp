@@ -1,6 +1,5 @@
 #include "pictures/bmp_indices.h"
 #include "pictures/bmp_rle.h"
-#include <climits>
 #include <utility>
 
 namespace {
@@ -8,17 +7,6 @@ namespace {
 // A few codes may announce a large empty picture: no more pixels than these for a file are believed.
 constexpr std::uint64_t RunPixelsAtLeast = 1U << 20;
 constexpr std::uint64_t RunPixelsPerByte = 256;
-
-bool announcesTooMuch(const BmpBytes& file, const BmpHeader& header)
-{
-    const std::uint64_t pixels
-        = static_cast<std::uint64_t>(header.width) * static_cast<std::uint64_t>(header.height);
-    if (pixels > INT_MAX / 3) {
-        return true;
-    }
-    return header.isRunCoded() ? pixels > RunPixelsAtLeast + RunPixelsPerByte * file.size
-                               : !header.holdsRows(file);
-}
 
 void unpackRows(const BmpBytes& file, const BmpHeader& header, unsigned char* to)
 {
@@ -37,9 +25,18 @@ void unpackRows(const BmpBytes& file, const BmpHeader& header, unsigned char* to
 
 } // namespace
 
+bool slAnnouncesTooMuch(const BmpBytes& file, const BmpHeader& header)
+{
+    const std::uint64_t pixels
+        = static_cast<std::uint64_t>(header.width) * static_cast<std::uint64_t>(header.height);
+    return header.hasTooManyPixels()
+        || (header.isRunCoded() ? pixels > RunPixelsAtLeast + RunPixelsPerByte * file.size
+                                : !header.holdsRows(file));
+}
+
 bool slDecodeBmpIndices(const BmpBytes& file, const BmpHeader& header, std::vector<unsigned char>* indices)
 {
-    if (announcesTooMuch(file, header)) {
+    if (slAnnouncesTooMuch(file, header)) {
         return false;
     }
     if (indices == nullptr) {

@@ -43,7 +43,9 @@ int slLoadBmpPicture3D(const char* file, int* w, int* h, unsigned char** pixels)
     return slLoadBmpTexture(file, w, h, pixels);
 }
 
-int slIsBmp(const void* data, std::size_t held, std::size_t size)
+namespace {
+
+int judged(const void* data, std::size_t held, std::size_t size, int (*judge)(const BmpBytes&, std::size_t))
 {
     static_assert(BmpBeginning == BmpHeadersSize, "more is not looked at");
     if (data == nullptr) {
@@ -52,5 +54,17 @@ int slIsBmp(const void* data, std::size_t held, std::size_t size)
     if (held < size && held < BmpBeginning) {
         return -1;
     }
-    return slJudgeBmp({ static_cast<const unsigned char*>(data), size }, held);
+    return judge({ static_cast<const unsigned char*>(data), size }, held);
+}
+
+} // namespace
+
+int slIsBmp(const void* data, std::size_t held, std::size_t size)
+{
+    return judged(data, held, size, &slJudgeBmp);
+}
+
+int slIsShownBmp(const void* data, std::size_t held, std::size_t size)
+{
+    return judged(data, held, size, &slJudgeShownBmp);
 }

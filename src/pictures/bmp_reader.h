@@ -27,3 +27,7 @@ PANELKIT_API int slDecodeBmp(const void* data, std::size_t size, int* w, int* h,
 // for pixels.
 constexpr std::size_t BmpBeginning = 1178;
 PANELKIT_API int slIsBmp(const void* data, std::size_t held, std::size_t size);
+
+// The same of showing the picture, which needs no buffer for the pixels: it may have more of them than
+// slDecodeBmp delivers, and then a region can't be made of it.
+PANELKIT_API int slIsShownBmp(const void* data, std::size_t held, std::size_t size);

@@ -1,7 +1,6 @@
 #include "pictures/bmp_rows.h"
 #include "baselib/file.h"
 #include "pictures/bmp_indices.h"
-#include <climits>
 
 namespace {
 
@@ -19,13 +18,6 @@ unsigned char component(std::uint32_t pixel, const BmpField& field)
     return static_cast<unsigned char>(value);
 }
 
-bool hasTooManyPixels(const BmpHeader& header)
-{
-    const std::uint64_t pixels
-        = static_cast<std::uint64_t>(header.width) * static_cast<std::uint64_t>(header.height);
-    return pixels > INT_MAX / 3;
-}
-
 } // namespace
 
 std::unique_ptr<char[]> slReadBmpFile(const char* file, std::size_t* size)
@@ -34,7 +26,7 @@ std::unique_ptr<char[]> slReadBmpFile(const char* file, std::size_t* size)
     unsigned char headers[BmpHeadersSize] {};
     BmpHeader header;
     const bool isThere = file != nullptr && slReadFileBeginning(file, headers, sizeof headers, size) > 0;
-    if (!isThere || !slReadBmpHeader({ headers, *size }, &header) || hasTooManyPixels(header)) {
+    if (!isThere || !slReadBmpHeader({ headers, *size }, &header) || header.hasTooManyPixels()) {
         *size = 0;
         return nullptr;
     }
@@ -44,7 +36,7 @@ std::unique_ptr<char[]> slReadBmpFile(const char* file, std::size_t* size)
 int slJudgeBmp(const BmpBytes& file, std::size_t held)
 {
     BmpHeader header;
-    if (!slReadBmpHeader(file, &header) || hasTooManyPixels(header)) {
+    if (!slReadBmpHeader(file, &header) || header.hasTooManyPixels()) {
         return 0;
     }
     if (!header.isRunCoded()) {
@@ -56,10 +48,20 @@ int slJudgeBmp(const BmpBytes& file, std::size_t held)
     return slDecodeBmpIndices(file, header, nullptr) ? 1 : 0;
 }
 
+int slJudgeShownBmp(const BmpBytes& file, std::size_t held)
+{
+    const int judgement = slJudgeBmp(file, held);
+    BmpHeader header;
+    return judgement == 0 && slReadBmpHeader(file, &header) && slAnnouncesTooMuch(file, header)
+            && slCanPlatformLoadBmp(file)
+        ? 1
+        : judgement;
+}
+
 BmpRowsCL::BmpRowsCL(const BmpBytes& file)
     : file_(file)
 {
-    if (!slReadBmpHeader(file, &header_) || hasTooManyPixels(header_)) {
+    if (!slReadBmpHeader(file, &header_) || header_.hasTooManyPixels()) {
         return;
     }
     isGood_ = header_.isRunCoded() ? slDecodeBmpIndices(file_, header_, &indices_) : header_.holdsRows(file_);

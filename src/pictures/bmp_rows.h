@@ -10,6 +10,8 @@ std::unique_ptr<char[]> slReadBmpFile(const char* file, std::size_t* size);
 // Whether BmpRowsCL reads a file of which only the first `held` bytes are there, at least the headers: 1, 0,
 // or -1 when the rest is needed to tell.
 int slJudgeBmp(const BmpBytes& file, std::size_t held);
+// The same of what a control shows: pictures of too many pixels for BmpRowsCL too.
+int slJudgeShownBmp(const BmpBytes& file, std::size_t held);
 
 // The pixels of a .bmp file row by row, as pictures/bmp_reader.h tells of them: only run-length coded ones
 // are unpacked whole, to a byte a pixel.

@@ -5,6 +5,7 @@
 #include "pictures/bmp_indices.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/bmp_rle.h"
+#include "pictures/bmp_rows.h"
 #include <algorithm>
 #include <cstring>
 #include <iterator>
@@ -229,7 +230,7 @@ HBITMAP slMakeBitmap(const char* file)
             return static_cast<HBITMAP>(loaded);
         }
     }
-    const std::unique_ptr<char[]> read = slReadFile(file, &size);
+    const std::unique_ptr<char[]> read = slReadBmpFile(file, &size);
     const BmpBytes bytes { reinterpret_cast<const unsigned char*>(read.get()), size };
     BmpHeader header;
     if (!slReadBmpHeader(bytes, &header)) {

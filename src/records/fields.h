@@ -37,6 +37,9 @@ struct TextFormCL
     int size;          // With its terminator; what is longer is cut at a character.
 };
 
+// The field whose picture a region is made of.
+inline constexpr char RegionField[] = "region";
+
 // One of the values that a field may have, and what it means.
 struct ChoiceCL
 {

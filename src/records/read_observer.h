@@ -59,8 +59,8 @@ struct SeenRoomCL
 {
     SeenValueCL* next { nullptr }; // The place of the next one,
     SeenValueCL* end { nullptr };  // and the end of the room.
-    // The reader sets this to false where not all values of the record were read whole, with blanks between
-    // them; it may do so without need.
+    // The reader sets this to false where not all values that it has kept here were read whole, with blanks
+    // between them; it may do so without need.
     bool isPlain { false };
 };
 

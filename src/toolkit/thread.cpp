@@ -3,6 +3,7 @@
 #include "toolkit/thread_state.h"
 #include <cstdlib>
 #include <memory>
+#include <new>
 #include <process.h>
 #include <utility>
 
@@ -160,6 +161,9 @@ LRESULT AfxAnswerException(const MSG& message)
         }
         e->Delete();
         return result;
+    } catch (const std::bad_alloc&) {
+        ThreadStateCL::ThisM().hasLackedMemory = true;
+        AfxLogFailure("a message handler found no memory", nullptr);
     } catch (...) {
         AfxLogFailure("a message handler threw an exception", nullptr);
     }

@@ -36,6 +36,7 @@ struct ThreadStateCL
     HWND exchanging = nullptr; // the window that UpdateData is working on
     int waits = 0;             // for the hourglass
     HCURSOR beforeWait = nullptr;
+    bool hasLackedMemory = false; // a handler did, since somebody asked
 
     int loopDepth = 0;                 // depth of window procedures when the innermost message loop began
     unsigned long long loopSerial = 0; // objects up to this one belong to code outside that loop

@@ -6,6 +6,7 @@
 #include "toolkit/module.h"
 #include "toolkit/text.h"
 #include "toolkit/thread_state.h"
+#include <new>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
@@ -72,7 +73,11 @@ HWND CWnd::Detach()
         if (reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(hWnd, GWLP_WNDPROC)) == AfxWndProc) {
             ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(oldProc));
         } else {
-            state.left[hWnd] = oldProc; // somebody's procedure goes on calling ours
+            try {
+                state.left[hWnd] = oldProc; // somebody's procedure goes on calling ours
+            } catch (const std::bad_alloc&) {
+                // Destructors come here. The system's own procedure takes the messages then.
+            }
         }
     }
     return hWnd;

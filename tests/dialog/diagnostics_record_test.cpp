@@ -3,6 +3,7 @@
 #include "dialog/kinds.h"
 #include "dialog/reading_diagnostics.h"
 #include "support/description.h"
+#include "support/large_picture.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -132,6 +133,20 @@ TEST(ReadingDiagnostics, PicturesThatAreMissingOrNoneAreToldEachTimeTheyAreNamed
         LinesTP { "10:1 bad-picture '" + name + "' is no .bmp picture that can be shown" });
     const std::string lamp = PANELKIT_SAMPLES "/check/lamp.bmp";
     EXPECT_EQ(told("[版本号]\n1.0\n[对话框]\n0\n1 2\n30 40\n1\n甲\n14 2 4\n" + lamp + "\n"), LinesTP());
+}
+
+TEST(ReadingDiagnostics, APictureOfTooManyPixelsIsGoodExceptForARegion)
+{
+    const LargePictureCL large(1, 30000, 30000);
+    const std::string name = std::filesystem::path(large.path()).generic_string();
+    const std::string button = "[位图按钮]\n1\n0\n2 1101 100 10 64 32\n" + name + "\nNULL\nNULL\nNULL\n";
+    EXPECT_EQ(toldBelowHeader(button + "NULL\n"), LinesTP());
+    EXPECT_EQ(toldBelowHeader(button + name + "\n"),
+        LinesTP { "19:1 bad-picture '" + name + "' has too many pixels: no region is made of it" });
+    const TempFile empty("", ".bmp");
+    const std::string nothing = std::filesystem::path(empty.path()).generic_string();
+    EXPECT_EQ(told("[版本号]\n1.0\n[对话框]\n0\n1 2\n30 40\n1\n甲\n14 2 4\n" + nothing + "\n"),
+        LinesTP { "10:1 bad-picture '" + nothing + "' is no .bmp picture that can be shown" });
 }
 
 TEST(ReadingDiagnostics, SecondarySectionsThatAreMissingAndEntriesOfNobodyAreTold)

@@ -123,6 +123,13 @@ TEST(GuardedTexts, LinesOfFiles)
             EXPECT_FALSE(filled(260, [&](char* to) { io.GetFilePathM(to); }).empty());
         }
     }
+    for (const std::string& text : textsAround(260)) {
+        VrIOCL io; // Where a text is from may be a long path.
+        given(text + "/a", [&](const char* path) {
+            io.OpenM(std::make_shared<const FileTextCL>("1"), path);
+            EXPECT_EQ(filled(260, [&](char* to) { io.GetFilePathM(to); }), cut(text + "/", 260));
+        });
+    }
 }
 
 TEST(GuardedTexts, ValuesOfControls)

@@ -30,6 +30,7 @@ struct Picture
 void expectJudgement(int result, const std::vector<unsigned char>& bytes)
 {
     EXPECT_EQ(slIsBmp(bytes.data(), bytes.size(), bytes.size()), result);
+    EXPECT_GE(slIsShownBmp(bytes.data(), bytes.size(), bytes.size()), result);
     const std::vector<unsigned char> beginning(
         bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(std::min(bytes.size(), BmpBeginning)));
     const int early = slIsBmp(beginning.data(), beginning.size(), bytes.size());
@@ -504,6 +505,64 @@ TEST(BmpReader, JudgesPlainPicturesByTheirBeginning)
     EXPECT_EQ(slIsBmp(nullptr, BmpBeginning, bytes.size()), 0);
     bytes[0] = 'X';
     EXPECT_EQ(slIsBmp(bytes.data(), BmpBeginning, bytes.size()), 0);
+}
+
+namespace {
+
+// The headers of a picture whose rows would follow.
+struct LargeBmpCL
+{
+    explicit LargeBmpCL(int bits, int width, int height)
+    {
+        BmpFile file;
+        file.width = width;
+        file.height = height;
+        file.bits = bits;
+        file.palette.resize(bits <= 8 ? std::size_t { 1 } << bits : 0);
+        bytes = file.bytes();
+        const auto stride = (static_cast<std::size_t>(width) * static_cast<std::size_t>(bits) + 31) / 32 * 4;
+        size = bytes.size() + stride * static_cast<std::size_t>(height);
+        bytes.resize(BmpBeginning);
+    }
+    int IsBmpM() const { return slIsBmp(bytes.data(), BmpBeginning, size); }
+    int IsShownM(std::size_t lacking = 0) const
+    {
+        return slIsShownBmp(bytes.data(), BmpBeginning, size - lacking);
+    }
+    std::vector<unsigned char> bytes;
+    std::size_t size;
+};
+
+} // namespace
+
+TEST(BmpReader, PicturesOfTooManyPixelsForABufferAreShown)
+{
+    for (const int bits : { 1, 4, 8 }) {
+        const LargeBmpCL large(bits, 30000, 30000);
+        EXPECT_EQ(large.IsBmpM(), 0) << bits;
+        EXPECT_EQ(large.IsShownM(), 1) << bits;
+        EXPECT_EQ(large.IsShownM(1), 0) << bits;                          // Cut short.
+        EXPECT_EQ(LargeBmpCL(bits, 30000, -30000).IsShownM(), 0) << bits; // Which only we could unpack.
+    }
+    const LargeBmpCL most(8, 65535, 10922); // As many pixels as there may be.
+    EXPECT_EQ(most.IsBmpM(), 1);
+    EXPECT_EQ(most.IsShownM(), 1);
+    EXPECT_EQ(LargeBmpCL(8, 65536, 10923).IsBmpM(), 0);
+    EXPECT_EQ(LargeBmpCL(8, 65536, 10923).IsShownM(), 1);
+    EXPECT_EQ(LargeBmpCL(8, 65536, 32767).IsShownM(), 1);
+    EXPECT_EQ(LargeBmpCL(8, 65536, 32768).IsShownM(), 0); // Its rows take 2 GB.
+    EXPECT_EQ(LargeBmpCL(24, 27000, 26600).IsShownM(), 0);
+    EXPECT_EQ(slIsShownBmp(nullptr, BmpBeginning, most.size), 0);
+    EXPECT_EQ(slIsShownBmp(most.bytes.data(), BmpBeginning - 1, most.size), -1);
+}
+
+TEST(BmpReader, RunsThatAnnounceMoreThanIsBelievedAreShown)
+{
+    BmpFile file = codedBmp(8, 20000, 20000, { 0, 1 });
+    EXPECT_EQ(slIsShownBmp(file.bytes().data(), file.bytes().size(), file.bytes().size()), 0);
+    file.codesSize = 2; // The platform's loader must know.
+    EXPECT_EQ(slIsShownBmp(file.bytes().data(), file.bytes().size(), file.bytes().size()), 1);
+    EXPECT_EQ(slIsBmp(file.bytes().data(), file.bytes().size(), file.bytes().size()), 0);
 }
 
 TEST(BmpReader, NeedsAllOfARunCodedPictureToJudge)

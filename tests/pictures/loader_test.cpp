@@ -2,6 +2,7 @@
 #include "pictures/bitmap_record.h"
 #include "pictures/bmp_reader.h"
 #include "pictures/region_functions.h"
+#include "support/large_picture.h"
 #include "support/platform_pictures.h"
 #include <cstring>
 #include <random>
@@ -294,6 +295,16 @@ TEST(LoadPicture, EveryKindIsShownAsItIsReadInItsOwnDepth)
     const TestFile greens("loader_greens.bmp", masked);
     EXPECT_FALSE(loadByUs(greens.path()).bytes.empty());
     EXPECT_TRUE(loadByUs(greens.path()).bytes == shownByUs(greens.path()).bytes);
+}
+
+// Which the platform's loader would count wrong.
+TEST(LoadPicture, RowsOfMoreThanTwoGigabytesAreNotLoaded)
+{
+    CBitmap bitmap;
+    slLoadPicture(&bitmap, LargePictureCL(24, 27000, 26600).path());
+    EXPECT_EQ(bitmap.GetSafeHandle(), nullptr);
+    slLoadPicture(&bitmap, LargePictureCL(1, 30000, 30000).path());
+    EXPECT_NE(bitmap.GetSafeHandle(), nullptr);
 }
 
 // Codes of an unknown size look as they would if the header told it.

@@ -1,5 +1,6 @@
 #include "baselib/gbk.h"
 #include "support/description.h"
+#include "support/large_picture.h"
 #include "support/random_description.h"
 #include "tools/run_command.h"
 #include <filesystem>
@@ -301,6 +302,19 @@ TEST(Check, SlipCostsTheRecordsThatAreReadWronglyNotThoseBehindThem)
 
 // The properties that the schema of SARIF 2.1.0 requires of what is written here, and their types; written by
 // hand, as the schema itself isn't at hand.
+TEST(Check, PictureOfTooManyPixelsIsGoodExceptForARegion)
+{
+    const LargePictureCL large(1, 30000, 30000);
+    const std::string name = std::filesystem::path(large.path()).filename().u8string();
+    const DescriptionFileCL file(std::string(HeaderSections)
+        + "[标题]\n1\n0\n1 1001 10 10 80 20 1\n转速\n0 -1 0 0\n" + "[位图按钮]\n1\n0\n2 1101 100 10 64 32\n"
+        + name + "\nNULL\nNULL\nNULL\n" + name + "\n");
+    const std::string said = check(file.path()).output;
+    EXPECT_EQ(placesOf(said, file.path()), "25:1: error [bad-picture]\n") << said;
+    EXPECT_NE(said.find("'" + name + "' has too many pixels: no region is made of it"), std::string::npos)
+        << said;
+}
+
 TEST(Check, SarifHasWhatItsSchemaRequires)
 {
     const nlohmann::json sarif = sarifOf(Samples + "/outside-dialog.gbk");

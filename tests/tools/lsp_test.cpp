@@ -1,12 +1,8 @@
 // panelkit lsp: sessions of an editor.
 #include "baselib/gbk_texts.h"
-#include "baselib/io.h"
-#include "controls/buttons/new_rotate_btn_record.h"
-#include "dialog/binding.h"
-#include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
-#include "dialog/relation.h"
 #include "editing/grammars.h"
+#include "reading.h"
 #include "support/description.h"
 #include "support/seen_file.h"
 #include "tools/lsp_client.h"
@@ -24,16 +20,7 @@ SeenFileCL seenIn(const std::string& gbk)
     VrIOCL io;
     io.OpenM(std::make_shared<FileTextCL>(gbk));
     io.SetObserverM(&seen);
-    DialogHeaderCL header;
-    slReadDialogHeader(io, header);
-    slEachKindAsBuilt([&](auto row) {
-        typename decltype(row)::Records records;
-        int count = 0;
-        slReadSection(io, records, &count);
-    });
-    slReadRelations(io, nullptr);
-    slReadBindings(io, nullptr);
-    DVrNewRotateBtnArr().FmReadInterfaceM(&io);
+    readAllSections(io, [](const char*, auto&) {});
     return seen;
 }
 

@@ -32,7 +32,7 @@ public:
     void CheckM()
     {
         RecordViewCL view;
-        std::vector<SpanCL> pictures; // There are none.
+        std::vector<NamedPictureCL> pictures; // There are none.
         for (int i = 0; i < section_.soundRecords; ++i) {
             BindingCL& binding = file_.BindingsM()[static_cast<std::size_t>(i)];
             view.BeginM(section_, i);

@@ -35,7 +35,7 @@ void checkEntry(FileReadingCL& file, const GrammarCL& grammar, const RowShapeCL&
     if (value.fate == Fate::Cut) {
         findings.AddM(Says::TextTooLong, value.begin, { value.field, std::to_string(text->size - 1) });
     } else if (value.fate == Fate::Read && text->isPicture) {
-        pictures.CheckM(pictureOf(grammar, file.BytesM(value)), value.begin, findings);
+        pictures.CheckM(pictureOf(grammar, file.BytesM(value)), false, value.begin, findings);
     }
 }
 

@@ -58,6 +58,7 @@
     X(MissingSecondary, "missing-secondary", Error, "section {0} is missing: without it no control of {1} is built (a count of 0 will do)", "缺少 {0} 节: 没有它 {1} 的控件都不会建立 (数目可以为 0)") \
     X(MissingFile, "missing-file", Error, "there is no file '{0}'", "没有文件 '{0}'") \
     X(BadPicture, "bad-picture", Error, "'{0}' is no .bmp picture that can be shown", "'{0}' 不是可以显示的 .bmp 图片") \
+    X(NoRegion, "bad-picture", Error, "'{0}' has too many pixels: no region is made of it, as if none were named", "'{0}' 的像素过多: 不会用它生成区域, 如同没有指定") \
     X(RemoteFile, "remote-file", Warning, "'{0}' names a network or device path, which opening the dialog would touch", "'{0}' 是网络或设备路径, 打开对话框时会访问它") \
     X(ZeroGrid, "zero-grid", Warning, "{0} is {1}: it counts as 1", "{0} 为 {1}: 按 1 处理") \
     X(OutsideDialog, "outside-dialog", Warning, "the control ({0}) reaches beyond the dialog's {1} x {2} pixels", "控件 ({0}) 超出对话框的 {1} x {2} 像素") \

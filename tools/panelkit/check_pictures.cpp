@@ -34,8 +34,8 @@ bool isRemote(const std::string& name)
         && stem[3] >= '1' && stem[3] <= '9';
 }
 
-// Whether the file is a picture that can be shown. Of large ones only the beginning is read.
-bool isPicture(const std::filesystem::path& path)
+// What slIsBmp or slIsShownBmp says of a file. Of large ones only the beginning is read.
+bool isPicture(const std::filesystem::path& path, int (*judge)(const void*, std::size_t, std::size_t))
 {
     std::error_code error;
     const auto size = static_cast<std::size_t>(std::filesystem::file_size(path, error));
@@ -51,10 +51,10 @@ bool isPicture(const std::filesystem::path& path)
     if (!read(0)) {
         return false;
     }
-    int result = slIsBmp(bytes.data(), bytes.size(), size);
+    int result = judge(bytes.data(), bytes.size(), size);
     if (result < 0) {
         bytes.resize(size);
-        result = read(BmpBeginning) ? slIsBmp(bytes.data(), size, size) : 0;
+        result = read(BmpBeginning) ? judge(bytes.data(), size, size) : 0;
     }
     return result == 1;
 }
@@ -88,10 +88,15 @@ PicturesCL::State PicturesCL::stateM(const std::string& name)
         return State::Remote;
     }
     const std::filesystem::path path = findM(name);
-    return path.empty() ? State::Missing : isPicture(path) ? State::Good : State::Bad;
+    if (path.empty()) {
+        return State::Missing;
+    }
+    return isPicture(path, &slIsBmp)     ? State::Good
+        : isPicture(path, &slIsShownBmp) ? State::TooLarge
+                                         : State::Bad;
 }
 
-void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL& findings)
+void PicturesCL::CheckM(const std::string& name, bool isRegion, std::size_t offset, FindingsCL& findings)
 {
     if (name.empty()) {
         return;
@@ -114,6 +119,11 @@ void PicturesCL::CheckM(const std::string& name, std::size_t offset, FindingsCL&
         break;
     case State::Remote:
         findings.AddPackedM(Says::RemoteFile, offset, picture.shown);
+        break;
+    case State::TooLarge:
+        if (isRegion) {
+            findings.AddPackedM(Says::NoRegion, offset, picture.shown);
+        }
         break;
     case State::Good:
         break;

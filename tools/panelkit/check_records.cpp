@@ -132,7 +132,9 @@ private:
             if (isSoundM(mark.grammar, mark.record)) {
                 findings_.TakeM(found_, last.findingsEnd, mark.findingsEnd);
                 for (std::size_t i = last.picturesEnd; i < mark.picturesEnd; ++i) {
-                    pictures_.CheckM(std::string(file_.TextM().CutM(named_[i])), named_[i].begin, findings_);
+                    const NamedPictureCL& named = named_[i];
+                    pictures_.CheckM(std::string(file_.TextM().CutM(named.span)), named.isRegion,
+                        named.span.begin, findings_);
                 }
             }
             last = mark;
@@ -229,9 +231,9 @@ private:
     CommonFieldsCL common_; // Of that.
     CheckedControlsTP controls_;
     std::vector<ArrowsCL> arrows_;
-    FindingsCL found_;           // In records, sound or not,
-    std::vector<SpanCL> named_;  // and the names of pictures that they have.
-    std::vector<FoundCL> marks_; // Which of them were found where.
+    FindingsCL found_;                  // In records, sound or not,
+    std::vector<NamedPictureCL> named_; // and the names of pictures that they have.
+    std::vector<FoundCL> marks_;        // Which of them were found where.
 };
 
 } // namespace

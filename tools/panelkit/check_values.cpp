@@ -127,8 +127,8 @@ void checkLimits(const FieldCL& range, int low, int high, const FieldCL& initial
 
 } // namespace
 
-void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, std::vector<SpanCL>& pictures,
-    FindingsCL& findings)
+void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain,
+    std::vector<NamedPictureCL>& pictures, FindingsCL& findings)
 {
     if (!isPlain) {
         for (const FieldCL& field : record.FieldsM()) {
@@ -163,7 +163,8 @@ void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, 
             break;
         case Verb::Name:
             if (!field.text->EmptyM() && slIsNullWord(field.text->TextM()) == 0) {
-                pictures.push_back({ field.seen->begin, field.seen->begin + field.text->LengthM() });
+                const SpanCL span { field.seen->begin, field.seen->begin + field.text->LengthM() };
+                pictures.push_back({ span, std::strcmp(field.name, RegionField) == 0 });
             }
             break;
         default:

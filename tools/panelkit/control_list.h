@@ -70,6 +70,13 @@ struct ArrowsCL
     std::uint32_t at; // Where that stands in the file.
 };
 
+// The name of a picture as it stands in the file, and whether a region is made of it.
+struct NamedPictureCL
+{
+    SpanCL span;
+    bool isRegion;
+};
+
 // The pictures that a file names: looked at once each.
 class PicturesCL
 {
@@ -78,12 +85,14 @@ public:
         : folder_(std::move(folder))
     {
     }
-    void CheckM(const std::string& name, std::size_t offset, FindingsCL& findings); // GBK, as written.
+    // name: GBK, as written. isRegion: whether a region is made of it.
+    void CheckM(const std::string& name, bool isRegion, std::size_t offset, FindingsCL& findings);
 
 private:
     enum class State
     {
         Good,
+        TooLarge, // For a region alone.
         Missing,
         Bad,
         Remote
@@ -127,8 +136,8 @@ CheckedControlCL checkedControlOf(const RecordViewCL& view, const CommonFieldsCL
     const char* kindName, int grammar, bool isStacked);
 StackTP stackOf(const CheckedControlsTP& controls);
 // Appends the names of pictures. isPlain: all values were read just as they stand.
-void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain, std::vector<SpanCL>& pictures,
-    FindingsCL& findings);
+void checkValues(FileReadingCL& file, const RecordViewCL& record, bool isPlain,
+    std::vector<NamedPictureCL>& pictures, FindingsCL& findings);
 void checkRanges(int kind, const RecordViewCL& record, FindingsCL& findings);
 void checkEntries(FileReadingCL& file, PicturesCL& pictures, FindingsCL& findings); // Of secondary sections.
 void checkLists(FileReadingCL& file, FindingsCL& findings);

@@ -8,5 +8,5 @@ void DVrBmpButtonCL::EachFieldM(FieldVisitorCL& visitor)
     visitor.NameM("pressed", pressed_, NullWord::Empty);
     visitor.NameM("released", released_, NullWord::Empty);
     visitor.NameM("disabled", disabled_, NullWord::Empty);
-    visitor.NameM("region", region_, NullWord::Empty);
+    visitor.NameM(RegionField, region_, NullWord::Empty);
 }

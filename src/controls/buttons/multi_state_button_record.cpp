@@ -6,7 +6,7 @@ template class PANELKIT_API Arr<DVrMultiStateButtonCL>;
 void DVrMultiStateButtonCL::EachFieldM(FieldVisitorCL& visitor)
 {
     visitor.IntM("initial_status", initialStatus_);
-    visitor.NameM("region", region_, NullWord::Kept);
+    visitor.NameM(RegionField, region_, NullWord::Kept);
     slVisitRows(visitor, "states", files_, files_.GetAvailableNumM(), &slStateRow, [this](int slot) {
         return RowCL { &statuses_[slot], { &files_[slot].ValueM() } };
     });

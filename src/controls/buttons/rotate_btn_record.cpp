@@ -15,5 +15,5 @@ void DVrRotateBtnCL::EachFieldM(FieldVisitorCL& visitor)
     visitor.IntM("initial_counter", initialCounter_);
     visitor.NameM("background", background_, NullWord::Empty);
     visitor.NameM("rotating", rotating_, NullWord::Empty);
-    visitor.NameM("region", region_, NullWord::Empty);
+    visitor.NameM(RegionField, region_, NullWord::Empty);
 }

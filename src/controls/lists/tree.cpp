@@ -33,6 +33,7 @@ int DVrTreeCL::genTreeM(int parentKey, HTREEITEM parentItem, DuTreeCL* tree)
             return tree->InsertItemM(static_cast<HTREEITEM>(parent), line.data, line.text,
                 line.selectedPicture, line.normalPicture, pictures);
         });
+    pictures.FinishM();
     return 1;
 }
 
@@ -91,6 +92,7 @@ void DuTreeCL::RescaledM(int, int)
                 pictures.AddM(file->c_str());
             }
         }
+        pictures.FinishM();
     }
     if (again.GetImageCount() == images_.GetImageCount()) {
         SetImageList(&again, TVSIL_NORMAL);

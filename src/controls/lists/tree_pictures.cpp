@@ -34,7 +34,7 @@ TreePicturesCL::TreePicturesCL(CImageList& images, const PictureScaleCL& scale, 
     CreateListM(distinct_, scale_);
 }
 
-TreePicturesCL::~TreePicturesCL()
+void TreePicturesCL::FinishM()
 {
     constexpr size_t StripLength = 1600; // As wide as any bitmap may be.
     for (size_t from = 0; from < added_.size(); from += StripLength) {

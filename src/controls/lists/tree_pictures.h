@@ -20,11 +20,11 @@ public:
     TreePicturesCL(CImageList& images, const PictureScaleCL& scale, ImageFilesTP& files);
     TreePicturesCL(const TreePicturesCL&) = delete;
     TreePicturesCL& operator=(const TreePicturesCL&) = delete;
-    ~TreePicturesCL(); // Puts the images into the list.
 
     // The index that the first image of a .bmp file (GBK path) will have; -1 when it can't be loaded, or
     // there is no list.
     int AddM(const char* file);
+    void FinishM(); // Puts the images into the list; to be called once, at the end.
 
     // Adds the images of a file to a list, with black as the mask colour: the index of the first, or -1.
     static int AddFileM(CImageList& images, const char* file, const PictureScaleCL& scale);
