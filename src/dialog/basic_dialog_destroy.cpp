@@ -1,6 +1,5 @@
 // Destroying: the controls by themselves, or with the dialog's window.
 #include "dialog/basic_dialog.h"
-#include <vector>
 
 namespace {
 
@@ -11,15 +10,20 @@ bool tellsParentM(HWND window)
 }
 
 // What the window system tells the parents of a window that is destroyed by itself.
-// windows: the dialog, then those above it that hear of what happens in it.
-void tellParentsM(HWND child, const std::vector<HWND>& windows)
+// isPart: whether the dialog tells a window above it in turn.
+void tellParentsM(HWND child, HWND dialog, bool isPart)
 {
     if (!tellsParentM(child)) {
         return;
     }
     const WPARAM what = MAKEWPARAM(WM_DESTROY, ::GetDlgCtrlID(child));
-    for (HWND window : windows) {
+    const auto tell = [child, what](HWND window) {
         ::SendMessageW(window, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(child));
+    };
+    tell(dialog);
+    for (HWND at = dialog; isPart && tellsParentM(at) && ::GetParent(at) != nullptr;) {
+        at = ::GetParent(at);
+        tell(at);
     }
 }
 
@@ -105,19 +109,16 @@ bool DuBasicDialogCL::partM()
     if (m_hWnd == nullptr || parentM() != m_hWnd || holds(::GetFocus()) || holds(::GetCapture())) {
         return false;
     }
-    std::vector<HWND> hearing { m_hWnd };
-    while (tellsParentM(hearing.back()) && ::GetParent(hearing.back()) != nullptr) {
-        hearing.push_back(::GetParent(hearing.back()));
-    }
+    const bool isPart = tellsParentM(m_hWnd);
     const TurnCL turn(this);
     const ValidationPauseCL destroying(m_hWnd);
-    eachControlsM([this, &turn, &hearing](auto row, auto& controls) {
+    eachControlsM([this, &turn, isPart](auto row, auto& controls) {
         for (int i = 0; !turn.IsOverM() && i < controls.GetBoundM(); ++i) {
             const auto& control = controls.ControlAtM(i);
             const bool goesAlong = decltype(row)::CanM(GoesQuietly) && slIsJust(control)
                 && control.m_hWnd != nullptr && ::GetAncestor(control.m_hWnd, GA_PARENT) == m_hWnd;
             if (goesAlong) {
-                tellParentsM(control.m_hWnd, hearing);
+                tellParentsM(control.m_hWnd, m_hWnd, isPart);
             } else {
                 controls.DelItemM(i);
             }
