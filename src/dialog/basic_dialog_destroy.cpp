@@ -3,17 +3,21 @@
 
 namespace {
 
-bool tellsParentM(HWND window)
+bool isQuietM(HWND window)
 {
-    return (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0
-        && (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOPARENTNOTIFY) == 0;
+    return (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOPARENTNOTIFY) != 0;
 }
 
-// What the window system tells the parents of a window that is destroyed by itself.
-// isPart: whether the dialog tells a window above it in turn.
+bool tellsParentM(HWND window)
+{
+    return (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0 && !isQuietM(window);
+}
+
+// What the window system tells the parents of a child of the dialog that is destroyed by itself. isPart:
+// whether the dialog tells a window above it in turn.
 void tellParentsM(HWND child, HWND dialog, bool isPart)
 {
-    if (!tellsParentM(child)) {
+    if (isQuietM(child)) {
         return;
     }
     const WPARAM what = MAKEWPARAM(WM_DESTROY, ::GetDlgCtrlID(child));
