@@ -1,5 +1,6 @@
 // Whom a dialog tells of its controls when it is destroyed, and when they go.
 #include "soak/guarded_object.h"
+#include "support/deleted_when_shown.h"
 #include "support/pump.h"
 #include "support/test_dialog.h"
 #include <gtest/gtest.h>
@@ -47,25 +48,6 @@ protected:
 
 private:
     bool* finds_;
-};
-
-// Deletes itself as soon as it is shown.
-class DeletedWhenShownCL : public DuBasicDialogCL
-{
-public:
-    static inline int living { 0 };
-    DeletedWhenShownCL() { ++living; }
-    ~DeletedWhenShownCL() override { --living; }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_SHOWWINDOW) {
-            delete this;
-            return 0;
-        }
-        return DuBasicDialogCL::WindowProc(message, wParam, lParam);
-    }
 };
 
 const std::string Labels = HeaderSections
@@ -120,9 +102,9 @@ TEST(Destroying, AModelessDialogMayBeDeletedWhenItShowsItself)
 {
     const DescriptionFileCL file(Labels);
     const GuardedPagesCL pages;
-    auto* const dialog = new GuardedCL<DeletedWhenShownCL>;
+    auto* const dialog = new GuardedCL<DeletedWhenShownCL<DuBasicDialogCL>>;
     dialog->SetConfigFileM(file.path());
     ASSERT_EQ(dialog->CreateM(), 1);
-    EXPECT_TRUE(PumpUntil([] { return DeletedWhenShownCL::living == 0; }));
+    EXPECT_TRUE(PumpUntil([] { return DeletedWhenShownCL<DuBasicDialogCL>::living == 0; }));
     EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
 }

@@ -1,4 +1,5 @@
 #include "soak/guarded_object.h"
+#include "support/deleted_when_shown.h"
 #include "support/message_box.h"
 #include "support/pump.h"
 #include "toolkit/dialog_template.h"
@@ -139,25 +140,6 @@ private:
     UINT_PTR timer_;
 };
 
-// Deletes itself as soon as it is shown.
-class DeletedWhenShownCL : public CDialog
-{
-public:
-    static inline int living { 0 };
-    DeletedWhenShownCL() { ++living; }
-    ~DeletedWhenShownCL() override { --living; }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_SHOWWINDOW) {
-            delete this;
-            return 0;
-        }
-        return CDialog::WindowProc(message, wParam, lParam);
-    }
-};
-
 } // namespace
 
 TEST(Dialog, ModalDialogWhoseWindowGoesWhileItIsMadeIsOver)
@@ -179,10 +161,10 @@ TEST(Dialog, ModalDialogMayBeDeletedWhenItIsShown)
     OwnerCL owner;
     TemplateCL shape;
     const GuardedPagesCL pages;
-    auto* const dialog = new GuardedCL<DeletedWhenShownCL>;
+    auto* const dialog = new GuardedCL<DeletedWhenShownCL<CDialog>>;
     dialog->InitModalIndirect(shape, &owner);
     EXPECT_EQ(dialog->DoModal(), -1);
-    EXPECT_EQ(DeletedWhenShownCL::living, 0);
+    EXPECT_EQ(DeletedWhenShownCL<CDialog>::living, 0);
     EXPECT_EQ(GuardedPagesCL::TouchesM(), "");
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
