@@ -50,10 +50,72 @@ private:
     bool* finds_;
 };
 
+// The application's own handler of that message.
+class MappedCL : public TestDialogCL
+{
+public:
+    using TestDialogCL::TestDialogCL;
+    std::string told;
+
+protected:
+    afx_msg void OnParentNotify(UINT message, LPARAM child)
+    {
+        if (LOWORD(message) == WM_DESTROY) {
+            told += std::to_string(HIWORD(message)) + " ";
+        }
+        TestDialogCL::OnParentNotify(message, child);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(MappedCL, TestDialogCL)
+ON_WM_PARENTNOTIFY()
+END_MESSAGE_MAP()
+
+// The procedure of a window class of the application's.
+int heardByClass = 0;
+LRESULT CALLBACK classProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    heardByClass += message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY ? 1 : 0;
+    return ::DefDlgProcW(window, message, wParam, lParam);
+}
+
+constexpr struct
+{
+    DLGTEMPLATE header { WS_POPUP | WS_CAPTION, 0, 0, 0, 0, 100, 100 };
+    WORD menu { 0 };
+    wchar_t className[16] { L"PanelkitHearing" };
+    WORD title { 0 };
+} OwnClassTemplate {};
+
 const std::string Labels = HeaderSections
     + std::string("[标题]\n2\n0\n1 11 10 10 90 20 1\na\n0 -1 0 0\n2 12 10 40 90 20 1\nb\n0 -1 0 0\n");
 
 } // namespace
+
+TEST(Destroying, HandlersOfTheMapHearOfEachControl)
+{
+    MappedCL dialog(Labels);
+    dialog.DestroyWindow();
+    EXPECT_EQ(dialog.told, "11 12 ");
+}
+
+TEST(Destroying, AWindowClassOfTheApplicationHearsOfEachControl)
+{
+    WNDCLASSW own {};
+    ASSERT_TRUE(::GetClassInfoW(nullptr, L"#32770", &own));
+    own.lpszClassName = OwnClassTemplate.className;
+    own.lpfnWndProc = &classProc;
+    own.hInstance = ::GetModuleHandleW(nullptr);
+    ASSERT_NE(::RegisterClassW(&own), 0);
+    const DescriptionFileCL file(Labels);
+    DuBasicDialogCL dialog;
+    dialog.SetConfigFileM(file.path());
+    ASSERT_TRUE(dialog.CreateIndirect(&OwnClassTemplate.header, nullptr));
+    dialog.DestroyWindow();
+    EXPECT_EQ(heardByClass, 2);
+    EXPECT_TRUE(::UnregisterClassW(own.lpszClassName, own.hInstance));
+}
 
 TEST(Destroying, TheDialogIsToldOfEachControlOnceAndItsOwnerOfNone)
 {
