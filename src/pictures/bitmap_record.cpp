@@ -95,6 +95,12 @@ HBITMAP DVrBitmapCL::ShownBitmapM() const
     return static_cast<HBITMAP>(bitmap_.HandleM());
 }
 
+bool DVrBitmapCL::ReadPartM(const PixelPartCL& part) const
+{
+    const FileBitmapCL* const file = bitmap_.FileM();
+    return file != nullptr && file->ReadPartM(part);
+}
+
 void DVrBitmapCL::LoadBitmapM(const char* file)
 {
     bitmap_.DeleteM();

@@ -7,6 +7,7 @@
 #include <memory>
 
 class FileBitmapCL;
+struct PixelPartCL;
 
 // A loaded picture. Assigned records share one GDI bitmap: the one that is destroyed, reloaded or deleted
 // first deletes it. The others then hold no bitmap: they draw nothing and report 0. Files are .bmp files by
@@ -45,6 +46,9 @@ public:
     // To read from and no more: it may be what other records show too. Null when there is none; valid until
     // the record is changed or GetBitmapM called.
     HBITMAP ShownBitmapM() const;
+    // Reads a part of a picture that a file gave in 24 or 32 bits; of others, and without one, nothing:
+    // false. Pixels of the part that the picture doesn't have stay.
+    bool ReadPartM(const PixelPartCL& part) const;
     // In pixels; 0 without a bitmap.
     int GetWidthM() const;
     int GetHeightM() const;
@@ -70,7 +74,8 @@ private:
     public:
         bool IsAliveM() const;
         bool IsSharedM() const;
-        HGDIOBJ HandleM() const; // Null: none.
+        HGDIOBJ HandleM() const;           // Null: none.
+        const FileBitmapCL* FileM() const; // Null where it is no file's, or there is none.
         // The object may be used: what it holds is no other file's record's.
         bool MakeOwnM();
         void OwnM(HGDIOBJ bitmap);                      // As its first holder; null: none.

@@ -1,6 +1,8 @@
 #include "pictures/picture_sharing.h"
 #include "baselib/gbk.h"
 #include "pictures/picture_loader.h"
+#include "pictures/rotation.h"
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -18,6 +20,16 @@ std::wstring wholePath(const char* file)
     std::wstring path(::GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
     path.resize(::GetFullPathNameW(name.c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr));
     return path;
+}
+
+// count: at least 1. Four bytes at once where there are four.
+void readRow24(const unsigned char* from, std::size_t count, std::uint32_t* to)
+{
+    for (; count > 1; --count, from += 3, ++to) {
+        std::memcpy(to, from, 4);
+        *to &= 0xFFFFFF;
+    }
+    *to = static_cast<std::uint32_t>(from[0] | from[1] << 8 | from[2] << 16);
 }
 
 CSize sizeOf(HBITMAP bitmap)
@@ -64,6 +76,38 @@ HBITMAP FileBitmapCL::CopyM() const
                 * static_cast<std::size_t>(section.dsBm.bmHeight));
     }
     return copy;
+}
+
+bool FileBitmapCL::ReadPartM(const PixelPartCL& part) const
+{
+    DIBSECTION section {};
+    if (::GetObjectW(bitmap_, sizeof section, &section) != sizeof section
+        || section.dsBmih.biCompression != BI_RGB || section.dsBmih.biBitCount < 24) {
+        return false;
+    }
+    const std::int64_t height = section.dsBm.bmHeight;
+    const std::int64_t left = std::max<std::int64_t>(part.left, 0);
+    const std::int64_t right
+        = std::min<std::int64_t>(std::int64_t { part.left } + part.width, section.dsBm.bmWidth);
+    const std::int64_t top = std::max<std::int64_t>(part.top, 0);
+    const std::int64_t bottom = std::min(std::int64_t { part.top } + part.height, height);
+    if (left >= right) {
+        return true;
+    }
+    ::GdiFlush();
+    const int bytes = section.dsBmih.biBitCount / 8;
+    const auto* const bits = static_cast<const unsigned char*>(section.dsBm.bmBits);
+    for (std::int64_t y = top; y < bottom; ++y) {
+        const unsigned char* const from
+            = bits + (isTopDown_ ? y : height - 1 - y) * section.dsBm.bmWidthBytes + left * bytes;
+        std::uint32_t* const to = part.pixels + (y - part.top) * part.width + (left - part.left);
+        if (bytes == 4) {
+            std::memcpy(to, from, static_cast<std::size_t>(right - left) * 4);
+        } else {
+            readRow24(from, static_cast<std::size_t>(right - left), to);
+        }
+    }
+    return true;
 }
 
 FileBitmapTP slFileBitmap(const char* file, const PictureScaleCL& scale, std::int64_t key)

@@ -10,11 +10,13 @@ constexpr std::uint32_t White = 0xFFFFFF;
 constexpr float Pi = 3.1415925F;
 constexpr float RoundUpAbove = 0.4F;
 
-// Cuts toward zero; rounds up only above the threshold. The value must be in the range of int.
-int placeOf(float value)
+// Where a pixel comes to: cut toward zero, rounded up only above a threshold. Values beyond the limits, and
+// those that are no numbers, become a limit: huge ones must not become an int.
+int placeOf(float value, float least, float most)
 {
-    const int whole = static_cast<int>(value);
-    return value - static_cast<float>(whole) > RoundUpAbove ? whole + 1 : whole;
+    const float within = std::min(std::max(least, value), most);
+    const int whole = static_cast<int>(within);
+    return whole + static_cast<int>(within - static_cast<float>(whole) > RoundUpAbove);
 }
 
 // What a turn is made of.
@@ -34,6 +36,13 @@ struct TurnCL
     std::int64_t dy;
     float sine;
     float cosine;
+};
+
+// The part of the new places that only the columns decide.
+template <std::size_t Count> struct ColumnsCL
+{
+    float x[Count] {};
+    float y[Count] {};
 };
 
 // The places from 0 to a limit between the least and the most of some values, and a little around them.
@@ -77,48 +86,52 @@ void slDrawRotatedPart(const PixelPartCL& picture, const PixelPartCL& onto, int 
         return;
     }
     const TurnCL turn(position, centre, angle);
-    // The part of the new place that only the column decides.
-    std::vector<float> columnX(static_cast<std::size_t>(picture.width));
-    std::vector<float> columnY(static_cast<std::size_t>(picture.width));
+    // The places of a row are found many at once, as compilers do when they know how many.
+    constexpr std::size_t AtOnce = 16;
+    const std::size_t blocks = (static_cast<std::size_t>(picture.width) + AtOnce - 1) / AtOnce;
+    std::vector<ColumnsCL<AtOnce>> columns(blocks);
     for (int i = 0; i < picture.width; ++i) {
         const auto x = static_cast<float>(picture.left + i - turn.dx);
-        columnX[static_cast<std::size_t>(i)] = turn.cosine * x;
-        columnY[static_cast<std::size_t>(i)] = turn.sine * x;
+        ColumnsCL<AtOnce>& block = columns[static_cast<std::size_t>(i) / AtOnce];
+        block.x[static_cast<std::size_t>(i) % AtOnce] = turn.cosine * x;
+        block.y[static_cast<std::size_t>(i) % AtOnce] = turn.sine * x;
     }
     const auto offsetX = static_cast<float>(turn.dx);
     const auto offsetY = static_cast<float>(turn.dy);
-    // A little more than the places that can be seen: what is farther away need not, and if huge must not,
-    // become an int.
+    // A little more than the places that can be seen.
     const auto leastX = -3.0F;
     const auto mostX = static_cast<float>(width) + 2.0F;
     const auto leastY = static_cast<float>(width - height) - 2.0F;
     const auto mostY = static_cast<float>(width) + 2.0F;
+    const PixelPartCL seen = onto; // No pixel that is written changes it.
     const std::uint32_t* from = picture.pixels;
     for (int j = 0; j < picture.height; ++j) {
         const auto y = static_cast<float>(turn.dy - (picture.top + j));
         const float rowX = turn.sine * y;
         const float rowY = turn.cosine * y;
-        for (int i = 0; i < picture.width; ++i, ++from) {
-            const std::uint32_t pixel = *from & White;
-            if (pixel == White) {
-                continue;
+        auto left = static_cast<std::size_t>(picture.width);
+        for (const ColumnsCL<AtOnce>& block : columns) {
+            int column[AtOnce];
+            int row[AtOnce];
+            for (std::size_t i = 0; i < AtOnce; ++i) {
+                column[i] = placeOf(block.x[i] - rowX + offsetX, leastX, mostX) - seen.left;
+                row[i] = width - placeOf(block.y[i] + rowY + offsetY, leastY, mostY) - seen.top;
             }
-            const float x = columnX[static_cast<std::size_t>(i)] - rowX + offsetX;
-            const float newY = columnY[static_cast<std::size_t>(i)] + rowY + offsetY;
-            if (!(x > leastX && x < mostX && newY > leastY && newY < mostY)) {
-                continue;
-            }
-            const int px = placeOf(x) - onto.left;
-            const int row = width - placeOf(newY) - onto.top;
-            if (row < 0 || row >= onto.height) {
-                continue;
-            }
-            std::uint32_t* const to = onto.pixels + static_cast<std::ptrdiff_t>(row) * onto.width;
-            if (px >= 0 && px < onto.width) {
-                to[px] = pixel;
-            }
-            if (px + 1 >= 0 && px + 1 < onto.width) {
-                to[px + 1] = pixel;
+            const std::size_t count = std::min(AtOnce, left);
+            left -= count;
+            for (std::size_t i = 0; i < count; ++i) {
+                const std::uint32_t pixel = *from++ & White;
+                if (pixel == White || row[i] < 0 || row[i] >= seen.height) {
+                    continue;
+                }
+                std::uint32_t* const to = seen.pixels + static_cast<std::ptrdiff_t>(row[i]) * seen.width;
+                const int px = column[i];
+                if (px >= 0 && px < seen.width) {
+                    to[px] = pixel;
+                }
+                if (px + 1 >= 0 && px + 1 < seen.width) {
+                    to[px + 1] = pixel;
+                }
             }
         }
     }

@@ -29,6 +29,11 @@ HGDIOBJ DVrBitmapCL::SharedCL::HandleM() const
     return hold_->own != nullptr && m_hObject == hold_->fileHandle ? hold_->own : m_hObject;
 }
 
+const FileBitmapCL* DVrBitmapCL::SharedCL::FileM() const
+{
+    return IsAliveM() ? hold_->file.get() : nullptr;
+}
+
 bool DVrBitmapCL::SharedCL::MakeOwnM()
 {
     if (!IsAliveM()) {

@@ -2,7 +2,11 @@
 #include "pictures/bitmap_record.h"
 #include "pictures/brush_record.h"
 #include "pictures/region_functions.h"
+#include "pictures/rotation.h"
 #include "support/platform_pictures.h"
+#include <algorithm>
+#include <random>
+#include <vector>
 
 namespace {
 
@@ -12,6 +16,69 @@ constexpr COLORREF Grey = RGB(100, 100, 100);
 COLORREF place(int x, int y)
 {
     return RGB(x, y, 7);
+}
+
+constexpr std::uint32_t Untouched = 0x5A5A5A5A;
+
+// A part of a picture with room around it that nothing may be written to.
+class PartCL
+{
+public:
+    PartCL(const DVrBitmapCL& picture, int left, int top, int width, int height)
+        : part_ { nullptr, left, top, width, height }
+        , all_(Margin * 2 + static_cast<std::size_t>(width) * static_cast<std::size_t>(height), Untouched)
+    {
+        part_.pixels = all_.data() + Margin;
+        isRead_ = picture.ReadPartM(part_);
+    }
+
+    bool IsReadM() const { return isRead_; }
+    bool IsUntouchedM() const
+    {
+        return std::all_of(all_.begin(), all_.end(), [](auto pixel) { return pixel == Untouched; });
+    }
+    // Whether it has what canvas shows, and no more.
+    bool IsLikeM(CDC* canvas, int width, int height) const
+    {
+        std::vector<std::uint32_t> expected(all_.size(), Untouched);
+        std::size_t at = Margin;
+        for (int y = part_.top; y < part_.top + part_.height; ++y) {
+            for (int x = part_.left; x < part_.left + part_.width; ++x, ++at) {
+                if (x >= 0 && x < width && y >= 0 && y < height) {
+                    const COLORREF pixel = canvas->GetPixel(x, y);
+                    expected[at] = static_cast<std::uint32_t>(
+                        GetRValue(pixel) << 16 | GetGValue(pixel) << 8 | GetBValue(pixel));
+                }
+            }
+        }
+        return std::equal(all_.begin(), all_.end(), expected.begin(), [](auto pixel, auto wanted) {
+            return pixel == wanted || (wanted != Untouched && (pixel & 0xFFFFFF) == wanted);
+        });
+    }
+
+private:
+    static constexpr std::size_t Margin = 64;
+    PixelPartCL part_;
+    std::vector<std::uint32_t> all_;
+    bool isRead_;
+};
+
+// Reads many parts of a picture and compares each with what the picture shows when it is drawn.
+void expectPartsAreRead(DVrBitmapCL* picture)
+{
+    const int width = picture->GetWidthM();
+    const int height = picture->GetHeightM();
+    Canvas canvas(width, height, Grey);
+    ASSERT_EQ(1, picture->DrawBitmapM(&canvas.dc, 0, 0, nullptr));
+    for (int left = -2; left <= width + 1; ++left) {
+        for (int top = -2; top <= height + 1; ++top) {
+            for (int size = 1; size <= width + 3; ++size) {
+                const PartCL part(*picture, left, top, size, size + 1);
+                ASSERT_TRUE(part.IsReadM());
+                ASSERT_TRUE(part.IsLikeM(&canvas.dc, width, height)) << left << ' ' << top << ' ' << size;
+            }
+        }
+    }
 }
 
 bool isBitmap(HGDIOBJ handle)
@@ -585,4 +652,58 @@ TEST(BitmapArr, ReadingAListLeavesPicturesThatSlotsBehindTheBoundShare)
     EXPECT_EQ(3, list.GetBoundM());
     EXPECT_EQ(0, list.GetAvailableNumM());
     EXPECT_EQ(2, kept.GetWidthM());
+}
+
+TEST(BitmapRecord, PartsOfPicturesWithoutAPaletteAreReadAtOnce)
+{
+    std::mt19937 random(3);
+    for (const int bits : { 24, 32 }) {
+        for (int width = 1; width <= 6; ++width) { // Rows end with 0 to 3 bytes that are no pixels.
+            BmpFile file;
+            file.bits = bits;
+            file.width = width;
+            file.height = 3;
+            for (int y = 0; y < file.height; ++y) {
+                std::vector<std::uint32_t> row(static_cast<std::size_t>(width));
+                std::generate(row.begin(), row.end(), [&] { return random() & 0xFFFFFF; });
+                file.addRow(row);
+            }
+            const TestFile saved("bitmap_record_test.bmp", file);
+            DVrBitmapCL picture;
+            ASSERT_EQ(1, picture.LoadSafeBitmapM(saved.path()));
+            expectPartsAreRead(&picture);
+            DVrBitmapCL scaled;
+            ASSERT_EQ(1, scaled.LoadScaledM(saved.path(), PictureScaleCL(ScaleCL(200), { 0, 0 })));
+            ASSERT_EQ(width * 2, scaled.GetWidthM());
+            expectPartsAreRead(&scaled);
+        }
+    }
+}
+
+TEST(BitmapRecord, PartsOfOtherPicturesAreNot)
+{
+    EXPECT_FALSE(PartCL(DVrBitmapCL(), 0, 0, 2, 2).IsReadM());
+    for (const int bits : { 1, 4, 8, 16 }) {
+        BmpFile file;
+        file.bits = bits;
+        file.palette.resize(bits <= 8 ? std::size_t { 1 } << bits : 0);
+        file.addRow({ 1 });
+        const TestFile saved("bitmap_record_test.bmp", file);
+        DVrBitmapCL picture;
+        ASSERT_EQ(1, picture.LoadSafeBitmapM(saved.path()));
+        const PartCL part(picture, 0, 0, 1, 1);
+        EXPECT_FALSE(part.IsReadM()) << bits;
+        EXPECT_TRUE(part.IsUntouchedM()) << bits;
+    }
+    const TestFile file("bitmap_record_test.bmp", placePicture(6, 4));
+    DVrBitmapCL picture;
+    ASSERT_EQ(1, picture.LoadSafeBitmapM(file.path()));
+    EXPECT_TRUE(PartCL(picture, 0, 0, 6, 4).IsReadM());
+    const DVrBitmapCL other(picture);
+    EXPECT_TRUE(PartCL(other, 0, 0, 6, 4).IsReadM());
+    ASSERT_NE(nullptr, picture.GetBitmapM()); // Its own now: whoever has it may do anything to it.
+    EXPECT_FALSE(PartCL(picture, 0, 0, 6, 4).IsReadM());
+    EXPECT_FALSE(PartCL(other, 0, 0, 6, 4).IsReadM());
+    picture.DelItemM();
+    EXPECT_FALSE(PartCL(other, 0, 0, 6, 4).IsReadM());
 }

@@ -14,51 +14,6 @@ bool isLarge(int width, int height)
     return std::int64_t { width } * height > MostAtOnce;
 }
 
-// A part of a bitmap as pixels; white where the bitmap has none.
-std::vector<std::uint32_t> pixelsOf(const DVrBitmapCL& picture, HDC dc, const PixelPartCL& part)
-{
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
-    const int pictureWidth = picture.GetWidthM();
-    const int pictureHeight = picture.GetHeightM();
-    const int columns = std::min(part.width, pictureWidth - part.left);
-    const int bottom = std::min(part.top + part.height, pictureHeight);
-    if (columns <= 0 || bottom <= part.top) {
-        return pixels;
-    }
-    BITMAPINFO info {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = pictureWidth;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    const HBITMAP bitmap = picture.ShownBitmapM();
-    if (part.left == 0 && part.top == 0 && part.width == pictureWidth && part.height == pictureHeight) {
-        info.bmiHeader.biHeight = -pictureHeight; // The top row first.
-        ::GetDIBits(dc, bitmap, 0, static_cast<UINT>(pictureHeight), pixels.data(), &info, DIB_RGB_COLORS);
-        return pixels;
-    }
-    info.bmiHeader.biHeight
-        = pictureHeight; // The lowest row first: its number is that of the first line asked for.
-    // The system gives whole rows: a few at a time.
-    const int atOnce = static_cast<int>(std::max<std::int64_t>(1, MostAtOnce / pictureWidth));
-    std::vector<std::uint32_t> rows;
-    for (int end = bottom; end > part.top;) {
-        const int begin = std::max(part.top, end - atOnce);
-        rows.resize(static_cast<std::size_t>(pictureWidth) * (end - begin));
-        if (::GetDIBits(dc, bitmap, static_cast<UINT>(pictureHeight - end), static_cast<UINT>(end - begin),
-                rows.data(), &info, DIB_RGB_COLORS)
-            == 0) {
-            break;
-        }
-        for (int y = begin; y < end; ++y) {
-            std::copy_n(rows.begin() + static_cast<std::ptrdiff_t>(end - 1 - y) * pictureWidth + part.left,
-                columns, pixels.begin() + static_cast<std::ptrdiff_t>(y - part.top) * part.width);
-        }
-        end = begin;
-    }
-    return pixels;
-}
-
 // Copies the bitmap's part from (x, y) on; where it has none, nothing.
 void copyPart(const DVrBitmapCL& picture, CDC* to, int width, int height, int x, int y)
 {
@@ -76,6 +31,32 @@ void copyPart(const DVrBitmapCL& picture, CDC* to, int width, int height, int x,
             static_cast<int>(bottom - top), &memory, static_cast<int>(left), static_cast<int>(top), SRCCOPY);
     }
     ::SelectObject(memory.m_hDC, previous);
+}
+
+// The same into the pixels of a memory context. The system takes several times as long.
+void copyPart(const DVrBitmapCL& picture, ImageCacheCL* to, int x, int y)
+{
+    const PixelBlockCL block = to->PixelsM();
+    if (!picture.ReadPartM({ block.pixels, x, y, block.width, block.height })) {
+        copyPart(picture, to->GetDcM(), block.width, block.height, x, y);
+        ::GdiFlush();
+    }
+}
+
+// A part of a bitmap as pixels; white where the bitmap has none.
+std::vector<std::uint32_t> pixelsOf(const DVrBitmapCL& picture, CDC* dc, PixelPartCL part)
+{
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width) * part.height, White);
+    part.pixels = pixels.data();
+    ImageCacheCL drawn;
+    if (!picture.ReadPartM(part) && drawn.CreateM(dc, part.width, part.height)) {
+        const PixelBlockCL block = drawn.PixelsM();
+        std::copy(pixels.begin(), pixels.end(), block.pixels);
+        copyPart(picture, drawn.GetDcM(), part.width, part.height, part.left, part.top);
+        ::GdiFlush();
+        std::copy_n(block.pixels, pixels.size(), pixels.begin());
+    }
+    return pixels;
 }
 
 bool isWithin(const CRect& inner, const CRect& outer)
@@ -152,7 +133,7 @@ void DuRotateBtnCL::composeM(CDC* dc)
     std::vector<std::uint32_t> pixels;
     if (isLarge(width_, height_)) {
         from = slPartToRotate(onto, width_, height_, position_, centre_, composedAngle_);
-        pixels = pixelsOf(rotating_, dc->m_hDC, from);
+        pixels = pixelsOf(rotating_, dc, from);
         from.pixels = pixels.data();
     }
     slDrawRotatedPart(from, onto, width_, height_, position_, centre_, composedAngle_);
@@ -167,12 +148,11 @@ bool DuRotateBtnCL::prepareM(CDC* dc)
         return false;
     }
     drawBehindM(cache_.GetDcM(), part_); // Where the background has no pixels.
-    copyPart(background_, cache_.GetDcM(), part_.Width(), part_.Height(), position_[0] + part_.left,
-        position_[1] + part_.top);
+    copyPart(background_, &cache_, position_[0] + part_.left, position_[1] + part_.top);
     const PixelBlockCL drawn = cache_.PixelsM();
     base_.assign(drawn.pixels, drawn.pixels + static_cast<std::ptrdiff_t>(drawn.width) * drawn.height);
     if (!isLarge(width_, height_)) {
-        picture_ = pixelsOf(rotating_, dc->m_hDC, { nullptr, 0, 0, width_, height_ });
+        picture_ = pixelsOf(rotating_, dc, { nullptr, 0, 0, width_, height_ });
     }
     return true;
 }
