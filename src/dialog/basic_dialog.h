@@ -328,6 +328,8 @@ private:
     DialogStretchCL stretch_;
     UINT_PTR timerId_ { 0 };
     HWND builtIn_ { nullptr };
+    // That its controls go, one after another; a window of its class does nothing of its own about that.
+    bool tellsItself_ { false };
     bool isParted_ { false }; // The controls only wait for their windows to go; nobody finds them any more.
 };
 

@@ -113,20 +113,29 @@ bool DuBasicDialogCL::partM()
     if (m_hWnd == nullptr || parentM() != m_hWnd || holds(::GetFocus()) || holds(::GetCapture())) {
         return false;
     }
+    constexpr DWORD SystemDialogAtom = 0x8002; // Of the class #32770.
     const bool isPart = tellsParentM(m_hWnd);
+    const LifeCL life(this);
     const TurnCL turn(this);
     const ValidationPauseCL destroying(m_hWnd);
+    tellsItself_ = ::GetClassLongW(m_hWnd, GCW_ATOM) == SystemDialogAtom;
     eachControlsM([this, &turn, isPart](auto row, auto& controls) {
         for (int i = 0; !turn.IsOverM() && i < controls.GetBoundM(); ++i) {
             const auto& control = controls.ControlAtM(i);
             const bool goesAlong = decltype(row)::CanM(GoesQuietly) && slIsJust(control)
                 && control.m_hWnd != nullptr && ::GetAncestor(control.m_hWnd, GA_PARENT) == m_hWnd;
             if (goesAlong) {
+                if constexpr (decltype(row)::CanM(GoesUnheard)) {
+                    controls.ControlAtM(i).PassEndByM();
+                }
                 tellParentsM(control.m_hWnd, m_hWnd, isPart);
             } else {
                 controls.DelItemM(i);
             }
         }
     });
+    if (life.IsAliveM()) {
+        tellsItself_ = false;
+    }
     return !turn.IsOverM() && m_hWnd != nullptr;
 }

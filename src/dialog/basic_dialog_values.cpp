@@ -114,7 +114,6 @@ LRESULT DuBasicDialogCL::onCtrlSetFocusM(WPARAM wParam, LPARAM)
 
 LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    constexpr DWORD SystemDialogAtom = 0x8002; // Of the class #32770.
     // What the application does about closing, such as asking the user, must not check any value first.
     const bool isCancel = message == WM_COMMAND && wParam == IDCANCEL;
     if (message == WM_CLOSE || isCancel) {
@@ -122,9 +121,7 @@ LRESULT DuBasicDialogCL::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return CDialog::WindowProc(message, wParam, lParam);
     }
     LRESULT result = 0;
-    // A dialog of the system's class does nothing of its own about this, and controls go by the thousand.
-    if (turns_ > 0 && message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY
-        && ::GetClassLongW(m_hWnd, GCW_ATOM) == SystemDialogAtom) {
+    if (tellsItself_ && message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY) {
         OnWndMsg(message, wParam, lParam, &result);
         return result;
     }

@@ -64,7 +64,8 @@ enum Ability : unsigned
     KeepsSize = 65536,       // Larger than described it would show no more.
     KeepsHeight = 131072,    // The same of its height; what is described is more than its window has.
     Opaque = 262144,         // It paints every pixel of its window.
-    HasArrows = 524288       // SpinButtonM: a second window, at its right edge.
+    HasArrows = 524288,      // SpinButtonM: a second window, at its right edge.
+    GoesUnheard = 1048576    // It does nothing itself when its window goes.
 };
 
 // What DuBasicDialogCL::GetContrlPtrM says of the kind of a control.
@@ -114,13 +115,14 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
                                  Stacked | ShowsFrames | TakesKeys, &DVrNormalAnimateArr::InitNormalAnimateM>,
     KindRowCL<DVrSpecAnimateArr, DuSpecAnimateArr, SpecAnimateCode, 1, Stacked | TakesPainter,
         &DVrSpecAnimateArr::InitSpecAnimateM>,
-    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2, Stacked | HasCaption | ColoursText | GoesQuietly,
-        &DVrLabelArr::InitLabelM>,
+    KindRowCL<DVrLabelArr, DuLabelArr, LabelCode, 2,
+        Stacked | HasCaption | ColoursText | GoesQuietly | GoesUnheard, &DVrLabelArr::InitLabelM>,
     KindRowCL<DVrSingleEditArr, DuSingleEditArr, SingleEditCode, 3,
-        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly | Opaque,
+        Stacked | HoldsTypedValue | HasValue | ColoursText | TellsRefusals | GoesQuietly | GoesUnheard
+            | Opaque,
         &DVrSingleEditArr::InitSingleEditM>,
     KindRowCL<DVrMultiEditArr, DuMultiEditArr, MultiEditCode, 5,
-        Stacked | HasValue | ColoursText | GoesQuietly | Opaque | TranslatesTexts,
+        Stacked | HasValue | ColoursText | GoesQuietly | GoesUnheard | Opaque | TranslatesTexts,
         &DVrMultiEditArr::InitMultiEditM>,
     KindRowCL<DVrSpinEditArr, DuSpinEditArr, SpinEditCode, 4,
         Stacked | HasValue | ColoursText | TellsRefusals | Opaque | HasArrows,
@@ -140,19 +142,21 @@ using KindTable = std::tuple<KindRowCL<DVrNormalAnimateArr, DuNormalAnimateArr, 
         Stacked | HasValue | ListsLines | ColoursText | Opaque | TranslatesTexts,
         &DVrListCtrlArr::InitListCtrlM, &DVrListCtrlArr::InitListCtrlStrM>,
     KindRowCL<DVrStandardButtonArr, DuStandardButtonArr, StandardButtonCode, 12,
-        Stacked | HasCaption | GoesQuietly | Opaque, &DVrStandardButtonArr::InitStandardButtonM>,
+        Stacked | HasCaption | GoesQuietly | GoesUnheard | Opaque,
+        &DVrStandardButtonArr::InitStandardButtonM>,
     KindRowCL<DVrRadioBoxArr, DuRadioBoxArr, RadioBoxCode, 10,
-        Stacked | HasCaption | StandsInGroups | HasValue | ColoursText | GoesQuietly,
+        Stacked | HasCaption | StandsInGroups | HasValue | ColoursText | GoesQuietly | GoesUnheard,
         &DVrRadioBoxArr::InitRadioBoxM>,
     KindRowCL<DVrCheckBoxArr, DuCheckBoxArr, CheckBoxCode, 11,
-        Stacked | HasCaption | HasValue | ColoursText | GoesQuietly, &DVrCheckBoxArr::InitCheckBoxM>,
+        Stacked | HasCaption | HasValue | ColoursText | GoesQuietly | GoesUnheard,
+        &DVrCheckBoxArr::InitCheckBoxM>,
     KindRowCL<DVrBmpButtonArr, DuBmpButtonArr, BmpButtonCode, 13,
         Stacked | TakesKeys | ActsAsButton | KeepsSize, &DVrBmpButtonArr::InitBmpButtonM>,
     KindRowCL<DVrMultiStateButtonArr, DuMultiStateButtonArr, MultiStateButtonCode, 14,
         Stacked | HasValue | TakesKeys | ActsAsButton | KeepsSize,
         &DVrMultiStateButtonArr::InitMultiStateButtonM>,
     KindRowCL<DVrGroupBoxArr, DuGroupBoxArr, GroupBoxCode, 16,
-        Stacked | HasCaption | ColoursText | GoesQuietly, &DVrGroupBoxArr::InitGroupBoxM>,
+        Stacked | HasCaption | ColoursText | GoesQuietly | GoesUnheard, &DVrGroupBoxArr::InitGroupBoxM>,
     KindRowCL<DVrRotateBtnArr, DuRotateBtnArr, RotateBtnCode, 15, HasValue | TakesKeys | KeepsSize,
         &DVrRotateBtnArr::InitRotateBtnM>,
     KindRowCL<DVrTreeArr, DuTreeArr, TreeCode, 17, HasValue | ColoursText | Opaque | TranslatesTexts,

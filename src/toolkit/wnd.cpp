@@ -225,9 +225,13 @@ void CWnd::OnNcDestroy()
 {
     LifeCL life(this);
     Default();
-    if (!life.IsAliveM()) {
-        return;
+    if (life.IsAliveM()) {
+        windowGoneM();
     }
+}
+
+void CWnd::windowGoneM()
+{
     ThreadStateCL& state = ThreadStateCL::ThisM();
     if (state.thread != nullptr && state.thread->m_pMainWnd == this) {
         state.thread->MainWndGone();
@@ -235,6 +239,7 @@ void CWnd::OnNcDestroy()
     // No message comes any more: the window's procedure may stay.
     const HWND window = std::exchange(m_hWnd, nullptr);
     oldProc_ = nullptr;
+    endPassesBy_ = false;
     state.permanent.RemoveM(window, this);
     state.left.erase(window);
     PostNcDestroy();

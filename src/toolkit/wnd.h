@@ -123,6 +123,9 @@ protected:
     // only then, yet before anybody can ask for it, and catchUpM does what its handlers would have done.
     virtual bool hearsCreationM() const { return true; }
     virtual void catchUpM() { }
+    // From now on what the window is told when it goes, WM_DESTROY and WM_NCDESTROY, passes the object by
+    // until it has gone. For objects that would do nothing about it.
+    void passEndByM() { endPassesBy_ = true; }
     // EndModalLoop counts from the beginning, which may lie before the window, to the end.
     void beginModalM();
 
@@ -147,6 +150,7 @@ private:
     void updateMenuM(CMenu* menu);
     bool drawMenuM(UINT message, LPARAM lParam);
     bool dispatchM(AFX_MESSAGE& m);
+    void windowGoneM();
 
     WNDPROC oldProc_ = nullptr; // null: the object doesn't get the window's messages
     enum class Modal
@@ -157,6 +161,7 @@ private:
     } modal_
         = Modal::No;
     int modalResult_ = -1;
+    bool endPassesBy_ = false;
 };
 
 #define MLF_NOIDLEMSG 0x0001  // without effect: the loop sends no WM_ENTERIDLE

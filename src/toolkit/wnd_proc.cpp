@@ -46,6 +46,22 @@ struct WindowMessageCL
         }
         return result;
     }
+    // Of an object that does nothing about it: a dialog of thousands goes so.
+    static LRESULT EndM(CWnd* wnd, const MSG& message)
+    {
+        const LifeCL life(wnd);
+        const LRESULT result
+            = ::CallWindowProcW(wnd->oldProc_, message.hwnd, message.message, message.wParam, message.lParam);
+        if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == message.hwnd) {
+            wnd->windowGoneM();
+        }
+        return result;
+    }
+    static bool EndPassesByM(const CWnd* wnd, UINT message)
+    {
+        return wnd->endPassesBy_ && (message == WM_DESTROY || message == WM_NCDESTROY)
+            && wnd->oldProc_ != nullptr;
+    }
     // Of a window whose object has left while another procedure calls ours.
     static LRESULT PassM(ThreadStateCL& state, const MSG& message)
     {
@@ -68,6 +84,9 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     }
     if (wnd == nullptr || (!state.left.empty() && state.left.count(hWnd) != 0)) {
         return WindowMessageCL::PassM(state, handled);
+    }
+    if (WindowMessageCL::EndPassesByM(wnd, message)) {
+        return WindowMessageCL::EndM(wnd, handled);
     }
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
         const LifeCL life(wnd);

@@ -90,6 +90,9 @@ public:
             this->Invalidate();
         }
     }
+    // Its window is about to go: what that is told then passes the control by. Only for kinds that would do
+    // nothing about it.
+    void PassEndByM() { this->passEndByM(); }
     // What screen readers call it, in place of what the system takes for its name; none or the empty text: no
     // such name. role: one of ROLE_SYSTEM_...; 0: the one that the window has. For the role of a push button
     // they can press it, which is a click in its middle.
