@@ -56,6 +56,17 @@ public:
         ASSERT_GT(controls.size(), std::tuple_size_v<KindTable>);
     }
     std::vector<HWND> controls;
+    int found = -1; // How many of them had an object when all had gone.
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NCDESTROY) {
+            found = static_cast<int>(std::count_if(controls.begin(), controls.end(),
+                [](HWND control) { return CWnd::FromHandlePermanent(control) != nullptr; }));
+        }
+        return DuBasicDialogCL::WindowProc(message, wParam, lParam);
+    }
 };
 
 } // namespace
@@ -72,8 +83,7 @@ TEST(DestroyingEveryKind, WhoWatchesAControlsWindowHearsItsEndAndItsObjectHasNon
     }
     dialog.DestroyWindow();
     EXPECT_EQ(heard, expected);
-    EXPECT_TRUE(std::none_of(dialog.controls.begin(), dialog.controls.end(),
-        [](HWND control) { return CWnd::FromHandlePermanent(control) != nullptr; }));
+    EXPECT_EQ(dialog.found, 0);
 }
 
 template <class RowTP> class DestroyingKind : public testing::Test
