@@ -43,15 +43,6 @@ int CharArr::SetM(const char* bytes, std::size_t length)
     return 1;
 }
 
-void CharArr::SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
-{
-    char* const made = length > 0 ? fillText(pool.NewM(length + 1), bytes, length) : nullptr;
-    if (text_ != nullptr) {
-        slDeleteText(text_);
-    }
-    text_ = made;
-}
-
 void CharArr::SetWithinM(const char* bytes, std::size_t length, std::size_t room)
 {
     if (text_ == nullptr) {

@@ -35,7 +35,19 @@ public:
     int SetM(const char* text); // Null counts as empty; may be a part of the text held. 1.
     int SetM(const char* bytes, std::size_t length); // The bytes up to the first NUL among them. 1.
     // A text without a NUL, which lies with others in a block of the pool.
-    void SetInM(TextPoolCL& pool, const char* bytes, std::size_t length);
+    void SetInM(TextPoolCL& pool, const char* bytes, std::size_t length)
+    {
+        char* made = nullptr;
+        if (length > 0) {
+            made = pool.NewM(length + 1);
+            std::memcpy(made, bytes, length);
+            made[length] = '\0';
+        }
+        if (text_ != nullptr) {
+            slDeleteText(text_);
+        }
+        text_ = made;
+    }
     const char* TextM() const { return text_ != nullptr ? text_ : ""; } // Never null; valid until set anew.
     int GetM(char* out, int size) const; // Copied, cut to the buffer at a character boundary. 1;
                                          // 0 without one.

@@ -1,6 +1,9 @@
 #pragma once
 #include "baselib/number_text.h"
 #include <cstdint>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 // The library's own reading, inline: what it does for each of the many values of a file.
 
@@ -15,18 +18,11 @@ inline const char* slSkipBlanks(const char* at, const char* end)
     return at;
 }
 
-// Eight bytes as one number, the first one lowest: compilers make one load of it, written like this.
-inline std::uint64_t slEightBytes(const char* at)
-{
-    const auto byte = [at](int i) { return std::uint64_t { static_cast<unsigned char>(at[i]) } << 8 * i; };
-    return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
-}
+// How many bytes slScanShortInt and slFindLineEnd may look at at once.
+constexpr int slScannedAtOnce = 16;
 
-// How many bytes slScanShortInt and slFindLineEnd look at at once.
-constexpr int slScannedAtOnce = 8;
-
-// As slReadInt for one to seven digits without a sign: null for all else, *value unchanged. slScannedAtOnce
-// bytes are there. Nothing but branches finds out how long a number is: the processor, which foresees most of
+// As slReadInt for one to seven digits without a sign: null for all else, *value unchanged. Eight bytes are
+// there. Nothing but branches finds out how long a number is: the processor, which foresees most of
 // them, is at the next value before it has this one.
 inline const char* slScanShortInt(const char* at, int* value)
 {
@@ -36,7 +32,7 @@ inline const char* slScanShortInt(const char* at, int* value)
         return nullptr;
     }
 #pragma GCC unroll 7
-    for (int i = 1; i < slScannedAtOnce; ++i) {
+    for (int i = 1; i < 8; ++i) {
         if (digitAt(i) > 9) {
             *value = static_cast<int>(whole);
             return at + i;
@@ -46,19 +42,44 @@ inline const char* slScanShortInt(const char* at, int* value)
     return nullptr;
 }
 
+#ifdef __SSE2__
+
+// Where the first line feed or NUL of so many bytes is.
+constexpr int slLineBytes = 16;
+inline int slLineOrTextEnd(const char* at)
+{
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    const __m128i ends = _mm_or_si128(
+        _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n')), _mm_cmpeq_epi8(bytes, _mm_setzero_si128()));
+    const int found = _mm_movemask_epi8(ends);
+    return found != 0 ? __builtin_ctz(static_cast<unsigned>(found)) : slLineBytes;
+}
+
+#else
+
+constexpr int slLineBytes = 8;
+inline int slLineOrTextEnd(const char* at)
+{
+    const auto byte = [at](int i) { return std::uint64_t { static_cast<unsigned char>(at[i]) } << 8 * i; };
+    const std::uint64_t bytes
+        = byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7); // One load.
+    constexpr std::uint64_t Ones = 0x0101010101010101;
+    // The high bits of the bytes that are 0, right up to the first of them.
+    const auto zeros = [](std::uint64_t all) { return (all - Ones) & ~all & Ones * 0x80; };
+    const std::uint64_t ends = zeros(bytes ^ Ones * '\n') | zeros(bytes);
+    return ends != 0 ? __builtin_ctzll(ends) / 8 : slLineBytes;
+}
+
+#endif
+
 // The first line feed, if no NUL is in front of it; null for all else, and where it isn't found before
 // `sure`. From there on slScannedAtOnce bytes are there.
 inline const char* slFindLineEnd(const char* at, const char* sure)
 {
-    constexpr std::uint64_t Ones = 0x0101010101010101;
-    // The high bits of the bytes that are 0, right up to the first of them.
-    const auto zeros = [](std::uint64_t bytes) { return (bytes - Ones) & ~bytes & Ones * 0x80; };
-    for (; at < sure; at += slScannedAtOnce) {
-        const std::uint64_t bytes = slEightBytes(at);
-        const std::uint64_t ends = zeros(bytes ^ Ones * '\n') | zeros(bytes);
-        if (ends != 0) {
-            at += __builtin_ctzll(ends) / 8;
-            return *at == '\n' ? at : nullptr;
+    for (; at < sure; at += slLineBytes) {
+        const int end = slLineOrTextEnd(at);
+        if (end < slLineBytes) {
+            return at[end] == '\n' ? at + end : nullptr;
         }
     }
     return nullptr;

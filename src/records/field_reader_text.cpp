@@ -15,7 +15,7 @@ bool standsForNothing(std::string_view text, NullWord rule)
 } // namespace
 
 // As VrIOCL::InputItemM for a text without a NUL, as nearly all are; false for all else, and nothing is read.
-inline bool FieldReaderCL::inputPlainM(std::string_view* item)
+[[gnu::always_inline]] inline bool FieldReaderCL::inputPlainM(std::string_view* item)
 {
     if (sure_ == nullptr) {
         return false;
