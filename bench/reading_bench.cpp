@@ -5,17 +5,16 @@
 #include "check.h"
 #include "dialog/dialog_header.h"
 #include "dialog/kinds.h"
+#include "measures.h"
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <functional>
-#include <limits>
+#include <vector>
 
 namespace {
-
-const char* const Path = "reading_bench.dlg";
 
 void fail(const char* what)
 {
@@ -23,14 +22,9 @@ void fail(const char* what)
     std::exit(1);
 }
 
-void print(const char* name, double value)
+void write(const char* path, const std::string& bytes)
 {
-    std::printf("{\"name\":\"%s\",\"value\":%.3f,\"unit\":\"ratio\",\"better\":\"lower\"}\n", name, value);
-}
-
-void write(const std::string& bytes)
-{
-    FILE* const file = std::fopen(Path, "wb");
+    FILE* const file = std::fopen(path, "wb");
     if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
         fail("cannot write its file");
     }
@@ -102,10 +96,10 @@ SumCL scan(const std::string& bytes)
     return sum;
 }
 
-int readAll(ReadObserverCL* observer)
+int readAll(const char* path, ReadObserverCL* observer)
 {
     VrIOCL io;
-    io.OpenM(Path, "r");
+    io.OpenM(path, "r");
     io.SetObserverM(observer);
     DialogHeaderCL header;
     int all = slReadDialogHeader(io, header);
@@ -119,52 +113,97 @@ int readAll(ReadObserverCL* observer)
 }
 
 // Of the processor: others that work on the machine count for little.
-double best(int rounds, const std::function<void()>& work)
+double processorSecondsOf(const std::function<void()>& work)
 {
-    std::clock_t least = std::numeric_limits<std::clock_t>::max();
-    for (int i = 0; i < rounds; ++i) {
-        const std::clock_t begin = std::clock();
-        work();
-        least = std::min(least, std::clock() - begin);
-    }
-    return static_cast<double>(least) / CLOCKS_PER_SEC;
+    const std::clock_t begin = std::clock();
+    work();
+    return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-double secondsOfReading(int records, int rounds)
+// A file to read, and how long that took.
+class ReadFileCL
 {
-    write(benchDescription(records));
-    return best(rounds, [records] {
-        if (readAll(nullptr) != records / BenchKinds * BenchKinds + 1) {
-            fail("not all of the file was read");
+public:
+    ReadFileCL(const char* path, int records)
+        : path_(path)
+        , records_(records)
+    {
+        write(path, benchDescription(records));
+    }
+    ReadFileCL(const ReadFileCL&) = delete;
+    ReadFileCL& operator=(const ReadFileCL&) = delete;
+    ~ReadFileCL() { std::remove(path_); }
+
+    void ReadM(int times = 1)
+    {
+        seconds_.push_back(processorSecondsOf([this, times] {
+            for (int i = 0; i < times; ++i) {
+                if (readAll(path_, nullptr) != records_ / BenchKinds * BenchKinds + 1) {
+                    fail("not all of the file was read");
+                }
+            }
+        }) / times
+            / records_);
+    }
+    // A record, in each round.
+    const std::vector<double>& SecondsM() const { return seconds_; }
+
+private:
+    const char* path_;
+    int records_;
+    std::vector<double> seconds_;
+};
+
+void compareWithScan()
+{
+    constexpr int Records = 4000;
+    const char* const path = "reading_bench.dlg";
+    const std::string bytes = benchDescription(Records);
+    ReadFileCL file(path, Records);
+    std::vector<double> scanned;
+    std::vector<double> places;
+    for (int round = 0; round < 100; ++round) {
+        SumCL sum;
+        scanned.push_back(processorSecondsOf([&] { sum = scan(bytes); }) / Records);
+        if (sum.ints == 0 || sum.reals == 0 || sum.bytes == 0) {
+            fail("the bare pass found nothing");
         }
-    });
+        file.ReadM();
+        places.push_back(processorSecondsOf([path] {
+            SeenSectionsCL seen;
+            readAll(path, &seen);
+        }) / Records);
+    }
+    tell("read_over_scan", ratioOf(file.SecondsM(), scanned), "ratio");
+    tell("read_places_over_scan", ratioOf(places, scanned), "ratio");
+}
+
+void compareWithMoreAndCheck()
+{
+    constexpr int Many = 100000;
+    const char* const path = "reading_bench_many.dlg";
+    ReadFileCL few("reading_bench.dlg", Many / 100);
+    ReadFileCL many(path, Many);
+    std::vector<double> checked;
+    for (int round = 0; round < 8; ++round) {
+        few.ReadM(100);
+        many.ReadM();
+        checked.push_back(processorSecondsOf([path] {
+            if (!checkText(path, "", readText(path)).IsFaultyM(true)) {
+                fail("the check did not miss the pictures");
+            }
+        }) / Many);
+    }
+    tell("read_100000_over_1000", ratioOf(many.SecondsM(), few.SecondsM()), "ratio");
+    tell("check_over_read", ratioOf(checked, many.SecondsM()), "ratio");
 }
 
 } // namespace
 
+// What is compared is taken in turn: how fast a machine is changes while it measures.
 int main()
 {
-    constexpr int Records = 4000;
-    const std::string bytes = benchDescription(Records);
-    SumCL sum;
-    const double scanned = best(50, [&] { sum = scan(bytes); });
-    if (sum.ints == 0 || sum.reals == 0 || sum.bytes == 0) {
-        fail("the bare pass found nothing");
-    }
-    const double read = secondsOfReading(Records, 50);
-    print("read_over_scan", read / scanned);
-    print("read_places_over_scan", best(50, [] {
-        SeenSectionsCL places;
-        readAll(&places);
-    }) / scanned);
-    const double little = secondsOfReading(1000, 100) / 1000;
-    const double much = secondsOfReading(100000, 5);
-    print("read_100000_over_1000", much / 100000 / little);
-    print("check_over_read", best(5, [] { // As often as the reading.
-        if (!checkText(Path, "", readText(Path)).IsFaultyM(true)) {
-            fail("the check did not miss the pictures");
-        }
-    }) / much);
-    std::remove(Path);
+    compareWithScan();
+    compareWithMoreAndCheck();
     return 0;
 }
