@@ -24,7 +24,7 @@ public:
 
     HBITMAP HandleM() const { return bitmap_; }
     HBITMAP TakeM() { return std::exchange(bitmap_, nullptr); } // For the only one that shows it.
-    HBITMAP CopyM() const; // Another one just like it; null where there is no memory.
+    HBITMAP CopyM() const;                         // Another one just like it; null where there is no memory.
     bool ReadPartM(const PixelPartCL& part) const; // As that of DVrBitmapCL.
 
 private:

@@ -3,8 +3,13 @@
 #include <utility>
 
 LifeCL::LifeCL(CWnd* wnd)
+    : LifeCL(wnd, ThreadStateCL::ThisM())
+{
+}
+
+LifeCL::LifeCL(CWnd* wnd, ThreadStateCL& state)
     : wnd_(wnd)
-    , innermost_(&ThreadStateCL::ThisM().lives)
+    , innermost_(&state.lives)
     , outer_(std::exchange(*innermost_, this))
 {
 }

@@ -183,7 +183,8 @@ BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 BOOL CWnd::reflectM(HWND child, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     CWnd* wnd = child == nullptr ? nullptr : FromHandlePermanent(child);
-    return wnd != nullptr && wnd != this && wnd->OnChildNotify(message, wParam, lParam, result);
+    const bool passesBy = wnd != nullptr && wnd->endPassesBy_ && message == WM_PARENTNOTIFY;
+    return wnd != nullptr && wnd != this && !passesBy && wnd->OnChildNotify(message, wParam, lParam, result);
 }
 
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* result)

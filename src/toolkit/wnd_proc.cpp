@@ -47,9 +47,9 @@ struct WindowMessageCL
         return result;
     }
     // Of an object that does nothing about it: a dialog of thousands goes so.
-    static LRESULT EndM(CWnd* wnd, const MSG& message)
+    static LRESULT EndM(ThreadStateCL& state, CWnd* wnd, const MSG& message)
     {
-        const LifeCL life(wnd);
+        const LifeCL life(wnd, state);
         const LRESULT result
             = ::CallWindowProcW(wnd->oldProc_, message.hwnd, message.message, message.wParam, message.lParam);
         if (message.message == WM_NCDESTROY && life.IsAliveM() && wnd->m_hWnd == message.hwnd) {
@@ -86,7 +86,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return WindowMessageCL::PassM(state, handled);
     }
     if (WindowMessageCL::EndPassesByM(wnd, message)) {
-        return WindowMessageCL::EndM(wnd, handled);
+        return WindowMessageCL::EndM(state, wnd, handled);
     }
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
         const LifeCL life(wnd);
@@ -100,7 +100,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     ++state.depth;
     LRESULT result = 0;
     {
-        LifeCL life(wnd);
+        LifeCL life(wnd, state);
         try {
             result = WindowMessageCL::HandleM(wnd, life, handled);
         } catch (...) {
