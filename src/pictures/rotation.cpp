@@ -9,15 +9,27 @@ namespace {
 constexpr std::uint32_t White = 0xFFFFFF;
 constexpr float Pi = 3.1415925F;
 constexpr float RoundUpAbove = 0.4F;
+constexpr float LargestPlace = 2147483520.0F; // The largest one that fits an int.
 
-// Where a pixel comes to: cut toward zero, rounded up only above a threshold. Values beyond the limits, and
-// those that are no numbers, become a limit: huge ones must not become an int.
-int placeOf(float value, float least, float most)
+// Where pixels may come to, the limits left out. Exact for every size: what is visible is asked of the value,
+// not of the place, as the limits of huge pictures are no exact numbers.
+struct LimitsCL
 {
-    const float within = std::min(std::max(least, value), most);
-    const int whole = static_cast<int>(within);
-    return whole + static_cast<int>(within - static_cast<float>(whole) > RoundUpAbove);
-}
+    // 1 or 0; 0 for what is no number.
+    int HoldM(float value) const { return static_cast<int>(value > least) & static_cast<int>(value < most); }
+    // Cut toward zero, rounded up only above a threshold; some place or other for a value beyond the limits,
+    // which need not fit an int.
+    int PlaceM(float value) const
+    {
+        const float within = std::min(std::max(least, value), farthest);
+        const int whole = static_cast<int>(within);
+        return whole + static_cast<int>(within - static_cast<float>(whole) > RoundUpAbove);
+    }
+
+    float least;
+    float most;
+    float farthest { std::min(most, LargestPlace) };
+};
 
 // What a turn is made of.
 struct TurnCL
@@ -99,10 +111,8 @@ void slDrawRotatedPart(const PixelPartCL& picture, const PixelPartCL& onto, int 
     const auto offsetX = static_cast<float>(turn.dx);
     const auto offsetY = static_cast<float>(turn.dy);
     // A little more than the places that can be seen.
-    const auto leastX = -3.0F;
-    const auto mostX = static_cast<float>(width) + 2.0F;
-    const auto leastY = static_cast<float>(width - height) - 2.0F;
-    const auto mostY = static_cast<float>(width) + 2.0F;
+    const LimitsCL across { -3.0F, static_cast<float>(width) + 2.0F };
+    const LimitsCL down { static_cast<float>(width - height) - 2.0F, static_cast<float>(width) + 2.0F };
     const PixelPartCL seen = onto; // No pixel that is written changes it.
     const std::uint32_t* from = picture.pixels;
     for (int j = 0; j < picture.height; ++j) {
@@ -113,15 +123,19 @@ void slDrawRotatedPart(const PixelPartCL& picture, const PixelPartCL& onto, int 
         for (const ColumnsCL<AtOnce>& block : columns) {
             int column[AtOnce];
             int row[AtOnce];
+            int isSeen[AtOnce];
             for (std::size_t i = 0; i < AtOnce; ++i) {
-                column[i] = placeOf(block.x[i] - rowX + offsetX, leastX, mostX) - seen.left;
-                row[i] = width - placeOf(block.y[i] + rowY + offsetY, leastY, mostY) - seen.top;
+                const float newX = block.x[i] - rowX + offsetX;
+                const float newY = block.y[i] + rowY + offsetY;
+                isSeen[i] = across.HoldM(newX) & down.HoldM(newY);
+                column[i] = across.PlaceM(newX) - seen.left;
+                row[i] = width - down.PlaceM(newY) - seen.top;
             }
             const std::size_t count = std::min(AtOnce, left);
             left -= count;
             for (std::size_t i = 0; i < count; ++i) {
                 const std::uint32_t pixel = *from++ & White;
-                if (pixel == White || row[i] < 0 || row[i] >= seen.height) {
+                if (pixel == White || isSeen[i] == 0 || row[i] < 0 || row[i] >= seen.height) {
                     continue;
                 }
                 std::uint32_t* const to = seen.pixels + static_cast<std::ptrdiff_t>(row[i]) * seen.width;

@@ -322,3 +322,14 @@ TEST(Rotation, OfAHugePictureOnlyWhatIsSeenIsLookedAt)
     EXPECT_GT(part.width * part.height, 40 * 30);
     EXPECT_LT(part.width * part.height, 100 * 100);
 }
+
+TEST(Rotation, WhatLeavesAPictureWhoseSizeIsNoExactNumberIsNotSeenAtItsEdge)
+{
+    constexpr int Width = (1 << 25) + 2; // In single precision this, and two more, are two less.
+    std::uint32_t pixel = 0x123456;
+    std::vector<std::uint32_t> shown(16, White);
+    const int position[2] = { 0, 0 };
+    const int centre[2] = { 0, 40000000 }; // Twice as far up as the centre is down.
+    slDrawRotatedPart({ &pixel, 0, 0, 1, 1 }, { shown.data(), 0, 0, 4, 4 }, Width, 8, position, centre, 0);
+    EXPECT_EQ(shown, std::vector<std::uint32_t>(16, White));
+}
